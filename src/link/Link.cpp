@@ -1,0 +1,493 @@
+#include "link/Link.h"
+
+#include "link/ProgramFault.h"
+#include "link/Text.h"
+
+#include <cmath>
+
+namespace kestrel {
+
+namespace {
+constexpr double kReplyTimeout = 2.0; // seconds
+constexpr int kWakeUp[] = {0, 0, 0, 255, 255, 255, 170, 170, 170};
+
+std::array<int, 15> toArray15(int size, std::initializer_list<int> bytes)
+{
+    std::array<int, 15> out{};
+    int i = 0;
+    for (int b : bytes) {
+        if (i >= 15)
+            throw ProgramFault("SendKestrelMessage: more than 15 data bytes given");
+        out[i++] = b;
+    }
+    (void)size;
+    return out;
+}
+
+// A data byte travels as 128 + value; a value outside 0..127 would overflow the byte.
+int dataByte(int value)
+{
+    if (value < 0 || value > 127)
+        throw ProgramFault("Overflow: data byte " + std::to_string(value) + " is outside 0..127");
+    return 128 + value;
+}
+} // namespace
+
+Link::Link(SerialPort& port, Clock& clock, UserDialogs& dialogs) : serial(port), time(clock), ui(dialogs) {}
+
+int Link::addressByte() const
+{
+    const int a = settings.TargetAddress * 4 + 3;
+    if (a < 0 || a > 127)
+        throw ProgramFault("Overflow: module address " + std::to_string(settings.TargetAddress));
+    return a;
+}
+
+void Link::setBidirectional(bool on)
+{
+    if (settings.CheckKestrelBD == on)
+        return;
+    settings.CheckKestrelBD = on;
+    if (onSettingsChanged)
+        onSettingsChanged();
+}
+
+double Link::remaining(double start)
+{
+    const double now = time.secondsSinceMidnight();
+    if (now < start) // midnight passed: the wait ends
+        return 0;
+    return kReplyTimeout - (now - start);
+}
+
+bool Link::portLost()
+{
+    // The port went away under us (an adapter pulled out): say so once, close it,
+    // and let the caller fail like any step without a reply.
+    if (!lostReported)
+        ui.message("Communications port lost: " + serial.selected() +
+                       (serial.errorString().empty() ? std::string() : " (" + serial.errorString() + ")"),
+                   Icon::Warning);
+    lostReported = true;
+    serial.close();
+    state.LinkToggle = 128;
+    return false;
+}
+
+bool Link::writeByte(int value)
+{
+    if (value < 0 || value > 255)
+        throw ProgramFault("Overflow: byte value " + std::to_string(value));
+    if (!serial.writeByte(static_cast<std::uint8_t>(value)))
+        return portLost();
+    ++stats.bytesOut;
+    return true;
+}
+
+void Link::noteExchange()
+{
+    ++stats.exchanges;
+    if (progress)
+        progress->exchanged();
+}
+
+bool Link::wakeUp()
+{
+    for (int b : kWakeUp)
+        if (!writeByte(b))
+            return false;
+    return true;
+}
+
+bool Link::SendKestrelMessage(bool expectReply, int size, std::initializer_list<int> bytes)
+{
+    return SendKestrelMessage(expectReply, size, toArray15(size, bytes));
+}
+
+bool Link::SendKestrelMessage(bool expectReply, int size, const std::array<int, 15>& b)
+{
+    state.ReplyValid = false;
+    if (size > 15) {
+        ui.message("SendKestrelMessage: Message Size Overrun, size = " + std::to_string(size));
+        return false;
+    }
+    if (size < 0)
+        throw ProgramFault("SendKestrelMessage: negative size " + std::to_string(size));
+    if (progress && progress->cancelled())
+        return false;
+    if (!serial.isOpen()) {
+        ui.message("Select communications port");
+        return false;
+    }
+    lostReported = false;
+    // Every data byte is checked before the first byte goes out, so a caller error
+    // never leaves half a frame on the wire.
+    for (int i = 0; i < size; ++i)
+        dataByte(b[i]);
+
+    if (settings.CheckCorvid) {
+        const bool ok = sendTunnelled(expectReply, size, b);
+        noteExchange();
+        return ok;
+    }
+
+    const int a = addressByte();
+    if (state.LinkToggle == 128) {
+        if (!wakeUp())
+            return false;
+        // The empty frame: address byte without toggle, header 192 (size 0), checksum.
+        if (!writeByte(a) || !writeByte(192) || !writeByte(192 - a))
+            return false;
+        state.LinkToggle = 64;
+    }
+
+    const int first = state.LinkToggle + a;
+    const int header = 128 + 64 + 32 * (settings.CheckKestrelBD ? 1 : 0) + 16 * (settings.CheckXaddress ? 1 : 0) + size;
+    FrameChecksum sum(first);
+    if (!writeByte(first) || !writeByte(header))
+        return false;
+    sum.add(header);
+    if (settings.CheckXaddress) {
+        const int x = 128 + settings.TargetXAddress;
+        if (settings.TargetXAddress < 0 || settings.TargetXAddress > 127)
+            throw ProgramFault("Overflow: eXtended address " + std::to_string(settings.TargetXAddress));
+        if (!writeByte(x))
+            return false;
+        sum.add(x);
+    }
+    for (int i = 0; i < size; ++i) {
+        const int d = dataByte(b[i]);
+        if (!writeByte(d))
+            return false;
+        sum.add(d);
+    }
+    if (!writeByte(sum.value()))
+        return false;
+
+    if (settings.CheckKestrelBD) {
+        if (!receiveDirect()) {
+            if (serial.isOpen()) {
+                ui.message("No response received, resetting bidirectional communication");
+                setBidirectional(false);
+            }
+        } else {
+            const int n = state.ReplyBuffer[1] & 15;
+            std::string text = "[" + hexUpper(state.ReplyBuffer[0]) + "]";
+            for (int i = 1; i <= n + 1; ++i)
+                text += " [" + hexUpper(state.ReplyBuffer[i]) + "]";
+            TextResponse = text;
+            if (onTextResponse)
+                onTextResponse(TextResponse);
+            if (state.ReplyBuffer[0] == state.LinkToggle + a && state.ReplyBuffer[1] >= 96) {
+                state.ReplyValid = true;
+            } else {
+                ui.message("Invalid response received, \r\nReceived: Addr = " + std::to_string(state.ReplyBuffer[0]) +
+                           " Header = " + std::to_string(state.ReplyBuffer[1]) + "\r\nExpected: Addr = " +
+                           std::to_string(a) + " Header > 95 ");
+            }
+        }
+    }
+    state.LinkToggle = (state.LinkToggle + 64) % 128;
+    noteExchange();
+    return true;
+}
+
+bool Link::receiveDirect()
+{
+    const double start = time.secondsSinceMidnight();
+    int p = 0, r = 0, s = 0;
+    auto& buf = state.ReplyBuffer;
+    for (;;) {
+        if (serial.bytesWaiting() <= 0) {
+            const double left = remaining(start);
+            if (left <= 0)
+                return false;
+            if (!serial.isOpen())
+                return portLost();
+            serial.waitForBytes(static_cast<int>(std::ceil(left * 1000.0)));
+            continue;
+        }
+        const int b = serial.readByte();
+        if (b < 0)
+            continue;
+        ++stats.bytesIn;
+        if (b < 128) { // a frame starts, also in the middle of another one
+            buf[0] = b;
+            s = b;
+            p = 1;
+            r = 0;
+            continue;
+        }
+        if (p == 0)
+            continue;
+        s += b & 127;
+        if (p == 1) {
+            buf[1] = b & 127;
+            r = b & 15;
+            p = (b & 16) ? 50 : 2;
+        } else if (p == 50) {
+            const int x = b & 127;
+            if (settings.CheckXaddress && x != settings.TargetXAddress)
+                ui.message("Incorrect eXtended Address byte \r\nReceived " + std::to_string(x) + " Expected " +
+                           std::to_string(settings.TargetXAddress));
+            else if (!settings.CheckXaddress)
+                ui.message("Unexpected eXtended Address Byte " + std::to_string(x));
+            p = 2;
+        } else if (r > 0) {
+            buf[p] = b & 127;
+            ++p;
+            --r;
+        } else {
+            if (s % 128 == 0)
+                return true;
+            p = 0;
+            r = 0;
+        }
+    }
+}
+
+bool Link::sendTunnelled(bool expectReply, int size, const std::array<int, 15>& b)
+{
+    const int t = settings.TargetAddress + 96;
+    std::array<int, 19> data{};
+    int n = 0;
+    data[n++] = 0;
+    data[n++] = t;
+    if (settings.CheckXaddress) {
+        data[n++] = 112;
+        data[n++] = settings.TargetXAddress;
+    } else {
+        data[n++] = 96;
+    }
+    for (int i = 0; i < size; ++i)
+        data[n++] = b[i];
+    state.ReplyValid = CorvidExchange(n, data);
+    if (!state.ReplyValid)
+        return false;
+    if (!expectReply) {
+        state.ReplyValid = CorvidExchange(0);
+        return state.ReplyValid;
+    }
+    auto& buf = state.ReplyBuffer;
+    const double start = time.secondsSinceMidnight();
+    while (state.ReplyValid) {
+        if (buf[1] == 0 && buf[0] >= 4 && buf[2] == t) {
+            buf[0] = (buf[2] & 31) * 4 + 3;
+            buf[1] = 0;
+            if (buf[3] & 16) {
+                if (settings.CheckXaddress && (buf[4] & 127) == settings.TargetXAddress) {
+                    buf[1] = buf[3];
+                    for (int i = 2; i <= 16; ++i)
+                        buf[i] = buf[i + 3];
+                } else if (settings.CheckXaddress) {
+                    ui.message("Incorrect eXtended Address byte \r\nReceived " + std::to_string(buf[4] & 127) +
+                               " Expected " + std::to_string(settings.TargetXAddress));
+                } else {
+                    ui.message("Unexpected eXtended Address Byte " + std::to_string(buf[4] & 127));
+                }
+            } else {
+                buf[1] = buf[3];
+                for (int i = 2; i <= 16; ++i)
+                    buf[i] = buf[i + 2];
+            }
+            break;
+        }
+        if (remaining(start) <= 0)
+            break;
+        state.ReplyValid = CorvidExchange(0);
+    }
+    return state.ReplyValid;
+}
+
+bool Link::CorvidExchange(int length, std::initializer_list<int> data)
+{
+    std::array<int, 19> a{};
+    int i = 0;
+    for (int d : data) {
+        if (i >= 19)
+            throw ProgramFault("CorvidExchange: more than 19 data bytes given");
+        a[i++] = d;
+    }
+    return CorvidExchange(length, a);
+}
+
+bool Link::CorvidExchange(int length, const std::array<int, 19>& data)
+{
+    if (length < 0 || length > 19)
+        throw ProgramFault("CorvidExchange: length " + std::to_string(length));
+    for (int i = 0; i < length; ++i)
+        dataByte(data[i]);
+    while (serial.bytesWaiting() > 0)
+        if (serial.readByte() < 0)
+            break;
+    const int toggle = 64 * state.CorvidToggle;
+    int header;
+    if (length < 8)
+        header = 40 + length + toggle;
+    else if (length < 16)
+        header = (length - 8) + toggle;
+    else
+        header = length + toggle;
+    std::string log = "> " + hexUpper(header);
+    FrameChecksum sum(header);
+    if (!writeByte(header))
+        return false;
+    for (int i = 0; i < length; ++i) {
+        const int d = dataByte(data[i]);
+        if (!writeByte(d))
+            return false;
+        sum.add(d);
+        log += hexUpper(data[i]);
+    }
+    const int check = sum.value();
+    if (!writeByte(check))
+        return false;
+    log += hexUpper(check & 127);
+    appendCorvidLog(log);
+    state.CorvidToggle = 1 - state.CorvidToggle;
+    if (CorvidReceive().empty()) {
+        if (serial.isOpen())
+            ui.message("No answer from Corvid", Icon::Warning);
+        return false;
+    }
+    return true;
+}
+
+std::string Link::CorvidReceive()
+{
+    auto& buf = state.ReplyBuffer;
+    for (int i = 0; i <= 19; ++i)
+        buf[i] = 0;
+    std::string log;
+    std::string result;
+    int position = 0; // 0 = waiting for a header
+    int length = 0;
+    bool flagA = false, flagB = false;
+    const double start = time.secondsSinceMidnight();
+    for (;;) {
+        if (serial.bytesWaiting() <= 0) {
+            const double left = remaining(start);
+            if (left <= 0)
+                break;
+            if (!serial.isOpen()) {
+                portLost();
+                break;
+            }
+            serial.waitForBytes(static_cast<int>(std::ceil(left * 1000.0)));
+            continue;
+        }
+        const int b = serial.readByte();
+        if (b < 0)
+            continue;
+        ++stats.bytesIn;
+        if (b < 128) {
+            log = "< " + hexUpper(b);
+            buf[0] = b;
+            for (int i = 1; i <= 19; ++i)
+                buf[i] = 0;
+            position = 1;
+            if (b & 8) {
+                length = b & 7;
+                flagA = (b & 16) != 0;
+                flagB = (b & 32) != 0;
+            } else {
+                length = 8 + 8 * ((b >> 4) & 1) + (b & 7);
+            }
+            // A frame longer than the reply buffer cannot be a Corvid reply: wait for the next header.
+            if (length > 18)
+                position = 0;
+            continue;
+        }
+        if (position == 0)
+            continue;
+        buf[position] = b & 127;
+        log += hexUpper(b & 127);
+        if (position++ <= length)
+            continue;
+        // That byte was the checksum: the frame is complete.
+        int total = 0;
+        for (int i = 0; i <= 19; ++i)
+            total += buf[i];
+        if (total % 128 == 0) {
+            state.CorvidFlagA = flagA;
+            state.CorvidFlagB = flagB;
+            buf[0] = length;
+            result = log;
+        } else {
+            ui.message("Checksum Error\r\nSize = " + std::to_string(length) + log);
+            buf[0] = 0;
+        }
+        break;
+    }
+    appendCorvidLog(log);
+    return result;
+}
+
+void Link::appendCorvidLog(const std::string& line)
+{
+    txtCorvidCommunication += line + "\r\n";
+    if (onCorvidLog)
+        onCorvidLog(line);
+}
+
+void Link::SendLynxMessage(int first, int d1, int d2, int d3)
+{
+    if (!serial.isOpen()) {
+        ui.message("Select communications port");
+        return;
+    }
+    if (first < 0 || first > 127)
+        throw ProgramFault("Overflow: first byte " + std::to_string(first));
+    dataByte(d1);
+    dataByte(d2);
+    dataByte(d3);
+    lostReported = false;
+    if (settings.CheckCorvid) {
+        CorvidExchange(5, {0, first / 4 + 96, d1, d2, d3});
+        noteExchange();
+        return;
+    }
+    if (state.LinkToggle == 128) {
+        // Burst, then the empty legacy frame: First, 128, 128, 128 and its checksum.
+        FrameChecksum empty(first);
+        if (!wakeUp() || !writeByte(first))
+            return;
+        for (int i = 0; i < 3; ++i) {
+            writeByte(128);
+            empty.add(128);
+        }
+        writeByte(empty.value());
+        state.LinkToggle = 64;
+    }
+    FrameChecksum sum(first);
+    writeByte(first);
+    for (int d : {d1, d2, d3}) {
+        writeByte(128 + d);
+        sum.add(128 + d);
+    }
+    writeByte(sum.value());
+    noteExchange();
+}
+
+bool Link::GetVersion()
+{
+    VersionText = "Unknown";
+    setBidirectional(true);
+    SendKestrelMessage(true, 2, {112, 0});
+    bool ok = false;
+    if (state.ReplyValid) {
+        const auto& r = state.ReplyBuffer;
+        if ((r[1] & 15) != 6)
+            ui.message("GetVersion: No valid response, size <> 6");
+        else if (r[2] != 112 || r[3] != 0)
+            ui.message("GetVersion: No valid response");
+        else {
+            VersionText = std::to_string(r[4]) + "." + std::to_string(r[5]) + "." + std::to_string(r[6]) + "." +
+                          std::to_string(r[7]);
+            ok = true;
+        }
+    }
+    return ok;
+}
+
+} // namespace kestrel

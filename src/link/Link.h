@@ -1,0 +1,130 @@
+#pragma once
+#include "link/Clock.h"
+#include "link/Progress.h"
+#include "link/SerialPort.h"
+#include "link/UserDialogs.h"
+
+#include <array>
+#include <functional>
+#include <initializer_list>
+#include <string>
+
+namespace kestrel {
+
+// What the user chose for the link (the check boxes and address boxes of the main window).
+struct LinkSettings {
+    bool CheckKestrelBD = true;  // "Bidirectional Comm.": wait for and check replies
+    bool CheckCorvid = false;    // "Use Corvid Tunneling"
+    bool CheckXaddress = false;  // "Use eXtended Addr"
+    int TargetAddress = 0;       // 0..15 direct, 0..31 tunnelled
+    int TargetXAddress = 0;      // 0..95
+};
+
+// What the link remembers between calls.
+struct LinkState {
+    int LinkToggle = 128;  // 128 = not synchronised, else 0 or 64
+    int CorvidToggle = 0;  // 0 or 1
+    bool CorvidFlagA = false;
+    bool CorvidFlagB = false;
+    std::array<int, 21> ReplyBuffer{};
+    bool ReplyValid = false;
+};
+
+// Counters for benchmarks and the curious.
+struct LinkStats {
+    long exchanges = 0;
+    long bytesOut = 0;
+    long bytesIn = 0;
+};
+
+// The one transport to a Kestrel module: direct on the serial bus, or tunnelled
+// through the Corvid system. Every call blocks until its reply or its time-out.
+class Link {
+public:
+    Link(SerialPort& port, Clock& clock, UserDialogs& dialogs);
+
+    LinkSettings settings;
+    LinkState state;
+    LinkStats stats;
+
+    SerialPort& port() { return serial; }
+    Clock& clock() { return time; }
+    UserDialogs& dialogs() { return ui; }
+    void setProgress(Progress* p) { progress = p; }
+    Progress* currentProgress() const { return progress; }
+
+    // Observers: the last raw reply (TextResponse), each Corvid log line, and a
+    // change that the link made to its own settings (CheckKestrelBD unchecked or checked).
+    std::function<void(const std::string&)> onTextResponse;
+    std::function<void(const std::string&)> onCorvidLog;
+    std::function<void()> onSettingsChanged;
+
+    std::string TextResponse;           // "[43] [66] [70] ..." of the last direct reply
+    std::string txtCorvidCommunication; // the Corvid log, lines ended by CR LF
+
+    // Frames and sends Size bytes B0.. (each 0..127), waits for the reply when one
+    // is expected and leaves it in ReplyBuffer / ReplyValid. Returns False when
+    // nothing could be sent (or the tunnel exchange failed).
+    bool SendKestrelMessage(bool expectReply, int size, std::initializer_list<int> bytes);
+    bool SendKestrelMessage(bool expectReply, int size, const std::array<int, 15>& bytes);
+
+    // The older fixed four-byte message; no reply is awaited.
+    void SendLynxMessage(int first, int d1, int d2, int d3);
+
+    // One Corvid frame with the first `length` of `data`, and its reply into ReplyBuffer.
+    bool CorvidExchange(int length, std::initializer_list<int> data = {});
+    bool CorvidExchange(int length, const std::array<int, 19>& data);
+    // Receives one Corvid frame; its log line, or "" when no valid frame arrived.
+    std::string CorvidReceive();
+
+    // "Request Version": fills VersionText ("Unknown" or "a.b.c.d").
+    bool GetVersion();
+    std::string VersionText = "Unknown";
+
+    // Sets CheckKestrelBD and tells the observers when it changed.
+    void setBidirectional(bool on);
+
+    // The address byte A of the direct route (TargetAddress * 4 + 3).
+    int addressByte() const;
+
+private:
+    bool writeByte(int value);
+    bool receiveDirect();
+    bool sendTunnelled(bool expectReply, int size, const std::array<int, 15>& bytes);
+    bool wakeUp();
+    void appendCorvidLog(const std::string& line);
+    bool portLost();
+    void noteExchange();
+    // Seconds left of a 2.0 s wait begun at `start`; <= 0 once over (or past midnight).
+    double remaining(double start);
+
+    SerialPort& serial;
+    Clock& time;
+    UserDialogs& ui;
+    Progress* progress = nullptr;
+    bool lostReported = false;
+};
+
+// The running-sum checksum of both routes: the sum starts with the first byte,
+// each later byte is added and 256 subtracted whenever the sum exceeds 256; the
+// checksum is 256 - sum, plus 128 when that is below 128.
+class FrameChecksum {
+public:
+    explicit FrameChecksum(int first) : sum(first) {}
+    void add(int b)
+    {
+        sum += b;
+        if (sum > 256)
+            sum -= 256;
+    }
+    int value() const
+    {
+        const int c = 256 - sum;
+        return c < 128 ? c + 128 : c;
+    }
+
+private:
+    int sum;
+};
+
+} // namespace kestrel

@@ -1,0 +1,24 @@
+#pragma once
+#include <string>
+
+namespace kestrel {
+
+enum class Icon { None, Warning, Information, Question };
+enum class Buttons { Ok, OkCancel, YesNo };
+enum class Answer { Ok, Cancel, Yes, No };
+
+// Everything the core tells or asks the user goes through here: message boxes in
+// the window, stderr and command-line flags in the batch tool, a recorder in tests.
+class UserDialogs {
+public:
+    virtual ~UserDialogs() = default;
+    virtual void message(const std::string& text, Icon icon = Icon::None) = 0;
+    virtual Answer ask(const std::string& text, Buttons buttons, Icon icon) = 0;
+    // File-name prompts; an empty result means the user cancelled.
+    virtual std::string openFileName(const std::string& title, const std::string& filter,
+                                     const std::string& defaultName) = 0;
+    virtual std::string saveFileName(const std::string& title, const std::string& filter,
+                                     const std::string& defaultName) = 0;
+};
+
+} // namespace kestrel

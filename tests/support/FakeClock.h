@@ -1,0 +1,20 @@
+#pragma once
+#include "link/Clock.h"
+
+namespace kestrel::test {
+
+// A clock that only moves when told to (or when a port waits on it).
+class FakeClock : public Clock {
+public:
+    double now = 12 * 3600.0;
+    double secondsSinceMidnight() override { return now; }
+    void sleepMs(int ms) override
+    {
+        now += ms / 1000.0;
+        slept += ms;
+    }
+    void advance(double seconds) { now += seconds; }
+    long slept = 0; // total ms asked for by sleepMs
+};
+
+} // namespace kestrel::test
