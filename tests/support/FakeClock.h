@@ -7,7 +7,8 @@ namespace kestrel::test {
 class FakeClock : public Clock {
 public:
     double now = 12 * 3600.0;
-    double secondsSinceMidnight() override { return now; }
+    bool wrapAtMidnight = false;
+    double secondsSinceMidnight() override { return wrapAtMidnight && now >= 86400.0 ? now - 86400.0 : now; }
     void sleepMs(int ms) override
     {
         now += ms / 1000.0;

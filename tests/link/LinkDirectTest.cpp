@@ -1,0 +1,232 @@
+// The direct route, byte for byte, against a scripted port and a fake clock.
+#include "link/Link.h"
+#include "link/ProgramFault.h"
+#include "support/RecordingDialogs.h"
+#include "support/ScriptedPort.h"
+
+#include <gtest/gtest.h>
+
+using namespace kestrel;
+using namespace kestrel::test;
+
+namespace {
+
+const std::vector<int> kBurst = {0, 0, 0, 255, 255, 255, 170, 170, 170};
+
+std::vector<int> concat(std::initializer_list<std::vector<int>> parts)
+{
+    std::vector<int> out;
+    for (const auto& p : parts)
+        out.insert(out.end(), p.begin(), p.end());
+    return out;
+}
+
+// A module reply frame built by hand: address byte, header, data (+128), checksum
+// chosen so that address + low 7 bits of every later byte is a multiple of 128.
+std::vector<int> reply(int addressByte, std::vector<int> data, int header = -1)
+{
+    std::vector<int> f{addressByte, header < 0 ? 128 + 96 + static_cast<int>(data.size()) : header};
+    int s = addressByte + (f[1] & 127);
+    for (int d : data) {
+        f.push_back(128 + d);
+        s += d;
+    }
+    f.push_back(128 + (128 - s % 128) % 128);
+    return f;
+}
+
+struct Fixture : ::testing::Test {
+    FakeClock clock;
+    ScriptedPort port{clock};
+    RecordingDialogs dialogs;
+    Link link{port, clock, dialogs};
+};
+
+} // namespace
+
+TEST_F(Fixture, RequestVersionWorkedExampleWithBurstAndEmptyFrame)
+{
+    port.queue(reply(67, {112, 0, 1, 2, 3, 4}));
+    EXPECT_TRUE(link.GetVersion());
+    // Burst, empty frame to address 0 (3, 192, 189), then 67, 226, 240, 128, 235.
+    EXPECT_EQ(port.take(), concat({kBurst, {3, 192, 189}, {67, 226, 240, 128, 235}}));
+    EXPECT_EQ(link.VersionText, "1.2.3.4");
+    EXPECT_TRUE(link.state.ReplyValid);
+    EXPECT_EQ(link.TextResponse, "[43] [66] [70] [0] [1] [2] [3] [4]");
+    EXPECT_TRUE(dialogs.messages.empty());
+    EXPECT_EQ(link.state.LinkToggle, 0);
+
+    // Next frame carries toggle 0 and no burst; then 64 again.
+    port.queue(reply(3, {112, 0, 1, 2, 3, 4}));
+    EXPECT_TRUE(link.GetVersion());
+    auto second = port.take();
+    EXPECT_EQ(second.front(), 3);
+    EXPECT_EQ(second.size(), 5u);
+    port.queue(reply(67, {112, 0, 1, 2, 3, 4}));
+    link.GetVersion();
+    EXPECT_EQ(port.take().front(), 67);
+}
+
+TEST_F(Fixture, AddressChangeResynchronisesAndHeaderBits)
+{
+    link.settings.CheckKestrelBD = false;
+    link.settings.TargetAddress = 5; // A = 23
+    EXPECT_TRUE(link.SendKestrelMessage(false, 0, {}));
+    // Size 0 without bidirectional: header 192; with eXtended address 208 and the address byte.
+    EXPECT_EQ(port.take(), concat({kBurst, {23, 192, 169}, {64 + 23, 192, 233}})); // 87 + 192 = 279 -> 23; 256 - 23 = 233
+    EXPECT_FALSE(link.state.ReplyValid);
+
+    link.settings.CheckXaddress = true;
+    link.settings.TargetXAddress = 95;
+    EXPECT_TRUE(link.SendKestrelMessage(false, 0, {}));
+    // 23 + 208 = 231; + 223 = 454 -> 198; 256 - 198 = 58 -> 186.
+    EXPECT_EQ(port.take(), (std::vector<int>{23, 208, 223, 186}));
+
+    link.state.LinkToggle = 128; // what an address change does
+    link.SendKestrelMessage(false, 1, {5});
+    auto bytes = port.take();
+    EXPECT_EQ(std::vector<int>(bytes.begin(), bytes.begin() + 9), kBurst);
+    EXPECT_EQ(bytes[12], 64 + 23);
+}
+
+TEST_F(Fixture, SizeOverrunAndClosedPortSendNothing)
+{
+    EXPECT_FALSE(link.SendKestrelMessage(true, 16, {}));
+    EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"SendKestrelMessage: Message Size Overrun, size = 16"});
+    EXPECT_TRUE(port.written.empty());
+
+    dialogs.clear();
+    port.opened = false;
+    EXPECT_FALSE(link.SendKestrelMessage(true, 2, {112, 0}));
+    EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"Select communications port"});
+    EXPECT_TRUE(port.written.empty());
+}
+
+TEST_F(Fixture, DataByteAbove127IsProgramFaultAndNothingIsWritten)
+{
+    EXPECT_THROW(link.SendKestrelMessage(false, 3, {96, 10, 200}), ProgramFault);
+    EXPECT_TRUE(port.written.empty());
+    EXPECT_THROW(link.SendKestrelMessage(false, 1, {-1}), ProgramFault);
+}
+
+TEST_F(Fixture, CorruptedCopyThenGoodCopyAndFrameRestart)
+{
+    link.state.LinkToggle = 64;
+    auto bad = reply(67, {112, 0, 9, 9, 9, 9});
+    bad.back() ^= 1;
+    // Garbage, a corrupted copy, half a frame cut short by a new start, then the good one.
+    auto good = reply(67, {112, 0, 1, 0, 0, 7});
+    auto half = std::vector<int>(good.begin(), good.begin() + 4);
+    port.queue(concat({{200, 201}, bad, half, good}));
+    EXPECT_TRUE(link.GetVersion());
+    EXPECT_EQ(link.VersionText, "1.0.0.7");
+    EXPECT_TRUE(dialogs.messages.empty());
+}
+
+TEST_F(Fixture, TimeoutUnchecksBidirectionalAndWaitsTwoSeconds)
+{
+    link.state.LinkToggle = 64;
+    int changed = 0;
+    link.onSettingsChanged = [&] { ++changed; };
+    const double start = clock.now;
+    EXPECT_FALSE(link.GetVersion());
+    EXPECT_NEAR(clock.now - start, 2.0, 0.01);
+    EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"No response received, resetting bidirectional communication"});
+    EXPECT_FALSE(link.settings.CheckKestrelBD);
+    EXPECT_EQ(changed, 1); // cleared by the time-out
+    EXPECT_EQ(link.VersionText, "Unknown");
+    EXPECT_EQ(link.state.LinkToggle, 0); // toggles whether replied or not
+
+    // With bidirectional communication off a read never sees a valid reply.
+    dialogs.clear();
+    EXPECT_TRUE(link.SendKestrelMessage(true, 2, {112, 10}));
+    EXPECT_FALSE(link.state.ReplyValid);
+    EXPECT_TRUE(dialogs.messages.empty());
+}
+
+TEST_F(Fixture, MidnightEndsTheWait)
+{
+    link.state.LinkToggle = 64;
+    clock.wrapAtMidnight = true;
+    clock.now = 86399.9;
+    link.SendKestrelMessage(true, 2, {112, 0});
+    // One wait carried the clock past midnight; the receiver then stopped instead of
+    // waiting for a day.
+    EXPECT_EQ(port.waits, 1);
+    EXPECT_FALSE(link.state.ReplyValid);
+}
+
+TEST_F(Fixture, InvalidReplyMessagesAndExtendedAddressBytes)
+{
+    link.state.LinkToggle = 64;
+    // A reply with the wrong toggle: the expected address is shown without it.
+    port.queue(reply(3, {112, 0, 1, 2, 3, 4}));
+    link.GetVersion();
+    ASSERT_EQ(dialogs.messages.size(), 1u);
+    EXPECT_EQ(dialogs.messages[0].text,
+              "Invalid response received, \r\nReceived: Addr = 3 Header = 102\r\nExpected: Addr = 3 Header > 95 ");
+    EXPECT_FALSE(link.state.ReplyValid);
+
+    // A reply carrying an eXtended address byte we did not send.
+    dialogs.clear();
+    link.state.LinkToggle = 64;
+    port.queue(reply(67, {7, 112, 0, 1, 2, 3, 4}, 128 + 96 + 16 + 6));
+    link.GetVersion();
+    EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"Unexpected eXtended Address Byte 7"});
+    EXPECT_EQ(link.VersionText, "1.2.3.4");
+
+    // With eXtended addressing on, a different byte is named.
+    dialogs.clear();
+    link.settings.CheckXaddress = true;
+    link.settings.TargetXAddress = 9;
+    link.state.LinkToggle = 64;
+    port.queue(reply(67, {7, 112, 0, 1, 2, 3, 4}, 128 + 96 + 16 + 6));
+    link.GetVersion();
+    EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"Incorrect eXtended Address byte \r\nReceived 7 Expected 9"});
+}
+
+TEST_F(Fixture, GetVersionRejectsWrongSizeAndEcho)
+{
+    link.state.LinkToggle = 64;
+    port.queue(reply(67, {112, 0, 1, 2, 3}));
+    EXPECT_FALSE(link.GetVersion());
+    port.queue(reply(3, {112, 1, 1, 2, 3, 4}));
+    EXPECT_FALSE(link.GetVersion());
+    EXPECT_EQ(dialogs.texts(),
+              (std::vector<std::string>{"GetVersion: No valid response, size <> 6", "GetVersion: No valid response"}));
+    EXPECT_EQ(link.VersionText, "Unknown");
+}
+
+TEST_F(Fixture, LynxMessageFramesWithoutToggle)
+{
+    link.SendLynxMessage(20, 1, 2, 3);
+    // Burst, the empty legacy frame 20,128,128,128,236, then 20,129,130,131 and its checksum.
+    // 20+129=149, +130=279->23, +131=154; 256-154=102 -> 230.
+    EXPECT_EQ(port.take(), concat({kBurst, {20, 128, 128, 128, 236}, {20, 129, 130, 131, 230}}));
+    EXPECT_EQ(link.state.LinkToggle, 64);
+    link.SendLynxMessage(20, 1, 2, 3);
+    EXPECT_EQ(port.take(), (std::vector<int>{20, 129, 130, 131, 230}));
+    EXPECT_EQ(link.state.LinkToggle, 64);
+}
+
+TEST_F(Fixture, PortLostMidExchangeReportsOnceAndFails)
+{
+    link.state.LinkToggle = 64;
+    port.writesFail = true;
+    EXPECT_FALSE(link.SendKestrelMessage(true, 2, {112, 0}));
+    EXPECT_FALSE(link.state.ReplyValid);
+    EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"Communications port lost:  (device removed)"});
+    EXPECT_FALSE(port.isOpen());
+    EXPECT_EQ(link.state.LinkToggle, 128);
+}
+
+TEST(FrameChecksumTest, RunningSumRule)
+{
+    FrameChecksum s(67);
+    for (int b : {226, 240, 128})
+        s.add(b);
+    EXPECT_EQ(s.value(), 235);
+    FrameChecksum z(3);
+    z.add(192);
+    EXPECT_EQ(z.value(), 189);
+}
