@@ -35,7 +35,7 @@ std::vector<int> reply(int addressByte, std::vector<int> data, int header = -1)
     return f;
 }
 
-struct Fixture : ::testing::Test {
+struct DirectRoute : ::testing::Test {
     FakeClock clock;
     ScriptedPort port{clock};
     RecordingDialogs dialogs;
@@ -44,7 +44,7 @@ struct Fixture : ::testing::Test {
 
 } // namespace
 
-TEST_F(Fixture, RequestVersionWorkedExampleWithBurstAndEmptyFrame)
+TEST_F(DirectRoute, RequestVersionWorkedExampleWithBurstAndEmptyFrame)
 {
     port.queue(reply(67, {112, 0, 1, 2, 3, 4}));
     EXPECT_TRUE(link.GetVersion());
@@ -67,7 +67,7 @@ TEST_F(Fixture, RequestVersionWorkedExampleWithBurstAndEmptyFrame)
     EXPECT_EQ(port.take().front(), 67);
 }
 
-TEST_F(Fixture, AddressChangeResynchronisesAndHeaderBits)
+TEST_F(DirectRoute, AddressChangeResynchronisesAndHeaderBits)
 {
     link.settings.CheckKestrelBD = false;
     link.settings.TargetAddress = 5; // A = 23
@@ -89,7 +89,7 @@ TEST_F(Fixture, AddressChangeResynchronisesAndHeaderBits)
     EXPECT_EQ(bytes[12], 64 + 23);
 }
 
-TEST_F(Fixture, SizeOverrunAndClosedPortSendNothing)
+TEST_F(DirectRoute, SizeOverrunAndClosedPortSendNothing)
 {
     EXPECT_FALSE(link.SendKestrelMessage(true, 16, {}));
     EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"SendKestrelMessage: Message Size Overrun, size = 16"});
@@ -102,14 +102,14 @@ TEST_F(Fixture, SizeOverrunAndClosedPortSendNothing)
     EXPECT_TRUE(port.written.empty());
 }
 
-TEST_F(Fixture, DataByteAbove127IsProgramFaultAndNothingIsWritten)
+TEST_F(DirectRoute, DataByteAbove127IsProgramFaultAndNothingIsWritten)
 {
     EXPECT_THROW(link.SendKestrelMessage(false, 3, {96, 10, 200}), ProgramFault);
     EXPECT_TRUE(port.written.empty());
     EXPECT_THROW(link.SendKestrelMessage(false, 1, {-1}), ProgramFault);
 }
 
-TEST_F(Fixture, CorruptedCopyThenGoodCopyAndFrameRestart)
+TEST_F(DirectRoute, CorruptedCopyThenGoodCopyAndFrameRestart)
 {
     link.state.LinkToggle = 64;
     auto bad = reply(67, {112, 0, 9, 9, 9, 9});
@@ -123,7 +123,7 @@ TEST_F(Fixture, CorruptedCopyThenGoodCopyAndFrameRestart)
     EXPECT_TRUE(dialogs.messages.empty());
 }
 
-TEST_F(Fixture, TimeoutUnchecksBidirectionalAndWaitsTwoSeconds)
+TEST_F(DirectRoute, TimeoutUnchecksBidirectionalAndWaitsTwoSeconds)
 {
     link.state.LinkToggle = 64;
     int changed = 0;
@@ -144,7 +144,7 @@ TEST_F(Fixture, TimeoutUnchecksBidirectionalAndWaitsTwoSeconds)
     EXPECT_TRUE(dialogs.messages.empty());
 }
 
-TEST_F(Fixture, MidnightEndsTheWait)
+TEST_F(DirectRoute, MidnightEndsTheWait)
 {
     link.state.LinkToggle = 64;
     clock.wrapAtMidnight = true;
@@ -156,7 +156,7 @@ TEST_F(Fixture, MidnightEndsTheWait)
     EXPECT_FALSE(link.state.ReplyValid);
 }
 
-TEST_F(Fixture, InvalidReplyMessagesAndExtendedAddressBytes)
+TEST_F(DirectRoute, InvalidReplyMessagesAndExtendedAddressBytes)
 {
     link.state.LinkToggle = 64;
     // A reply with the wrong toggle: the expected address is shown without it.
@@ -185,7 +185,7 @@ TEST_F(Fixture, InvalidReplyMessagesAndExtendedAddressBytes)
     EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"Incorrect eXtended Address byte \r\nReceived 7 Expected 9"});
 }
 
-TEST_F(Fixture, GetVersionRejectsWrongSizeAndEcho)
+TEST_F(DirectRoute, GetVersionRejectsWrongSizeAndEcho)
 {
     link.state.LinkToggle = 64;
     port.queue(reply(67, {112, 0, 1, 2, 3}));
@@ -197,7 +197,7 @@ TEST_F(Fixture, GetVersionRejectsWrongSizeAndEcho)
     EXPECT_EQ(link.VersionText, "Unknown");
 }
 
-TEST_F(Fixture, LynxMessageFramesWithoutToggle)
+TEST_F(DirectRoute, LynxMessageFramesWithoutToggle)
 {
     link.SendLynxMessage(20, 1, 2, 3);
     // Burst, the empty legacy frame 20,128,128,128,236, then 20,129,130,131 and its checksum.
@@ -209,7 +209,7 @@ TEST_F(Fixture, LynxMessageFramesWithoutToggle)
     EXPECT_EQ(link.state.LinkToggle, 64);
 }
 
-TEST_F(Fixture, PortLostMidExchangeReportsOnceAndFails)
+TEST_F(DirectRoute, PortLostMidExchangeReportsOnceAndFails)
 {
     link.state.LinkToggle = 64;
     port.writesFail = true;
