@@ -1,0 +1,10 @@
+#include "shell/Cli.h"
+
+#include <QCoreApplication>
+
+int main(int argc, char** argv)
+{
+    QCoreApplication app(argc, argv);
+    std::vector<std::string> args(argv + 1, argv + argc);
+    return kestrel::runCli(args);
+}

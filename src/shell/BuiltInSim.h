@@ -1,0 +1,12 @@
+#pragma once
+#include "link/SerialPort.h"
+
+#include <memory>
+
+namespace kestrel {
+
+// The simulated module that the port list offers as "sim": a module at bus address 0
+// holding a small demonstration configuration, reached in process.
+std::unique_ptr<SerialPort> makeBuiltInSimPort();
+
+} // namespace kestrel

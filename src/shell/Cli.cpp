@@ -1,0 +1,192 @@
+#include "shell/Cli.h"
+
+#include "link/ProgramFault.h"
+#include "link/Text.h"
+#include "ops/Session.h"
+#include "shell/BuiltInSim.h"
+#include "shell/ConsoleDialogs.h"
+#include "shell/ConsoleProgress.h"
+#include "shell/PortRouter.h"
+#include "shell/QtSerialPort.h"
+
+#include <cstdio>
+#include <functional>
+#include <map>
+
+namespace kestrel {
+
+namespace {
+
+constexpr int kOk = 0;
+constexpr int kFailed = 1;
+constexpr int kUsage = 2;
+
+const char* kUsageText =
+    "usage: kestrel-cli [--port NAME|sim] [--baud 9600|19200|38400] [--address N] [--xaddress N]\n"
+    "                   [--corvid] [--one-way] [--number-from-1] COMMAND\n"
+    "commands:\n"
+    "  ports                         list the ports (\"sim\" is the built-in simulated module)\n"
+    "  version                       print the module's firmware version\n";
+
+struct CliOptions {
+    std::string port = "sim";
+    int baud = 19200;
+    std::string address;
+    std::string xaddress;
+    bool corvid = false;
+    bool oneWay = false;
+    bool numberFrom1 = false;
+    bool yes = false;
+    bool compact = false;
+    bool withPinConfig = false;
+    std::string command;
+    std::vector<std::string> operands;
+};
+
+struct CliContext {
+    CliOptions& options;
+    Session& session;
+    ConsoleDialogs& dialogs;
+    ConsoleProgress& progress;
+};
+
+using Command = std::function<int(CliContext&)>;
+
+int commandVersion(CliContext& c)
+{
+    if (!c.session.link.GetVersion())
+        return kFailed;
+    std::printf("%s\n", c.session.link.VersionText.c_str());
+    return kOk;
+}
+
+const std::map<std::string, Command>& commands()
+{
+    static const std::map<std::string, Command> table = {
+        {"version", commandVersion},
+    };
+    return table;
+}
+
+bool parse(const std::vector<std::string>& args, CliOptions& o, std::string& error)
+{
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        const std::string& a = args[i];
+        auto value = [&](std::string& out) {
+            if (i + 1 >= args.size()) {
+                error = a + " needs a value";
+                return false;
+            }
+            out = args[++i];
+            return true;
+        };
+        std::string v;
+        if (a == "--port") {
+            if (!value(o.port))
+                return false;
+        } else if (a == "--baud") {
+            if (!value(v))
+                return false;
+            o.baud = static_cast<int>(valInt(v));
+            if (o.baud != 9600 && o.baud != 19200 && o.baud != 38400) {
+                error = "--baud must be 9600, 19200 or 38400";
+                return false;
+            }
+        } else if (a == "--address") {
+            if (!value(o.address))
+                return false;
+        } else if (a == "--xaddress") {
+            if (!value(o.xaddress))
+                return false;
+        } else if (a == "--corvid") {
+            o.corvid = true;
+        } else if (a == "--one-way") {
+            o.oneWay = true;
+        } else if (a == "--number-from-1") {
+            o.numberFrom1 = true;
+        } else if (a == "--yes") {
+            o.yes = true;
+        } else if (a == "--compact") {
+            o.compact = true;
+        } else if (a == "--with-pin-config") {
+            o.withPinConfig = true;
+        } else if (a == "-h" || a == "--help") {
+            error = "";
+            return false;
+        } else if (!a.empty() && a[0] == '-' && a.size() > 1) {
+            error = "unknown option " + a;
+            return false;
+        } else if (o.command.empty()) {
+            o.command = a;
+        } else {
+            o.operands.push_back(a);
+        }
+    }
+    if (o.command.empty()) {
+        error = "no command given";
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+int runCli(const std::vector<std::string>& args)
+{
+    CliOptions options;
+    std::string error;
+    if (!parse(args, options, error)) {
+        if (!error.empty())
+            std::fprintf(stderr, "kestrel-cli: %s\n", error.c_str());
+        std::fputs(kUsageText, stderr);
+        return kUsage;
+    }
+
+    ConsoleDialogs dialogs;
+    dialogs.yes = options.yes;
+    ConsoleProgress progress;
+    SystemClock clock;
+    PortRouter port(std::make_unique<QtSerialPort>(), makeBuiltInSimPort());
+    Session session(port, clock, dialogs);
+    session.linkControl.systemPorts = &QtSerialPort::systemPorts;
+
+    if (options.command == "ports") {
+        session.linkControl.ScanPorts();
+        for (const auto& p : session.linkControl.ComboPort)
+            std::printf("%s\n", p.c_str());
+        return kOk;
+    }
+    const auto found = commands().find(options.command);
+    if (found == commands().end()) {
+        std::fprintf(stderr, "kestrel-cli: unknown command %s\n", options.command.c_str());
+        std::fputs(kUsageText, stderr);
+        return kUsage;
+    }
+
+    try {
+        session.config.NumberingBase = options.numberFrom1 ? 1 : 0;
+        const int rate = options.baud == 9600 ? 0 : options.baud == 38400 ? 2 : 1;
+        session.linkControl.OptionBitRate_Click(rate);
+        if (!session.linkControl.ComboPort_Click(options.port))
+            return kUsage;
+        session.link.setProgress(&progress);
+        if (options.oneWay)
+            session.link.settings.CheckKestrelBD = false;
+        if (!options.address.empty())
+            session.linkControl.TextAddress_Click(options.address);
+        if (!options.xaddress.empty()) {
+            session.link.settings.CheckXaddress = true; // asking on the command line is the consent
+            session.linkControl.txtXaddr_Click(options.xaddress);
+        }
+        CliContext context{options, session, dialogs, progress};
+        const int status = found->second(context);
+        progress.finish();
+        return status;
+    } catch (const ProgramFault& fault) {
+        progress.finish();
+        std::fprintf(stderr, "Program fault: %s\n", fault.what());
+        return kFailed;
+    }
+}
+
+} // namespace kestrel

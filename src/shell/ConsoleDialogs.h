@@ -1,0 +1,24 @@
+#pragma once
+#include "link/UserDialogs.h"
+
+namespace kestrel {
+
+// The batch tool's dialogs: every message goes to stderr; questions are answered
+// from the command line (`yes` answers OK/Yes, otherwise Cancel/No) and echoed.
+class ConsoleDialogs : public UserDialogs {
+public:
+    bool yes = false;
+    int messageCount = 0;
+    void message(const std::string& text, Icon icon) override;
+    Answer ask(const std::string& text, Buttons buttons, Icon icon) override;
+    std::string openFileName(const std::string&, const std::string&, const std::string& defaultName) override
+    {
+        return defaultName;
+    }
+    std::string saveFileName(const std::string&, const std::string&, const std::string& defaultName) override
+    {
+        return defaultName;
+    }
+};
+
+} // namespace kestrel

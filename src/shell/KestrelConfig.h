@@ -1,0 +1,87 @@
+#pragma once
+#include "ops/Session.h"
+#include "shell/PortRouter.h"
+#include "shell/QtDialogs.h"
+
+#include <QMainWindow>
+#include <memory>
+
+class QCheckBox;
+class QComboBox;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+class QSpinBox;
+class QTabWidget;
+class QTimer;
+
+namespace kestrel {
+
+// The main window: the link area and the pages. Widgets carry the names the
+// module's tools have always used (objectName = member name; control arrays are
+// named Name_index).
+class KestrelConfig : public QMainWindow {
+    Q_OBJECT
+public:
+    explicit KestrelConfig(QWidget* parent = nullptr);
+    ~KestrelConfig() override;
+
+    Session& session() { return *core; }
+
+    // Link area
+    QLabel* LabelPort;
+    QComboBox* ComboPort;
+    QPushButton* cmdRefreshComm;
+    QGroupBox* FrameBitrate;
+    QRadioButton* OptionBitRate[3];
+    QLabel* LabelAddress;
+    QLineEdit* TextAddress;
+    QSpinBox* UpDownAddress;
+    QCheckBox* CheckXaddress;
+    QLabel* LabelXaddress;
+    QLineEdit* txtXaddr;
+    QSpinBox* UpDownXaddr;
+    QCheckBox* CheckKestrelBD;
+    QCheckBox* CheckCorvid;
+    QCheckBox* CheckKLnumber;
+    QLineEdit* TextResponse;
+    QLabel* LabelAction;
+    QTabWidget* tabs;
+
+    // General page
+    QPushButton* CommandGenVersion;
+    QLabel* LabelGenVersionString;
+
+public slots:
+    void ComboPort_Click();
+    void cmdRefreshComm_Click();
+    void OptionBitRate_Click(int index);
+    void TextAddress_Click();
+    void UpDownAddress_Change(int value);
+    void txtXaddr_Click();
+    void UpDownXaddr_Change(int value);
+    void CheckXaddress_Click();
+    void CheckKestrelBD_Click();
+    void LabelPort_DblClick();
+    void CommandGenVersion_Click();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void buildLinkArea(QWidget* host);
+    QWidget* buildGeneralPage();
+    void refreshLinkDisplays();
+    void fillPortList();
+
+    QtDialogs dialogs;
+    std::unique_ptr<PortRouter> port;
+    SystemClock clock;
+    std::unique_ptr<Session> core;
+    QGroupBox* linkFrame = nullptr; // the frame LabelPort's double-click shows and hides
+    bool updating = false;
+};
+
+} // namespace kestrel

@@ -1,0 +1,39 @@
+#pragma once
+#include "link/SerialPort.h"
+
+#include <QSerialPort>
+
+namespace kestrel {
+
+// The real serial port: odd parity, 8 data bits, 1 stop bit at 9600, 19200 or 38400 bit/s.
+class QtSerialPort : public SerialPort {
+public:
+    QtSerialPort();
+    ~QtSerialPort() override;
+
+    void select(const std::string& name) override;
+    std::string selected() const override { return name; }
+    bool open() override;
+    void close() override;
+    bool isOpen() const override;
+    void setSettings(const std::string& settings) override;
+    std::string settings() const override { return settingsText; }
+    bool writeByte(std::uint8_t b) override;
+    int bytesWaiting() override;
+    int readByte() override;
+    bool waitForBytes(int timeoutMs) override;
+    std::string errorString() const override { return error; }
+
+    // The ports the system reports, by name (e.g. "/dev/ttyUSB0" or "COM3").
+    static std::vector<std::string> systemPorts();
+
+private:
+    bool failed();
+    void flushWrites();
+    QSerialPort port;
+    std::string name;
+    std::string settingsText = "19200,o,8,1";
+    std::string error;
+};
+
+} // namespace kestrel
