@@ -65,4 +65,22 @@ EventRecord& Configuration::events(int p)
     return EventMap[p];
 }
 
+const AspectRecord& Configuration::aspect(int p, int a) const
+{
+    checkIndex(a, kAspectRecords, "aspect");
+    return pin(p).Aspects[a];
+}
+
+const StepRecord& Configuration::step(int p, int a, int s) const
+{
+    checkIndex(s, kStepRecords, "step");
+    return aspect(p, a).Steps[s];
+}
+
+const EventRecord& Configuration::events(int p) const
+{
+    checkIndex(p, kPinRecords, "event record");
+    return EventMap[p];
+}
+
 } // namespace kestrel

@@ -92,8 +92,11 @@ struct Configuration {
     PinRecord& pin(int p);
     const PinRecord& pin(int p) const;
     AspectRecord& aspect(int p, int a);
+    const AspectRecord& aspect(int p, int a) const;
     StepRecord& step(int p, int a, int s);
+    const StepRecord& step(int p, int a, int s) const;
     EventRecord& events(int p);
+    const EventRecord& events(int p) const;
 };
 
 } // namespace kestrel
