@@ -42,12 +42,12 @@ QSpinBox* upDown(const QString& name)
 }
 } // namespace
 
-KestrelConfig::KestrelConfig(QWidget* parent) : QMainWindow(parent), dialogs(this)
+KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindow(parent), boxes(this)
 {
     setObjectName("KestrelConfig");
     setWindowTitle("Kestrel Config");
     port = std::make_unique<PortRouter>(std::make_unique<QtSerialPort>(), makeBuiltInSimPort());
-    core = std::make_unique<Session>(*port, clock, dialogs);
+    core = std::make_unique<Session>(*port, clock, dialogs ? *dialogs : static_cast<UserDialogs&>(boxes));
     core->linkControl.systemPorts = &QtSerialPort::systemPorts;
 
     auto* central = new QWidget;

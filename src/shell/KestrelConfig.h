@@ -25,7 +25,8 @@ namespace kestrel {
 class KestrelConfig : public QMainWindow {
     Q_OBJECT
 public:
-    explicit KestrelConfig(QWidget* parent = nullptr);
+    // `dialogs` replaces the message boxes (tests record them instead); null = real boxes.
+    explicit KestrelConfig(QWidget* parent = nullptr, UserDialogs* dialogs = nullptr);
     ~KestrelConfig() override;
 
     Session& session() { return *core; }
@@ -76,7 +77,7 @@ private:
     void refreshLinkDisplays();
     void fillPortList();
 
-    QtDialogs dialogs;
+    QtDialogs boxes;
     std::unique_ptr<PortRouter> port;
     SystemClock clock;
     std::unique_ptr<Session> core;

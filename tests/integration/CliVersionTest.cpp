@@ -1,0 +1,46 @@
+// kestrel-cli against kestrel-sim on a pseudo-terminal: the real serial path end to end.
+#include "support/Process.h"
+
+#include <gtest/gtest.h>
+
+using namespace kestrel::test;
+
+TEST(CliAgainstSimProcess, VersionAtEachBitRateAndAddress)
+{
+    SimProcess sim({"--address", "0", "--address", "5", "--version", "9.8.7.6"});
+    const std::string cli = binPath("kestrel-cli");
+    for (const char* baud : {"9600", "19200", "38400"}) {
+        auto r = runProgram(cli, {"--port", sim.pty(), "--baud", baud, "version"});
+        EXPECT_EQ(r.status, 0) << r.err;
+        EXPECT_EQ(r.out, "9.8.7.6\n");
+        EXPECT_EQ(r.err, "");
+    }
+    // Numbered from 1, address 6 is module 5.
+    auto r = runProgram(cli, {"--port", sim.pty(), "--number-from-1", "--address", "6", "version"});
+    EXPECT_EQ(r.status, 0) << r.err;
+    EXPECT_EQ(r.out, "9.8.7.6\n");
+
+    // Nobody at address 9: the time-out message on stderr, status 1.
+    r = runProgram(cli, {"--port", sim.pty(), "--address", "9", "version"});
+    EXPECT_EQ(r.status, 1);
+    EXPECT_EQ(r.out, "");
+    EXPECT_EQ(r.err, "No response received, resetting bidirectional communication\n");
+
+    const std::string stats = sim.stop();
+    EXPECT_NE(stats.find("exchanges"), std::string::npos) << stats;
+}
+
+TEST(CliAgainstSimProcess, UsageAndPortErrorsExitWithTwo)
+{
+    const std::string cli = binPath("kestrel-cli");
+    auto r = runProgram(cli, {"--port", "/dev/kestrel-no-such-port", "version"});
+    EXPECT_EQ(r.status, 2);
+    EXPECT_NE(r.err.find("Cannot open port /dev/kestrel-no-such-port"), std::string::npos) << r.err;
+    EXPECT_EQ(runProgram(cli, {"frobnicate"}).status, 2);
+    EXPECT_EQ(runProgram(cli, {"--baud", "1200", "version"}).status, 2);
+    EXPECT_EQ(runProgram(cli, {}).status, 2);
+
+    r = runProgram(cli, {"--port", "sim", "version"});
+    EXPECT_EQ(r.status, 0);
+    EXPECT_EQ(r.out, "1.2.3.4\n");
+}

@@ -1,0 +1,147 @@
+#include "Process.h"
+
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
+#include <poll.h>
+#include <stdexcept>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace kestrel::test {
+
+namespace {
+std::string readAll(int fd)
+{
+    std::string out;
+    char buf[4096];
+    for (;;) {
+        const ssize_t n = read(fd, buf, sizeof buf);
+        if (n > 0)
+            out.append(buf, static_cast<std::size_t>(n));
+        else if (n < 0 && errno == EINTR)
+            continue;
+        else
+            break;
+    }
+    return out;
+}
+
+std::vector<char*> argv(const std::string& program, const std::vector<std::string>& args)
+{
+    std::vector<char*> v;
+    v.push_back(const_cast<char*>(program.c_str()));
+    for (const auto& a : args)
+        v.push_back(const_cast<char*>(a.c_str()));
+    v.push_back(nullptr);
+    return v;
+}
+} // namespace
+
+std::string binPath(const std::string& program)
+{
+    const char* dir = std::getenv("KESTREL_BIN_DIR");
+    return std::string(dir ? dir : ".") + "/" + program;
+}
+
+SimProcess::SimProcess(const std::vector<std::string>& args)
+{
+    int outPipe[2], errPipe[2];
+    if (pipe(outPipe) != 0 || pipe(errPipe) != 0)
+        throw std::runtime_error("pipe failed");
+    const std::string program = binPath("kestrel-sim");
+    auto av = argv(program, args);
+    pid = fork();
+    if (pid == 0) {
+        dup2(outPipe[1], 1);
+        dup2(errPipe[1], 2);
+        close(outPipe[0]);
+        close(errPipe[0]);
+        execv(program.c_str(), av.data());
+        _exit(127);
+    }
+    close(outPipe[1]);
+    close(errPipe[1]);
+    errFd = errPipe[0];
+    // The first line of its output is the pseudo-terminal's path.
+    pollfd p{outPipe[0], POLLIN, 0};
+    char c;
+    while (poll(&p, 1, 10000) > 0 && read(outPipe[0], &c, 1) == 1 && c != '\n')
+        path += c;
+    close(outPipe[0]);
+    if (path.empty()) {
+        stop();
+        throw std::runtime_error("kestrel-sim did not report its pseudo-terminal");
+    }
+}
+
+SimProcess::~SimProcess()
+{
+    stop();
+}
+
+std::string SimProcess::stop()
+{
+    std::string err;
+    if (pid > 0) {
+        kill(pid, SIGTERM);
+        int status;
+        waitpid(pid, &status, 0);
+        pid = -1;
+    }
+    if (errFd >= 0) {
+        err = readAll(errFd);
+        close(errFd);
+        errFd = -1;
+    }
+    return err;
+}
+
+CommandResult runProgram(const std::string& program, const std::vector<std::string>& args)
+{
+    int outPipe[2], errPipe[2];
+    if (pipe(outPipe) != 0 || pipe(errPipe) != 0)
+        throw std::runtime_error("pipe failed");
+    auto av = argv(program, args);
+    const pid_t child = fork();
+    if (child == 0) {
+        const int nul = open("/dev/null", O_RDONLY);
+        dup2(nul, 0);
+        dup2(outPipe[1], 1);
+        dup2(errPipe[1], 2);
+        close(outPipe[0]);
+        close(errPipe[0]);
+        execv(program.c_str(), av.data());
+        _exit(127);
+    }
+    close(outPipe[1]);
+    close(errPipe[1]);
+    CommandResult r;
+    // Read both pipes together so neither can fill up and stall the child.
+    pollfd fds[2] = {{outPipe[0], POLLIN, 0}, {errPipe[0], POLLIN, 0}};
+    int open = 2;
+    char buf[4096];
+    while (open > 0) {
+        if (poll(fds, 2, -1) < 0 && errno != EINTR)
+            break;
+        for (int i = 0; i < 2; ++i) {
+            if (fds[i].fd < 0 || !(fds[i].revents & (POLLIN | POLLHUP)))
+                continue;
+            const ssize_t n = read(fds[i].fd, buf, sizeof buf);
+            if (n > 0) {
+                (i == 0 ? r.out : r.err).append(buf, static_cast<std::size_t>(n));
+            } else {
+                close(fds[i].fd);
+                fds[i].fd = -1;
+                --open;
+            }
+        }
+    }
+    int status;
+    waitpid(child, &status, 0);
+    r.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return r;
+}
+
+} // namespace kestrel::test
