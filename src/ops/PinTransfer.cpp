@@ -1,0 +1,372 @@
+#include "ops/PinTransfer.h"
+
+#include "model/AddressIndex.h"
+#include "model/StepCodec.h"
+#include "pins/PinConfig.h"
+
+#include <array>
+#include <optional>
+#include <string>
+
+namespace kestrel {
+
+namespace {
+
+constexpr int kReadLayout = 114;     // "r"
+constexpr int kReadStep = 115;       // "s"
+constexpr int kReadEventOn = 116;    // "t", carries the initial aspect entry
+constexpr int kReadAddrConfig = 118; // "v"
+constexpr int kWriteLayout = 98;
+constexpr int kWriteStep = 99;
+constexpr int kWriteInit = 100; // with length 3; length 6 writes the Event-On slots
+constexpr int kWriteAddrConfig = 102;
+constexpr int kPacingMs = 100;
+
+const char* const kNoValidResponse = "No valid response";
+const char* const kAddrConfigInvalid = "Read Pin Address Configuration: Invalid Response";
+
+int replyLength(const Link& link) { return link.state.ReplyBuffer[1] & 15; }
+
+bool replyIs(const Link& link, int length, int command, int pin)
+{
+    const auto& r = link.state.ReplyBuffer;
+    return replyLength(link) == length && r[2] == command && r[3] == pin;
+}
+
+// The five step bytes of a 115 reply.
+std::array<int, 5> replyStepBytes(const Link& link)
+{
+    const auto& r = link.state.ReplyBuffer;
+    return {r[6], r[7], r[8], r[9], r[10]};
+}
+
+// The initial aspect as stored (0 = none) from the tag-7 entry; 0 for any other tag.
+int decodeInitEntry(int entry)
+{
+    if ((entry >> 4) != 7 || (entry & 15) == 15)
+        return 0;
+    return (entry & 15) + 1;
+}
+
+int initEntry(const PinRecord& rec) { return 112 + (rec.InitAspect == 0 ? 15 : rec.InitAspect - 1); }
+
+// DeviceOffset from the 5-bit device pointer of pin p: the head lies in 0..31.
+int decodeDeviceOffset(int b, int pin) { return ((b & 31) + pin) % 32 - pin; }
+
+// A write, followed by the pause that replaces a reply's pacing when none is awaited.
+bool paced(Session& session, bool sent)
+{
+    if (sent && !session.link.settings.CheckKestrelBD)
+        session.link.clock().sleepMs(kPacingMs);
+    return sent;
+}
+
+std::string shownPin(const Session& session, int pin) { return std::to_string(pin + session.config.NumberingBase); }
+
+// Sends 118 for the pin; the device pointer's head, or no value when the reply is
+// missing, wrong, or carries no valid device byte.
+std::optional<int> readDeviceHead(Session& session, int pin)
+{
+    Link& link = session.link;
+    link.setBidirectional(true);
+    link.SendKestrelMessage(true, 2, {kReadAddrConfig, pin});
+    if (!link.state.ReplyValid || !replyIs(link, 5, kReadAddrConfig, pin))
+        return std::nullopt;
+    for (int i = 4; i <= 6; ++i) {
+        const int b = link.state.ReplyBuffer[i];
+        if (b >= 64 && b < 96)
+            return pin + decodeDeviceOffset(b, pin);
+    }
+    return std::nullopt;
+}
+
+// Steps 1 to 4 of every pin read.
+bool readPinAspects(Session& session, int pin)
+{
+    Link& link = session.link;
+    UserDialogs& ui = link.dialogs();
+    PinRecord& rec = session.config.pin(pin);
+    const auto& r = link.state.ReplyBuffer;
+
+    link.setBidirectional(true);
+    link.SendKestrelMessage(true, 2, {kReadLayout, pin});
+    if (!link.state.ReplyValid)
+        return false;
+    if (!replyIs(link, 3, kReadLayout, pin)) {
+        ui.message(kNoValidResponse);
+        return false;
+    }
+    rec.AspectLayout = static_cast<std::uint8_t>(r[4]);
+
+    const LayoutSlots slots = layoutSlots(rec.AspectLayout);
+    for (int a = 0; a < slots.aspects; ++a) {
+        for (int s = 0; s < slots.steps; ++s) {
+            link.SendKestrelMessage(true, 4, {kReadStep, pin, a, s});
+            if (!link.state.ReplyValid)
+                return false;
+            if (!replyIs(link, 9, kReadStep, pin) || r[4] != a || r[5] != s) {
+                ui.message(kNoValidResponse);
+                return false;
+            }
+            session.config.step(pin, a, s) = decodeStep(replyStepBytes(link));
+        }
+    }
+
+    if (!link.SendKestrelMessage(true, 2, {kReadEventOn, pin}))
+        return false;
+    const bool initOk = link.state.ReplyValid && replyIs(link, 7, kReadEventOn, pin);
+    rec.InitAspect = static_cast<std::uint8_t>(initOk ? decodeInitEntry(r[4]) : 0);
+
+    link.SendKestrelMessage(true, 2, {kReadAddrConfig, pin});
+    if (!link.state.ReplyValid)
+        return false;
+    if (!replyIs(link, 5, kReadAddrConfig, pin)) {
+        ui.message(kAddrConfigInvalid);
+        return false;
+    }
+    bool ok = true;
+    for (int i = 4; i <= 6 && ok; ++i) {
+        const int b = r[i];
+        if (b < 16) {
+            rec.DccCount = static_cast<std::uint8_t>(b & 7);
+            rec.XDccCount = static_cast<std::uint8_t>((b >> 3) & 1);
+        } else if (b < 32) {
+            rec.LynxCount = static_cast<std::uint8_t>(b & 7);
+        } else if (b >= 64 && b < 96) {
+            rec.DeviceOffset = static_cast<std::int16_t>(decodeDeviceOffset(b, pin));
+        } else {
+            ui.message(kAddrConfigInvalid);
+            ok = false;
+        }
+    }
+    RecalcAddressIndex(session.config);
+    return ok;
+}
+
+void reportStep(Session& session, int done, const std::string& what)
+{
+    if (Progress* progress = session.link.currentProgress())
+        progress->step(done, kPinCount, what);
+}
+
+} // namespace
+
+bool PAspReadPin(Session& session, int pin) { return readPinAspects(session, pin); }
+
+bool ReadPin(Session& session, int pin)
+{
+    return readPinAspects(session, pin) && ReadPinConfig(session, 1, pin);
+}
+
+bool WritePin(Session& session, int pin, bool withPinConfig)
+{
+    Link& link = session.link;
+    const PinRecord& rec = session.config.pin(pin);
+    if (!paced(session, link.SendKestrelMessage(false, 3, {kWriteLayout, pin, rec.AspectLayout})))
+        return false;
+    if (!paced(session, link.SendKestrelMessage(false, 3, {kWriteInit, pin, initEntry(rec)})))
+        return false;
+    const int counts = 8 * rec.XDccCount + rec.DccCount;
+    if (!paced(session, link.SendKestrelMessage(false, 5,
+                                                {kWriteAddrConfig, pin, counts, 16 + rec.LynxCount,
+                                                 64 + (rec.DeviceOffset & 31)})))
+        return false;
+    const LayoutSlots slots = layoutSlots(rec.AspectLayout);
+    for (int a = 0; a < slots.aspects; ++a) {
+        for (int s = 0; s < slots.steps; ++s) {
+            const auto b = encodeStep(session.config.step(pin, a, s));
+            if (!paced(session,
+                       link.SendKestrelMessage(false, 9, {kWriteStep, pin, a, s, b[0], b[1], b[2], b[3], b[4]})))
+                return false;
+        }
+    }
+    if (withPinConfig && !paced(session, SendPinConfig(session, 1, pin)))
+        return false;
+    return true;
+}
+
+bool ReadAllPins(Session& session)
+{
+    for (int p = 0; p < kPinCount; ++p) {
+        reportStep(session, p, "Reading pin " + shownPin(session, p));
+        if (!ReadPin(session, p))
+            return false;
+    }
+    reportStep(session, kPinCount, "Pins read");
+    return true;
+}
+
+bool WriteAllPins(Session& session, bool withPinConfig)
+{
+    for (int p = 0; p < kPinCount; ++p) {
+        reportStep(session, p, "Writing pin " + shownPin(session, p));
+        if (!WritePin(session, p, withPinConfig))
+            return false;
+    }
+    reportStep(session, kPinCount, "Pins written");
+    return true;
+}
+
+namespace {
+
+std::optional<int> deviceHeadOfCurrentPin(Session& session)
+{
+    const int current = session.config.CurrentPin;
+    const auto head = readDeviceHead(session, current);
+    if (!head)
+        session.dialogs().message("Cannot read DevicePointer from Pin " + shownPin(session, current));
+    return head;
+}
+
+} // namespace
+
+bool ReadDevice(Session& session)
+{
+    const auto head = deviceHeadOfCurrentPin(session);
+    if (!head)
+        return false;
+    if (!ReadPin(session, *head))
+        return false;
+    for (int p = *head + 1; p < kPinCount; ++p) {
+        const auto memberOf = readDeviceHead(session, p);
+        if (memberOf != head)
+            break;
+        if (!ReadPin(session, p))
+            return false;
+    }
+    return true;
+}
+
+bool WriteDevice(Session& session)
+{
+    const auto head = deviceHeadOfCurrentPin(session);
+    if (!head)
+        return false;
+    if (!WritePin(session, *head))
+        return false;
+    for (int p = *head + 1; p < kPinCount; ++p) {
+        if (p + session.config.pin(p).DeviceOffset != *head)
+            break;
+        if (!WritePin(session, p))
+            return false;
+    }
+    return true;
+}
+
+namespace {
+
+// Verification of one pin. Returns False with stopped = true when a request went
+// unanswered or a reply could not be used; False alone for a mismatch.
+bool verifyPin(Session& session, int pin, bool& stopped)
+{
+    Link& link = session.link;
+    Report& report = session.report;
+    const PinRecord& rec = session.config.pin(pin);
+    const auto& r = link.state.ReplyBuffer;
+    const std::string prefix = "Pin " + shownPin(session, pin);
+    bool same = true;
+    auto mismatch = [&](const std::string& what) {
+        report.line(prefix + what);
+        same = false;
+    };
+    auto stop = [&] {
+        report.line(kNoValidResponse);
+        stopped = true;
+        return false;
+    };
+
+    link.SendKestrelMessage(true, 2, {kReadLayout, pin});
+    if (!link.state.ReplyValid || !replyIs(link, 3, kReadLayout, pin))
+        return stop();
+    if (r[4] != rec.AspectLayout) {
+        mismatch(": Aspectconfig does not compare");
+    } else {
+        const LayoutSlots slots = layoutSlots(rec.AspectLayout);
+        for (int a = 0; a < slots.aspects; ++a) {
+            bool aspectSame = true;
+            for (int s = 0; s < slots.steps; ++s) {
+                link.SendKestrelMessage(true, 4, {kReadStep, pin, a, s});
+                if (!link.state.ReplyValid || !replyIs(link, 9, kReadStep, pin) || r[4] != a || r[5] != s)
+                    return stop();
+                if (replyStepBytes(link) != encodeStep(session.config.step(pin, a, s)))
+                    aspectSame = false;
+            }
+            if (!aspectSame)
+                mismatch(": Aspect " + std::to_string(a) + " does not compare");
+        }
+    }
+
+    link.SendKestrelMessage(true, 2, {kReadEventOn, pin});
+    if (!link.state.ReplyValid)
+        return stop();
+    const int init = replyIs(link, 7, kReadEventOn, pin) ? decodeInitEntry(r[4]) : 0;
+    if (init != rec.InitAspect)
+        mismatch(": Init does not compare");
+
+    link.SendKestrelMessage(true, 2, {kReadAddrConfig, pin});
+    if (!link.state.ReplyValid)
+        return stop();
+    if (!replyIs(link, 5, kReadAddrConfig, pin)) {
+        report.line("Pin Address Configuration: Invalid Response, expected 5,118," + std::to_string(pin) +
+                    ", received " + std::to_string(replyLength(link)) + "," + std::to_string(r[2]) + "," +
+                    std::to_string(r[3]));
+        same = false;
+    } else {
+        std::optional<int> dcc, lynx, device;
+        for (int i = 4; i <= 6; ++i) {
+            const int b = r[i];
+            if (b < 16)
+                dcc = b;
+            else if (b < 32)
+                lynx = b & 7;
+            else if (b >= 64 && b < 96)
+                device = b & 31;
+            else {
+                report.line("Pin Address Configuration: Invalid Response " + std::to_string(b));
+                same = false;
+            }
+        }
+        if (dcc != 8 * rec.XDccCount + rec.DccCount)
+            mismatch(": DCC Address Configuration does not compare");
+        if (lynx != rec.LynxCount)
+            mismatch(": Serial Address Configuration does not compare");
+        if (device != (rec.DeviceOffset & 31))
+            mismatch(": Device Pointer does not compare");
+    }
+
+    link.SendKestrelMessage(true, 2, {kReadFlashConfig, pin});
+    if (!link.state.ReplyValid)
+        return stop();
+    const int lengthField = replyLength(link);
+    if (lengthField < 3 || r[2] != kReadFlashConfig || r[3] != pin)
+        return stop();
+    PinRecord flash; // a cleared record, filled as ReadPinConfig(1, pin) would fill it
+    storePinConfigReply(flash, 1, std::vector<int>(r.begin() + 4, r.begin() + 2 + lengthField), lengthField);
+    if (pinConfigBytes(flash, 1) != pinConfigBytes(rec, 1))
+        mismatch(": Pinconfig does not compare");
+    return same;
+}
+
+} // namespace
+
+bool VerifyAllPins(Session& session)
+{
+    Report& report = session.report;
+    session.link.setBidirectional(true);
+    report.line("Start Pin Verification");
+    if (session.config.NumberingBase == 1)
+        report.line("Note: Numbering starts at 1");
+    bool result = true;
+    for (int p = 0; p < kPinCount; ++p) {
+        reportStep(session, p, "Verifying pin " + shownPin(session, p));
+        bool stopped = false;
+        if (!verifyPin(session, p, stopped))
+            result = false;
+        if (stopped)
+            return false;
+    }
+    reportStep(session, kPinCount, "Pins verified");
+    return result;
+}
+
+} // namespace kestrel

@@ -1,0 +1,90 @@
+#include "pins/PinConfig.h"
+
+#include "ops/Session.h"
+
+#include <array>
+
+namespace kestrel {
+
+void storePinConfigReply(PinRecord& rec, int source, const std::vector<int>& bytes, int lengthField)
+{
+    if (bytes.empty())
+        return;
+    const int mode = bytes[0];
+    if (rec.ConfigMode != mode) {
+        rec.ConfigParams.fill(0);
+        if (mode == kModeServo) {
+            rec.OutputValue = 64;
+            rec.P(1) = 64;
+        }
+    }
+    // At most the mode and P1..P12 can arrive.
+    const int n = bytes.size() > 13 ? 13 : static_cast<int>(bytes.size());
+    for (int i = 0; i < n; ++i) {
+        const auto b = static_cast<std::uint8_t>(bytes[i]);
+        if (i == 0)
+            rec.ConfigMode = b;
+        else if (i == 1 && source == 0)
+            rec.OutputValue = b; // the active set carries the current position or level here
+        else
+            rec.P(i) = b;
+    }
+    if ((rec.ConfigMode == kModePwm || rec.ConfigMode == kModePwm + 1) && lengthField < 8) {
+        rec.P(4) = 0;
+        rec.P(5) = 31;
+    }
+    if (rec.ConfigMode == kModeServo && (rec.P(2) & 8) == 0 && rec.P(2) >= 16)
+        rec.P(2) = static_cast<std::uint8_t>(rec.P(2) / 16 + 40);
+}
+
+bool ReadPinConfig(Session& session, int source, int pin)
+{
+    Link& link = session.link;
+    link.setBidirectional(true);
+    link.SendKestrelMessage(true, 2, {kReadActiveConfig + 32 * source, pin});
+    if (!link.state.ReplyValid)
+        return false;
+    const auto& r = link.state.ReplyBuffer;
+    const int lengthField = r[1] & 15;
+    const int n = lengthField - 2;
+    if (n < 1 || (r[2] != kReadFlashConfig && r[2] != kReadActiveConfig) || r[3] != pin || pin > 32) {
+        link.dialogs().message("No valid response");
+        return false;
+    }
+    std::vector<int> bytes(r.begin() + 4, r.begin() + 4 + n);
+    storePinConfigReply(session.config.pin(pin), source, bytes, lengthField);
+    return true;
+}
+
+std::vector<int> pinConfigBytes(const PinRecord& rec, int target)
+{
+    const int value = target == 0 ? rec.OutputValue : rec.P(1);
+    const int mode = rec.ConfigMode;
+    if (mode == kModeServo) {
+        std::vector<int> out{kModeServo, value, rec.P(2) & 63};
+        for (int n = 3; n <= 11; ++n)
+            out.push_back(rec.P(n));
+        return out;
+    }
+    if (mode == kModePwm || mode == kModePwm + 1)
+        return {mode, value, rec.P(2), rec.P(3), rec.P(4), rec.P(5)};
+    if (mode == kModeInput || mode == kModeInput + 1)
+        return {mode, value, rec.P(2), rec.P(3), rec.P(4)};
+    return {kModeNone};
+}
+
+bool SendPinConfig(Session& session, int target, int pin)
+{
+    PinRecord& rec = session.config.pin(pin);
+    if (rec.ConfigMode == kModeServo)
+        rec.P(2) &= 63;
+    const std::vector<int> data = pinConfigBytes(rec, target);
+    std::array<int, 15> message{};
+    message[0] = kSendActiveConfig + 32 * target;
+    message[1] = pin;
+    for (std::size_t i = 0; i < data.size(); ++i)
+        message[2 + i] = data[i];
+    return session.link.SendKestrelMessage(false, static_cast<int>(data.size()) + 2, message);
+}
+
+} // namespace kestrel
