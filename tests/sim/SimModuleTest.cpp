@@ -1,0 +1,338 @@
+#include "SimTestBytes.h"
+#include "sim/SimBus.h"
+
+#include <gtest/gtest.h>
+
+using namespace kestrel::sim;
+using kestrel::sim::test::busRequest;
+using kestrel::sim::test::sumsToZero;
+using Bytes = std::vector<std::uint8_t>;
+
+namespace {
+
+Bytes feed(SimBus& bus, const Bytes& bytes)
+{
+    for (auto b : bytes)
+        bus.write(b);
+    Bytes out;
+    while (bus.available())
+        out.push_back(static_cast<std::uint8_t>(bus.read()));
+    return out;
+}
+
+// Data bytes (7-bit) of a single reply frame without eXtended address; checks framing.
+Bytes replyData(const Bytes& frame)
+{
+    EXPECT_GE(frame.size(), 3u);
+    EXPECT_TRUE(sumsToZero(frame));
+    const int n = frame[1] & 15;
+    EXPECT_EQ(frame.size(), static_cast<std::size_t>(n + 3));
+    Bytes data;
+    for (int i = 0; i < n; ++i)
+        data.push_back(frame[2 + i] & 127);
+    return data;
+}
+
+Bytes ask(SimBus& bus, int address, const std::vector<int>& data)
+{
+    return replyData(feed(bus, busRequest(address, 0, data)));
+}
+
+} // namespace
+
+// ---- framing and addressing ----
+
+TEST(SimModuleFraming, VersionRequestWorkedExample)
+{
+    SimBus bus;
+    bus.addModule(0);
+    // Request Version to address 0 with toggle 64: address byte 67, header 226
+    // (128 + 64 + 32 + size 2), 240 (128 + 112), 128 (item 0), check byte 235.
+    const Bytes reply = feed(bus, {67, 226, 240, 128, 235});
+    // Reply: 67 (toggle echoed), header 128 + 96 + 6 = 230, 112, 0, version 1.2.3.4,
+    // check byte: 67 + 102 + 112 + 0 + 1 + 2 + 3 + 4 = 291 = 2 * 128 + 35, so 93 + 128.
+    EXPECT_EQ(reply, (Bytes{67, 230, 240, 128, 129, 130, 131, 132, 221}));
+}
+
+TEST(SimModuleFraming, WakeUpBurstAndEmptyFrameAreAbsorbed)
+{
+    SimBus bus;
+    SimModule& m = bus.addModule(0);
+    EXPECT_TRUE(feed(bus, {0, 0, 0, 255, 255, 255, 170, 170, 170, 3, 192, 189}).empty());
+    EXPECT_EQ(m.stats().checksumErrors, 0);
+    EXPECT_EQ(feed(bus, {67, 226, 240, 128, 235}).size(), 9u);
+}
+
+TEST(SimModuleFraming, ToggleBitIsEchoed)
+{
+    SimBus bus;
+    bus.addModule(5);
+    EXPECT_EQ(feed(bus, busRequest(5, 64, {112, 0}))[0], 64 + 23);
+    EXPECT_EQ(feed(bus, busRequest(5, 0, {112, 0}))[0], 23);
+}
+
+TEST(SimModuleFraming, AnswersOnlyItsOwnAddress)
+{
+    SimBus bus;
+    bus.addModule(2);
+    bus.addModule(17); // tunnel-only address: 17 * 4 + 3 = 71 would read as address 1 with toggle
+    EXPECT_TRUE(feed(bus, busRequest(0, 0, {112, 0})).empty());
+    EXPECT_TRUE(feed(bus, busRequest(1, 64, {112, 0})).empty());
+    EXPECT_EQ(feed(bus, busRequest(2, 0, {112, 0}))[0], 11);
+}
+
+TEST(SimModuleFraming, WithoutBidirectionalBitWritesApplyButNothingIsSent)
+{
+    SimBus bus;
+    SimModule& m = bus.addModule(0);
+    EXPECT_TRUE(feed(bus, busRequest(0, 0, {96, 6, 5}, false)).empty());
+    EXPECT_EQ(m.memory().greenLed, 5);
+    EXPECT_TRUE(feed(bus, busRequest(0, 0, {112, 6}, false)).empty());
+}
+
+TEST(SimModuleFraming, ExtendedAddressMatchAndMismatch)
+{
+    SimBus bus;
+    bus.addModule(1, 17);
+    bus.addModule(1); // same bus address, no eXtended address
+    const Bytes reply = feed(bus, busRequest(1, 64, {112, 2}, true, 17));
+    // 71, header 128 + 96 + 16 + 3, eXtended address 128 + 17, 112, 2, 17, check.
+    ASSERT_EQ(reply.size(), 7u);
+    EXPECT_EQ(reply[0], 71);
+    EXPECT_EQ(reply[1], 128 + 96 + 16 + 3);
+    EXPECT_EQ(reply[2], 128 + 17);
+    EXPECT_TRUE(sumsToZero(reply));
+    EXPECT_TRUE(feed(bus, busRequest(1, 0, {112, 2}, true, 18)).empty());
+    // Without the byte both modules answer, each with its own frame.
+    EXPECT_EQ(feed(bus, busRequest(1, 0, {112, 0})).size(), 18u);
+}
+
+TEST(SimModuleFraming, WritingItemTwoReaddressesTheModule)
+{
+    SimBus bus;
+    bus.addModule(0, 17);
+    EXPECT_EQ(feed(bus, busRequest(0, 0, {96, 2, 40}, true, 17)).size(), 6u); // acknowledged at 17
+    EXPECT_TRUE(feed(bus, busRequest(0, 0, {112, 0}, true, 17)).empty());
+    EXPECT_FALSE(feed(bus, busRequest(0, 0, {112, 0}, true, 40)).empty());
+}
+
+TEST(SimModuleFraming, BadCheckByteIsDroppedSilently)
+{
+    SimBus bus;
+    SimModule& m = bus.addModule(0);
+    EXPECT_TRUE(feed(bus, {67, 226, 240, 128, 236}).empty());
+    EXPECT_EQ(m.stats().checksumErrors, 1);
+}
+
+TEST(SimModuleFraming, FrameStartInTheMiddleOfAFrameRestarts)
+{
+    SimBus bus;
+    bus.addModule(0);
+    const Bytes reply = feed(bus, {67, 226, 240, /* restart */ 67, 226, 240, 128, 235});
+    EXPECT_EQ(reply.size(), 9u);
+}
+
+TEST(SimModuleFraming, UnknownCommandAndWrongLengthGetNoReply)
+{
+    SimBus bus;
+    bus.addModule(0);
+    EXPECT_TRUE(feed(bus, busRequest(0, 0, {120, 0})).empty());
+    EXPECT_TRUE(feed(bus, busRequest(0, 0, {112, 9})).empty());
+    EXPECT_TRUE(feed(bus, busRequest(0, 0, {114, 3, 1})).empty());
+    EXPECT_TRUE(feed(bus, busRequest(0, 0, {114, 32})).empty());
+}
+
+// ---- general settings ----
+
+TEST(SimModuleGeneral, EveryItemWrittenIsReadBackWithItsLength)
+{
+    struct Case {
+        int item;
+        std::vector<int> data;
+    };
+    const std::vector<Case> cases{{1, {0, 1, 2, 3}}, {2, {33}},     {3, {1, 2, 4, 15}}, {4, {10, 3}},
+                                  {5, {13}},         {6, {127}},    {7, {0}},           {8, {1, 12}},
+                                  {10, {'K', 'e', 's', 't'}}, {11, {5, 10}}, {12, {63, 1}}, {13, {1, 0x4A}}};
+    SimBus bus;
+    bus.addModule(3);
+    for (const auto& c : cases) {
+        std::vector<int> write{96, c.item};
+        write.insert(write.end(), c.data.begin(), c.data.end());
+        EXPECT_EQ(ask(bus, 3, write), (Bytes{96, static_cast<std::uint8_t>(c.item)})) << "item " << c.item;
+        Bytes expected{112, static_cast<std::uint8_t>(c.item)};
+        expected.insert(expected.end(), c.data.begin(), c.data.end());
+        EXPECT_EQ(ask(bus, 3, {112, c.item}), expected) << "item " << c.item;
+    }
+    EXPECT_EQ(bus.module(3)->memory().dccAddress(), 202); // 3 * 64 + 10
+    EXPECT_EQ(bus.module(3)->memory().idString, "Kest");
+}
+
+TEST(SimModuleGeneral, WritesWithTheWrongLengthChangeNothing)
+{
+    SimBus bus;
+    SimModule& m = bus.addModule(0);
+    EXPECT_TRUE(feed(bus, busRequest(0, 0, {96, 1, 1, 2, 3})).empty());
+    EXPECT_TRUE(feed(bus, busRequest(0, 0, {96, 10, 'a', 'b', 'c', 'd', 'e', 'f', 'g', 'h', 'i', 'j', 'k', 'l', 'm'}))
+                    .empty());
+    EXPECT_EQ(m.memory(), m.factoryMemory());
+    EXPECT_EQ(ask(bus, 0, {112, 10}), (Bytes{112, 10})); // empty ID string: length 2
+}
+
+TEST(SimModuleGeneral, EraseNeedsTheConfirmationAndKeepsTheVersion)
+{
+    SimBus bus;
+    SimModule& m = bus.addModule(0, std::nullopt, {3, 1, 0, 9});
+    m.memory().idString = "Yard";
+    m.memory().pins[7].aspectLayout = 3;
+    EXPECT_TRUE(feed(bus, busRequest(0, 0, {96, 0, 61, 17, 92, 8, 33, 70, 15, 45})).empty());
+    EXPECT_EQ(m.memory().idString, "Yard");
+    // As the erase is sent: without the bidirectional bit.
+    EXPECT_TRUE(feed(bus, busRequest(0, 0, {96, 0, 61, 17, 92, 8, 33, 70, 15, 44}, false)).empty());
+    EXPECT_EQ(m.stats().erases, 1);
+    EXPECT_EQ(m.memory().idString, "");
+    EXPECT_EQ(m.memory().pins[7].aspectLayout, 0);
+    EXPECT_EQ(ask(bus, 0, {112, 0}), (Bytes{112, 0, 3, 1, 0, 9}));
+}
+
+// ---- pins ----
+
+TEST(SimModulePins, StepBytesAreKeptByteForByte)
+{
+    SimBus bus;
+    bus.addModule(0);
+    // Instruction 4 with Par1 = 200, Par2 = 5 travels as 1, 72, 5; code 0x13 = 3 faded.
+    EXPECT_EQ(ask(bus, 0, {99, 5, 3, 8, 0x13, 1, 72, 5, 127}), (Bytes{99, 5}));
+    EXPECT_EQ(ask(bus, 0, {99, 5, 11, 2, 0x43, 0, 1, 2, 3}), (Bytes{99, 5}));
+    EXPECT_EQ(ask(bus, 0, {115, 5, 3, 8}), (Bytes{115, 5, 3, 8, 0x13, 1, 72, 5, 127}));
+    EXPECT_EQ(ask(bus, 0, {115, 5, 11, 2}), (Bytes{115, 5, 11, 2, 0x43, 0, 1, 2, 3}));
+    EXPECT_EQ(ask(bus, 0, {115, 5, 0, 0}), (Bytes{115, 5, 0, 0, 0, 0, 0, 0, 0}));
+    EXPECT_TRUE(feed(bus, busRequest(0, 0, {115, 5, 12, 0})).empty());
+    EXPECT_TRUE(feed(bus, busRequest(0, 0, {99, 5, 0, 9, 1, 2, 3, 4, 5})).empty());
+    EXPECT_EQ(ask(bus, 0, {98, 5, 3}), (Bytes{98, 5}));
+    EXPECT_EQ(ask(bus, 0, {114, 5}), (Bytes{114, 5, 3}));
+}
+
+TEST(SimModulePins, AddressConfigurationTagsInAnyOrder)
+{
+    SimBus bus;
+    SimModule& m = bus.addModule(0);
+    // Pin 30, device starting at pin 1: offset (1 - 30) & 31 = 3, sent 64 + 3; the bytes
+    // arrive in an unusual order.
+    EXPECT_EQ(ask(bus, 0, {102, 30, 67, 16 + 4, 8 + 6}), (Bytes{102, 30}));
+    const PinMemory& pin = m.memory().pins[30];
+    EXPECT_EQ(pin.dccCount, 6);
+    EXPECT_TRUE(pin.xdcc);
+    EXPECT_EQ(pin.lynxCount, 4);
+    EXPECT_EQ(pin.deviceOffset, 3);
+    EXPECT_EQ(ask(bus, 0, {118, 30}), (Bytes{118, 30, 14, 20, 67}));
+    m.addressConfigRotation = 1;
+    EXPECT_EQ(ask(bus, 0, {118, 30}), (Bytes{118, 30, 20, 67, 14}));
+    // A byte without a valid tag refuses the whole write.
+    EXPECT_TRUE(feed(bus, busRequest(0, 0, {102, 30, 40, 16, 64})).empty());
+    EXPECT_EQ(m.memory().pins[30].lynxCount, 4);
+}
+
+TEST(SimModulePins, InitialAspectAndEventSlots)
+{
+    SimBus bus;
+    bus.addModule(0);
+    // Factory: no initial aspect (127) and no actions (slot * 16 + 15).
+    EXPECT_EQ(ask(bus, 0, {116, 9}), (Bytes{116, 9, 127, 0x0F, 0x1F, 0x2F, 0x3F}));
+    EXPECT_EQ(ask(bus, 0, {100, 9, 112 + 4}), (Bytes{100, 9}));
+    EXPECT_EQ(ask(bus, 0, {100, 9, 0x05, 0x1F, 0x2B, 0x30}), (Bytes{100, 9}));
+    EXPECT_EQ(ask(bus, 0, {101, 9, 0x0F, 0x11, 0x2F, 0x25}), (Bytes{101, 9}));
+    EXPECT_EQ(ask(bus, 0, {116, 9}), (Bytes{116, 9, 116, 0x05, 0x1F, 0x2B, 0x30}));
+    EXPECT_EQ(ask(bus, 0, {117, 9}), (Bytes{117, 9, 0x0F, 0x11, 0x2F, 0x25}));
+    EXPECT_TRUE(feed(bus, busRequest(0, 0, {100, 9, 0x64})).empty()); // tag 6: refused
+    EXPECT_EQ(ask(bus, 0, {100, 9, 127}), (Bytes{100, 9}));
+    EXPECT_EQ(ask(bus, 0, {116, 9})[2], 127);
+}
+
+TEST(SimModulePins, PinConfigurationPerModeInFlashAndActive)
+{
+    SimBus bus;
+    SimModule& m = bus.addModule(0);
+    const std::vector<int> servo{97, 4, 1, 70, 43, 64, 10, 20, 30, 40, 66, 5, 60, 7};
+    EXPECT_EQ(ask(bus, 0, servo), (Bytes{97, 4}));
+    EXPECT_EQ(ask(bus, 0, {113, 4}), (Bytes{113, 4, 1, 70, 43, 64, 10, 20, 30, 40, 66, 5, 60, 7}));
+    EXPECT_EQ(ask(bus, 0, {81, 4}), (Bytes{81, 4, 0})); // active set untouched by a flash write
+
+    EXPECT_EQ(ask(bus, 0, {65, 4, 3, 12, 1, 9, 0, 31}), (Bytes{65, 4})); // PWM inverted, level 12
+    EXPECT_EQ(ask(bus, 0, {81, 4}), (Bytes{81, 4, 3, 12, 1, 9, 0, 31}));
+    EXPECT_EQ(ask(bus, 0, {0, 54, 4, 25}), (Bytes{0, 54})); // slow PWM level 25
+    EXPECT_EQ(ask(bus, 0, {81, 4}), (Bytes{81, 4, 3, 25, 1, 9, 0, 31}));
+    EXPECT_EQ(m.lastLive.subCommand, 54);
+
+    EXPECT_EQ(ask(bus, 0, {97, 6, 5, 0, 0, 7, 9}), (Bytes{97, 6})); // input, inverted
+    EXPECT_EQ(ask(bus, 0, {113, 6}), (Bytes{113, 6, 5, 0, 0, 7, 9}));
+    EXPECT_EQ(ask(bus, 0, {97, 6, 0}), (Bytes{97, 6})); // unconfigured
+    EXPECT_EQ(ask(bus, 0, {113, 6}), (Bytes{113, 6, 0}));
+
+    EXPECT_EQ(ask(bus, 0, {0, 39, 8, 100}), (Bytes{0, 39})); // servo jump on an unconfigured pin
+    EXPECT_EQ(m.memory().pins[8].outputValue(), 100);
+    EXPECT_TRUE(feed(bus, busRequest(0, 0, {0, 40, 8, 1})).empty()); // not a live sub-command
+}
+
+// ---- fault switches ----
+
+TEST(SimModuleFaults, DropNextRepliesButCarryOutTheRequests)
+{
+    SimBus bus;
+    SimModule& m = bus.addModule(0);
+    m.faults.dropReplies = 2;
+    EXPECT_TRUE(feed(bus, busRequest(0, 0, {96, 5, 3})).empty());
+    EXPECT_TRUE(feed(bus, busRequest(0, 64, {112, 5})).empty());
+    EXPECT_EQ(m.memory().dccOptions, 3);
+    EXPECT_EQ(ask(bus, 0, {112, 5}), (Bytes{112, 5, 3}));
+    EXPECT_EQ(m.stats().repliesDropped, 2);
+}
+
+TEST(SimModuleFaults, CorruptedCopyBeforeTheGoodOne)
+{
+    SimBus bus;
+    SimModule& m = bus.addModule(0);
+    m.faults.corruptCopies = 1;
+    const Bytes out = feed(bus, {67, 226, 240, 128, 235});
+    ASSERT_EQ(out.size(), 18u);
+    const Bytes bad(out.begin(), out.begin() + 9), good(out.begin() + 9, out.end());
+    EXPECT_FALSE(sumsToZero(bad));
+    EXPECT_GE(bad.back(), 128);
+    EXPECT_EQ(good, (Bytes{67, 230, 240, 128, 129, 130, 131, 132, 221}));
+    EXPECT_EQ(feed(bus, {67, 226, 240, 128, 235}).size(), 9u); // only the next one
+}
+
+TEST(SimModuleFaults, GarbageBeforeEveryFrame)
+{
+    SimBus bus;
+    SimModule& m = bus.addModule(0);
+    m.faults.garbage = {0xAA, 0x05};
+    const Bytes out = feed(bus, {67, 226, 240, 128, 235});
+    ASSERT_EQ(out.size(), 11u);
+    EXPECT_EQ(out[0], 0xAA);
+    EXPECT_EQ(out[1], 0x85); // bit 7 forced: garbage never starts a frame
+    EXPECT_EQ(out[2], 67);
+}
+
+TEST(SimModuleFaults, RefusedCommands)
+{
+    SimBus bus;
+    SimModule& m = bus.addModule(0);
+    m.faults.refuse(116, Refusal::NoReply);
+    m.faults.refuse(117, Refusal::WrongEcho);
+    m.faults.refuse(112, Refusal::WrongLength, 0);
+    EXPECT_TRUE(feed(bus, busRequest(0, 0, {116, 1})).empty());
+    EXPECT_EQ(ask(bus, 0, {117, 1}), (Bytes{118, 1, 0x0F, 0x1F, 0x2F, 0x3F}));
+    EXPECT_EQ(ask(bus, 0, {112, 0}), (Bytes{112, 0, 1, 2, 3, 4, 0}));
+    EXPECT_EQ(ask(bus, 0, {112, 5}), (Bytes{112, 5, 0})); // other items unaffected
+}
+
+TEST(SimModuleFaults, AnswerAsAnotherAddress)
+{
+    SimBus bus;
+    SimModule& m = bus.addModule(0);
+    m.faults.answerAs = 4;
+    const Bytes out = feed(bus, {67, 226, 240, 128, 235});
+    ASSERT_EQ(out.size(), 9u);
+    EXPECT_EQ(out[0], 64 + 19);
+    EXPECT_TRUE(sumsToZero(out));
+}
