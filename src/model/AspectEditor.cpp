@@ -46,6 +46,7 @@ RowEdit makeRow(Configuration& config, int row, bool visible)
     const NormalisedStep n = normaliseStep(step);
     RowEdit out;
     out.headings = n.headings;
+    out.row.instruction = step.Instruction;
     out.row.listIndex = InstructionTable::instance().listIndexOf(step.Instruction);
     out.row.fadeChecked = step.Fade != 0;
     out.row.fadeVisible = n.fadeVisible;

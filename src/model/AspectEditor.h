@@ -20,6 +20,7 @@ constexpr int kStepRows = 9; // step rows 0..8 of the page
 
 // One step row as shown.
 struct StepRowView {
+    int instruction = 0;                  // the step's instruction code
     int listIndex = 0;                    // item to select in the row's instruction list
     bool fadeChecked = false;
     bool fadeVisible = false;

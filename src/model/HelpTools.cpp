@@ -81,6 +81,7 @@ void PatternTool::open(const StepRecord& step)
     const InstructionInfo& info = instructionInfo(step.Instruction);
     if (info.HelpTool < 1 || info.HelpTool > 7)
         throw ProgramFault("pattern tool opened for instruction " + std::to_string(step.Instruction));
+    opened = step;
     outputCount = info.HelpTool;
     const int shown = step.Par1 + info.Par1Shift;
     // Bits 5 and 6 are outputs +5 and +6 where the instruction has them, else the
@@ -188,6 +189,7 @@ EventPatternTool::Choice EventPatternTool::decode(int value)
 
 void EventPatternTool::open(const StepRecord& step)
 {
+    opened = step;
     current = decode(step.Par1);
     original = std::to_string(step.Par1);
     parameter = original;

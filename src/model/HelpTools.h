@@ -68,12 +68,14 @@ public:
     const std::string& parameterText() const { return parameter; }
     const std::string& originalText() const { return original; }
     void setParameterText(const std::string& typed) { parameter = typed; }
-    void cancel() { parameter = original; }
+    // Cancel: txtParameter and the boxes show the original value again.
+    void cancel() { open(opened); }
     // OK: Par1 = txtParameter - Par1Shift, kept within the instruction's Par1 range.
     void apply(StepRecord& step) const;
 
 private:
     void recompute();
+    StepRecord opened;
     int outputCount = 0;
     std::array<bool, 7> checks{};
     bool allDarkChecked = false;
@@ -112,11 +114,13 @@ public:
     const Choice& choice() const { return current; }
     const std::string& parameterText() const { return parameter; }
     const std::string& originalText() const { return original; }
-    void cancel() { parameter = original; }
+    // Cancel: txtParameter and the boxes show the original value again.
+    void cancel() { open(opened); }
     // OK: Par1 = txtParameter, kept within 0..127.
     void apply(StepRecord& step) const;
 
 private:
+    StepRecord opened;
     Choice current;
     std::string parameter;
     std::string original;

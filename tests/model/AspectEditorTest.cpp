@@ -1,0 +1,287 @@
+#include "link/ProgramFault.h"
+#include "model/AspectEditor.h"
+#include "model/InstructionSet.h"
+#include "support/RecordingDialogs.h"
+
+#include <gtest/gtest.h>
+
+using namespace kestrel;
+
+namespace {
+
+StepRecord mark(int n)
+{
+    return StepRecord{9, 0, static_cast<std::uint8_t>(n), static_cast<std::uint8_t>(n), 0, 0};
+}
+
+// Fills steps 0..9 of the selected aspect with distinct "On" steps (Par0 = Par1 = step).
+AspectRecord& filledAspect(Configuration& c)
+{
+    AspectRecord& a = c.Pins[c.CurrentPin].Aspects[c.CurrentAspect];
+    for (int s = 0; s < kStepRecords; ++s)
+        a.Steps[s] = mark(s);
+    return a;
+}
+
+} // namespace
+
+TEST(AspectEditor, ShowAspectFillsThePage)
+{
+    Configuration c;
+    c.NumberingBase = 1;
+    c.CurrentPin = 4;
+    c.CurrentAspect = 1;
+    PinRecord& p = c.Pins[4];
+    p.Description = "Home signal";
+    p.DeviceOffset = -2;
+    c.Pins[2].DeviceDescription = "Entry";
+    p.InitAspect = 0;
+    p.DccCount = 3;
+    p.LynxCount = 1;
+    p.AspectLayout = 2;
+    p.Aspects[1].Description = "Clear";
+    p.Aspects[1].Steps[0] = {102, 1, 5, 0, 63, 3}; // fade and Par0 are dropped
+    p.Aspects[1].Steps[1] = {50, 0, 0, 0, 0, 0};   // no instruction: "-" selected
+    p.Aspects[1].Steps[8] = {9, 0, 0, 0, 0, 0};
+
+    const AspectView v = ShowAspect(c);
+    EXPECT_EQ(v.pinText, "5");
+    EXPECT_EQ(v.pinDescription, "Home signal");
+    EXPECT_EQ(v.devicePin, "3");
+    EXPECT_EQ(v.deviceDescription, "Entry");
+    EXPECT_FALSE(v.deviceDescriptionEnabled);
+    EXPECT_EQ(v.aspectText, "1");
+    EXPECT_EQ(v.aspectDescription, "Clear");
+    EXPECT_EQ(v.initText, "-1");
+    EXPECT_EQ(v.dccCount + v.xdccCount + v.lynxCount, "301");
+    EXPECT_EQ(p.Aspects[1].Steps[0], (StepRecord{102, 0, 0, 0, 63, 3}));
+    EXPECT_EQ(InstructionTable::instance().list()[v.rows[0].listIndex].name, "Wait");
+    EXPECT_EQ(v.rows[0].timeText, "10:45.12");
+    EXPECT_EQ(v.rows[1].listIndex, 0);
+    EXPECT_EQ(v.rows[1].instruction, 50);
+    EXPECT_EQ(v.rows[0].parameters[2].text, "63");
+    EXPECT_FALSE(v.rows[0].parameters[0].used);
+    // the headings are those of the row normalised last, row 8
+    EXPECT_EQ(v.headings, (std::array<std::string, 4>{"P.O.", "T(/60)", "", ""}));
+    EXPECT_EQ(v.layout.option, 2);
+    EXPECT_TRUE(v.layout.aspectControlsVisible);
+    EXPECT_EQ(v.layout.aspectMaximum, 11);
+    EXPECT_TRUE(v.layout.rowVisible[2]);
+    EXPECT_FALSE(v.layout.rowVisible[3]);
+    EXPECT_EQ(v.rows[8].timeText, ""); // hidden row
+
+    p.InitAspect = 12;
+    EXPECT_EQ(ShowAspect(c).initText, "11");
+    setDeviceDescription(c, "ignored");
+    EXPECT_EQ(p.DeviceDescription, "");
+}
+
+TEST(AspectEditor, LayoutChanges)
+{
+    Configuration c;
+    c.CurrentPin = 2;
+    PinRecord& p = c.Pins[2];
+    p.AspectLayout = 2;
+    c.CurrentAspect = 7;
+    p.InitAspect = 10; // initial aspect 9
+    const AspectView four = changeLayout(c, 1);
+    EXPECT_EQ(p.AspectLayout, 3);
+    EXPECT_EQ(c.CurrentAspect, 3);
+    EXPECT_EQ(four.aspectText, "3");
+    EXPECT_EQ(p.InitAspect, 0);
+    EXPECT_EQ(four.initText, "-1");
+    EXPECT_EQ(four.layout.aspectMaximum, 3);
+    EXPECT_TRUE(four.layout.rowVisible[8]);
+
+    const AspectView none = changeLayout(c, 0);
+    EXPECT_EQ(p.AspectLayout, 0);
+    EXPECT_FALSE(none.layout.aspectControlsVisible);
+    EXPECT_FALSE(none.layout.rowVisible[0]);
+
+    p.AspectLayout = 1; // shown as option 0 and stored as 0
+    const AspectView one = ShowAspect(c);
+    EXPECT_EQ(one.layout.option, 0);
+    EXPECT_EQ(p.AspectLayout, 0);
+    EXPECT_THROW(changeLayout(c, 3), ProgramFault);
+}
+
+TEST(AspectEditor, SelectorsClamp)
+{
+    Configuration c;
+    c.NumberingBase = 1;
+    EXPECT_EQ(selectPin(c, "0").text, "1");
+    EXPECT_EQ(c.CurrentPin, 0);
+    const Selection last = selectPin(c, "40");
+    EXPECT_EQ(last.text, "32");
+    EXPECT_EQ(c.CurrentPin, 31);
+    EXPECT_EQ(last.view.pinText, "32");
+    EXPECT_EQ(selectPin(c, "7").text, "7");
+    EXPECT_EQ(c.CurrentPin, 6);
+
+    c.Pins[6].AspectLayout = 3;
+    EXPECT_EQ(selectAspect(c, "9").text, "3");
+    EXPECT_EQ(c.CurrentAspect, 3);
+    EXPECT_EQ(selectAspect(c, "-4").text, "0");
+    EXPECT_EQ(setInitAspect(c, "-5"), "-1");
+    EXPECT_EQ(c.Pins[6].InitAspect, 0);
+    EXPECT_EQ(setInitAspect(c, "8"), "3");
+    EXPECT_EQ(c.Pins[6].InitAspect, 4);
+    c.Pins[6].AspectLayout = 2;
+    EXPECT_EQ(setInitAspect(c, "11"), "11");
+    EXPECT_EQ(c.Pins[6].InitAspect, 12);
+
+    EXPECT_EQ(setAddressCount(c, AddressKind::Dcc, "9"), "7");
+    EXPECT_EQ(setAddressCount(c, AddressKind::XDcc, "3"), "1");
+    EXPECT_EQ(setAddressCount(c, AddressKind::Lynx, "2"), "2");
+    EXPECT_EQ(c.DccFirstIndex[7], 7);
+    EXPECT_EQ(c.XDccTotal, 1);
+    EXPECT_EQ(c.LynxFirstIndex[6], 0);
+    EXPECT_EQ(c.LynxTotal, 2);
+
+    // a count whose sum would overflow is put back
+    c.Pins[32].DccCount = 250;
+    EXPECT_THROW(setAddressCount(c, AddressKind::Dcc, "6"), ProgramFault);
+    EXPECT_EQ(c.Pins[6].DccCount, 7);
+}
+
+TEST(AspectEditor, RowEdits)
+{
+    Configuration c;
+    c.CurrentPin = 30;
+    c.Pins[30].AspectLayout = 3;
+    const RowEdit wait = setInstruction(c, 4, 102);
+    EXPECT_EQ(wait.headings, (std::array<std::string, 4>{"", "", "Time", "Base"}));
+    EXPECT_FALSE(wait.row.fadeVisible);
+    const ParameterEdit time = setParameter(c, 4, 2, "70");
+    EXPECT_EQ(time.text, "63");
+    EXPECT_EQ(time.timeText, "00:01.26");
+    EXPECT_EQ(setParameter(c, 4, 3, "1").timeText, "00:10.08");
+
+    setInstruction(c, 0, 9);
+    EXPECT_EQ(setParameter(c, 0, 0, "5").text, "1");
+    const RowEdit faded = setFade(c, 0, true);
+    EXPECT_TRUE(faded.row.fadeChecked);
+    EXPECT_EQ(faded.row.fadeCaption, "Fade");
+    EXPECT_EQ(c.Pins[30].Aspects[0].Steps[0], (StepRecord{9, 1, 1, 0, 0, 0}));
+    EXPECT_FALSE(setInstruction(c, 0, 96).row.fadeChecked); // no fade for this one
+    EXPECT_THROW(setInstruction(c, 9, 9), ProgramFault);
+}
+
+TEST(AspectEditor, StepToolInsertAndDelete)
+{
+    Configuration c;
+    c.CurrentPin = 1;
+    c.CurrentAspect = 2;
+    c.Pins[1].AspectLayout = 2;
+
+    AspectRecord& a = filledAspect(c);
+    selectStepRow(c, 0);
+    insertStep(c);
+    EXPECT_EQ(a.Steps[0], StepRecord{});
+    EXPECT_EQ(a.Steps[1], mark(0));
+    EXPECT_EQ(a.Steps[2], mark(1)); // old row 2 is lost
+    for (int s = 3; s < kStepRecords; ++s)
+        EXPECT_EQ(a.Steps[s], mark(s));
+
+    filledAspect(c);
+    selectStepRow(c, 2);
+    insertStep(c);
+    EXPECT_EQ(a.Steps[1], mark(1));
+    EXPECT_EQ(a.Steps[2], StepRecord{});
+    EXPECT_EQ(a.Steps[3], mark(3));
+
+    filledAspect(c);
+    selectStepRow(c, 0);
+    deleteStep(c);
+    EXPECT_EQ(a.Steps[0], mark(1));
+    EXPECT_EQ(a.Steps[1], mark(2));
+    EXPECT_EQ(a.Steps[2], StepRecord{});
+    EXPECT_EQ(a.Steps[3], mark(3));
+
+    c.Pins[1].AspectLayout = 3;
+    filledAspect(c);
+    selectStepRow(c, 8);
+    deleteStep(c); // only row 8 is cleared
+    for (int s = 0; s < 8; ++s)
+        EXPECT_EQ(a.Steps[s], mark(s));
+    EXPECT_EQ(a.Steps[8], StepRecord{});
+    EXPECT_EQ(a.Steps[9], mark(9));
+
+    filledAspect(c);
+    selectStepRow(c, 0);
+    insertStep(c);
+    EXPECT_EQ(a.Steps[8], mark(7));
+    EXPECT_EQ(a.Steps[9], mark(9));
+
+    filledAspect(c);
+    selectStepRow(c, 3);
+    deleteStep(c);
+    EXPECT_EQ(a.Steps[2], mark(2));
+    EXPECT_EQ(a.Steps[3], mark(4));
+    EXPECT_EQ(a.Steps[7], mark(8));
+    EXPECT_EQ(a.Steps[8], StepRecord{});
+    EXPECT_THROW(selectStepRow(c, 9), ProgramFault);
+}
+
+TEST(AspectEditor, AspectTool)
+{
+    Configuration c;
+    test::RecordingDialogs dialogs;
+    AspectTool tool;
+    c.CurrentAspect = 1;
+    EXPECT_FALSE(tool.paste(c, dialogs));
+    EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"Nothing to Paste"});
+
+    AspectRecord& a = c.Pins[0].Aspects[1];
+    a.Description = "Stop";
+    a.Steps[0] = {9, 1, 2, 3, 0, 0};  // "On"
+    a.Steps[1] = {0, 1, 4, 5, 6, 1};  // "-" with leftovers
+    a.Steps[2] = {8, 0, 7, 8, 0, 0};  // "Off"
+    a.Steps[9] = {8, 0, 7, 8, 0, 0};
+    tool.copy(c);
+    c.CurrentAspect = 5;
+    EXPECT_TRUE(tool.paste(c, dialogs));
+    EXPECT_EQ(c.Pins[0].Aspects[5], a);
+
+    c.CurrentAspect = 1;
+    tool.clean(c);
+    EXPECT_EQ(a.Description, "");
+    EXPECT_EQ(a.AspectMark, -1);
+    EXPECT_EQ(a.Steps[0], (StepRecord{9, 1, 2, 3, 0, 0}));
+    EXPECT_EQ(a.Steps[1], StepRecord{});
+    EXPECT_EQ(a.Steps[2], StepRecord{});
+
+    c.CurrentAspect = 5;
+    tool.clear(c);
+    for (int s = 0; s <= 8; ++s)
+        EXPECT_EQ(c.Pins[0].Aspects[5].Steps[s], StepRecord{});
+    EXPECT_EQ(c.Pins[0].Aspects[5].Steps[9], (StepRecord{8, 0, 7, 8, 0, 0}));
+    EXPECT_EQ(c.Pins[0].Aspects[5].AspectMark, -1);
+}
+
+TEST(AspectEditor, NumberingAndHelpDecision)
+{
+    Configuration c;
+    c.CurrentPin = 9;
+    NumberingView on = setNumbering(c, true);
+    EXPECT_EQ(on.legend, "Pin       1..8         9..16      17..24       25..32");
+    EXPECT_EQ(on.pinMinimum, 1);
+    EXPECT_EQ(on.pinMaximum, 32);
+    EXPECT_EQ(on.view.pinText, "10");
+    NumberingView off = setNumbering(c, false);
+    EXPECT_EQ(off.legend, "Pin       0..7         8..15      16..23       24..31");
+    EXPECT_EQ(off.view.pinText, "9");
+    EXPECT_EQ(c.NumberingBase, 0);
+
+    test::RecordingDialogs dialogs;
+    EXPECT_EQ(helpToolFor({102, 0, 0, 0, 0, 0}, HelpBox::Time, dialogs), HelpToolKind::Time);
+    EXPECT_EQ(helpToolFor({120, 0, 0, 0, 0, 0}, HelpBox::Par3, dialogs), HelpToolKind::Time);
+    EXPECT_EQ(helpToolFor({13, 0, 0, 0, 0, 0}, HelpBox::Par1, dialogs), HelpToolKind::Pattern);
+    EXPECT_EQ(helpToolFor({37, 0, 0, 0, 0, 0}, HelpBox::Par1, dialogs), HelpToolKind::Pattern);
+    EXPECT_EQ(helpToolFor({16, 0, 0, 0, 0, 0}, HelpBox::Par1, dialogs), HelpToolKind::EventPattern);
+    EXPECT_TRUE(dialogs.messages.empty());
+    EXPECT_EQ(helpToolFor({102, 0, 0, 0, 0, 0}, HelpBox::Par1, dialogs), HelpToolKind::None);
+    EXPECT_EQ(helpToolFor({13, 0, 0, 0, 0, 0}, HelpBox::Par2, dialogs), HelpToolKind::None);
+    EXPECT_EQ(dialogs.texts(), (std::vector<std::string>{"Help tool not available for this box with the selected command",
+                                                         "Help tool not available for this box with the selected command"}));
+}

@@ -1,0 +1,106 @@
+#include "link/ProgramFault.h"
+#include "model/PinTools.h"
+#include "support/RecordingDialogs.h"
+
+#include <gtest/gtest.h>
+
+using namespace kestrel;
+
+TEST(PinTools, DeviceHeadLookup)
+{
+    Configuration c;
+    c.Pins[0].DeviceDescription = "Signal";
+    c.Pins[3].DeviceOffset = -3;
+    c.Pins[4].DeviceOffset = -1; // refers to pin 3, which is a member itself
+    c.Pins[31].DeviceDescription = "Wrap";
+    c.Pins[1].DeviceOffset = 30;
+    EXPECT_EQ(deviceHead(c, 3), 0);
+    EXPECT_EQ(deviceDescriptionText(c, 3), "Signal");
+    EXPECT_EQ(deviceHead(c, 4), 3);
+    EXPECT_EQ(deviceDescriptionText(c, 4), "<Referral is no Device !>");
+    EXPECT_EQ(deviceDescriptionText(c, 1), "Wrap");
+    EXPECT_EQ(deviceDescriptionText(c, 0), "Signal");
+    c.Pins[2].DeviceOffset = 31; // head 33 is no record
+    EXPECT_THROW(deviceHead(c, 2), ProgramFault);
+    c.Pins[2].DeviceOffset = -3;
+    EXPECT_THROW(deviceHead(c, 2), ProgramFault);
+}
+
+TEST(PinTools, ClearLeavesStepNineAndAspectTwelve)
+{
+    Configuration c;
+    PinRecord& p = c.Pins[6];
+    p.Description = "pin";
+    p.DeviceDescription = "dev";
+    p.DeviceOffset = -2;
+    p.InitAspect = 4;
+    p.AspectLayout = 3;
+    p.ConfigMode = 1;
+    p.ConfigParams.fill(9);
+    p.DccCount = 2;
+    for (auto& a : p.Aspects) {
+        a.Description = "asp";
+        for (auto& s : a.Steps)
+            s = StepRecord{9, 1, 2, 3, 4, 5};
+    }
+    clearPin(c, 6);
+    EXPECT_EQ(p.Description, "");
+    EXPECT_EQ(p.DeviceDescription, "");
+    EXPECT_EQ(p.DeviceOffset, 0);
+    EXPECT_EQ(p.InitAspect, 0);
+    EXPECT_EQ(p.AspectLayout, 0);
+    EXPECT_EQ(p.ConfigMode, 0);
+    EXPECT_EQ(p.P(12), 0);
+    EXPECT_EQ(p.PinMarkA, -1);
+    EXPECT_EQ(p.PinMarkB, -1);
+    EXPECT_EQ(p.PinMarkC, -1);
+    EXPECT_EQ(p.DccCount, 2); // counts are not part of clearing
+    for (int a = 0; a < 12; ++a) {
+        EXPECT_EQ(p.Aspects[a].Description, "");
+        EXPECT_EQ(p.Aspects[a].AspectMark, -1);
+        for (int s = 0; s <= 8; ++s)
+            EXPECT_EQ(p.Aspects[a].Steps[s], StepRecord{});
+        EXPECT_EQ(p.Aspects[a].Steps[9], (StepRecord{9, 1, 2, 3, 4, 5}));
+    }
+    EXPECT_EQ(p.Aspects[12].Description, "asp");
+    EXPECT_EQ(p.Aspects[12].AspectMark, 0);
+    EXPECT_EQ(p.Aspects[12].Steps[0], (StepRecord{9, 1, 2, 3, 4, 5}));
+    EXPECT_EQ(c.Pins[5], PinRecord{});
+    EXPECT_EQ(c.Pins[7], PinRecord{});
+}
+
+TEST(PinTools, CopyPasteReaimsDeviceOffset)
+{
+    Configuration c;
+    test::RecordingDialogs dialogs;
+    PinTool tool;
+    c.CurrentPin = 4;
+    EXPECT_FALSE(tool.paste(c, dialogs));
+    EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"Nothing to Paste"});
+    EXPECT_EQ(c.Pins[4], PinRecord{});
+
+    c.Pins[3].Description = "member";
+    c.Pins[3].DeviceOffset = -3;
+    c.Pins[3].Aspects[2].Steps[1] = {9, 0, 1, 0, 0, 0};
+    c.CurrentPin = 3;
+    tool.copy(c);
+    c.CurrentPin = 5;
+    EXPECT_TRUE(tool.paste(c, dialogs));
+    EXPECT_EQ(c.Pins[5].DeviceOffset, -5); // still pin 0
+    EXPECT_EQ(deviceHead(c, 5), 0);
+    EXPECT_EQ(c.Pins[5].Description, "member");
+    EXPECT_EQ(c.Pins[5].Aspects[2].Steps[1], (StepRecord{9, 0, 1, 0, 0, 0}));
+
+    // a head stays a head wherever it is pasted
+    c.Pins[10].DeviceDescription = "Head";
+    c.CurrentPin = 10;
+    tool.copy(c);
+    c.CurrentPin = 20;
+    EXPECT_TRUE(tool.paste(c, dialogs));
+    EXPECT_EQ(c.Pins[20].DeviceOffset, 0);
+    EXPECT_EQ(c.Pins[20].DeviceDescription, "Head");
+
+    tool.clear(c);
+    EXPECT_EQ(c.Pins[20].DeviceDescription, "");
+    EXPECT_EQ(dialogs.messages.size(), 1u);
+}
