@@ -1,12 +1,11 @@
-#include "link/ProgramFault.h"
 #include "model/AddressIndex.h"
+#include "link/ProgramFault.h"
 
 #include <gtest/gtest.h>
 
 using namespace kestrel;
 
-TEST(AddressIndex, RunningSumsOverAllRecords)
-{
+TEST(AddressIndex, RunningSumsOverAllRecords) {
     Configuration c;
     c.Pins[0].DccCount = 2;
     c.Pins[1].DccCount = 0;
@@ -35,14 +34,13 @@ TEST(AddressIndex, RunningSumsOverAllRecords)
     EXPECT_EQ(c.DccTotal, 10);
 }
 
-TEST(AddressIndex, OverflowThrowsAndKeepsNoPartialResult)
-{
+TEST(AddressIndex, OverflowThrowsAndKeepsNoPartialResult) {
     Configuration c;
     c.Pins[0].DccCount = 1;
     c.Pins[0].LynxCount = 3;
     RecalcAddressIndex(c);
 
-    for (auto& p : c.Pins)
+    for (auto &p : c.Pins)
         p.LynxCount = 8; // 33 x 8 = 264
     c.Pins[1].DccCount = 5;
     EXPECT_THROW(RecalcLynxAddressIndex(c), ProgramFault);
@@ -54,7 +52,7 @@ TEST(AddressIndex, OverflowThrowsAndKeepsNoPartialResult)
     EXPECT_EQ(c.DccTotal, 1); // not rebuilt either
 
     // 255 is still a byte
-    for (auto& p : c.Pins)
+    for (auto &p : c.Pins)
         p.LynxCount = 0;
     c.Pins[32].LynxCount = 255;
     c.Pins[0].LynxCount = 0;

@@ -1,5 +1,5 @@
-#include "link/ProgramFault.h"
 #include "model/AspectEditor.h"
+#include "link/ProgramFault.h"
 #include "model/InstructionSet.h"
 #include "support/RecordingDialogs.h"
 
@@ -9,15 +9,13 @@ using namespace kestrel;
 
 namespace {
 
-StepRecord mark(int n)
-{
+StepRecord mark(int n) {
     return StepRecord{9, 0, static_cast<std::uint8_t>(n), static_cast<std::uint8_t>(n), 0, 0};
 }
 
 // Fills steps 0..9 of the selected aspect with distinct "On" steps (Par0 = Par1 = step).
-AspectRecord& filledAspect(Configuration& c)
-{
-    AspectRecord& a = c.Pins[c.CurrentPin].Aspects[c.CurrentAspect];
+AspectRecord &filledAspect(Configuration &c) {
+    AspectRecord &a = c.Pins[c.CurrentPin].Aspects[c.CurrentAspect];
     for (int s = 0; s < kStepRecords; ++s)
         a.Steps[s] = mark(s);
     return a;
@@ -25,13 +23,12 @@ AspectRecord& filledAspect(Configuration& c)
 
 } // namespace
 
-TEST(AspectEditor, ShowAspectFillsThePage)
-{
+TEST(AspectEditor, ShowAspectFillsThePage) {
     Configuration c;
     c.NumberingBase = 1;
     c.CurrentPin = 4;
     c.CurrentAspect = 1;
-    PinRecord& p = c.Pins[4];
+    PinRecord &p = c.Pins[4];
     p.Description = "Home signal";
     p.DeviceOffset = -2;
     c.Pins[2].DeviceDescription = "Entry";
@@ -76,11 +73,10 @@ TEST(AspectEditor, ShowAspectFillsThePage)
     EXPECT_EQ(p.DeviceDescription, "");
 }
 
-TEST(AspectEditor, LayoutChanges)
-{
+TEST(AspectEditor, LayoutChanges) {
     Configuration c;
     c.CurrentPin = 2;
-    PinRecord& p = c.Pins[2];
+    PinRecord &p = c.Pins[2];
     p.AspectLayout = 2;
     c.CurrentAspect = 7;
     p.InitAspect = 10; // initial aspect 9
@@ -105,8 +101,7 @@ TEST(AspectEditor, LayoutChanges)
     EXPECT_THROW(changeLayout(c, 3), ProgramFault);
 }
 
-TEST(AspectEditor, SelectorsClamp)
-{
+TEST(AspectEditor, SelectorsClamp) {
     Configuration c;
     c.NumberingBase = 1;
     EXPECT_EQ(selectPin(c, "0").text, "1");
@@ -144,8 +139,7 @@ TEST(AspectEditor, SelectorsClamp)
     EXPECT_EQ(c.Pins[6].DccCount, 7);
 }
 
-TEST(AspectEditor, RowEdits)
-{
+TEST(AspectEditor, RowEdits) {
     Configuration c;
     c.CurrentPin = 30;
     c.Pins[30].AspectLayout = 3;
@@ -167,14 +161,13 @@ TEST(AspectEditor, RowEdits)
     EXPECT_THROW(setInstruction(c, 9, 9), ProgramFault);
 }
 
-TEST(AspectEditor, StepToolInsertAndDelete)
-{
+TEST(AspectEditor, StepToolInsertAndDelete) {
     Configuration c;
     c.CurrentPin = 1;
     c.CurrentAspect = 2;
     c.Pins[1].AspectLayout = 2;
 
-    AspectRecord& a = filledAspect(c);
+    AspectRecord &a = filledAspect(c);
     selectStepRow(c, 0);
     insertStep(c);
     EXPECT_EQ(a.Steps[0], StepRecord{});
@@ -223,8 +216,7 @@ TEST(AspectEditor, StepToolInsertAndDelete)
     EXPECT_THROW(selectStepRow(c, 9), ProgramFault);
 }
 
-TEST(AspectEditor, AspectTool)
-{
+TEST(AspectEditor, AspectTool) {
     Configuration c;
     test::RecordingDialogs dialogs;
     AspectTool tool;
@@ -232,11 +224,11 @@ TEST(AspectEditor, AspectTool)
     EXPECT_FALSE(tool.paste(c, dialogs));
     EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"Nothing to Paste"});
 
-    AspectRecord& a = c.Pins[0].Aspects[1];
+    AspectRecord &a = c.Pins[0].Aspects[1];
     a.Description = "Stop";
-    a.Steps[0] = {9, 1, 2, 3, 0, 0};  // "On"
-    a.Steps[1] = {0, 1, 4, 5, 6, 1};  // "-" with leftovers
-    a.Steps[2] = {8, 0, 7, 8, 0, 0};  // "Off"
+    a.Steps[0] = {9, 1, 2, 3, 0, 0}; // "On"
+    a.Steps[1] = {0, 1, 4, 5, 6, 1}; // "-" with leftovers
+    a.Steps[2] = {8, 0, 7, 8, 0, 0}; // "Off"
     a.Steps[9] = {8, 0, 7, 8, 0, 0};
     tool.copy(c);
     c.CurrentAspect = 5;
@@ -259,8 +251,7 @@ TEST(AspectEditor, AspectTool)
     EXPECT_EQ(c.Pins[0].Aspects[5].AspectMark, -1);
 }
 
-TEST(AspectEditor, NumberingAndHelpDecision)
-{
+TEST(AspectEditor, NumberingAndHelpDecision) {
     Configuration c;
     c.CurrentPin = 9;
     NumberingView on = setNumbering(c, true);
@@ -282,6 +273,7 @@ TEST(AspectEditor, NumberingAndHelpDecision)
     EXPECT_TRUE(dialogs.messages.empty());
     EXPECT_EQ(helpToolFor({102, 0, 0, 0, 0, 0}, HelpBox::Par1, dialogs), HelpToolKind::None);
     EXPECT_EQ(helpToolFor({13, 0, 0, 0, 0, 0}, HelpBox::Par2, dialogs), HelpToolKind::None);
-    EXPECT_EQ(dialogs.texts(), (std::vector<std::string>{"Help tool not available for this box with the selected command",
-                                                         "Help tool not available for this box with the selected command"}));
+    EXPECT_EQ(dialogs.texts(),
+              (std::vector<std::string>{"Help tool not available for this box with the selected command",
+                                        "Help tool not available for this box with the selected command"}));
 }

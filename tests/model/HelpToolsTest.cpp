@@ -1,13 +1,12 @@
-#include "link/ProgramFault.h"
 #include "model/HelpTools.h"
+#include "link/ProgramFault.h"
 
 #include <gtest/gtest.h>
 #include <set>
 
 using namespace kestrel;
 
-TEST(HelpTools, TimeTool)
-{
+TEST(HelpTools, TimeTool) {
     TimeTool t;
     EXPECT_EQ(t.maxTimeText(), "00:00.00");
     EXPECT_EQ(t.timeText(), "00:00.00");
@@ -33,8 +32,7 @@ TEST(HelpTools, TimeTool)
     EXPECT_EQ(target, (StepRecord{102, 0, 0, 0, 10, 2}));
 }
 
-TEST(HelpTools, PatternTool)
-{
+TEST(HelpTools, PatternTool) {
     PatternTool t;
     StepRecord step{15, 0, 0, 3, 0, 0}; // "Multibit 5", pattern 3
     t.open(step);
@@ -79,8 +77,7 @@ TEST(HelpTools, PatternTool)
     EXPECT_THROW(t.open({9, 0, 0, 0, 0, 0}), ProgramFault);
 }
 
-TEST(HelpTools, EventPatternRoundTripsEveryValue)
-{
+TEST(HelpTools, EventPatternRoundTripsEveryValue) {
     std::set<int> seen;
     for (int events = 0; events < 16; ++events)
         for (int option = -1; option < 6; ++option) {
@@ -119,8 +116,7 @@ TEST(HelpTools, EventPatternRoundTripsEveryValue)
     EXPECT_THROW(t.setOption(6), ProgramFault);
 }
 
-TEST(HelpTools, LevelTool)
-{
+TEST(HelpTools, LevelTool) {
     LevelTool t;
     t.open(37);
     EXPECT_EQ(t.level(), 2);
@@ -136,7 +132,7 @@ TEST(HelpTools, LevelTool)
     EXPECT_EQ(t.levelText() + "/" + t.timeIndexText(), "1/2");
     EXPECT_EQ(t.setLevelText("20"), "7");
     EXPECT_EQ(t.timeIndex(), 2);
-    const auto& table = LevelTool::delayTable();
+    const auto &table = LevelTool::delayTable();
     for (std::size_t i = 1; i < table.size(); ++i)
         EXPECT_GT(table[i], table[i - 1]);
 }

@@ -1,17 +1,19 @@
-#include "link/ProgramFault.h"
 #include "model/InstructionSet.h"
+#include "link/ProgramFault.h"
 
 #include <gtest/gtest.h>
 
 using namespace kestrel;
 
-TEST(InstructionSet, DefinedCodesAndNames)
-{
+TEST(InstructionSet, DefinedCodesAndNames) {
     const std::vector<int> undefined = [] {
         std::vector<int> v{2, 40, 41, 124, 125, 126, 128};
-        for (int c = 19; c <= 31; ++c) v.push_back(c);
-        for (int c = 48; c <= 95; ++c) v.push_back(c);
-        for (int c = 108; c <= 111; ++c) v.push_back(c);
+        for (int c = 19; c <= 31; ++c)
+            v.push_back(c);
+        for (int c = 48; c <= 95; ++c)
+            v.push_back(c);
+        for (int c = 108; c <= 111; ++c)
+            v.push_back(c);
         return v;
     }();
     for (int c : undefined)
@@ -29,9 +31,8 @@ TEST(InstructionSet, DefinedCodesAndNames)
     EXPECT_THROW(instructionInfo(-1), ProgramFault);
 }
 
-TEST(InstructionSet, Columns)
-{
-    const InstructionInfo& accel = instructionInfo(98);
+TEST(InstructionSet, Columns) {
+    const InstructionInfo &accel = instructionInfo(98);
     EXPECT_EQ(accel.Kind, 1);
     EXPECT_FALSE(accel.FadeAllowed);
     EXPECT_TRUE(accel.Par0Used && accel.Par1Used && accel.Par2Used && accel.Par3Used);
@@ -40,7 +41,7 @@ TEST(InstructionSet, Columns)
     EXPECT_EQ(accel.Par1Max, 31);
     EXPECT_EQ(accel.HelpTool, 9);
 
-    const InstructionInfo& servo = instructionInfo(100);
+    const InstructionInfo &servo = instructionInfo(100);
     EXPECT_FALSE(servo.Par0Used);
     EXPECT_EQ(servo.Par1Shift, -64);
     EXPECT_EQ(instructionInfo(39).Par1Shift, -64);
@@ -62,16 +63,15 @@ TEST(InstructionSet, Columns)
     EXPECT_EQ(instructionInfo(127).Kind, 2);
 }
 
-TEST(InstructionSet, ListOrderByKindThenCode)
-{
-    const auto& list = InstructionTable::instance().list();
+TEST(InstructionSet, ListOrderByKindThenCode) {
+    const auto &list = InstructionTable::instance().list();
     const std::vector<std::string> head{"-", "Blink alt", "Off", "On", "Invert", "Random", "Multibit 2"};
     for (std::size_t i = 0; i < head.size(); ++i)
         EXPECT_EQ(list[i].name, head[i]);
     EXPECT_EQ(list.back().name, "If Not Less");
     for (std::size_t i = 1; i < list.size(); ++i) {
-        const auto& a = instructionInfo(list[i - 1].code);
-        const auto& b = instructionInfo(list[i].code);
+        const auto &a = instructionInfo(list[i - 1].code);
+        const auto &b = instructionInfo(list[i].code);
         EXPECT_TRUE(a.Kind < b.Kind || (a.Kind == b.Kind && list[i - 1].code < list[i].code)) << i;
     }
     // selection by code searches the data; an unknown code selects "-"
@@ -79,8 +79,7 @@ TEST(InstructionSet, ListOrderByKindThenCode)
     EXPECT_EQ(InstructionTable::instance().listIndexOf(50), 0);
 }
 
-TEST(InstructionSet, NormaliseStep)
-{
+TEST(InstructionSet, NormaliseStep) {
     StepRecord wait{102, 1, 5, 7, 20, 2};
     const NormalisedStep n = normaliseStep(wait);
     EXPECT_EQ(wait, (StepRecord{102, 0, 0, 0, 20, 2}));

@@ -1,13 +1,12 @@
-#include "link/ProgramFault.h"
 #include "model/PinTools.h"
+#include "link/ProgramFault.h"
 #include "support/RecordingDialogs.h"
 
 #include <gtest/gtest.h>
 
 using namespace kestrel;
 
-TEST(PinTools, DeviceHeadLookup)
-{
+TEST(PinTools, DeviceHeadLookup) {
     Configuration c;
     c.Pins[0].DeviceDescription = "Signal";
     c.Pins[3].DeviceOffset = -3;
@@ -26,10 +25,9 @@ TEST(PinTools, DeviceHeadLookup)
     EXPECT_THROW(deviceHead(c, 2), ProgramFault);
 }
 
-TEST(PinTools, ClearLeavesStepNineAndAspectTwelve)
-{
+TEST(PinTools, ClearLeavesStepNineAndAspectTwelve) {
     Configuration c;
-    PinRecord& p = c.Pins[6];
+    PinRecord &p = c.Pins[6];
     p.Description = "pin";
     p.DeviceDescription = "dev";
     p.DeviceOffset = -2;
@@ -38,9 +36,9 @@ TEST(PinTools, ClearLeavesStepNineAndAspectTwelve)
     p.ConfigMode = 1;
     p.ConfigParams.fill(9);
     p.DccCount = 2;
-    for (auto& a : p.Aspects) {
+    for (auto &a : p.Aspects) {
         a.Description = "asp";
-        for (auto& s : a.Steps)
+        for (auto &s : a.Steps)
             s = StepRecord{9, 1, 2, 3, 4, 5};
     }
     clearPin(c, 6);
@@ -69,8 +67,7 @@ TEST(PinTools, ClearLeavesStepNineAndAspectTwelve)
     EXPECT_EQ(c.Pins[7], PinRecord{});
 }
 
-TEST(PinTools, CopyPasteReaimsDeviceOffset)
-{
+TEST(PinTools, CopyPasteReaimsDeviceOffset) {
     Configuration c;
     test::RecordingDialogs dialogs;
     PinTool tool;

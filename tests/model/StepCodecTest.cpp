@@ -1,14 +1,13 @@
-#include "model/InstructionSet.h"
 #include "model/StepCodec.h"
+#include "model/InstructionSet.h"
 
 #include <gtest/gtest.h>
 
 using namespace kestrel;
 
-TEST(StepCodec, EveryInstructionRoundTripsWithAndWithoutFade)
-{
+TEST(StepCodec, EveryInstructionRoundTripsWithAndWithoutFade) {
     for (int code = 0; code < 128; ++code) {
-        const InstructionInfo& info = instructionInfo(code);
+        const InstructionInfo &info = instructionInfo(code);
         if (info.Name.empty())
             continue;
         for (int fade = 0; fade <= 1; ++fade) {
@@ -29,18 +28,16 @@ TEST(StepCodec, EveryInstructionRoundTripsWithAndWithoutFade)
     }
 }
 
-TEST(StepCodec, CodeByteSplit)
-{
+TEST(StepCodec, CodeByteSplit) {
     struct Case {
         int byte, instruction, fade;
     } cases[] = {
-        {26, 10, 1},   // "Invert" faded
-        {17, 17, 0},   // "Feedback", never faded
-        {16, 16, 0}, {18, 18, 0},
-        {112, 112, 0}, // "SetAspect 0"
-        {0x13, 3, 1},  {0x43, 67, 0}, {63, 47, 1}, {64, 64, 0}, {9, 9, 0},
+        {26, 10, 1},                                // "Invert" faded
+        {17, 17, 0},                                // "Feedback", never faded
+        {16, 16, 0},  {18, 18, 0},   {112, 112, 0}, // "SetAspect 0"
+        {0x13, 3, 1}, {0x43, 67, 0}, {63, 47, 1},   {64, 64, 0}, {9, 9, 0},
     };
-    for (const auto& c : cases) {
+    for (const auto &c : cases) {
         StepRecord s;
         splitCodeByte(c.byte, s);
         EXPECT_EQ(s.Instruction, c.instruction) << c.byte;
@@ -53,8 +50,7 @@ TEST(StepCodec, CodeByteSplit)
     }
 }
 
-TEST(StepCodec, SendSerialPacksEightBitValues)
-{
+TEST(StepCodec, SendSerialPacksEightBitValues) {
     const StepRecord two{5, 0, 0, 200, 129, 7};
     EXPECT_EQ(encodeStep(two), (std::array<int, 5>{5, 3, 72, 1, 7}));
     EXPECT_EQ(decodeStep({5, 3, 72, 1, 7}), two);

@@ -1,5 +1,5 @@
-#include "link/ProgramFault.h"
 #include "model/StepDisplay.h"
+#include "link/ProgramFault.h"
 
 #include <gtest/gtest.h>
 
@@ -7,8 +7,7 @@ using namespace kestrel;
 
 namespace {
 
-std::string shown(const StepRecord& s, int par, int pin, int base = 0)
-{
+std::string shown(const StepRecord &s, int par, int pin, int base = 0) {
     return showParameter(s, par, pin, base).text;
 }
 
@@ -17,15 +16,14 @@ struct Typed {
     int parameter;
     int pin;
     int base;
-    const char* typed;
-    const char* text; // box afterwards
+    const char *typed;
+    const char *text; // box afterwards
     int stored;
 };
 
 } // namespace
 
-TEST(StepDisplay, ShowRules)
-{
+TEST(StepDisplay, ShowRules) {
     const StepRecord on{9, 0, 31, 0, 0, 0};
     EXPECT_EQ(shown(on, 0, 31), "-1"); // pin 31: offset 31 reaches pin 30
     EXPECT_EQ(shown(on, 0, 0), "31");
@@ -48,36 +46,27 @@ TEST(StepDisplay, ShowRules)
     EXPECT_THROW(showParameter(on, 0, 32, 0), ProgramFault);
 }
 
-TEST(StepDisplay, AcceptRules)
-{
+TEST(StepDisplay, AcceptRules) {
     const Typed cases[] = {
         {9, 0, 1, 0, "-3", "-1", 31},   // P.O. on pin 1 cannot reach below pin 0
         {9, 0, 30, 0, "5", "1", 1},     // ... nor above pin 31 from pin 30
         {9, 0, 5, 0, "-2", "-2", 30},   // in range: text kept, five-bit complement stored
         {96, 0, 5, 0, "-1", "-1", 127}, // Accel
-        {96, 0, 5, 0, "-7", "-1", 127},
-        {96, 0, 5, 0, "40", "31", 31},
-        {18, 0, 5, 1, "0", "1", 0},     // MXpin numbered from 1
-        {18, 0, 5, 1, "33", "32", 31},
-        {18, 0, 5, 1, "17", "17", 16},
-        {7, 1, 5, 1, "0", "1", 0},      // Clone source numbered from 1
-        {7, 1, 5, 1, "40", "32", 31},
-        {7, 1, 5, 0, "40", "31", 31},
+        {96, 0, 5, 0, "-7", "-1", 127},  {96, 0, 5, 0, "40", "31", 31},
+        {18, 0, 5, 1, "0", "1", 0}, // MXpin numbered from 1
+        {18, 0, 5, 1, "33", "32", 31},   {18, 0, 5, 1, "17", "17", 16},
+        {7, 1, 5, 1, "0", "1", 0}, // Clone source numbered from 1
+        {7, 1, 5, 1, "40", "32", 31},    {7, 1, 5, 0, "40", "31", 31},
         {39, 1, 0, 0, "-100", "-64", 0}, // Set Servo
-        {39, 1, 0, 0, "63", "63", 127},
-        {39, 1, 0, 0, "99", "63", 127},
-        {4, 1, 0, 0, "200", "200", 200}, // SendSerial full byte
-        {17, 1, 0, 0, "12", "11", 11},
-        {1, 2, 0, 0, "9", "8", 8},       // Par2 bounds
-        {5, 2, 0, 0, "300", "255", 255},
-        {18, 2, 0, 0, "40", "31", 31},
-        {102, 2, 0, 0, "64", "63", 63},
-        {102, 2, 0, 0, "-1", "0", 0},
-        {102, 3, 0, 0, "5", "3", 3},     // Base
-        {102, 3, 0, 0, "-2", "0", 0},
-        {102, 0, 4, 0, "7", "0", 0},     // unused parameter
+        {39, 1, 0, 0, "63", "63", 127},  {39, 1, 0, 0, "99", "63", 127},
+        {4, 1, 0, 0, "200", "200", 200},                            // SendSerial full byte
+        {17, 1, 0, 0, "12", "11", 11},   {1, 2, 0, 0, "9", "8", 8}, // Par2 bounds
+        {5, 2, 0, 0, "300", "255", 255}, {18, 2, 0, 0, "40", "31", 31},
+        {102, 2, 0, 0, "64", "63", 63},  {102, 2, 0, 0, "-1", "0", 0},
+        {102, 3, 0, 0, "5", "3", 3},                                  // Base
+        {102, 3, 0, 0, "-2", "0", 0},    {102, 0, 4, 0, "7", "0", 0}, // unused parameter
     };
-    for (const auto& c : cases) {
+    for (const auto &c : cases) {
         const StepRecord step{static_cast<std::uint8_t>(c.code), 0, 0, 0, 0, 0};
         const AcceptedParameter a = acceptParameter(step, c.parameter, c.typed, c.pin, c.base);
         SCOPED_TRACE(std::to_string(c.code) + " par " + std::to_string(c.parameter) + " typed " + c.typed);
@@ -86,8 +75,7 @@ TEST(StepDisplay, AcceptRules)
     }
 }
 
-TEST(StepDisplay, StoredValuesReadBackAsTyped)
-{
+TEST(StepDisplay, StoredValuesReadBackAsTyped) {
     // "If" values -64..63, Accel -1..31 and P.O. within the pins read back as typed.
     for (int code = 104; code <= 107; ++code)
         for (int v = -64; v <= 63; ++v) {
@@ -106,8 +94,7 @@ TEST(StepDisplay, StoredValuesReadBackAsTyped)
         }
 }
 
-TEST(StepDisplay, StepTime)
-{
+TEST(StepDisplay, StepTime) {
     EXPECT_EQ(stepTimeText({102, 0, 0, 0, 63, 3}), "10:45.12"); // 32256 ticks
     EXPECT_EQ(stepTimeText({102, 0, 0, 0, 0, 3}), "00:00.00");
     EXPECT_EQ(durationText(1325), "00:26.50");
