@@ -2,8 +2,11 @@
 #include "link/Link.h"
 #include "link/LinkControl.h"
 #include "model/Configuration.h"
+#include "ops/EventControlPage.h"
 #include "ops/GeneralSettings.h"
 #include "ops/Report.h"
+
+#include <functional>
 
 namespace kestrel {
 
@@ -19,9 +22,22 @@ public:
     Link link;
     LinkControl linkControl; // follows config.NumberingBase
     GeneralSettings general;
+    EventControlPage eventControl;
     Report report;
 
     UserDialogs& dialogs() { return link.dialogs(); }
+
+    // Observers for the window. Each is optional.
+    // Read All has finished: refresh every display that shows the configuration
+    // (general settings labels, address displays, aspect view, current pin).
+    std::function<void()> onConfigurationChanged;
+    // TextGenDCCAddress or TextGenXDCCAddress was set by a reader (their click
+    // handlers refresh the address labels).
+    std::function<void()> onDccAddressChanged;
+    // The serial addressing mode changed: refresh the address display of the pin list.
+    std::function<void()> onPinAddressDisplayChanged;
+    // Verify All has written its report: show the verification window.
+    std::function<void()> onShowVerification;
 };
 
 } // namespace kestrel

@@ -1,0 +1,323 @@
+#include "ops/EventControl.h"
+
+#include "link/ProgramFault.h"
+#include "link/Text.h"
+#include "ops/GeneralCommands.h"
+
+#include <algorithm>
+#include <string>
+
+namespace kestrel {
+
+namespace {
+
+constexpr int kNoAction = 15;
+constexpr int kWritePacingMs = 100;
+
+struct SideInfo {
+    int readCommand;
+    int writeCommand;
+    int replyLength;
+    int firstSlot; // index in ReplyBuffer of slot 0
+    const char* name;
+};
+
+// The Event-On reply carries one byte more (the initial aspect) before its slots.
+const SideInfo& info(EventSide side)
+{
+    static const SideInfo on{kEventOnRead, kEventOnWrite, 7, 5, "Event-On"};
+    static const SideInfo off{kEventOffRead, kEventOffWrite, 6, 4, "Event-Off"};
+    return side == EventSide::On ? on : off;
+}
+
+std::array<std::int16_t, 5>& entries(Session& s, EventSide side, int pin)
+{
+    auto& e = s.config.events(pin);
+    return side == EventSide::On ? e.OnEvent : e.OffEvent;
+}
+
+std::string notSupported(EventSide side)
+{
+    return std::string("Read ") + info(side).name + ": Function not supported by Device";
+}
+
+// Reads one pin's slots of one side; `slots` is filled only for EventRead::Ok.
+EventRead readSlots(Session& s, EventSide side, int pin, std::array<int, kEventSlots>& slots)
+{
+    const auto& si = info(side);
+    s.link.SendKestrelMessage(true, 2, {si.readCommand, pin});
+    if (!s.link.state.ReplyValid)
+        return EventRead::NoReply;
+    const auto& r = s.link.state.ReplyBuffer;
+    if ((r[1] & 15) != si.replyLength || r[2] != si.readCommand || r[3] != pin)
+        return EventRead::WrongReply;
+    for (int i = 0; i < kEventSlots; ++i)
+        slots[i] = decodeEventSlot(i, r[si.firstSlot + i]);
+    return EventRead::Ok;
+}
+
+void reportStep(Session& s, int done, int total, const std::string& what)
+{
+    if (auto* p = s.link.currentProgress())
+        p->step(done, total, what);
+}
+
+// Reads all 32 pins of one side; false only when a request got no valid reply.
+bool readSide(Session& s, EventSide side, int progressOffset)
+{
+    for (int p = 0; p < kPinCount; ++p) {
+        reportStep(s, progressOffset + p, 2 * kPinCount, std::string("Reading ") + info(side).name);
+        const EventRead r = ReadPinEvents(s, side, p);
+        if (r == EventRead::NoReply)
+            return false;
+        if (r == EventRead::WrongReply) {
+            s.dialogs().message(notSupported(side), Icon::None);
+            break;
+        }
+    }
+    return true;
+}
+
+bool writeSide(Session& s, EventSide side, int progressOffset)
+{
+    for (int p = 0; p < kPinCount; ++p) {
+        reportStep(s, progressOffset + p, 2 * kPinCount, std::string("Writing ") + info(side).name);
+        if (!WritePinEvents(s, side, p))
+            return false;
+    }
+    return true;
+}
+
+// Verifies one side of all pins; false when anything differed or could not be read,
+// `ended` set when a request got no valid reply.
+bool verifySide(Session& s, EventSide side, bool& ended)
+{
+    bool ok = true;
+    const int base = s.config.NumberingBase;
+    for (int p = 0; p < kPinCount; ++p) {
+        reportStep(s, p, kPinCount, std::string("Verifying ") + info(side).name);
+        std::array<int, kEventSlots> read{};
+        const EventRead r = readSlots(s, side, p, read);
+        if (r == EventRead::NoReply) {
+            ended = true;
+            return false;
+        }
+        if (r == EventRead::WrongReply) {
+            s.report.line(notSupported(side));
+            return false;
+        }
+        const auto& configured = entries(s, side, p);
+        for (int i = 0; i < kEventSlots; ++i) {
+            if (configured[i] == read[i])
+                continue;
+            s.report.line(std::string(info(side).name) + "(" + std::to_string(i) + ") for pin " +
+                          std::to_string(p + base) + " does not compare: " + "Configured Action = " +
+                          std::to_string(configured[i]) + ", " + "Kestrel Reply = " + std::to_string(read[i]));
+            ok = false;
+        }
+    }
+    return ok;
+}
+
+void pace(Session& s)
+{
+    if (!s.link.settings.CheckKestrelBD)
+        s.link.clock().sleepMs(kWritePacingMs);
+}
+
+} // namespace
+
+int encodeEventSlot(int slot, int action) { return slot * 16 + (action == -1 ? kNoAction : action); }
+
+int decodeEventSlot(int slot, int byte)
+{
+    if ((byte >> 4) != slot || (byte & 15) == kNoAction)
+        return -1;
+    return byte & 15;
+}
+
+EventRead ReadPinEvents(Session& session, EventSide side, int pin)
+{
+    std::array<int, kEventSlots> slots{};
+    const EventRead r = readSlots(session, side, pin, slots);
+    if (r == EventRead::Ok) {
+        auto& e = entries(session, side, pin);
+        for (int i = 0; i < kEventSlots; ++i)
+            e[i] = static_cast<std::int16_t>(slots[i]);
+    }
+    return r;
+}
+
+bool WritePinEvents(Session& session, EventSide side, int pin)
+{
+    const auto& e = entries(session, side, pin);
+    const bool ok = session.link.SendKestrelMessage(
+        false, 6,
+        {info(side).writeCommand, pin, encodeEventSlot(0, e[0]), encodeEventSlot(1, e[1]), encodeEventSlot(2, e[2]),
+         encodeEventSlot(3, e[3])});
+    if (ok)
+        pace(session);
+    return ok;
+}
+
+bool ReadAllEvents(Session& session)
+{
+    session.link.setBidirectional(true);
+    return readSide(session, EventSide::On, 0) && readSide(session, EventSide::Off, kPinCount);
+}
+
+bool WriteAllEvents(Session& session)
+{
+    return writeSide(session, EventSide::On, 0) && writeSide(session, EventSide::Off, kPinCount);
+}
+
+int shownEventPin(Session& session)
+{
+    const int base = session.config.NumberingBase;
+    const long shown = valInt(session.eventControl.TextECpin);
+    const int pin = static_cast<int>(std::clamp<long>(shown - base, 0, kPinCount - 1));
+    session.eventControl.TextECpin = std::to_string(pin + base);
+    return pin;
+}
+
+void ShowEventPin(Session& session)
+{
+    const int pin = shownEventPin(session);
+    const auto& e = session.config.events(pin);
+    for (int i = 0; i < kEventSlots; ++i) {
+        session.eventControl.TextECon[i] = std::to_string(e.OnEvent[i]);
+        session.eventControl.TextECoff[i] = std::to_string(e.OffEvent[i]);
+    }
+}
+
+bool ReadSingleEvents(Session& session)
+{
+    session.link.setBidirectional(true);
+    const int pin = shownEventPin(session);
+    bool ok = true;
+    for (EventSide side : {EventSide::On, EventSide::Off}) {
+        const EventRead r = ReadPinEvents(session, side, pin);
+        if (r == EventRead::NoReply) {
+            ok = false;
+            break;
+        }
+        if (r == EventRead::WrongReply)
+            session.dialogs().message("Function not supported by Device", Icon::None);
+    }
+    ShowEventPin(session);
+    return ok;
+}
+
+bool WriteSingleEvents(Session& session)
+{
+    const int pin = shownEventPin(session);
+    return WritePinEvents(session, EventSide::On, pin) && WritePinEvents(session, EventSide::Off, pin);
+}
+
+void CopyEventsToAll(Session& session)
+{
+    const auto& page = session.eventControl;
+    for (int p = 0; p < kPinCount; ++p) {
+        auto& e = session.config.events(p);
+        for (int i = 0; i < kEventSlots; ++i) {
+            e.OnEvent[i] = static_cast<std::int16_t>(valInt(page.TextECon[i]));
+            e.OffEvent[i] = static_cast<std::int16_t>(valInt(page.TextECoff[i]));
+        }
+    }
+}
+
+void EditEventEntry(Session& session, EventSide side, int slot)
+{
+    checkIndex(slot, kEventSlots, "event slot");
+    auto& text = side == EventSide::On ? session.eventControl.TextECon[slot] : session.eventControl.TextECoff[slot];
+    const long v = std::clamp<long>(valInt(text), kEventActionMin, kEventActionMax);
+    text = std::to_string(v);
+    entries(session, side, shownEventPin(session))[slot] = static_cast<std::int16_t>(v);
+}
+
+int enableMapOn(const GeneralSettings& g)
+{
+    int map = 0;
+    for (int box = 3; box >= 0; --box)
+        map = map * 2 + 1 - g.CheckInitEE[box];
+    return map;
+}
+
+int enableMapOff(const GeneralSettings& g)
+{
+    int map = 0;
+    for (int box = 7; box >= 4; --box)
+        map = map * 2 + 1 - g.CheckInitEE[box];
+    return map;
+}
+
+bool ReadEnableMaps(Session& session)
+{
+    session.link.setBidirectional(true);
+    session.link.SendKestrelMessage(true, 2, {kGeneralRead, kItemEventEnable});
+    if (!session.link.state.ReplyValid)
+        return false;
+    const auto& r = session.link.state.ReplyBuffer;
+    if ((r[1] & 15) != 4) {
+        session.dialogs().message("No valid response size", Icon::None);
+        return false;
+    }
+    if (r[2] != kGeneralRead || r[3] != kItemEventEnable) {
+        session.dialogs().message("No valid response type", Icon::None);
+        return false;
+    }
+    for (int i = 0; i < 4; ++i) {
+        session.general.CheckInitEE[i] = 1 - ((r[4] >> i) & 1);
+        session.general.CheckInitEE[4 + i] = 1 - ((r[5] >> i) & 1);
+    }
+    return true;
+}
+
+bool WriteEnableMaps(Session& session)
+{
+    const auto& g = session.general;
+    return session.link.SendKestrelMessage(false, 4,
+                                           {kGeneralWrite, kItemEventEnable, enableMapOn(g), enableMapOff(g)});
+}
+
+bool VerifyEventControl(Session& session)
+{
+    auto& report = session.report;
+    session.link.setBidirectional(true);
+    report.line("Start EC Verification");
+    if (session.config.NumberingBase == 1)
+        report.line("Note: Numbering starts at 1");
+
+    bool ok = true;
+    bool ended = false;
+    for (EventSide side : {EventSide::On, EventSide::Off}) {
+        if (!verifySide(session, side, ended))
+            ok = false;
+        if (ended)
+            return false;
+    }
+
+    session.link.SendKestrelMessage(true, 2, {kGeneralRead, kItemEventEnable});
+    if (!session.link.state.ReplyValid)
+        return false;
+    const auto& r = session.link.state.ReplyBuffer;
+    if ((r[1] & 15) != 4) {
+        report.line("ECInit: No valid response size");
+        return false;
+    }
+    if (r[2] != kGeneralRead || r[3] != kItemEventEnable) {
+        report.line("ECInit: No valid response type");
+        return false;
+    }
+    if (r[4] != enableMapOn(session.general)) {
+        report.line("ECInit: ON-mask does not compare");
+        ok = false;
+    }
+    if (r[5] != enableMapOff(session.general)) {
+        report.line("ECInit: OFF-mask does not compare");
+        ok = false;
+    }
+    return ok;
+}
+
+} // namespace kestrel

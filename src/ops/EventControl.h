@@ -1,0 +1,62 @@
+#pragma once
+#include "ops/Session.h"
+
+#include <array>
+
+namespace kestrel {
+
+// Event control: for each pin and input slot 0..3 an Event-On and an Event-Off action
+// (-1 = none, the editor allows -1..11), and the two enable maps of the module.
+
+constexpr int kEventOnRead = 116;   // "t"
+constexpr int kEventOffRead = 117;  // "u"
+constexpr int kEventOnWrite = 100;
+constexpr int kEventOffWrite = 101;
+constexpr int kEventSlots = 4;
+constexpr int kEventActionMin = -1;
+constexpr int kEventActionMax = 11;
+
+// A slot byte on the wire: slot number in the high nibble, the action in the low
+// nibble, 15 for none.
+int encodeEventSlot(int slot, int action);
+// -1 when the byte's slot number is not `slot` or its action nibble is 15.
+int decodeEventSlot(int slot, int byte);
+
+enum class EventSide { On, Off };
+
+// The outcome of one pin's event read.
+enum class EventRead { NoReply, WrongReply, Ok };
+
+// One pin's Event-On or Event-Off entries from the module into config.EventMap.
+EventRead ReadPinEvents(Session& session, EventSide side, int pin);
+// One pin's entries to the module; paced by 100 ms when no reply paces the sender.
+bool WritePinEvents(Session& session, EventSide side, int pin);
+
+// All 32 pins, Event-On first, then Event-Off. A module that does not know a read
+// command is told about once per side and the other side still runs.
+bool ReadAllEvents(Session& session);
+bool WriteAllEvents(Session& session);
+
+// The pin shown in TextECpin (0..31, the box clamped and written back).
+int shownEventPin(Session& session);
+// TextECpin changed: show the pin's entries in TextECon / TextECoff.
+void ShowEventPin(Session& session);
+// Read / Write for the pin shown.
+bool ReadSingleEvents(Session& session);
+bool WriteSingleEvents(Session& session);
+// "Copy to All": the shown entries into every pin.
+void CopyEventsToAll(Session& session);
+// An entry box was edited: clamp to -1..11, write the clamped number back, store it.
+void EditEventEntry(Session& session, EventSide side, int slot);
+
+// Enable maps: bit i set = input i disabled, so each map is the inverse of its boxes.
+int enableMapOn(const GeneralSettings& g);
+int enableMapOff(const GeneralSettings& g);
+bool ReadEnableMaps(Session& session);
+bool WriteEnableMaps(Session& session);
+
+// "Verify Event Control": its lines go to session.report; True when everything was
+// read and compared equal.
+bool VerifyEventControl(Session& session);
+
+} // namespace kestrel

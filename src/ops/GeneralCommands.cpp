@@ -1,0 +1,436 @@
+#include "ops/GeneralCommands.h"
+
+#include "link/Text.h"
+
+namespace kestrel {
+
+namespace {
+
+const std::array<int, 21>& reply(Session& s) { return s.link.state.ReplyBuffer; }
+int replyLength(Session& s) { return reply(s)[1] & 15; }
+bool echoes(Session& s, int command, int item) { return reply(s)[2] == command && reply(s)[3] == item; }
+
+// One read request (True, 2, 112, item); True when a valid reply came back.
+bool requestItem(Session& s, int item)
+{
+    s.link.SendKestrelMessage(true, 2, {kGeneralRead, item});
+    return s.link.state.ReplyValid;
+}
+
+void say(Session& s, const std::string& text) { s.dialogs().message(text, Icon::None); }
+
+std::string sizeMessage(int n, int expected)
+{
+    return "No valid response, size = " + std::to_string(n) + " expected = " + std::to_string(expected);
+}
+
+std::string msgMessage(Session& s, int item)
+{
+    return "No valid response, msg = " + std::to_string(reply(s)[2]) + "," + std::to_string(reply(s)[3]) +
+           " expected = 112," + std::to_string(item);
+}
+
+void dccAddressChanged(Session& s)
+{
+    if (s.onDccAddressChanged)
+        s.onDccAddressChanged();
+}
+
+void pinAddressDisplayChanged(Session& s)
+{
+    if (s.onPinAddressDisplayChanged)
+        s.onPinAddressDisplayChanged();
+}
+
+int bit(int value, int k) { return (value >> k) & 1; }
+
+} // namespace
+
+bool RequestVersion(Session& session)
+{
+    const bool ok = session.link.GetVersion();
+    session.general.LabelGenVersionString = session.link.VersionText;
+    return ok;
+}
+
+// ---- ID string ----
+
+bool ReadIDString(Session& session)
+{
+    session.link.setBidirectional(true);
+    if (!requestItem(session, kItemIdString))
+        return false;
+    const int n = replyLength(session);
+    if (n <= 1 || !echoes(session, kGeneralRead, kItemIdString)) {
+        say(session, "No valid response");
+        return false;
+    }
+    std::string text;
+    for (int i = 0; i < n - 2; ++i)
+        text += static_cast<char>(static_cast<unsigned char>(reply(session)[4 + i]));
+    session.general.TextGenIDString = text;
+    return true;
+}
+
+bool WriteIDString(Session& session)
+{
+    auto& text = session.general.TextGenIDString;
+    if (text.size() > kIdStringLength)
+        text = text.substr(0, kIdStringLength);
+    std::array<int, 15> bytes{kGeneralWrite, kItemIdString};
+    for (std::size_t i = 0; i < text.size(); ++i)
+        bytes[2 + i] = static_cast<unsigned char>(text[i]);
+    return session.link.SendKestrelMessage(false, static_cast<int>(text.size()) + 2, bytes);
+}
+
+// ---- DCC settings ----
+
+int dccOptionsByte(const GeneralSettings& g) { return g.OptGenDCC_PRP + 4 * g.ChkGenDCC_BPSI + 8 * g.ChkGenDCCAllow0; }
+
+std::array<int, 2> dccAddressBytes(const std::string& text)
+{
+    const long a = valInt(text);
+    // Floor division, so that low stays 0..63 whatever the sign (a negative address
+    // gives a negative high byte, which the link refuses as a data byte).
+    long high = a / 64;
+    long low = a % 64;
+    if (low < 0) {
+        low += 64;
+        --high;
+    }
+    return {static_cast<int>(low), static_cast<int>(high)};
+}
+
+bool ReadDCCSettings(Session& session)
+{
+    auto& g = session.general;
+    session.link.setBidirectional(true);
+
+    if (!requestItem(session, kItemDccOptions))
+        return false;
+    if (replyLength(session) != 3)
+        say(session, "Received Address, cannot read DCC options");
+    else if (!echoes(session, kGeneralRead, kItemDccOptions))
+        say(session, "Received Address: No valid response");
+    else {
+        const int b = reply(session)[4];
+        g.OptGenDCC_PRP = b & 3;
+        g.ChkGenDCC_BPSI = bit(b, 2);
+        g.ChkGenDCCAllow0 = bit(b, 3);
+    }
+
+    if (!requestItem(session, kItemDccAddress))
+        return false;
+    if (replyLength(session) != 4)
+        say(session, "Get DCC Address: No valid response, size <> 4");
+    else if (!echoes(session, kGeneralRead, kItemDccAddress))
+        say(session, "Get DCC Address: No valid response");
+    else {
+        g.TextGenDCCAddress = std::to_string(reply(session)[5] * 64 + reply(session)[4]);
+        dccAddressChanged(session);
+    }
+
+    if (!requestItem(session, kItemXDccAddress))
+        return false;
+    if (replyLength(session) != 4 || !echoes(session, kGeneralRead, kItemXDccAddress))
+        say(session, "No valid response");
+    else {
+        g.TextGenXDCCAddress = std::to_string(reply(session)[5] * 64 + reply(session)[4]);
+        dccAddressChanged(session);
+    }
+    return true;
+}
+
+bool WriteDCCSettings(Session& session)
+{
+    const auto& g = session.general;
+    auto& link = session.link;
+    if (!link.SendKestrelMessage(false, 3, {kGeneralWrite, kItemDccOptions, dccOptionsByte(g)}))
+        return false;
+    const auto dcc = dccAddressBytes(g.TextGenDCCAddress);
+    if (!link.SendKestrelMessage(false, 4, {kGeneralWrite, kItemDccAddress, dcc[0], dcc[1]}))
+        return false;
+    const auto xdcc = dccAddressBytes(g.TextGenXDCCAddress);
+    return link.SendKestrelMessage(false, 4, {kGeneralWrite, kItemXDccAddress, xdcc[0], xdcc[1]});
+}
+
+// ---- Serial addressing ----
+
+void applyAddressingVisibility(GeneralSettings& g)
+{
+    g.TextGenLynxaddrVisible = g.CheckGenLynxaddr == 1;
+    g.CheckGenKestrelNativeVisible = g.CheckGenLynxaddr != 1;
+    g.CheckGenLynxaddrVisible = g.CheckGenKestrelNative != 1;
+}
+
+int serialAddressModeByte(const GeneralSettings& g) { return g.CheckGenKestrelNative == 1 ? 64 : g.LynxFlexAddress; }
+
+std::array<int, 4> groupMaskBytes(const GeneralSettings& g)
+{
+    std::array<int, 4> m{};
+    for (int grp = 0; grp < 4; ++grp)
+        m[grp] = g.CheckGenXGM[4 * grp] + 2 * g.CheckGenXGM[4 * grp + 1] + 4 * g.CheckGenXGM[4 * grp + 2] +
+                 8 * g.CheckGenXGM[4 * grp + 3];
+    return m;
+}
+
+bool ReadSerialAddressing(Session& session)
+{
+    auto& g = session.general;
+    const int base = session.config.NumberingBase;
+    session.link.setBidirectional(true);
+
+    if (!requestItem(session, kItemSerialAddressing))
+        return false;
+    if (replyLength(session) != 4)
+        say(session, sizeMessage(replyLength(session), 4));
+    else if (!echoes(session, kGeneralRead, kItemSerialAddressing))
+        say(session, msgMessage(session, kItemSerialAddressing));
+    else {
+        if (reply(session)[4] != 0) {
+            g.CheckGenLynxaddr = 1;
+            g.CheckGenKestrelNative = 0;
+            g.LynxFlexAddress = reply(session)[5];
+        } else {
+            g.CheckGenLynxaddr = 0;
+            g.CheckGenKestrelNative = bit(reply(session)[5], 6);
+            g.LynxFlexAddress = 0;
+        }
+        g.TextGenLynxaddr = std::to_string(g.LynxFlexAddress * 4 + base);
+        applyAddressingVisibility(g);
+        pinAddressDisplayChanged(session);
+    }
+
+    if (!requestItem(session, kItemExtendedAddress))
+        return false;
+    if (replyLength(session) != 3)
+        say(session, sizeMessage(replyLength(session), 3));
+    else if (!echoes(session, kGeneralRead, kItemExtendedAddress))
+        say(session, msgMessage(session, kItemExtendedAddress));
+    else {
+        g.ExtendedAddress = reply(session)[4];
+        g.TextGenXaddr = std::to_string(g.ExtendedAddress + base);
+    }
+
+    if (!requestItem(session, kItemGroupMask))
+        return false;
+    if (replyLength(session) != 6)
+        say(session, sizeMessage(replyLength(session), 6));
+    else if (!echoes(session, kGeneralRead, kItemGroupMask))
+        say(session, msgMessage(session, kItemGroupMask));
+    else {
+        for (int grp = 0; grp < 4; ++grp)
+            for (int k = 0; k < 4; ++k)
+                g.CheckGenXGM[4 * grp + k] = bit(reply(session)[4 + grp], k);
+    }
+    return true;
+}
+
+bool WriteSerialAddressing(Session& session)
+{
+    const auto& g = session.general;
+    auto& link = session.link;
+    if (!link.SendKestrelMessage(false, 4,
+                                 {kGeneralWrite, kItemSerialAddressing, g.CheckGenLynxaddr == 1 ? 1 : 0,
+                                  serialAddressModeByte(g)}))
+        return false;
+    const auto m = groupMaskBytes(g);
+    if (!link.SendKestrelMessage(false, 6, {kGeneralWrite, kItemGroupMask, m[0], m[1], m[2], m[3]}))
+        return false;
+    return link.SendKestrelMessage(false, 3, {kGeneralWrite, kItemExtendedAddress, g.ExtendedAddress});
+}
+
+bool CommandGenAddrRead_Click(Session& session)
+{
+    session.general.SuppressAddrWarning = true;
+    const bool ok = ReadSerialAddressing(session);
+    session.general.SuppressAddrWarning = false;
+    return ok;
+}
+
+void CheckGenLynxaddr_Click(Session& session)
+{
+    auto& g = session.general;
+    if (g.CheckGenLynxaddr == 1 && !g.SuppressAddrWarning) {
+        const Answer a = session.dialogs().ask("Lynx Flexible Addressing is a complex concept !!\r\n"
+                                               "It should only be activated by experienced users\r\n"
+                                               "that understand the details very well !",
+                                               Buttons::OkCancel, Icon::Warning);
+        if (a != Answer::Ok)
+            g.CheckGenLynxaddr = 0;
+    }
+    applyAddressingVisibility(g);
+    pinAddressDisplayChanged(session);
+}
+
+void CheckGenKestrelNative_Click(Session& session)
+{
+    auto& g = session.general;
+    g.CheckGenLynxaddrVisible = g.CheckGenKestrelNative != 1;
+    pinAddressDisplayChanged(session);
+}
+
+void ChkGenDCCAllow0_Click(Session& session) { dccAddressChanged(session); }
+
+// ---- Hardware configuration ----
+
+std::array<int, 4> hardwareConfigBytes(const GeneralSettings& g)
+{
+    std::array<int, 4> b{};
+    for (int grp = 0; grp < 4; ++grp)
+        b[grp] = g.ChkGenHWCSink[grp] + 2 * g.ChkGenHWCSource[grp];
+    return b;
+}
+
+bool ReadHardwareConfig(Session& session)
+{
+    auto& g = session.general;
+    session.link.setBidirectional(true);
+    if (!requestItem(session, kItemHardwareConfig))
+        return false;
+    if (replyLength(session) != 6) {
+        // Deliberately True after a size or type message; only a bad group byte fails.
+        say(session, "No valid response size");
+        return true;
+    }
+    if (!echoes(session, kGeneralRead, kItemHardwareConfig)) {
+        say(session, "No valid response type");
+        return true;
+    }
+    for (int grp = 0; grp < 4; ++grp) {
+        const int v = reply(session)[4 + grp];
+        if (v < 0 || v > 3) {
+            say(session, "No valid response byte");
+            return false;
+        }
+        g.ChkGenHWCSink[grp] = bit(v, 0);
+        g.ChkGenHWCSource[grp] = bit(v, 1);
+    }
+    return true;
+}
+
+bool WriteHardwareConfig(Session& session)
+{
+    const auto b = hardwareConfigBytes(session.general);
+    return session.link.SendKestrelMessage(false, 6, {kGeneralWrite, kItemHardwareConfig, b[0], b[1], b[2], b[3]});
+}
+
+// ---- LED control ----
+
+int ledByte(const std::array<int, 8>& boxes)
+{
+    int b = 0;
+    for (int i = 6; i >= 0; --i)
+        b = b * 2 + boxes[i];
+    return b;
+}
+
+bool ReadLEDControl(Session& session)
+{
+    session.link.setBidirectional(true);
+    const std::pair<int, std::array<int, 8>*> leds[] = {{kItemGreenLed, &session.general.CheckLCGreen},
+                                                        {kItemOrangeLed, &session.general.CheckLCOrange}};
+    for (const auto& [item, boxes] : leds) {
+        if (!requestItem(session, item))
+            return false;
+        if (replyLength(session) != 3 || !echoes(session, kGeneralRead, item)) {
+            say(session, "No valid response");
+            continue;
+        }
+        const int b = reply(session)[4];
+        if (b == 0) {
+            boxes->fill(0);
+            (*boxes)[7] = 1;
+        } else {
+            for (int i = 0; i < 7; ++i)
+                (*boxes)[i] = bit(b, i);
+            (*boxes)[7] = 0;
+        }
+    }
+    return true;
+}
+
+bool WriteLEDControl(Session& session)
+{
+    auto& link = session.link;
+    if (!link.SendKestrelMessage(false, 3, {kGeneralWrite, kItemGreenLed, ledByte(session.general.CheckLCGreen)}))
+        return false;
+    return link.SendKestrelMessage(false, 3, {kGeneralWrite, kItemOrangeLed, ledByte(session.general.CheckLCOrange)});
+}
+
+// ---- The module's serial port ----
+
+int serialPortByte(const GeneralSettings& g)
+{
+    int s = g.ComboGenBaud;
+    if (g.OptionGenSerialDatabits == 1)
+        s += 8;
+    if (g.OptionGenSerialStop == 1)
+        s += 64;
+    if (g.OptionGenSerialParity == 2)
+        s += 32;
+    if (g.OptionGenSerialParity == 3)
+        s += 48;
+    return s;
+}
+
+bool ReadSerialPortSettings(Session& session)
+{
+    auto& g = session.general;
+    session.link.setBidirectional(true);
+    if (!requestItem(session, kItemSerialPort))
+        return false;
+    if (replyLength(session) != 4) {
+        say(session, sizeMessage(replyLength(session), 4));
+        return false;
+    }
+    if (!echoes(session, kGeneralRead, kItemSerialPort)) {
+        say(session, msgMessage(session, kItemSerialPort));
+        return false;
+    }
+    g.CheckGenSerialEnable = reply(session)[4] != 0 ? 1 : 0;
+    const int s = reply(session)[5];
+    g.ComboGenBaud = s & 7;
+    g.OptionGenSerialDatabits = bit(s, 3);
+    g.OptionGenSerialStop = bit(s, 6);
+    g.OptionGenSerialParity = (s >> 4) & 3;
+    return true;
+}
+
+bool WriteSerialPortSettings(Session& session)
+{
+    const auto& g = session.general;
+    return session.link.SendKestrelMessage(false, 4, {kGeneralWrite, kItemSerialPort, g.CheckGenSerialEnable,
+                                                      serialPortByte(g)});
+}
+
+// ---- Erase ----
+
+bool EraseFlash(Session& session)
+{
+    auto& ui = session.dialogs();
+    if (ui.ask("WARNING !!\r\n"
+               "This operation will erase the Kestrel Configuration Memory\r\n"
+               "Continue?",
+               Buttons::OkCancel, Icon::Warning) != Answer::Ok)
+        return false;
+    // Worded so that OK means "yes, cancel": only Cancel goes on.
+    if (ui.ask("WARNING !!\r\n"
+               "This operation will erase the Kestrel Configuration Memory\r\n"
+               "The green LED on the Kestrel will be ON during this process\r\n"
+               "The erase process may take up to 45 seconds, please be patient\r\n"
+               "\r\n"
+               "Do you want to cancel this operation?",
+               Buttons::OkCancel, Icon::Warning) != Answer::Cancel)
+        return false;
+    auto& link = session.link;
+    const bool bidirectional = link.settings.CheckKestrelBD;
+    link.setBidirectional(false); // nothing answers an erase
+    const auto& k = kEraseSequence;
+    const bool sent =
+        link.SendKestrelMessage(false, 10, {kGeneralWrite, kItemVersionErase, k[0], k[1], k[2], k[3], k[4], k[5], k[6], k[7]});
+    link.setBidirectional(bidirectional);
+    return sent;
+}
+
+} // namespace kestrel

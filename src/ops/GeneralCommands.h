@@ -1,0 +1,86 @@
+#pragma once
+#include "ops/Session.h"
+
+#include <array>
+#include <string>
+
+namespace kestrel {
+
+// The readers and writers of the General page. Each works on session.general, sends
+// its requests through session.link and returns True when the module answered as
+// required (a writer: when the transport took its frames). Messages go through the
+// session's dialogs; readers stay silent when no valid reply came back (the link has
+// already said so).
+
+// Command bytes and item numbers of the general settings.
+constexpr int kGeneralRead = 112;  // "p"
+constexpr int kGeneralWrite = 96;
+enum GeneralItem : int {
+    kItemVersionErase = 0,
+    kItemHardwareConfig = 1,
+    kItemExtendedAddress = 2,
+    kItemGroupMask = 3,
+    kItemDccAddress = 4,
+    kItemDccOptions = 5,
+    kItemGreenLed = 6,
+    kItemOrangeLed = 7,
+    kItemSerialAddressing = 8,
+    kItemIdString = 10,
+    kItemEventEnable = 11,
+    kItemXDccAddress = 12,
+    kItemSerialPort = 13,
+};
+constexpr std::size_t kIdStringLength = 12;
+// The module's fixed confirmation sequence of an erase.
+constexpr std::array<int, 8> kEraseSequence = {61, 17, 92, 8, 33, 70, 15, 44};
+
+// "Request Version": the link's version request; LabelGenVersionString shows the result.
+bool RequestVersion(Session& session);
+
+bool ReadIDString(Session& session);
+bool WriteIDString(Session& session);
+
+bool ReadDCCSettings(Session& session);
+bool WriteDCCSettings(Session& session);
+
+// Callers set general.SuppressAddrWarning around the call (CommandGenAddrRead_Click
+// and Read All do).
+bool ReadSerialAddressing(Session& session);
+bool WriteSerialAddressing(Session& session);
+
+bool ReadHardwareConfig(Session& session);
+bool WriteHardwareConfig(Session& session);
+
+bool ReadLEDControl(Session& session);
+bool WriteLEDControl(Session& session);
+
+bool ReadSerialPortSettings(Session& session);
+bool WriteSerialPortSettings(Session& session);
+
+// "Erase Flash": two questions, then the erase frame without waiting for a reply.
+// True when the erase was sent.
+bool EraseFlash(Session& session);
+
+// What the writers send, from the current values of the page.
+int dccOptionsByte(const GeneralSettings& g);
+// An address text split as the module stores it: low 6 bits, then the rest.
+std::array<int, 2> dccAddressBytes(const std::string& text);
+int serialAddressModeByte(const GeneralSettings& g);
+std::array<int, 4> groupMaskBytes(const GeneralSettings& g);
+std::array<int, 4> hardwareConfigBytes(const GeneralSettings& g);
+int ledByte(const std::array<int, 8>& boxes);
+int serialPortByte(const GeneralSettings& g);
+
+// Companion handlers of the General page.
+// Shows the serial addressing controls that the current modes allow.
+void applyAddressingVisibility(GeneralSettings& g);
+// The CommandGenAddrRead button: the read with the flex-addressing warning suppressed.
+bool CommandGenAddrRead_Click(Session& session);
+// CheckGenLynxaddr was clicked (its new value is already in general.CheckGenLynxaddr).
+void CheckGenLynxaddr_Click(Session& session);
+// CheckGenKestrelNative was clicked (its new value is already in the field).
+void CheckGenKestrelNative_Click(Session& session);
+// ChkGenDCCAllow0 was clicked: the address boxes show ranges that depend on it.
+void ChkGenDCCAllow0_Click(Session& session);
+
+} // namespace kestrel
