@@ -1,0 +1,39 @@
+#include "pins/LiveOutput.h"
+
+#include "ops/Session.h"
+
+#include <cstdint>
+
+namespace kestrel {
+
+namespace {
+
+constexpr int kServoDirect = 39;
+constexpr int kServoDynamic = 55;
+constexpr int kPwmDirect = 38;
+constexpr int kPwmSlow = 54;
+
+bool sendLive(Session& session, int subCommand, int value)
+{
+    return session.link.SendKestrelMessage(false, 4, {0, subCommand, session.config.CurrentPin, value});
+}
+
+} // namespace
+
+bool sendServoLevel(Session& session, int position, bool dynamic)
+{
+    session.config.pin(session.config.CurrentPin).OutputValue = static_cast<std::uint8_t>(position + 64);
+    return sendLive(session, dynamic ? kServoDynamic : kServoDirect, position + 64);
+}
+
+bool sendServoJump(Session& session, int position) { return sendLive(session, kServoDirect, position + 64); }
+
+bool sendPwmLevel(Session& session, int level, bool slow)
+{
+    session.config.pin(session.config.CurrentPin).OutputValue = static_cast<std::uint8_t>(level);
+    return sendLive(session, slow ? kPwmSlow : kPwmDirect, level);
+}
+
+bool sendPwmJump(Session& session, int level) { return sendLive(session, kPwmDirect, level); }
+
+} // namespace kestrel
