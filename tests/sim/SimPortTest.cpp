@@ -1,0 +1,86 @@
+#include "SimTestBytes.h"
+#include "sim/SimBus.h"
+#include "sim/SimFraming.h"
+#include "sim/SimPort.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+using namespace kestrel::sim;
+using kestrel::sim::test::busRequest;
+using Bytes = std::vector<std::uint8_t>;
+
+TEST(SimFraming, RunningSumCheckSatisfiesTheReceiverRule)
+{
+    // Worked example: 67, 226, 240, 128 -> running sum 67, 37, 21, 149; 256 - 149 = 107,
+    // below 128, so 235.
+    const Bytes request{67, 226, 240, 128};
+    EXPECT_EQ(runningSumCheck(request.data(), request.size()), 235);
+    std::mt19937 random(7);
+    for (int round = 0; round < 500; ++round) {
+        Bytes frame{static_cast<std::uint8_t>(random() % 128)};
+        const int n = 1 + static_cast<int>(random() % 18);
+        for (int i = 0; i < n; ++i)
+            frame.push_back(static_cast<std::uint8_t>(128 + random() % 128));
+        frame.push_back(runningSumCheck(frame.data(), frame.size()));
+        ASSERT_GE(frame.back(), 128);
+        ASSERT_TRUE(checkSumsToZero(frame));
+    }
+}
+
+TEST(SimPort, ReplyIsReadableAsSoonAsTheFrameCompletes)
+{
+    SimBus bus;
+    bus.addModule(0);
+    SimPort port(bus);
+    ASSERT_TRUE(port.open());
+    const Bytes request{67, 226, 240, 128, 235};
+    for (std::size_t i = 0; i < request.size(); ++i) {
+        EXPECT_EQ(port.bytesWaiting(), 0);
+        ASSERT_TRUE(port.writeByte(request[i]));
+    }
+    EXPECT_TRUE(port.waitForBytes(2000));
+    EXPECT_EQ(port.bytesWaiting(), 9);
+    EXPECT_EQ(port.readByte(), 67);
+    EXPECT_EQ(port.written(), request);
+    EXPECT_EQ(bus.stats().bytesIn, 5);
+    EXPECT_EQ(bus.stats().exchanges, 1);
+}
+
+TEST(SimPort, EmptyWaitReturnsAtOnceThroughTheHook)
+{
+    SimBus bus;
+    SimPort port(bus);
+    port.open();
+    int waitedMs = 0;
+    port.setWaitHook([&](int ms) { waitedMs += ms; });
+    EXPECT_FALSE(port.waitForBytes(2000));
+    EXPECT_EQ(waitedMs, 2000);
+    EXPECT_EQ(port.emptyWaits(), 1);
+}
+
+TEST(SimPort, SettingsOpenCloseAndVanishing)
+{
+    SimBus bus;
+    bus.addModule(0);
+    SimPort port(bus);
+    port.setSettings("38400,o,8,1");
+    EXPECT_EQ(port.settings(), "38400,o,8,1");
+    EXPECT_FALSE(port.isOpen());
+    EXPECT_FALSE(port.writeByte(67));
+    ASSERT_TRUE(port.open());
+    for (auto b : busRequest(0, 0, {112, 0}))
+        port.writeByte(b);
+    port.close();
+    ASSERT_TRUE(port.open()); // a reopened port starts empty
+    EXPECT_EQ(port.bytesWaiting(), 0);
+
+    port.setVanished(true);
+    EXPECT_FALSE(port.isOpen());
+    EXPECT_FALSE(port.writeByte(3));
+    EXPECT_FALSE(port.open());
+    EXPECT_FALSE(port.errorString().empty());
+    port.setVanished(false);
+    EXPECT_TRUE(port.open());
+}
