@@ -32,8 +32,9 @@ Bytes answerData(const Bytes& frame)
         return {};
     const int h = frame[0];
     const std::size_t n = (h & 8) ? (h & 7) : 8 + ((h & 16) ? 8 : 0) + (h & 7);
-    if (n < 8)
+    if (n < 8) {
         EXPECT_EQ(h & 0x3F, 40 + static_cast<int>(n)) << "short form expected";
+    }
     EXPECT_EQ(frame.size(), n + 2);
     EXPECT_TRUE(sumsToZero(frame));
     Bytes data;
