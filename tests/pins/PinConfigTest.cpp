@@ -1,0 +1,188 @@
+#include "PinTestSupport.h"
+#include "pins/LiveOutput.h"
+#include "pins/PinConfig.h"
+#include "pins/PinConfigView.h"
+#include "pins/PinEdits.h"
+
+#include <gtest/gtest.h>
+
+using namespace kestrel;
+using namespace kestrel::test;
+
+TEST(ReadPinConfig, ActiveReplyPutsSecondByteIntoOutputValueFlashIntoP1)
+{
+    for (int source : {0, 1}) {
+        ScriptedRig rig;
+        rig.session.link.settings.CheckKestrelBD = false; // a read switches it on
+        rig.reply({source == 0 ? 'Q' : 'q', 7, 1, 70, 11, 64});
+        ASSERT_TRUE(ReadPinConfig(rig.session, source, 7));
+        EXPECT_TRUE(rig.session.link.settings.CheckKestrelBD);
+        const PinRecord& pin = rig.session.config.Pins[7];
+        EXPECT_EQ(rig.frames()[0], (std::vector<int>{source == 0 ? 81 : 113, 7}));
+        EXPECT_EQ(pin.ConfigMode, 1);
+        // The mode changed to servo: both positions start at 64 before the bytes arrive.
+        EXPECT_EQ(pin.OutputValue, source == 0 ? 70 : 64);
+        EXPECT_EQ(pin.P(1), source == 0 ? 64 : 70);
+        EXPECT_EQ(pin.P(2), 11);
+        EXPECT_EQ(pin.P(3), 64);
+    }
+}
+
+TEST(ReadPinConfig, ModeChangeClearsAndRepliesAreNormalised)
+{
+    PinRecord pin;
+    pin.ConfigMode = 2;
+    pin.ConfigParams.fill(9);
+    storePinConfigReply(pin, 1, {4, 1, 2, 3}, 6); // input: mode and three bytes
+    EXPECT_EQ(pin.ConfigMode, 4);
+    EXPECT_EQ(pin.P(3), 3);
+    for (int n = 4; n <= 12; ++n)
+        EXPECT_EQ(pin.P(n), 0) << "P" << n;
+
+    storePinConfigReply(pin, 1, {2, 10, 1, 5, 20}, 7); // PWM with five bytes only
+    EXPECT_EQ(pin.P(4), 0);
+    EXPECT_EQ(pin.P(5), 31);
+    storePinConfigReply(pin, 1, {2, 10, 1, 5, 20, 25}, 8);
+    EXPECT_EQ(pin.P(4), 20);
+    EXPECT_EQ(pin.P(5), 25);
+
+    storePinConfigReply(pin, 1, {1, 64, 48}, 5); // older servo format: range 3 in the high nibble
+    EXPECT_EQ(pin.P(2), 43);
+    storePinConfigReply(pin, 1, {1, 64, 56}, 5); // bit 3 set: already the current layout
+    EXPECT_EQ(pin.P(2), 56);
+}
+
+TEST(ReadPinConfig, WrongPinOrCommandIsNoValidResponse)
+{
+    ScriptedRig rig;
+    rig.reply({'q', 8, 1, 64});
+    rig.reply({'r', 7, 1, 64});
+    rig.reply({'q', 7}); // no configuration bytes
+    EXPECT_FALSE(ReadPinConfig(rig.session, 1, 7));
+    EXPECT_FALSE(ReadPinConfig(rig.session, 1, 7));
+    EXPECT_FALSE(ReadPinConfig(rig.session, 1, 7));
+    EXPECT_EQ(rig.dialogs.texts(), std::vector<std::string>(3, "No valid response"));
+}
+
+TEST(SendPinConfig, EveryModeWithItsSizeAndValue)
+{
+    ScriptedRig rig;
+    rig.session.link.settings.CheckKestrelBD = false;
+    PinRecord& pin = rig.session.config.Pins[2];
+    pin.ConfigMode = 1;
+    pin.OutputValue = 80;
+    pin.ConfigParams = {70, 0xCB, 60, 4, 5, 6, 7, 68, 9, 50, 11, 99};
+    ASSERT_TRUE(SendPinConfig(rig.session, 1, 2));
+    EXPECT_EQ(pin.P(2), 0x0B); // bits 6 and 7 cleared in the model too
+    ASSERT_TRUE(SendPinConfig(rig.session, 0, 2));
+    pin.ConfigMode = 3;
+    SendPinConfig(rig.session, 0, 2);
+    pin.ConfigMode = 5;
+    SendPinConfig(rig.session, 1, 2);
+    pin.ConfigMode = 7;
+    SendPinConfig(rig.session, 0, 2);
+
+    const auto f = rig.frames();
+    ASSERT_EQ(f.size(), 5u);
+    EXPECT_EQ(f[0], (std::vector<int>{'a', 2, 1, 70, 0x0B, 60, 4, 5, 6, 7, 68, 9, 50, 11}));
+    EXPECT_EQ(f[1], (std::vector<int>{'A', 2, 1, 80, 0x0B, 60, 4, 5, 6, 7, 68, 9, 50, 11}));
+    EXPECT_EQ(f[2], (std::vector<int>{'A', 2, 3, 80, 0x0B, 60, 4, 5}));
+    EXPECT_EQ(f[3], (std::vector<int>{'a', 2, 5, 70, 0x0B, 60, 4}));
+    EXPECT_EQ(f[4], (std::vector<int>{'A', 2, 0})); // unknown mode 7 unconfigures the pin
+}
+
+TEST(LiveOutput, ServoAndPwmSubCommands)
+{
+    ScriptedRig rig;
+    rig.session.link.settings.CheckKestrelBD = false;
+    rig.session.config.CurrentPin = 12;
+    PinRecord& pin = rig.session.config.Pins[12];
+    sendServoLevel(rig.session, -10, true);
+    EXPECT_EQ(pin.OutputValue, 54);
+    sendServoLevel(rig.session, 5, false);
+    sendServoJump(rig.session, -64);
+    EXPECT_EQ(pin.OutputValue, 69); // the jump leaves the model alone
+    sendPwmLevel(rig.session, 20, true);
+    sendPwmJump(rig.session, 31);
+    EXPECT_EQ(pin.OutputValue, 20);
+    const std::vector<std::vector<int>> expected{
+        {0, 55, 12, 54}, {0, 39, 12, 69}, {0, 39, 12, 0}, {0, 54, 12, 20}, {0, 38, 12, 31}};
+    EXPECT_EQ(rig.frames(), expected);
+}
+
+TEST(PinEdits, BoxesClampToTheirRangesAndStoreTheirEncoding)
+{
+    struct Case {
+        PinField field;
+        const char* typed;
+        const char* shown;
+        int stored;
+    };
+    const Case cases[] = {
+        {PinField::TextSrvMaxSpd, "0", "1", 1},          {PinField::TextSrvMaxAccel, "200", "127", 127},
+        {PinField::TextBounceUp, "5", "0", 64},           {PinField::TextBounceUp, "-70", "-63", 1},
+        {PinField::TextBounceDown, "-3", "0", 64},        {PinField::TextBounceDown, "63", "63", 127},
+        {PinField::TextMidpoint, "-70", "-64", 0},        {PinField::TextMidpoint, "12ab", "12ab", 76},
+        {PinField::TextSrvInitPos, "63", "63", 127},      {PinField::TextPosition, "-1", "-1", 63},
+        {PinField::TextPWMLevel, "40", "31", 31},         {PinField::TextPWMAccel, "-5", "0", 0},
+        {PinField::TextPWMOnLevel, "32", "31", 31},       {PinField::TextInputDelay1, "99", "31", 31},
+    };
+    for (const Case& c : cases) {
+        PinRecord pin;
+        const CommittedField out = commitPinField(pin, c.field, c.typed);
+        EXPECT_EQ(out.text, c.shown) << c.typed;
+        EXPECT_EQ(out.stored, c.stored) << c.typed;
+        const PinFieldRule rule = pinFieldRule(c.field);
+        EXPECT_EQ(rule.byte == 0 ? pin.OutputValue : pin.P(rule.byte), c.stored);
+    }
+
+    PinRecord pin;
+    std::map<PinField, std::string> boxes{{PinField::TextPWMAccel, "300"}, {PinField::TextPWMOnLevel, "99"}};
+    CommitPinEdits(pin, 2, boxes); // the PWM page commits only its acceleration box
+    EXPECT_EQ(boxes[PinField::TextPWMAccel], "127");
+    EXPECT_EQ(boxes[PinField::TextPWMOnLevel], "99");
+    EXPECT_EQ(pin.P(3), 127);
+    EXPECT_EQ(pin.P(5), 0);
+}
+
+TEST(ShowPinConfig, PagesControlsAndHardwareWarning)
+{
+    Configuration config;
+    GeneralSettings general;
+    config.CurrentPin = 9;
+    PinRecord& pin = config.Pins[9];
+    pin.ConfigMode = 1;
+    pin.OutputValue = 60;
+    pin.ConfigParams = {64, 8 + 16 + 64 + 6, 70, 0, 0, 0, 0, 64, 0, 50, 0, 0};
+    PinConfigView v = ShowPinConfig(config, general);
+    EXPECT_EQ(v.SSTabPCFG, 1);
+    EXPECT_EQ(v.TextPosition, -4);
+    EXPECT_EQ(v.OptionServoRange, 0); // 6 is above 4
+    EXPECT_TRUE(v.ChkSrvAutoSuspend);
+    EXPECT_FALSE(v.ChkSrvSuspended);
+    EXPECT_TRUE(v.ChkSrvInitialized);
+    EXPECT_EQ(v.TextMidpoint, 6);
+    EXPECT_EQ(v.TextBounceUp, -14);
+    EXPECT_FALSE(v.LabelSrvHWCWarn);
+    general.ChkGenHWCSource[1] = 1; // pins 8..15
+    EXPECT_TRUE(ShowPinConfig(config, general).LabelSrvHWCWarn);
+
+    pin.ConfigMode = 3;
+    pin.P(2) = 2;
+    v = ShowPinConfig(config, general);
+    EXPECT_EQ(v.SSTabPCFG, 2);
+    EXPECT_TRUE(v.CheckPWMInverted);
+    EXPECT_EQ(v.OptionPWMDriveMode, 0);
+    EXPECT_EQ(v.OptionPWMAccelMode, 1);
+
+    pin.ConfigMode = 4;
+    v = ShowPinConfig(config, general);
+    EXPECT_EQ(v.SSTabPCFG, 3);
+    EXPECT_FALSE(v.CheckInputInvert);
+    EXPECT_EQ(v.TextInputDelay, (std::array<int, 2>{70, 0}));
+
+    pin.ConfigMode = 9;
+    v = ShowPinConfig(config, general);
+    EXPECT_FALSE(v.SSTabPCFG.has_value());
+    EXPECT_EQ(v.message, "Unknown configuration: 9");
+}
