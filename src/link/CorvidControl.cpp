@@ -1,0 +1,124 @@
+#include "link/CorvidControl.h"
+
+namespace kestrel {
+
+namespace {
+const char* kNotSupported = "Your system does not support this function";
+}
+
+CorvidControl::CorvidControl(Link& l, LinkControl& c) : link(l), control(c) {}
+
+int CorvidControl::versionFrom(int x, int y)
+{
+    return (x >> 3) * 1000 + (x & 7) * 100 + (y >> 3) * 10 + (y & 7);
+}
+
+bool CorvidControl::systemVersionValid() const
+{
+    const auto& r = link.state.ReplyBuffer;
+    return r[0] == 4 && r[1] == 1 && r[2] == 2;
+}
+
+bool CorvidControl::CheckCorvid_Click(bool checked)
+{
+    if (!checked) {
+        link.settings.CheckCorvid = false;
+        cmdSetTMVisible = true;
+        // The direct route carries a 4-bit address: clamp what was typed for the tunnel.
+        control.TextAddress_Click(control.addressText());
+        return false;
+    }
+    if (!link.port().isOpen()) {
+        link.settings.CheckCorvid = false;
+        link.dialogs().message("Select communications port", Icon::Warning);
+        return false;
+    }
+    link.state.CorvidToggle = 1;
+    if (!poll()) {
+        link.settings.CheckCorvid = false;
+        return false;
+    }
+    bool on = true;
+    if (requestSystemVersion()) {
+        if (!systemVersionValid()) {
+            on = false;
+            link.dialogs().message(kNotSupported, Icon::Warning);
+        } else {
+            const auto& r = link.state.ReplyBuffer;
+            const int v = versionFrom(r[3], r[4]);
+            if (v >= 3200) {
+                cmdSetTMVisible = false;
+            } else {
+                on = false;
+                link.dialogs().message(std::string(kNotSupported) + "\r\nProtocol = " + std::to_string(v / 1000) +
+                                           "." + std::to_string(v % 1000),
+                                       Icon::Warning);
+            }
+        }
+    }
+    link.settings.CheckCorvid = on;
+    poll();
+    return on;
+}
+
+bool CorvidControl::cmdSetTM_Click()
+{
+    if (!link.port().isOpen()) {
+        link.dialogs().message("Select communications port", Icon::Warning);
+        return false;
+    }
+    if (!poll() || !requestSystemVersion())
+        return false;
+    const auto& r = link.state.ReplyBuffer;
+    if (systemVersionValid() && versionFrom(r[3], r[4]) >= 3200) {
+        poll();
+        const Answer a = link.dialogs().ask("Your Corvid system supports Kestrel Tunneling\r\n"
+                                            "We recommend to use the Corvid Tunneling option instead\r\n"
+                                            "Do you still want to activate Transparant Mode?",
+                                            Buttons::YesNo, Icon::Question);
+        if (a != Answer::Yes)
+            return false;
+    }
+    if (!link.CorvidExchange(2, {1, 10}))
+        return false;
+    if (!(r[0] == 5 && r[1] == 1 && r[2] == 10)) {
+        poll();
+        link.dialogs().message(kNotSupported, Icon::Warning);
+        return false;
+    }
+    const int w = versionFrom(r[4], r[5]);
+    std::string result;
+    switch (r[3]) {
+    case 2:
+        result = "Your Hub-A has been put in Transparent Mode";
+        if (w < 1020) {
+            poll();
+            link.dialogs().message("Your Hub-A does not support this function", Icon::Warning);
+            return false;
+        }
+        break;
+    case 3:
+        result = "Your Hub-B has been put in Transparent Mode";
+        break;
+    case 10:
+        result = "Your Linkbox has been put in Transparent Mode";
+        if (w < 1030) {
+            poll();
+            link.dialogs().message("Your Linkbox does not support this function", Icon::Warning);
+            return false;
+        }
+        break;
+    default:
+        poll();
+        link.dialogs().message(kNotSupported, Icon::Warning);
+        return false;
+    }
+    if (!link.CorvidExchange(3, {1, 5, 16}))
+        return false;
+    link.dialogs().message(result, Icon::Information);
+    // From here the unit passes bytes straight through: the direct route must wake up again.
+    link.state.LinkToggle = 128;
+    return true;
+}
+
+} // namespace kestrel

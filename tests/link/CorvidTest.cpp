@@ -1,0 +1,230 @@
+// The tunnel route and the Corvid switches: exact frames against a scripted port, whole
+// exchanges against the simulated Corvid system.
+#include "link/CorvidControl.h"
+#include "link/Link.h"
+#include "sim/SimBus.h"
+#include "sim/SimCorvid.h"
+#include "sim/SimPort.h"
+#include "support/RecordingDialogs.h"
+#include "support/ScriptedPort.h"
+
+#include <gtest/gtest.h>
+
+using namespace kestrel;
+using namespace kestrel::test;
+
+namespace {
+
+// A Corvid reply frame built by hand: header, data + 128, check byte making the sum of
+// the header and the low 7 bits of every byte a multiple of 128.
+std::vector<int> corvidFrame(std::vector<int> data, int toggle = 0)
+{
+    const int n = static_cast<int>(data.size());
+    int header = n < 8 ? 40 + n : n < 16 ? n - 8 : n;
+    header += 64 * toggle;
+    std::vector<int> f{header};
+    int s = header;
+    for (int d : data) {
+        f.push_back(128 + d);
+        s += d;
+    }
+    f.push_back(128 + (128 - s % 128) % 128);
+    return f;
+}
+
+struct Scripted : ::testing::Test {
+    FakeClock clock;
+    ScriptedPort port{clock};
+    RecordingDialogs dialogs;
+    Link link{port, clock, dialogs};
+    int base = 0;
+    LinkControl control{link, base};
+    CorvidControl corvid{link, control};
+};
+
+struct Simulated : ::testing::Test {
+    FakeClock clock;
+    sim::SimBus bus;
+    sim::SimCorvid system{bus};
+    sim::SimPort port{system};
+    RecordingDialogs dialogs;
+    Link link{port, clock, dialogs};
+    int base = 0;
+    LinkControl control{link, base};
+    CorvidControl corvid{link, control};
+    Simulated()
+    {
+        clock.tick = 0.005;
+        port.setWaitHook([this](int ms) { clock.advance(ms / 1000.0); });
+        port.open();
+        bus.addModule(0, std::nullopt, {1, 2, 3, 4});
+        bus.addModule(20, std::nullopt, {2, 0, 0, 1});
+    }
+};
+
+} // namespace
+
+TEST_F(Scripted, FramesLogLinesAndSystemVersionAccepted)
+{
+    port.queue(corvidFrame({}, 1));                   // answer to the poll
+    port.queue(corvidFrame({1, 2, 0x30, 0x25}, 0));   // system version 6045
+    port.queue(corvidFrame({}, 1));                   // answer to the final poll
+    EXPECT_TRUE(corvid.CheckCorvid_Click(true));
+    EXPECT_TRUE(link.settings.CheckCorvid);
+    EXPECT_FALSE(corvid.cmdSetTMVisible);
+    EXPECT_EQ(control.addressMaximum(), 31);
+    EXPECT_TRUE(dialogs.messages.empty());
+
+    // Poll with toggle 1: header 40 + 64 = 104, check byte 152. Version request with
+    // toggle 0: header 42, data 129, 130; 42+129 = 171, +130 = 301 -> 45; 256 - 45 = 211.
+    EXPECT_EQ(port.take(), (std::vector<int>{104, 152, 42, 129, 130, 211, 104, 152}));
+    EXPECT_EQ(link.txtCorvidCommunication, "> 6818\r\n< 6818\r\n> 2A1253\r\n< 2C1230257C\r\n> 6818\r\n< 6818\r\n");
+    EXPECT_EQ(CorvidControl::versionFrom(0x30, 0x25), 6045);
+}
+
+TEST_F(Scripted, OldSystemRefusedWithProtocolText)
+{
+    port.queue(corvidFrame({}, 1));
+    port.queue(corvidFrame({1, 2, 0x18, 0x00}));
+    port.queue(corvidFrame({}, 1));
+    EXPECT_FALSE(corvid.CheckCorvid_Click(true));
+    EXPECT_FALSE(link.settings.CheckCorvid);
+    ASSERT_EQ(dialogs.messages.size(), 1u);
+    EXPECT_EQ(dialogs.messages[0].text, "Your system does not support this function\r\nProtocol = 3.0");
+    EXPECT_EQ(dialogs.messages[0].icon, Icon::Warning);
+    EXPECT_EQ(port.take().size(), 8u); // the final poll is sent all the same
+}
+
+TEST_F(Scripted, NoAnswerAndBadCheckByte)
+{
+    EXPECT_FALSE(corvid.CheckCorvid_Click(true)); // nothing answers the poll
+    ASSERT_EQ(dialogs.messages.size(), 1u);
+    EXPECT_EQ(dialogs.messages[0].text, "No answer from Corvid");
+    EXPECT_EQ(dialogs.messages[0].icon, Icon::Warning);
+    EXPECT_FALSE(link.settings.CheckCorvid);
+
+    dialogs.clear();
+    auto bad = corvidFrame({1, 2, 3});
+    bad.back() ^= 1;
+    port.queue(bad);
+    EXPECT_FALSE(link.CorvidExchange(0));
+    ASSERT_EQ(dialogs.messages.size(), 2u);
+    EXPECT_EQ(dialogs.messages[0].text, "Checksum Error\r\nSize = 3< 2B1234E");
+    EXPECT_EQ(dialogs.messages[1].text, "No answer from Corvid");
+    EXPECT_EQ(link.state.ReplyBuffer[0], 0);
+
+    link.state.CorvidToggle = 0;
+    EXPECT_FALSE(corvid.CheckCorvid_Click(false));
+    link.settings.TargetAddress = 25;
+    corvid.CheckCorvid_Click(false);
+    EXPECT_EQ(link.settings.TargetAddress, 15); // clamped back to the direct route's range
+}
+
+TEST_F(Scripted, TunnelledWriteAndRequestBytes)
+{
+    link.settings.CheckCorvid = true;
+    link.state.CorvidToggle = 0;
+    link.settings.TargetAddress = 2;
+    // A write: the frame 0, 98, 96, 96, 6, 9 then one poll.
+    port.queue(corvidFrame({}));
+    port.queue(corvidFrame({}, 1));
+    EXPECT_TRUE(link.SendKestrelMessage(false, 3, {96, 6, 9}));
+    auto bytes = port.take();
+    EXPECT_EQ(std::vector<int>(bytes.begin(), bytes.begin() + 7), (std::vector<int>{46, 128, 226, 224, 224, 134, 137}));
+    EXPECT_EQ(bytes.size(), 8u + 2u);
+
+    // eXtended address: 0, T, 112, x, data.
+    link.settings.CheckXaddress = true;
+    link.settings.TargetXAddress = 33;
+    port.queue(corvidFrame({}));
+    port.queue(corvidFrame({}, 1));
+    link.SendKestrelMessage(false, 1, {5});
+    bytes = port.take();
+    EXPECT_EQ(std::vector<int>(bytes.begin(), bytes.begin() + 6), (std::vector<int>{45, 128, 226, 240, 161, 133}));
+}
+
+TEST_F(Scripted, TimeOutAfterGoodPollsLeavesReplyValid)
+{
+    link.settings.CheckCorvid = true;
+    clock.tick = 0.05;
+    // Every frame is answered with an empty frame; no module reply ever comes.
+    for (int i = 0; i < 100; ++i)
+        port.queue(corvidFrame({}, i % 2));
+    link.SendKestrelMessage(true, 2, {112, 0});
+    EXPECT_TRUE(link.state.ReplyValid);
+    EXPECT_NE(link.state.ReplyBuffer[1] & 15, 6); // callers reject it by its size
+    EXPECT_TRUE(dialogs.messages.empty());
+}
+
+TEST_F(Simulated, TunnelledVersionOfTwoModules)
+{
+    system.setSystemVersion(6045);
+    link.state.LinkToggle = 128;
+    ASSERT_TRUE(corvid.CheckCorvid_Click(true));
+    EXPECT_TRUE(link.GetVersion());
+    EXPECT_EQ(link.VersionText, "1.2.3.4");
+    EXPECT_EQ(control.TextAddress_Click("20"), "20");
+    EXPECT_TRUE(link.GetVersion());
+    EXPECT_EQ(link.VersionText, "2.0.0.1");
+    EXPECT_TRUE(dialogs.messages.empty());
+    // The log shows each frame sent and received.
+    EXPECT_EQ(link.txtCorvidCommunication.rfind("> ", 0), 0u);
+    EXPECT_NE(link.txtCorvidCommunication.find("\r\n< "), std::string::npos);
+}
+
+TEST_F(Simulated, TransparentModeByUnitTypeAndVersion)
+{
+    struct Case {
+        sim::CorvidUnit unit;
+        int version;
+        bool switched;
+        const char* text;
+    };
+    const Case cases[] = {
+        // The units digit travels in three bits: 1017 is the highest version below 1020.
+        {sim::CorvidUnit::HubA, 1017, false, "Your Hub-A does not support this function"},
+        {sim::CorvidUnit::HubA, 1020, true, "Your Hub-A has been put in Transparent Mode"},
+        {sim::CorvidUnit::Linkbox, 1027, false, "Your Linkbox does not support this function"},
+        {sim::CorvidUnit::Linkbox, 1030, true, "Your Linkbox has been put in Transparent Mode"},
+        {sim::CorvidUnit::HubB, 1000, true, "Your Hub-B has been put in Transparent Mode"},
+    };
+    system.setSystemVersion(3100); // too old for tunneling: no question asked
+    for (const auto& c : cases) {
+        sim::SimBus b;
+        sim::SimCorvid s{b};
+        sim::SimPort p{s};
+        p.open();
+        s.setSystemVersion(3100);
+        s.setUnit(c.unit, c.version);
+        Link l{p, clock, dialogs};
+        LinkControl lc{l, base};
+        CorvidControl cc{l, lc};
+        dialogs.clear();
+        EXPECT_EQ(cc.cmdSetTM_Click(), c.switched) << c.text;
+        ASSERT_EQ(dialogs.messages.size(), 1u) << c.text;
+        EXPECT_EQ(dialogs.messages[0].text, c.text);
+        EXPECT_EQ(dialogs.messages[0].icon, c.switched ? Icon::Information : Icon::Warning);
+        EXPECT_EQ(s.transparent(), c.switched);
+        EXPECT_TRUE(dialogs.questions.empty());
+    }
+}
+
+TEST_F(Simulated, TransparentModeAsksOnNewSystemsThenDirectRouteWorks)
+{
+    system.setSystemVersion(3200);
+    system.setUnit(sim::CorvidUnit::HubB, 1000);
+    dialogs.answers = {Answer::No};
+    EXPECT_FALSE(corvid.cmdSetTM_Click());
+    ASSERT_EQ(dialogs.questions.size(), 1u);
+    EXPECT_EQ(dialogs.questions[0].text, "Your Corvid system supports Kestrel Tunneling\r\n"
+                                         "We recommend to use the Corvid Tunneling option instead\r\n"
+                                         "Do you still want to activate Transparant Mode?");
+    EXPECT_FALSE(system.transparent());
+
+    dialogs.answers = {Answer::Yes};
+    EXPECT_TRUE(corvid.cmdSetTM_Click());
+    EXPECT_TRUE(system.transparent());
+    // Now the direct route reaches the module through the unit.
+    EXPECT_TRUE(link.GetVersion());
+    EXPECT_EQ(link.VersionText, "1.2.3.4");
+}
