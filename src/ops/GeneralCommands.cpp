@@ -325,6 +325,18 @@ int ledByte(const std::array<int, 8>& boxes)
     return b;
 }
 
+void setLedBoxes(std::array<int, 8>& boxes, int b)
+{
+    if (b == 0) {
+        boxes.fill(0);
+        boxes[7] = 1;
+        return;
+    }
+    for (int i = 0; i < 7; ++i)
+        boxes[i] = bit(b, i);
+    boxes[7] = 0;
+}
+
 bool ReadLEDControl(Session& session)
 {
     session.link.setBidirectional(true);
@@ -337,15 +349,7 @@ bool ReadLEDControl(Session& session)
             say(session, "No valid response");
             continue;
         }
-        const int b = reply(session)[4];
-        if (b == 0) {
-            boxes->fill(0);
-            (*boxes)[7] = 1;
-        } else {
-            for (int i = 0; i < 7; ++i)
-                (*boxes)[i] = bit(b, i);
-            (*boxes)[7] = 0;
-        }
+        setLedBoxes(*boxes, reply(session)[4]);
     }
     return true;
 }

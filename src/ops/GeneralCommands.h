@@ -69,6 +69,9 @@ int serialAddressModeByte(const GeneralSettings& g);
 std::array<int, 4> groupMaskBytes(const GeneralSettings& g);
 std::array<int, 4> hardwareConfigBytes(const GeneralSettings& g);
 int ledByte(const std::array<int, 8>& boxes);
+// How a reader shows an LED byte: 0 checks element 7 alone, anything else sets
+// elements 0..6 from bits 0..6 (bit 7 ignored) and unchecks element 7.
+void setLedBoxes(std::array<int, 8>& boxes, int b);
 int serialPortByte(const GeneralSettings& g);
 
 // Companion handlers of the General page.

@@ -1,0 +1,360 @@
+// General page readers and writers against a scripted module: the requests byte for
+// byte, the reply checks and every message text.
+#include "ScriptedModule.h"
+#include "ops/GeneralCommands.h"
+
+#include <gtest/gtest.h>
+
+using namespace kestrel;
+using namespace kestrel::test::ops;
+
+namespace {
+
+struct GeneralCommands : ::testing::Test {
+    ScriptedModule m;
+    Session& s = m.session;
+    GeneralSettings& g = m.session.general;
+    std::vector<std::string> messages() const { return m.dialogs.texts(); }
+};
+
+} // namespace
+
+// ---- ID string ----
+
+TEST_F(GeneralCommands, IdStringOfFifteenCharactersIsCutToTwelveAndSentWithLengthFourteen)
+{
+    g.TextGenIDString = "Signalbox East1"; // 15 characters
+    EXPECT_TRUE(WriteIDString(s));
+    EXPECT_EQ(g.TextGenIDString, "Signalbox Ea");
+    ASSERT_EQ(m.requests.size(), 1u);
+    EXPECT_EQ(m.requests[0], (Data{96, 10, 'S', 'i', 'g', 'n', 'a', 'l', 'b', 'o', 'x', ' ', 'E', 'a'}));
+
+    g.TextGenIDString.clear();
+    WriteIDString(s);
+    EXPECT_EQ(m.requests[1], (Data{96, 10}));
+}
+
+TEST_F(GeneralCommands, ReadIdStringTakesLengthMinusTwoCharacters)
+{
+    s.link.settings.CheckKestrelBD = false; // every reader switches replies on
+    m.answer({112, 10, 'Y', 'a', 'r', 'd'});
+    EXPECT_TRUE(ReadIDString(s));
+    EXPECT_EQ(m.requests[0], (Data{112, 10}));
+    EXPECT_TRUE(m.waited[0]);
+    EXPECT_EQ(g.TextGenIDString, "Yard");
+
+    m.answer({112}); // length field 1
+    EXPECT_FALSE(ReadIDString(s));
+    m.answer({112, 11, 'X'});
+    EXPECT_FALSE(ReadIDString(s));
+    EXPECT_EQ(messages(), (std::vector<std::string>{"No valid response", "No valid response"}));
+    EXPECT_EQ(g.TextGenIDString, "Yard");
+
+    m.silence(); // no valid reply: False without a message of its own
+    m.dialogs.clear();
+    EXPECT_FALSE(ReadIDString(s));
+    EXPECT_EQ(messages(), (std::vector<std::string>{"No response received, resetting bidirectional communication"}));
+}
+
+// ---- DCC settings ----
+
+TEST_F(GeneralCommands, DccAddressIsSixBitsLowAndTheRestHighBothWays)
+{
+    int refreshed = 0;
+    s.onDccAddressChanged = [&] { ++refreshed; };
+    m.answer({112, 5, 2 + 4 + 8}); // 125ms, inverted basic packet state, address 0 allowed
+    m.answer({112, 4, 10, 3});     // 3 * 64 + 10 = 202
+    m.answer({112, 12, 5, 1});     // 69
+    EXPECT_TRUE(ReadDCCSettings(s));
+    EXPECT_EQ(m.requests, (std::vector<Data>{{112, 5}, {112, 4}, {112, 12}}));
+    EXPECT_EQ(g.OptGenDCC_PRP, 2);
+    EXPECT_EQ(g.ChkGenDCC_BPSI, 1);
+    EXPECT_EQ(g.ChkGenDCCAllow0, 1);
+    EXPECT_EQ(g.TextGenDCCAddress, "202");
+    EXPECT_EQ(g.TextGenXDCCAddress, "69");
+    EXPECT_EQ(refreshed, 2);
+
+    m.requests.clear();
+    g.ChkGenDCC_BPSI = 0;
+    EXPECT_TRUE(WriteDCCSettings(s));
+    EXPECT_EQ(m.requests, (std::vector<Data>{{96, 5, 2 + 8}, {96, 4, 10, 3}, {96, 12, 5, 1}}));
+}
+
+TEST_F(GeneralCommands, DccReaderGoesOnAfterContentErrorsAndStopsWithoutReply)
+{
+    m.answer({112, 5});          // length 2
+    m.answer({112, 3, 10, 3});   // wrong echo
+    m.answer({112, 12, 5});      // length 3
+    EXPECT_TRUE(ReadDCCSettings(s)); // the third request was answered
+    EXPECT_EQ(messages(), (std::vector<std::string>{"Received Address, cannot read DCC options",
+                                                    "Get DCC Address: No valid response", "No valid response"}));
+    EXPECT_EQ(g.TextGenDCCAddress, "0");
+
+    m.dialogs.clear();
+    m.answer({113, 5, 0});
+    m.answer({112, 4, 1});
+    m.answer({112, 12, 0, 0});
+    ReadDCCSettings(s);
+    EXPECT_EQ(messages(), (std::vector<std::string>{"Received Address: No valid response",
+                                                    "Get DCC Address: No valid response, size <> 4"}));
+
+    m.requests.clear();
+    m.answer({112, 5, 0});
+    m.silence();
+    EXPECT_FALSE(ReadDCCSettings(s));
+    EXPECT_EQ(m.requests.size(), 2u); // item 12 not asked
+}
+
+// ---- Serial addressing ----
+
+TEST_F(GeneralCommands, SerialAddressingNativeBitOnlyCountsWithFlexAddressingOff)
+{
+    int refreshed = 0;
+    s.onPinAddressDisplayChanged = [&] { ++refreshed; };
+    s.config.NumberingBase = 1;
+    m.answer({112, 8, 0, 64});
+    m.answer({112, 2, 17});
+    m.answer({112, 3, 1, 2 + 16, 4, 8}); // bit 4 of the second group is ignored
+    EXPECT_TRUE(ReadSerialAddressing(s));
+    EXPECT_EQ(m.requests, (std::vector<Data>{{112, 8}, {112, 2}, {112, 3}}));
+    EXPECT_EQ(g.CheckGenKestrelNative, 1);
+    EXPECT_EQ(g.CheckGenLynxaddr, 0);
+    EXPECT_EQ(g.LynxFlexAddress, 0);
+    EXPECT_EQ(g.TextGenLynxaddr, "1");
+    EXPECT_FALSE(g.TextGenLynxaddrVisible);
+    EXPECT_FALSE(g.CheckGenLynxaddrVisible); // the two modes exclude each other
+    EXPECT_EQ(g.ExtendedAddress, 17);
+    EXPECT_EQ(g.TextGenXaddr, "18");
+    const std::array<int, 16> mask{1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
+    EXPECT_EQ(g.CheckGenXGM, mask);
+    EXPECT_EQ(refreshed, 1);
+
+    // Flex-addressing on: bit 6 is not looked at, the whole byte is the flex-address.
+    m.answer({112, 8, 1, 64 + 5});
+    m.answer({112, 2, 17});
+    m.answer({112, 3, 0, 0, 0, 0});
+    EXPECT_TRUE(ReadSerialAddressing(s));
+    EXPECT_EQ(g.CheckGenLynxaddr, 1);
+    EXPECT_EQ(g.CheckGenKestrelNative, 0);
+    EXPECT_EQ(g.LynxFlexAddress, 69);
+    EXPECT_EQ(g.TextGenLynxaddr, "277"); // 69 * 4 + 1
+    EXPECT_TRUE(g.TextGenLynxaddrVisible);
+    EXPECT_FALSE(g.CheckGenKestrelNativeVisible);
+    EXPECT_TRUE(messages().empty());
+}
+
+TEST_F(GeneralCommands, SerialAddressingMessagesAndGoingOn)
+{
+    m.answer({112, 8, 0});          // length 3
+    m.answer({112, 9, 5});          // wrong echo
+    m.answer({112, 3, 0, 0, 0, 0, 0}); // length 7
+    EXPECT_TRUE(ReadSerialAddressing(s));
+    EXPECT_EQ(messages(), (std::vector<std::string>{"No valid response, size = 3 expected = 4",
+                                                    "No valid response, msg = 112,9 expected = 112,2",
+                                                    "No valid response, size = 7 expected = 6"}));
+    m.dialogs.clear();
+    m.answer({112, 7, 0, 0});
+    m.answer({112, 2, 0});
+    m.answer({111, 3, 0, 0, 0, 0});
+    ReadSerialAddressing(s);
+    EXPECT_EQ(messages(), (std::vector<std::string>{"No valid response, msg = 112,7 expected = 112,8",
+                                                    "No valid response, msg = 111,3 expected = 112,3"}));
+}
+
+TEST_F(GeneralCommands, SerialAddressingWritesChainOnSuccess)
+{
+    g.CheckGenKestrelNative = 1;
+    g.LynxFlexAddress = 9;
+    g.ExtendedAddress = 33;
+    g.CheckGenXGM = {1, 1, 1, 1, 0, 1, 0, 0, 0, 0, 0, 0, 1, 0, 0, 1};
+    EXPECT_TRUE(WriteSerialAddressing(s));
+    EXPECT_EQ(m.requests, (std::vector<Data>{{96, 8, 0, 64}, {96, 3, 15, 2, 0, 9}, {96, 2, 33}}));
+
+    m.requests.clear();
+    g.CheckGenKestrelNative = 0;
+    g.CheckGenLynxaddr = 1;
+    WriteSerialAddressing(s);
+    EXPECT_EQ(m.requests.front(), (Data{96, 8, 1, 9}));
+
+    // A failed first call sends nothing more.
+    m.requests.clear();
+    m.port.opened = false;
+    EXPECT_FALSE(WriteSerialAddressing(s));
+    EXPECT_EQ(messages(), (std::vector<std::string>{"Select communications port"}));
+}
+
+TEST_F(GeneralCommands, FlexAddressingWarningUnlessSuppressed)
+{
+    m.dialogs.answers = {Answer::Cancel};
+    g.CheckGenLynxaddr = 1;
+    CheckGenLynxaddr_Click(s);
+    ASSERT_EQ(m.dialogs.questions.size(), 1u);
+    EXPECT_EQ(m.dialogs.questions[0].text, "Lynx Flexible Addressing is a complex concept !!\r\n"
+                                           "It should only be activated by experienced users\r\n"
+                                           "that understand the details very well !");
+    EXPECT_EQ(m.dialogs.questions[0].icon, Icon::Warning);
+    EXPECT_EQ(g.CheckGenLynxaddr, 0);
+    EXPECT_TRUE(g.CheckGenKestrelNativeVisible);
+
+    g.CheckGenLynxaddr = 1;
+    CheckGenLynxaddr_Click(s); // answered OK
+    EXPECT_EQ(g.CheckGenLynxaddr, 1);
+    EXPECT_FALSE(g.CheckGenKestrelNativeVisible);
+    EXPECT_TRUE(g.TextGenLynxaddrVisible);
+
+    g.SuppressAddrWarning = true;
+    CheckGenLynxaddr_Click(s);
+    EXPECT_EQ(m.dialogs.questions.size(), 2u);
+
+    g.CheckGenKestrelNative = 1;
+    CheckGenKestrelNative_Click(s);
+    EXPECT_FALSE(g.CheckGenLynxaddrVisible);
+
+    // The read button suppresses the warning only for the read.
+    m.answer({112, 8, 1, 3});
+    m.answer({112, 2, 0});
+    m.answer({112, 3, 0, 0, 0, 0});
+    g.SuppressAddrWarning = false;
+    EXPECT_TRUE(CommandGenAddrRead_Click(s));
+    EXPECT_EQ(m.dialogs.questions.size(), 2u);
+    EXPECT_FALSE(g.SuppressAddrWarning);
+}
+
+// ---- Hardware configuration ----
+
+TEST_F(GeneralCommands, HardwareConfigurationBadByteStopsAndKeepsEarlierGroups)
+{
+    g.ChkGenHWCSink = {0, 1, 0, 1};
+    g.ChkGenHWCSource = {0, 0, 0, 1};
+    m.answer({112, 1, 1, 2, 4, 0}); // group 2 carries 4
+    EXPECT_FALSE(ReadHardwareConfig(s));
+    EXPECT_EQ(messages(), (std::vector<std::string>{"No valid response byte"}));
+    EXPECT_EQ(g.ChkGenHWCSink, (std::array<int, 4>{1, 0, 0, 1}));
+    EXPECT_EQ(g.ChkGenHWCSource, (std::array<int, 4>{0, 1, 0, 1}));
+
+    m.answer({112, 1, 0, 1, 2, 3});
+    EXPECT_TRUE(ReadHardwareConfig(s));
+    EXPECT_EQ(g.ChkGenHWCSink, (std::array<int, 4>{0, 1, 0, 1}));
+    EXPECT_EQ(g.ChkGenHWCSource, (std::array<int, 4>{0, 0, 1, 1}));
+
+    m.requests.clear();
+    EXPECT_TRUE(WriteHardwareConfig(s));
+    EXPECT_EQ(m.requests, (std::vector<Data>{{96, 1, 0, 1, 2, 3}}));
+}
+
+TEST_F(GeneralCommands, HardwareConfigurationSizeAndTypeMessagesStillReturnTrue)
+{
+    m.answer({112, 1, 0, 0, 0});
+    EXPECT_TRUE(ReadHardwareConfig(s));
+    m.answer({112, 2, 0, 0, 0, 0});
+    EXPECT_TRUE(ReadHardwareConfig(s));
+    EXPECT_EQ(messages(), (std::vector<std::string>{"No valid response size", "No valid response type"}));
+    m.silence();
+    EXPECT_FALSE(ReadHardwareConfig(s));
+}
+
+// ---- LED control ----
+
+TEST_F(GeneralCommands, LedByteZeroMeansElementSevenAndBitSevenIsIgnored)
+{
+    g.CheckLCGreen = {1, 1, 1, 1, 1, 1, 1, 0};
+    g.CheckLCOrange = {1, 0, 1, 0, 1, 0, 1, 1};
+    m.answer({112, 6, 0});
+    m.answer({112, 7, 5});
+    EXPECT_TRUE(ReadLEDControl(s));
+    EXPECT_EQ(m.requests, (std::vector<Data>{{112, 6}, {112, 7}}));
+    EXPECT_EQ(g.CheckLCGreen, (std::array<int, 8>{0, 0, 0, 0, 0, 0, 0, 1}));
+    EXPECT_EQ(g.CheckLCOrange, (std::array<int, 8>{1, 0, 1, 0, 0, 0, 0, 0}));
+    // A byte of 128 (bit 7 only) checks nothing among 0..6 and unchecks element 7.
+    std::array<int, 8> boxes{1, 1, 1, 1, 1, 1, 1, 1};
+    setLedBoxes(boxes, 128);
+    EXPECT_EQ(boxes, (std::array<int, 8>{0, 0, 0, 0, 0, 0, 0, 0}));
+
+    m.answer({112, 6, 1 + 8 + 64});
+    m.answer({112, 6, 3}); // wrong echo for orange: message, green kept
+    EXPECT_TRUE(ReadLEDControl(s));
+    EXPECT_EQ(g.CheckLCGreen, (std::array<int, 8>{1, 0, 0, 1, 0, 0, 1, 0}));
+    EXPECT_EQ(messages(), (std::vector<std::string>{"No valid response"}));
+
+    // Element 7 is not written: "Idle Flash" is the byte 0.
+    m.requests.clear();
+    g.CheckLCGreen = {0, 0, 0, 0, 0, 0, 0, 1};
+    g.CheckLCOrange = {0, 1, 0, 0, 0, 0, 1, 1};
+    EXPECT_TRUE(WriteLEDControl(s));
+    EXPECT_EQ(m.requests, (std::vector<Data>{{96, 6, 0}, {96, 7, 2 + 64}}));
+}
+
+// ---- The module's serial port ----
+
+TEST_F(GeneralCommands, SerialPortLineByteAndParityCodes)
+{
+    // Baud code 4 ("38400"), 8 = data bits index 1, 32 = parity 2, 64 = stop index 1.
+    m.answer({112, 13, 1, 4 + 8 + 32 + 64});
+    EXPECT_TRUE(ReadSerialPortSettings(s));
+    EXPECT_EQ(g.CheckGenSerialEnable, 1);
+    EXPECT_EQ(g.ComboGenBaud, 4);
+    EXPECT_EQ(kGenBaudList[g.ComboGenBaud], std::string("38400"));
+    EXPECT_EQ(g.OptionGenSerialDatabits, 1);
+    EXPECT_EQ(g.OptionGenSerialStop, 1);
+    EXPECT_EQ(g.OptionGenSerialParity, 2);
+
+    m.requests.clear();
+    WriteSerialPortSettings(s);
+    g.OptionGenSerialParity = 3;
+    g.OptionGenSerialStop = 0;
+    g.ComboGenBaud = 7;
+    WriteSerialPortSettings(s);
+    g.OptionGenSerialParity = 0;
+    g.OptionGenSerialDatabits = 0;
+    g.CheckGenSerialEnable = 0;
+    WriteSerialPortSettings(s);
+    EXPECT_EQ(m.requests, (std::vector<Data>{{96, 13, 1, 108}, {96, 13, 1, 7 + 8 + 48}, {96, 13, 0, 7}}));
+
+    m.answer({112, 13, 1});
+    EXPECT_FALSE(ReadSerialPortSettings(s));
+    m.answer({112, 12, 1, 0});
+    EXPECT_FALSE(ReadSerialPortSettings(s));
+    EXPECT_EQ(messages(), (std::vector<std::string>{"No valid response, size = 3 expected = 4",
+                                                    "No valid response, msg = 112,12 expected = 112,13"}));
+}
+
+// ---- Erase ----
+
+namespace {
+const std::string kEraseFirst = "WARNING !!\r\nThis operation will erase the Kestrel Configuration Memory\r\nContinue?";
+const std::string kEraseSecond = "WARNING !!\r\nThis operation will erase the Kestrel Configuration Memory\r\n"
+                                 "The green LED on the Kestrel will be ON during this process\r\n"
+                                 "The erase process may take up to 45 seconds, please be patient\r\n\r\n"
+                                 "Do you want to cancel this operation?";
+} // namespace
+
+TEST_F(GeneralCommands, EraseAsksTwiceAndOkAtTheSecondQuestionCancels)
+{
+    m.dialogs.answers = {Answer::Cancel};
+    EXPECT_FALSE(EraseFlash(s));
+    m.dialogs.answers = {Answer::Ok, Answer::Ok};
+    EXPECT_FALSE(EraseFlash(s));
+    EXPECT_TRUE(m.requests.empty());
+    ASSERT_EQ(m.dialogs.questions.size(), 3u);
+    EXPECT_EQ(m.dialogs.questions[0].text, kEraseFirst);
+    EXPECT_EQ(m.dialogs.questions[2].text, kEraseSecond);
+    EXPECT_EQ(m.dialogs.questions[2].icon, Icon::Warning);
+}
+
+TEST_F(GeneralCommands, EraseSendsTheConfirmationWithoutWaitingAndRestoresBidirectional)
+{
+    int changes = 0;
+    s.link.onSettingsChanged = [&] { ++changes; };
+    m.dialogs.answers = {Answer::Ok, Answer::Cancel};
+    EXPECT_TRUE(EraseFlash(s));
+    EXPECT_EQ(m.requests, (std::vector<Data>{{96, 0, 61, 17, 92, 8, 33, 70, 15, 44}}));
+    EXPECT_FALSE(m.waited[0]);
+    EXPECT_TRUE(s.link.settings.CheckKestrelBD);
+    EXPECT_EQ(changes, 2); // unchecked for the frame, checked again after it
+    EXPECT_TRUE(messages().empty());
+
+    s.link.settings.CheckKestrelBD = false;
+    m.dialogs.answers = {Answer::Ok, Answer::Cancel};
+    EraseFlash(s);
+    EXPECT_FALSE(s.link.settings.CheckKestrelBD);
+}
