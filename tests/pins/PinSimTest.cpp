@@ -1,0 +1,178 @@
+#include "PinTestSupport.h"
+#include "ops/PinTransfer.h"
+#include "pins/PinConfig.h"
+
+#include <gtest/gtest.h>
+
+using namespace kestrel;
+using namespace kestrel::test;
+
+namespace {
+
+// Pins 4 and 5 with something in every field that pin transfer carries.
+void fillPins(Configuration& config)
+{
+    PinRecord& a = config.Pins[4];
+    a.AspectLayout = 3;
+    a.InitAspect = 2;
+    a.DccCount = 7;
+    a.XDccCount = 1;
+    a.LynxCount = 2;
+    a.Aspects[0].Steps[0] = {5, 0, 0, 200, 129, 3}; // SendSerial 2, 8-bit values
+    a.Aspects[3].Steps[8] = {10, 1, 31, 5, 0, 0};   // Invert with fade
+    a.ConfigMode = 1;
+    a.ConfigParams = {70, 43, 60, 4, 5, 6, 7, 68, 9, 50, 11, 0};
+    PinRecord& b = config.Pins[5];
+    b.AspectLayout = 2;
+    b.DeviceOffset = -1;
+    b.Aspects[11].Steps[2] = {39, 0, 1, 100, 0, 0};
+    b.ConfigMode = 3;
+    b.ConfigParams = {10, 1, 5, 0, 31, 0, 0, 0, 0, 0, 0, 0};
+}
+
+std::vector<std::string> reportLines(const Session& session)
+{
+    std::vector<std::string> lines;
+    const std::string& t = session.report.txtVerification;
+    for (std::size_t at = 0, end; (end = t.find("\r\n", at)) != std::string::npos; at = end + 2)
+        lines.push_back(t.substr(at, end - at));
+    return lines;
+}
+
+class CancelAt : public Progress {
+public:
+    explicit CancelAt(int pin) : pin(pin) {}
+    void step(int done, int, const std::string&) override { steps.push_back(done); }
+    bool cancelled() override { return !steps.empty() && steps.back() >= pin; }
+    int pin;
+    std::vector<int> steps;
+};
+
+} // namespace
+
+TEST(PinTransferSim, WriteThenReadGivesThePinsBack)
+{
+    SimRig rig;
+    fillPins(rig.session.config);
+    ASSERT_TRUE(WritePin(rig.session, 4, true));
+    ASSERT_TRUE(WritePin(rig.session, 5, true));
+    EXPECT_EQ(rig.clock.slept, 0); // replies pace a bidirectional link
+    EXPECT_EQ(rig.modulePin(4).steps[0][0], (std::array<std::uint8_t, 5>{5, 3, 72, 1, 3}));
+    EXPECT_EQ(rig.modulePin(5).deviceOffset, 31); // -1 in five bits
+    EXPECT_EQ(rig.modulePin(5).flashConfig, (std::vector<std::uint8_t>{3, 10, 1, 5, 0, 31}));
+
+    const PinRecord a = rig.session.config.Pins[4], b = rig.session.config.Pins[5];
+    rig.session.config.Pins[4] = rig.session.config.Pins[5] = PinRecord{};
+    rig.module.addressConfigRotation = 2;
+    ASSERT_TRUE(ReadPin(rig.session, 4));
+    ASSERT_TRUE(ReadPin(rig.session, 5));
+    for (const auto& [read, written] : {std::pair{rig.session.config.Pins[4], a}, {rig.session.config.Pins[5], b}}) {
+        EXPECT_EQ(read.AspectLayout, written.AspectLayout);
+        EXPECT_EQ(read.Aspects, written.Aspects);
+        EXPECT_EQ(read.InitAspect, written.InitAspect);
+        EXPECT_EQ(read.DccCount, written.DccCount);
+        EXPECT_EQ(read.XDccCount, written.XDccCount);
+        EXPECT_EQ(read.LynxCount, written.LynxCount);
+        EXPECT_EQ(read.DeviceOffset, written.DeviceOffset);
+        EXPECT_EQ(read.ConfigMode, written.ConfigMode);
+        EXPECT_EQ(read.ConfigParams, written.ConfigParams);
+    }
+    EXPECT_EQ(rig.session.config.DccFirstIndex[5], 7); // the address index follows the read counts
+    EXPECT_TRUE(rig.dialogs.messages.empty());
+}
+
+TEST(PinTransferSim, VerifyReportsEachDifferenceOnce)
+{
+    SimRig rig;
+    fillPins(rig.session.config);
+    rig.session.config.Pins[11].ConfigMode = 2; // PWM whose module answers only five bytes
+    rig.session.config.Pins[11].ConfigParams = {10, 1, 5, 0, 31, 0, 0, 0, 0, 0, 0, 0};
+    ASSERT_TRUE(WriteAllPins(rig.session, true));
+    rig.modulePin(11).flashConfig = {2, 10, 1, 5, 20};
+    rig.module.addressConfigRotation = 1;
+    EXPECT_TRUE(VerifyAllPins(rig.session));
+    EXPECT_EQ(reportLines(rig.session), (std::vector<std::string>{"Start Pin Verification"}));
+
+    rig.modulePin(4).steps[3][8][1] = 30;
+    rig.modulePin(4).steps[0][1][4] = 1;
+    rig.modulePin(4).steps[5][0][0] = 9; // outside the layout: not compared
+    rig.modulePin(5).initialAspect = 3;
+    rig.modulePin(6).dccCount = 2;
+    rig.modulePin(7).lynxCount = 1;
+    rig.modulePin(8).deviceOffset = 30;
+    rig.modulePin(9).aspectLayout = 2;
+    rig.modulePin(10).flashConfig = {4, 0, 0, 3, 3};
+    rig.modulePin(4).flashConfig[2] |= 64; // servo P2 bits 6 and 7 are not part of the configuration
+    rig.session.config.NumberingBase = 1;
+    rig.session.report.clear();
+    EXPECT_FALSE(VerifyAllPins(rig.session));
+    EXPECT_EQ(reportLines(rig.session), (std::vector<std::string>{
+                                            "Start Pin Verification",
+                                            "Note: Numbering starts at 1",
+                                            "Pin 5: Aspect 0 does not compare",
+                                            "Pin 5: Aspect 3 does not compare",
+                                            "Pin 6: Init does not compare",
+                                            "Pin 7: DCC Address Configuration does not compare",
+                                            "Pin 8: Serial Address Configuration does not compare",
+                                            "Pin 9: Device Pointer does not compare",
+                                            "Pin 10: Aspectconfig does not compare",
+                                            "Pin 11: Pinconfig does not compare",
+                                        }));
+}
+
+TEST(PinTransferSim, VerifyWrongAndMissingReplies)
+{
+    SimRig rig;
+    rig.module.faults.refuse(118, sim::Refusal::WrongEcho, 2);
+    rig.module.faults.refuse(113, sim::Refusal::NoReply, 3);
+    EXPECT_FALSE(VerifyAllPins(rig.session));
+    EXPECT_EQ(reportLines(rig.session),
+              (std::vector<std::string>{"Start Pin Verification",
+                                        "Pin Address Configuration: Invalid Response, expected 5,118,2, received 5,119,2",
+                                        "No valid response"}));
+}
+
+TEST(PinTransferSim, DeviceIsItsHeadAndTheFollowingPinsThatPointAtIt)
+{
+    SimRig rig;
+    for (int p = 3; p <= 7; ++p)
+        rig.modulePin(p).aspectLayout = 3;
+    rig.modulePin(5).deviceOffset = 31; // head 4
+    rig.modulePin(6).deviceOffset = 30; // head 4
+    rig.session.config.CurrentPin = 5;
+    ASSERT_TRUE(ReadDevice(rig.session));
+    const auto& pins = rig.session.config.Pins;
+    EXPECT_EQ((std::vector<int>{pins[3].AspectLayout, pins[4].AspectLayout, pins[5].AspectLayout,
+                                pins[6].AspectLayout, pins[7].AspectLayout}),
+              (std::vector<int>{0, 3, 3, 3, 0}));
+    EXPECT_EQ(pins[6].DeviceOffset, -2);
+
+    for (int p = 3; p <= 7; ++p)
+        rig.session.config.Pins[p].AspectLayout = 2;
+    rig.session.config.Pins[7].DeviceOffset = 0;
+    rig.session.config.CurrentPin = 6;
+    ASSERT_TRUE(WriteDevice(rig.session));
+    EXPECT_EQ((std::vector<int>{rig.modulePin(3).aspectLayout, rig.modulePin(4).aspectLayout,
+                                rig.modulePin(6).aspectLayout, rig.modulePin(7).aspectLayout}),
+              (std::vector<int>{3, 2, 2, 3}));
+
+    rig.module.faults.refuse(118, sim::Refusal::WrongEcho, 6);
+    rig.session.config.NumberingBase = 1;
+    EXPECT_FALSE(ReadDevice(rig.session));
+    EXPECT_EQ(rig.dialogs.texts(), (std::vector<std::string>{"Cannot read DevicePointer from Pin 7"}));
+}
+
+TEST(PinTransferSim, AllPinsReportProgressAndStopWhenCancelled)
+{
+    SimRig rig;
+    CancelAt progress(3);
+    rig.session.link.setProgress(&progress);
+    EXPECT_FALSE(ReadAllPins(rig.session));
+    EXPECT_EQ(progress.steps, (std::vector<int>{0, 1, 2, 3}));
+
+    CancelAt never(99);
+    rig.session.link.setProgress(&never);
+    EXPECT_TRUE(WriteAllPins(rig.session));
+    EXPECT_EQ(never.steps.size(), 33u);
+    EXPECT_EQ(never.steps.back(), 32);
+}
