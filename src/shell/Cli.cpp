@@ -1,5 +1,6 @@
 #include "shell/Cli.h"
 
+#include "link/CorvidControl.h"
 #include "link/ProgramFault.h"
 #include "link/Text.h"
 #include "ops/Session.h"
@@ -26,7 +27,8 @@ const char* kUsageText =
     "                   [--corvid] [--one-way] [--number-from-1] COMMAND\n"
     "commands:\n"
     "  ports                         list the ports (\"sim\" is the built-in simulated module)\n"
-    "  version                       print the module's firmware version\n";
+    "  version                       print the module's firmware version\n"
+    "  transparent [--yes]           switch the Corvid interface unit into transparent mode\n";
 
 struct CliOptions {
     std::string port = "sim";
@@ -46,6 +48,7 @@ struct CliOptions {
 struct CliContext {
     CliOptions& options;
     Session& session;
+    CorvidControl& corvid;
     ConsoleDialogs& dialogs;
     ConsoleProgress& progress;
 };
@@ -60,10 +63,17 @@ int commandVersion(CliContext& c)
     return kOk;
 }
 
+// Switches an interface unit of the Corvid system into transparent mode.
+int commandTransparent(CliContext& c)
+{
+    return c.corvid.cmdSetTM_Click() ? kOk : kFailed;
+}
+
 const std::map<std::string, Command>& commands()
 {
     static const std::map<std::string, Command> table = {
         {"version", commandVersion},
+        {"transparent", commandTransparent},
     };
     return table;
 }
@@ -172,13 +182,17 @@ int runCli(const std::vector<std::string>& args)
         session.link.setProgress(&progress);
         if (options.oneWay)
             session.link.settings.CheckKestrelBD = false;
+        CorvidControl corvid(session.link, session.linkControl);
+        // The tunnel goes on before the address is taken, so that 16..31 are allowed.
+        if (options.corvid && options.command != "transparent" && !corvid.CheckCorvid_Click(true))
+            return kFailed;
         if (!options.address.empty())
             session.linkControl.TextAddress_Click(options.address);
         if (!options.xaddress.empty()) {
             session.link.settings.CheckXaddress = true; // asking on the command line is the consent
             session.linkControl.txtXaddr_Click(options.xaddress);
         }
-        CliContext context{options, session, dialogs, progress};
+        CliContext context{options, session, corvid, dialogs, progress};
         const int status = found->second(context);
         progress.finish();
         return status;

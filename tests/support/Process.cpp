@@ -41,8 +41,13 @@ std::vector<char*> argv(const std::string& program, const std::vector<std::strin
 
 std::string binPath(const std::string& program)
 {
-    const char* dir = std::getenv("KESTREL_BIN_DIR");
-    return std::string(dir ? dir : ".") + "/" + program;
+    // KESTREL_BIN_DIR if set, else the folder of the running test (the build's bin/).
+    if (const char* dir = std::getenv("KESTREL_BIN_DIR"))
+        return std::string(dir) + "/" + program;
+    char self[4096];
+    const ssize_t n = readlink("/proc/self/exe", self, sizeof self - 1);
+    std::string path = n > 0 ? std::string(self, static_cast<std::size_t>(n)) : std::string("./x");
+    return path.substr(0, path.rfind('/')) + "/" + program;
 }
 
 SimProcess::SimProcess(const std::vector<std::string>& args)

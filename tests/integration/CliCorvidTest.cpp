@@ -1,0 +1,37 @@
+// kestrel-cli through a simulated Corvid system on a pseudo-terminal.
+#include "support/Process.h"
+
+#include <gtest/gtest.h>
+
+using namespace kestrel::test;
+
+TEST(CliThroughCorvid, TunnelThenTransparentModeThenDirect)
+{
+    SimProcess sim({"--corvid", "--address", "0,20", "--version", "3.1.4.1", "--unit", "linkbox", "--unit-version",
+                    "1030"});
+    const std::string cli = binPath("kestrel-cli");
+    // Through the tunnel, addresses above 15 are reachable.
+    auto r = runProgram(cli, {"--port", sim.pty(), "--corvid", "--address", "20", "version"});
+    EXPECT_EQ(r.status, 0) << r.err;
+    EXPECT_EQ(r.out, "3.1.4.1\n");
+
+    // The system supports tunneling, so switching the unit asks first; without --yes: no.
+    r = runProgram(cli, {"--port", sim.pty(), "transparent"});
+    EXPECT_EQ(r.status, 1);
+    r = runProgram(cli, {"--port", sim.pty(), "transparent", "--yes"});
+    EXPECT_EQ(r.status, 0) << r.err;
+    EXPECT_NE(r.err.find("Your Linkbox has been put in Transparent Mode"), std::string::npos) << r.err;
+
+    // Now the direct route passes through the unit.
+    r = runProgram(cli, {"--port", sim.pty(), "version"});
+    EXPECT_EQ(r.status, 0) << r.err;
+    EXPECT_EQ(r.out, "3.1.4.1\n");
+}
+
+TEST(CliThroughCorvid, OldSystemRefusesTheTunnel)
+{
+    SimProcess sim({"--corvid", "--system-version", "3.0"});
+    auto r = runProgram(binPath("kestrel-cli"), {"--port", sim.pty(), "--corvid", "version"});
+    EXPECT_EQ(r.status, 1);
+    EXPECT_NE(r.err.find("Your system does not support this function\nProtocol = 3.0"), std::string::npos) << r.err;
+}
