@@ -1,0 +1,184 @@
+// Event control: slot bytes, single and bulk transfer, the entry boxes, the enable
+// maps and the verification lines.
+#include "ScriptedModule.h"
+#include "SimModuleSession.h"
+#include "ops/EventControl.h"
+
+#include <gtest/gtest.h>
+
+using namespace kestrel;
+using namespace kestrel::test::ops;
+
+TEST(EventSlotByte, HighNibbleIsTheSlotAndFifteenMeansNone)
+{
+    EXPECT_EQ(decodeEventSlot(2, 0x2F), -1);
+    EXPECT_EQ(decodeEventSlot(3, 0x25), -1); // slot number 2 in slot 3
+    EXPECT_EQ(decodeEventSlot(2, 0x25), 5);
+    EXPECT_EQ(decodeEventSlot(0, 0x0E), 14);
+    EXPECT_EQ(encodeEventSlot(1, -1), 0x1F);
+    EXPECT_EQ(encodeEventSlot(3, 11), 0x3B);
+    EXPECT_EQ(encodeEventSlot(0, 0), 0x00);
+}
+
+namespace {
+struct EventScripted : ::testing::Test {
+    ScriptedModule m;
+    Session& s = m.session;
+};
+} // namespace
+
+TEST_F(EventScripted, WriteSinglePinSendsOnThenOffSlots)
+{
+    s.config.NumberingBase = 1;
+    s.eventControl.TextECpin = "8"; // pin 7
+    s.config.events(7).OnEvent = {3, -1, 11, 0, 0};
+    s.config.events(7).OffEvent = {-1, -1, -1, 2, 0};
+    EXPECT_TRUE(WriteSingleEvents(s));
+    EXPECT_EQ(m.requests, (std::vector<Data>{{100, 7, 0x03, 0x1F, 0x2B, 0x30}, {101, 7, 0x0F, 0x1F, 0x2F, 0x32}}));
+}
+
+TEST_F(EventScripted, ReadSinglePinUsesTheDifferentReplyLayoutsAndShowsTheEntries)
+{
+    s.eventControl.TextECpin = "40"; // clamped to pin 31
+    // Event-On: length 7, an initial aspect entry before the slots; Event-Off: length 6.
+    m.answer({116, 31, 0x7F, 0x01, 0x1F, 0x25, 0x3A});
+    m.answer({117, 31, 0x04, 0x1F, 0x2F, 0x3F});
+    EXPECT_TRUE(ReadSingleEvents(s));
+    EXPECT_EQ(m.requests, (std::vector<Data>{{116, 31}, {117, 31}}));
+    EXPECT_EQ(s.eventControl.TextECpin, "31");
+    EXPECT_EQ(s.eventControl.TextECon, (std::array<std::string, 4>{"1", "-1", "5", "10"}));
+    EXPECT_EQ(s.eventControl.TextECoff, (std::array<std::string, 4>{"4", "-1", "-1", "-1"}));
+    EXPECT_EQ(s.config.events(31).OnEvent[2], 5);
+
+    m.answer({116, 31, 0x7F, 0x01, 0x1F, 0x25}); // one byte short
+    m.answer({117, 31, 0x04, 0x1F, 0x2F, 0x3F});
+    EXPECT_TRUE(ReadSingleEvents(s));
+    EXPECT_EQ(m.dialogs.texts(), (std::vector<std::string>{"Function not supported by Device"}));
+}
+
+TEST_F(EventScripted, EntryBoxesClampToMinusOneAndElevenAndCopyToAll)
+{
+    s.eventControl.TextECpin = "3";
+    s.eventControl.TextECon[1] = "-5";
+    EditEventEntry(s, EventSide::On, 1);
+    s.eventControl.TextECoff[2] = "20";
+    EditEventEntry(s, EventSide::Off, 2);
+    EXPECT_EQ(s.eventControl.TextECon[1], "-1");
+    EXPECT_EQ(s.eventControl.TextECoff[2], "11");
+    EXPECT_EQ(s.config.events(3).OnEvent[1], -1);
+    EXPECT_EQ(s.config.events(3).OffEvent[2], 11);
+
+    s.eventControl.TextECon = {"1", "2", "3", "4"};
+    s.eventControl.TextECoff = {"-1", "0", "-1", "7"};
+    CopyEventsToAll(s);
+    for (int p = 0; p < kPinCount; ++p) {
+        EXPECT_EQ(s.config.events(p).OnEvent, (std::array<std::int16_t, 5>{1, 2, 3, 4, 0}));
+        EXPECT_EQ(s.config.events(p).OffEvent, (std::array<std::int16_t, 5>{-1, 0, -1, 7, 0}));
+    }
+}
+
+TEST_F(EventScripted, EnableMapsAreTheInverseOfTheBoxes)
+{
+    s.general.CheckInitEE = {1, 1, 1, 1, 1, 1, 1, 1};
+    WriteEnableMaps(s);
+    s.general.CheckInitEE = {0, 0, 0, 0, 0, 0, 0, 0};
+    WriteEnableMaps(s);
+    s.general.CheckInitEE = {1, 0, 1, 1, 0, 1, 1, 1};
+    WriteEnableMaps(s);
+    EXPECT_EQ(m.requests, (std::vector<Data>{{96, 11, 0, 0}, {96, 11, 15, 15}, {96, 11, 2, 1}}));
+
+    m.requests.clear();
+    m.answer({112, 11, 0x12, 0x05}); // bits 4..7 unused
+    EXPECT_TRUE(ReadEnableMaps(s));
+    EXPECT_EQ(m.requests, (std::vector<Data>{{112, 11}}));
+    EXPECT_EQ(s.general.CheckInitEE, (std::array<int, 8>{1, 0, 1, 1, 0, 1, 0, 1}));
+
+    m.answer({112, 11, 0});
+    EXPECT_FALSE(ReadEnableMaps(s));
+    m.answer({112, 10, 0, 0});
+    EXPECT_FALSE(ReadEnableMaps(s));
+    EXPECT_EQ(m.dialogs.texts(), (std::vector<std::string>{"No valid response size", "No valid response type"}));
+}
+
+TEST_F(EventScripted, WriteAllPacesEachWriteWhenNoReplyPacesIt)
+{
+    s.link.settings.CheckKestrelBD = false;
+    EXPECT_TRUE(WriteAllEvents(s));
+    ASSERT_EQ(m.requests.size(), 64u);
+    EXPECT_EQ(m.requests[0][0], 100);
+    EXPECT_EQ(m.requests[31], (Data{100, 31, 0x00, 0x10, 0x20, 0x30}));
+    EXPECT_EQ(m.requests[32][0], 101);
+    EXPECT_EQ(m.clock.slept, 64 * 100);
+}
+
+// ---- against the simulated module ----
+
+namespace {
+struct EventSim : ::testing::Test {
+    SimModuleSession sim;
+    Session& s = *sim.session;
+};
+} // namespace
+
+TEST_F(EventSim, ModuleWithoutEventOnGivesOneMessageAndEventOffStillRuns)
+{
+    sim.module.faults.refuse(116, sim::Refusal::WrongEcho);
+    sim.memory().pins[4].eventOff = {0x0F, 0x13, 0x2F, 0x3F};
+    EXPECT_TRUE(ReadAllEvents(s));
+    EXPECT_EQ(sim.dialogs.texts(), (std::vector<std::string>{"Read Event-On: Function not supported by Device"}));
+    EXPECT_EQ(s.config.events(4).OffEvent, (std::array<std::int16_t, 5>{-1, 3, -1, -1, 0}));
+}
+
+TEST_F(EventSim, WriteAllThenReadAllRoundTrip)
+{
+    for (int p = 0; p < kPinCount; ++p)
+        for (int i = 0; i < kEventSlots; ++i) {
+            s.config.events(p).OnEvent[i] = static_cast<std::int16_t>((p + i) % 13 - 1);  // -1..11
+            s.config.events(p).OffEvent[i] = static_cast<std::int16_t>((p * 3 + i) % 13 - 1);
+        }
+    s.general.CheckInitEE = {0, 1, 1, 0, 1, 0, 0, 1};
+    ASSERT_TRUE(WriteAllEvents(s));
+    ASSERT_TRUE(WriteEnableMaps(s));
+    EXPECT_EQ(sim.memory().pins[2].eventOn, (std::array<std::uint8_t, 4>{0x01, 0x12, 0x23, 0x34}));
+    EXPECT_EQ(sim.memory().eventOnEnable, 1 + 8);
+    EXPECT_EQ(sim.memory().eventOffEnable, 2 + 4);
+
+    auto other = sim.fresh();
+    ASSERT_TRUE(ReadAllEvents(*other));
+    ASSERT_TRUE(ReadEnableMaps(*other));
+    EXPECT_EQ(other->config.EventMap, s.config.EventMap);
+    EXPECT_EQ(other->general.CheckInitEE, s.general.CheckInitEE);
+    EXPECT_TRUE(sim.dialogs.messages.empty());
+}
+
+TEST_F(EventSim, VerifyWritesOneLinePerDifferingSlotAndTheMaskLines)
+{
+    s.config.NumberingBase = 1;
+    ASSERT_TRUE(WriteAllEvents(s));
+    ASSERT_TRUE(WriteEnableMaps(s));
+    EXPECT_TRUE(VerifyEventControl(s));
+    EXPECT_EQ(s.report.txtVerification, "Start EC Verification\r\nNote: Numbering starts at 1\r\n");
+
+    s.report.clear();
+    sim.memory().pins[3].eventOn[2] = 0x2F;  // pin 3, slot 2: none
+    sim.memory().pins[30].eventOff[0] = 0x07;
+    sim.memory().eventOffEnable = 4;
+    EXPECT_FALSE(VerifyEventControl(s));
+    EXPECT_EQ(s.report.txtVerification,
+              "Start EC Verification\r\n"
+              "Note: Numbering starts at 1\r\n"
+              "Event-On(2) for pin 4 does not compare: Configured Action = 0, Kestrel Reply = -1\r\n"
+              "Event-Off(0) for pin 31 does not compare: Configured Action = 0, Kestrel Reply = 7\r\n"
+              "ECInit: OFF-mask does not compare\r\n");
+
+    s.report.clear();
+    sim.module.faults.refuse(117, sim::Refusal::WrongLength);
+    sim.module.faults.refuse(112, sim::Refusal::WrongEcho, 11);
+    EXPECT_FALSE(VerifyEventControl(s));
+    EXPECT_EQ(s.report.txtVerification,
+              "Start EC Verification\r\n"
+              "Note: Numbering starts at 1\r\n"
+              "Event-On(2) for pin 4 does not compare: Configured Action = 0, Kestrel Reply = -1\r\n"
+              "Read Event-Off: Function not supported by Device\r\n"
+              "ECInit: No valid response type\r\n");
+}
