@@ -64,13 +64,15 @@ bool paced(Session& session, bool sent)
 std::string shownPin(const Session& session, int pin) { return std::to_string(pin + session.config.NumberingBase); }
 
 // Sends 118 for the pin; the device pointer's head, or no value when the reply is
-// missing, wrong, or carries no valid device byte.
-std::optional<int> readDeviceHead(Session& session, int pin)
+// missing, wrong, or carries no valid device byte. `answered` tells whether a valid
+// reply arrived at all.
+std::optional<int> readDeviceHead(Session& session, int pin, bool& answered)
 {
     Link& link = session.link;
     link.setBidirectional(true);
     link.SendKestrelMessage(true, 2, {kReadAddrConfig, pin});
-    if (!link.state.ReplyValid || !replyIs(link, 5, kReadAddrConfig, pin))
+    answered = link.state.ReplyValid;
+    if (!answered || !replyIs(link, 5, kReadAddrConfig, pin))
         return std::nullopt;
     for (int i = 4; i <= 6; ++i) {
         const int b = link.state.ReplyBuffer[i];
@@ -212,7 +214,8 @@ namespace {
 std::optional<int> deviceHeadOfCurrentPin(Session& session)
 {
     const int current = session.config.CurrentPin;
-    const auto head = readDeviceHead(session, current);
+    bool answered = false;
+    const auto head = readDeviceHead(session, current, answered);
     if (!head)
         session.dialogs().message("Cannot read DevicePointer from Pin " + shownPin(session, current));
     return head;
@@ -228,7 +231,10 @@ bool ReadDevice(Session& session)
     if (!ReadPin(session, *head))
         return false;
     for (int p = *head + 1; p < kPinCount; ++p) {
-        const auto memberOf = readDeviceHead(session, p);
+        bool answered = false;
+        const auto memberOf = readDeviceHead(session, p, answered);
+        if (!answered)
+            return false;
         if (memberOf != head)
             break;
         if (!ReadPin(session, p))

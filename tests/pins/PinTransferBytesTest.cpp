@@ -126,11 +126,3 @@ TEST(PinWrite, ExactRequestsAndPacingWhenOneWay)
     EXPECT_EQ(g[3], (std::vector<int>{97, 30, 0})); // pin configuration to flash, mode 0
     EXPECT_EQ(rig.clock.slept, 39 * 100 + 4 * 100);
 }
-
-TEST(PinWrite, ClosedPortStopsAllPinsAtTheFirstPin)
-{
-    ScriptedRig rig;
-    rig.port.opened = false;
-    EXPECT_FALSE(WriteAllPins(rig.session));
-    EXPECT_EQ(rig.dialogs.texts(), (std::vector<std::string>{"Select communications port"}));
-}
