@@ -47,6 +47,8 @@ struct GeneralSettings {
     bool CheckGenLynxaddrVisible = true;
 
     std::string LabelGenVersionString = "Unknown";
+
+    bool operator==(const GeneralSettings&) const = default;
 };
 
 // The baud list of the module's own serial port, index = code.
