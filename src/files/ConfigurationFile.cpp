@@ -1,0 +1,536 @@
+#include "files/ConfigurationFile.h"
+
+#include "files/FileRecords.h"
+#include "files/ItemStream.h"
+#include "files/TextFile.h"
+#include "link/ProgramFault.h"
+#include "link/Text.h"
+#include "link/UserDialogs.h"
+#include "model/AddressIndex.h"
+#include "model/PinTools.h"
+#include "model/StepCodec.h"
+#include "ops/Session.h"
+
+#include <array>
+#include <cstring>
+
+namespace kestrel {
+
+namespace {
+
+int checked(int box) { return box == 1 ? 1 : 0; }
+
+// ---- Writing ----
+
+void writeGeneral(ItemWriter& w, const GeneralSettings& g)
+{
+    w.line().text("ID$").text(g.TextGenIDString).end();
+
+    const int flags = (g.OptGenDCC_PRP & 3) + 4 * checked(g.ChkGenDCC_BPSI) + 8 * checked(g.ChkGenDCCAllow0);
+    w.line().text("DCC").real(val(g.TextGenDCCAddress)).real(val(g.TextGenXDCCAddress)).number(flags).end();
+
+    const int a = g.CheckGenLynxaddr == 1 ? g.LynxFlexAddress : (g.CheckGenKestrelNative == 1 ? 64 : 0);
+    w.line().text("XAD").number(a).number(checked(g.CheckGenLynxaddr)).number(g.ExtendedAddress);
+    for (int i = 0; i < 4; ++i) {
+        int mask = 0;
+        for (int j = 0; j < 4; ++j)
+            mask |= checked(g.CheckGenXGM[4 * i + j]) << j;
+        w.number(mask);
+    }
+    w.end();
+
+    w.line().text("HWC");
+    for (int i = 0; i < 4; ++i)
+        w.number(2 * checked(g.ChkGenHWCSource[i]) + checked(g.ChkGenHWCSink[i]));
+    w.end();
+
+    int green = 0;
+    int orange = 0;
+    for (int k = 0; k < 7; ++k) {
+        green |= checked(g.CheckLCGreen[k]) << k;
+        orange |= checked(g.CheckLCOrange[k]) << k;
+    }
+    w.line().text("LED").number(green).number(orange).end();
+
+    checkIndex(g.ComboGenBaud, static_cast<long>(kGenBaudList.size()), "baud list entry");
+    const int parity = g.OptionGenSerialParity == 2 ? 2 : (g.OptionGenSerialParity == 3 ? 3 : 0);
+    w.line()
+        .text("SPC")
+        .number(checked(g.CheckGenSerialEnable))
+        .text(kGenBaudList[g.ComboGenBaud])
+        .number(g.OptionGenSerialDatabits == 1 ? 8 : 7)
+        .number(parity)
+        .number(g.OptionGenSerialStop == 1 ? 2 : 1)
+        .end();
+}
+
+void writeEvents(ItemWriter& w, const Configuration& config)
+{
+    for (const char* keyword : {"Eon", "Eof"}) {
+        const bool on = std::strcmp(keyword, "Eon") == 0;
+        for (int p = 0; p < kPinCount; ++p) {
+            const EventRecord& e = config.events(p);
+            w.line().text(keyword).number(p);
+            for (int slot = 0; slot < 4; ++slot)
+                w.number((on ? e.OnEvent[slot] : e.OffEvent[slot]) + 1);
+            w.end();
+        }
+    }
+}
+
+} // namespace
+
+// Shared with the definitions file: the "Cfg" record of a pin.
+void writeCfgRecord(ItemWriter& w, int indent, PinRecord& pin)
+{
+    w.line(indent).text("Cfg").number(pin.ConfigMode);
+    int count = 0;
+    switch (pin.ConfigMode) {
+    case 1:
+        pin.P(2) &= 63;
+        count = 11;
+        break;
+    case 2:
+    case 3:
+        count = 5;
+        break;
+    case 4:
+    case 5:
+        count = 4;
+        break;
+    default:
+        break;
+    }
+    for (int n = 1; n <= count; ++n)
+        w.number(pin.P(n));
+    w.end();
+}
+
+void writeInsRecord(ItemWriter& w, int indent, int s, const StepRecord& step)
+{
+    w.line(indent)
+        .text("Ins")
+        .number(s)
+        .number(16 * step.Fade + step.Instruction)
+        .number(step.Par0)
+        .number(step.Par1)
+        .number(step.Par2)
+        .number(step.Par3)
+        .end();
+}
+
+std::string writeConfigurationText(Configuration& config, const GeneralSettings& general, SaveForm form)
+{
+    const bool compact = form == SaveForm::Compact;
+    ItemWriter w;
+    w.line().text(std::string(kConfigFileKeyword) + " " + kConfigFileVersion).end();
+    writeGeneral(w, general);
+    writeEvents(w, config);
+
+    for (int p = 0; p < kPinCount; ++p) {
+        PinRecord& pin = config.pin(p);
+        if (compact && pin.Description.empty())
+            continue;
+        w.line().text("Pin").number(p).number(pin.AspectLayout).number(pin.InitAspect).text(pin.Description).end();
+        w.line(2).text("Dev").number(pin.DeviceOffset).text(pin.DeviceDescription).end();
+        writeCfgRecord(w, 2, pin);
+        w.line(2).text("PAM").number(pin.XDccCount).number(pin.DccCount).number(pin.LynxCount).end();
+
+        const LayoutSlots slots = layoutSlots(pin.AspectLayout);
+        for (int a = 0; a < slots.aspects; ++a) {
+            const AspectRecord& aspect = config.aspect(p, a);
+            if (compact && aspect.Description.empty())
+                continue;
+            w.line(2).text("Asp").number(a).text(aspect.Description).end();
+            for (int s = 0; s < slots.steps; ++s) {
+                const StepRecord& step = aspect.Steps[s];
+                if (compact && step.Instruction == 0)
+                    continue;
+                writeInsRecord(w, 4, s, step);
+            }
+        }
+    }
+    w.line().text("End").end();
+    return w.result();
+}
+
+bool saveConfigurationFile(const std::string& path, Configuration& config, const GeneralSettings& general,
+                           SaveForm form, std::string& error)
+{
+    // The model is changed (servo parameter 2) only when the file is really written.
+    Configuration copy = config;
+    const std::string text = writeConfigurationText(copy, general, form);
+    if (!replaceFile(path, text, error))
+        return false;
+    config = std::move(copy);
+    return true;
+}
+
+// ---- Reading ----
+
+namespace {
+
+void checkRange(ItemReader& in, int value, int highest, const char* what)
+{
+    if (value > highest)
+        in.fail(std::string(what) + " index " + std::to_string(value) + " out of range 0.." + std::to_string(highest));
+}
+
+class ConfigReader {
+public:
+    ConfigReader(ItemReader& in, double version, Configuration& config, GeneralSettings& general)
+        : in(in), version(version), config(config), g(general)
+    {
+    }
+
+    // Dispatches keywords until "End".
+    void run()
+    {
+        for (;;) {
+            const std::string keyword = in.next();
+            if (keyword == "End")
+                return;
+            dispatch(keyword);
+        }
+    }
+
+private:
+    void dispatch(const std::string& k)
+    {
+        if (k == "ID$")
+            g.TextGenIDString = in.next();
+        else if (k == "DCC")
+            readDcc();
+        else if (k == "XAD")
+            readXad();
+        else if (k == "HWC")
+            readHwc();
+        else if (k == "LED")
+            readLed();
+        else if (k == "SPC")
+            readSpc();
+        else if (k == "Eon" || k == "Evt")
+            readEvents(true);
+        else if (k == "Eof")
+            readEvents(false);
+        else if (k == "Pin")
+            readPin();
+        else if (k == "Dev")
+            readDev();
+        else if (k == "Cfg")
+            readCfg();
+        else if (k == "PAM")
+            readPam();
+        else if (k == "Asp")
+            readAsp();
+        else if (k == "Ins")
+            readIns();
+        // Anything else is not a keyword: passed over, and the next item is tried.
+    }
+
+    void readDcc()
+    {
+        g.TextGenDCCAddress = formatNumber(in.nextReal());
+        if (version >= 32)
+            g.TextGenXDCCAddress = formatNumber(in.nextReal());
+        if (version > 22) {
+            const int flags = in.nextByte();
+            g.OptGenDCC_PRP = flags & 3;
+            g.ChkGenDCC_BPSI = (flags >> 2) & 1;
+            g.ChkGenDCCAllow0 = (flags >> 3) & 1;
+        }
+    }
+
+    void readXad()
+    {
+        const int a = in.nextInt16();
+        const int b = in.nextInt16();
+        const int c = in.nextByte();
+        std::array<int, 4> masks{};
+        for (int& m : masks)
+            m = in.nextByte();
+
+        g.LynxFlexAddress = a;
+        g.CheckGenLynxaddr = b == 1 ? 1 : 0;
+        // Item a is the module's mode byte: without flex-addressing its bit 6 is native mode.
+        g.CheckGenKestrelNative = (b != 1 && (a & 64)) ? 1 : 0;
+        g.ExtendedAddress = c;
+        g.TextGenXaddr = std::to_string(c + config.NumberingBase);
+        g.TextGenLynxaddr = std::to_string(g.LynxFlexAddress * 4 + config.NumberingBase);
+        g.TextGenLynxaddrVisible = g.CheckGenLynxaddr == 1;
+        g.CheckGenKestrelNativeVisible = g.CheckGenLynxaddr != 1;
+        g.CheckGenLynxaddrVisible = g.CheckGenKestrelNative != 1;
+        for (int i = 0; i < 4; ++i)
+            for (int j = 0; j < 4; ++j)
+                g.CheckGenXGM[4 * i + j] = (masks[i] >> j) & 1;
+    }
+
+    void readHwc()
+    {
+        std::array<int, 4> h{};
+        for (int& v : h)
+            v = in.nextInt16();
+        for (int i = 0; i < 4; ++i) {
+            g.ChkGenHWCSink[i] = h[i] & 1;
+            g.ChkGenHWCSource[i] = (h[i] >> 1) & 1;
+        }
+    }
+
+    void readLed()
+    {
+        const int green = in.nextByte();
+        const int orange = in.nextByte();
+        for (int k = 0; k < 7; ++k) {
+            g.CheckLCGreen[k] = (green >> k) & 1;
+            g.CheckLCOrange[k] = (orange >> k) & 1;
+        }
+        // Element 7 stands for the value 0 ("Idle Flash", "All Received Datagrams").
+        g.CheckLCGreen[7] = green == 0 ? 1 : 0;
+        g.CheckLCOrange[7] = orange == 0 ? 1 : 0;
+    }
+
+    void readSpc()
+    {
+        const int enable = in.nextInt16();
+        const std::string rate = in.next();
+        const int data = in.nextInt16();
+        const int parity = in.nextInt16();
+        const int stop = in.nextInt16();
+        g.CheckGenSerialEnable = enable != 0 ? 1 : 0;
+        for (std::size_t i = 0; i < kGenBaudList.size(); ++i)
+            if (rate == kGenBaudList[i])
+                g.ComboGenBaud = static_cast<int>(i);
+        g.OptionGenSerialDatabits = data == 8 ? 1 : 0;
+        g.OptionGenSerialParity = (parity == 2 || parity == 3) ? parity : 0;
+        g.OptionGenSerialStop = stop == 2 ? 1 : 0;
+    }
+
+    int readPinIndex()
+    {
+        const int p = in.nextByte();
+        checkRange(in, p, kPinRecords - 1, "Pin");
+        return p;
+    }
+
+    void readEvents(bool on)
+    {
+        const int p = readPinIndex();
+        std::array<int, 4> entries{};
+        for (int& e : entries) {
+            e = in.nextInt16() - 1;
+            if (e < -32768)
+                in.fail("Value -32768 out of range -32767..32767");
+        }
+        auto& target = on ? config.events(p).OnEvent : config.events(p).OffEvent;
+        for (int slot = 0; slot < 4; ++slot)
+            target[slot] = static_cast<std::int16_t>(entries[slot]);
+    }
+
+    void readPin()
+    {
+        const int p = readPinIndex();
+        const int layout = in.nextByte();
+        const int init = in.nextByte();
+        std::string description = in.next();
+
+        pin = p;
+        PinRecord& r = config.pin(p);
+        r.AspectLayout = static_cast<std::uint8_t>(layout);
+        r.InitAspect = static_cast<std::uint8_t>(init);
+        r.Description = std::move(description);
+        r.DccCount = 1;
+        r.XDccCount = 1;
+        r.LynxCount = 1;
+        for (int a = 0; a < 12; ++a) {
+            r.Aspects[a].Description.clear();
+            clearAspectSteps(r.Aspects[a]);
+        }
+    }
+
+    void readDev()
+    {
+        const int offset = in.nextInt16();
+        std::string description = in.next();
+        config.pin(pin).DeviceOffset = static_cast<std::int16_t>(offset);
+        config.pin(pin).DeviceDescription = std::move(description);
+    }
+
+    void readCfg()
+    {
+        const int mode = in.nextByte();
+        std::array<int, 12> p{}; // p[n] = parameter n
+        PinRecord& r = config.pin(pin);
+        switch (mode) {
+        case 1:
+            for (int n = 1; n <= 11; ++n)
+                p[n] = in.nextByte();
+            r.ConfigMode = 1;
+            for (int n = 1; n <= 11; ++n)
+                r.P(n) = static_cast<std::uint8_t>(p[n]);
+            // Servo parameter 2 of the older layout: range index in the high nibble.
+            if (r.P(2) >= 16 && (r.P(2) & 8) == 0)
+                r.P(2) = static_cast<std::uint8_t>(r.P(2) / 16 + 40);
+            break;
+        case 2:
+        case 3:
+            for (int n = 1; n <= 3; ++n)
+                p[n] = in.nextByte();
+            if (version >= 20) {
+                p[4] = in.nextByte();
+                p[5] = in.nextByte();
+            } else {
+                p[4] = 0;
+                p[5] = 31;
+            }
+            r.ConfigMode = static_cast<std::uint8_t>(mode);
+            for (int n = 1; n <= 11; ++n)
+                r.P(n) = static_cast<std::uint8_t>(p[n]);
+            break;
+        case 4:
+        case 5:
+            for (int n = 1; n <= 4; ++n)
+                p[n] = in.nextByte();
+            r.ConfigMode = static_cast<std::uint8_t>(mode);
+            for (int n = 1; n <= 4; ++n)
+                r.P(n) = static_cast<std::uint8_t>(p[n]);
+            break;
+        default:
+            r.ConfigMode = 0;
+            for (int n = 1; n <= 11; ++n)
+                r.P(n) = 0;
+            break;
+        }
+        r.OutputValue = r.P(1);
+    }
+
+    void readPam()
+    {
+        PinRecord& r = config.pin(pin);
+        int xdcc = r.XDccCount;
+        if (version >= 32)
+            xdcc = in.nextByte();
+        const int dcc = in.nextByte();
+        const int lynx = in.nextByte();
+        r.XDccCount = static_cast<std::uint8_t>(xdcc);
+        r.DccCount = static_cast<std::uint8_t>(dcc);
+        r.LynxCount = static_cast<std::uint8_t>(lynx);
+    }
+
+    void readAsp()
+    {
+        const int a = in.nextByte();
+        checkRange(in, a, kAspectRecords - 1, "Aspect");
+        std::string description = in.next();
+        aspect = a;
+        config.aspect(pin, a).Description = std::move(description);
+    }
+
+    void readIns()
+    {
+        const int s = in.nextInt16();
+        if (s < 0 || s > kStepRecords - 1)
+            in.fail("Step index " + std::to_string(s) + " out of range 0.." + std::to_string(kStepRecords - 1));
+        const int op = in.nextInt16();
+        if (op < 0 || op > 255)
+            in.fail("Instruction " + std::to_string(op) + " out of range 0..255");
+        std::array<int, 4> par{};
+        for (int& v : par)
+            v = in.nextByte();
+        readStep(config.step(pin, aspect, s), op, par);
+    }
+
+public:
+    // The op of an "Ins" record: stored whole as the instruction; only an op of 19 to 63
+    // is split into fade (bit 4) and instruction, so 16 to 18 never carry a fade and
+    // outside 19..63 the fade stays as it was.
+    static void readStep(StepRecord& step, int op, const std::array<int, 4>& par)
+    {
+        step.Instruction = static_cast<std::uint8_t>(op);
+        if (op >= 19 && op <= 63)
+            splitCodeByte(op, step);
+        step.Par0 = static_cast<std::uint8_t>(par[0]);
+        step.Par1 = static_cast<std::uint8_t>(par[1]);
+        step.Par2 = static_cast<std::uint8_t>(par[2]);
+        step.Par3 = static_cast<std::uint8_t>(par[3]);
+    }
+
+private:
+    ItemReader& in;
+    double version;
+    Configuration& config;
+    GeneralSettings& g;
+    int pin = 0;
+    int aspect = 0;
+};
+
+} // namespace
+
+// Shared with the definitions file.
+void readStepOp(StepRecord& step, int op, const std::array<int, 4>& par) { ConfigReader::readStep(step, op, par); }
+
+LoadResult readConfigurationText(const std::string& text, Configuration& config, GeneralSettings& general,
+                                 UserDialogs& dialogs)
+{
+    ItemReader in(text);
+    const std::string keyword = kConfigFileKeyword;
+    std::string header;
+    if (!in.atEnd())
+        header = in.next();
+    if (header.size() != keyword.size() + 5 || header.compare(0, keyword.size(), keyword) != 0) {
+        dialogs.message("Invalid configuration file", Icon::Warning);
+        return LoadResult::InvalidHeader;
+    }
+    const double version = val(header.substr(header.size() - 4));
+    if (version < 3100)
+        dialogs.message("Data File Version = " + formatNumber(version), Icon::Information);
+
+    LoadResult result = LoadResult::Loaded;
+    try {
+        ConfigReader(in, version, config, general).run();
+    } catch (const FileFormatError& e) {
+        dialogs.message(std::string("Error in configuration file: ") + e.what() +
+                            "\r\nLoading stopped; what was read before is kept.",
+                        Icon::Warning);
+        result = LoadResult::FormatError;
+    }
+    RecalcAddressIndex(config);
+    return result;
+}
+
+LoadResult loadConfigurationFile(const std::string& path, Configuration& config, GeneralSettings& general,
+                                 UserDialogs& dialogs)
+{
+    std::string text;
+    if (!readTextFile(path, text))
+        return LoadResult::CannotOpen;
+    return readConfigurationText(text, config, general, dialogs);
+}
+
+void CommandSave_MouseDown(Session& session, int button, int shift)
+{
+    if (button != 1 || (shift != 0 && shift != 1))
+        return;
+    const SaveForm form = shift == 1 ? SaveForm::Compact : SaveForm::Full;
+    const std::string path = session.dialogs().saveFileName("Save Configuration", kConfigFileFilter, "");
+    if (path.empty())
+        return;
+    std::string error;
+    if (!saveConfigurationFile(path, session.config, session.general, form, error))
+        session.dialogs().message("The configuration was not saved: " + error, Icon::Warning);
+}
+
+void CommandLoad_Click(Session& session)
+{
+    const std::string path = session.dialogs().openFileName("Load Configuration", kConfigFileFilter, "");
+    if (path.empty())
+        return;
+    const LoadResult result = loadConfigurationFile(path, session.config, session.general, session.dialogs());
+    if (result == LoadResult::CannotOpen) {
+        session.dialogs().message("Can not open " + path, Icon::Warning);
+        return;
+    }
+    if (result != LoadResult::InvalidHeader && session.onConfigurationChanged)
+        session.onConfigurationChanged();
+}
+
+} // namespace kestrel

@@ -1,0 +1,238 @@
+#include "files/ItemStream.h"
+
+#include <charconv>
+#include <system_error>
+
+namespace kestrel {
+
+namespace {
+
+bool isBlank(char c) { return c == ' ' || c == '\t'; }
+bool isLineEnd(char c) { return c == '\r' || c == '\n'; }
+
+std::string position(int line, int item)
+{
+    return " at line " + std::to_string(line) + ", item " + std::to_string(item);
+}
+
+} // namespace
+
+FileFormatError::FileFormatError(const std::string& what, int line, int item)
+    : std::runtime_error(what + position(line, item)), where{line, item}
+{
+}
+
+ItemReader::ItemReader(std::string text) : data(std::move(text)) {}
+
+void ItemReader::skipToItem()
+{
+    while (pos < data.size()) {
+        const char c = data[pos];
+        if (isBlank(c)) {
+            ++pos;
+        } else if (isLineEnd(c) && !lastEndedByComma) {
+            // A line without items (or the rest of one after its last item).
+            ++pos;
+            if (c == '\r' && pos < data.size() && data[pos] == '\n')
+                ++pos;
+            ++curLine;
+            curItem = 1;
+        } else {
+            return;
+        }
+    }
+}
+
+bool ItemReader::atEnd()
+{
+    skipToItem();
+    return pos >= data.size();
+}
+
+std::string ItemReader::next()
+{
+    skipToItem();
+    itemLine = curLine;
+    itemInLine = curItem;
+    if (pos >= data.size()) {
+        lastEndedByComma = false;
+        fail("The file ends before \"End\"");
+    }
+
+    std::string value;
+    if (data[pos] == '"') {
+        ++pos;
+        const std::size_t start = pos;
+        while (pos < data.size() && data[pos] != '"' && !isLineEnd(data[pos]))
+            ++pos;
+        value.assign(data, start, pos - start);
+        if (pos < data.size() && data[pos] == '"')
+            ++pos;
+        // Anything between the closing quote and the item's end is not part of it.
+        while (pos < data.size() && data[pos] != ',' && !isLineEnd(data[pos]))
+            ++pos;
+    } else {
+        const std::size_t start = pos;
+        while (pos < data.size() && data[pos] != ',' && !isLineEnd(data[pos]))
+            ++pos;
+        std::size_t end = pos;
+        while (end > start && isBlank(data[end - 1]))
+            --end;
+        value.assign(data, start, end - start);
+    }
+
+    lastEndedByComma = false;
+    if (pos < data.size()) {
+        const char c = data[pos++];
+        if (c == ',') {
+            lastEndedByComma = true;
+            ++curItem;
+        } else {
+            if (c == '\r' && pos < data.size() && data[pos] == '\n')
+                ++pos;
+            ++curLine;
+            curItem = 1;
+        }
+    }
+    return value;
+}
+
+void ItemReader::fail(const std::string& what) const { throw FileFormatError(what, itemLine, itemInLine); }
+
+namespace {
+
+long long wholeNumber(const ItemReader& reader, const std::string& item, long long lo, long long hi)
+{
+    const char* first = item.data();
+    const char* last = item.data() + item.size();
+    if (first != last && *first == '+')
+        ++first;
+    long long value = 0;
+    const auto [ptr, ec] = std::from_chars(first, last, value);
+    if (ec == std::errc::result_out_of_range)
+        reader.fail("Value " + item + " out of range " + std::to_string(lo) + ".." + std::to_string(hi));
+    if (ec != std::errc() || ptr != last || item.empty()) {
+        if (isNumberItem(item))
+            reader.fail("Whole number expected, found \"" + item + "\"");
+        reader.fail("Number expected, found \"" + item + "\"");
+    }
+    if (value < lo || value > hi)
+        reader.fail("Value " + item + " out of range " + std::to_string(lo) + ".." + std::to_string(hi));
+    return value;
+}
+
+} // namespace
+
+int ItemReader::nextByte() { return static_cast<int>(wholeNumber(*this, next(), 0, 255)); }
+
+int ItemReader::nextInt16() { return static_cast<int>(wholeNumber(*this, next(), -32768, 32767)); }
+
+double ItemReader::nextReal()
+{
+    const std::string item = next();
+    if (!isNumberItem(item))
+        fail("Number expected, found \"" + item + "\"");
+    const char* first = item.data();
+    if (*first == '+')
+        ++first;
+    double value = 0;
+    const auto [ptr, ec] = std::from_chars(first, item.data() + item.size(), value);
+    if (ec != std::errc() || ptr != item.data() + item.size())
+        fail("Value " + item + " out of range");
+    return value;
+}
+
+bool isNumberItem(std::string_view s)
+{
+    std::size_t i = 0;
+    if (i < s.size() && (s[i] == '+' || s[i] == '-'))
+        ++i;
+    bool digits = false;
+    while (i < s.size() && s[i] >= '0' && s[i] <= '9') {
+        ++i;
+        digits = true;
+    }
+    if (i < s.size() && s[i] == '.') {
+        ++i;
+        while (i < s.size() && s[i] >= '0' && s[i] <= '9') {
+            ++i;
+            digits = true;
+        }
+    }
+    if (!digits)
+        return false;
+    if (i < s.size() && (s[i] == 'e' || s[i] == 'E')) {
+        ++i;
+        if (i < s.size() && (s[i] == '+' || s[i] == '-'))
+            ++i;
+        bool exponent = false;
+        while (i < s.size() && s[i] >= '0' && s[i] <= '9') {
+            ++i;
+            exponent = true;
+        }
+        if (!exponent)
+            return false;
+    }
+    return i == s.size();
+}
+
+std::string formatNumber(long value)
+{
+    char buf[32];
+    const auto r = std::to_chars(buf, buf + sizeof buf, value);
+    return std::string(buf, r.ptr);
+}
+
+std::string formatNumber(double value)
+{
+    if (value == 0)
+        return "0"; // also for -0
+    char buf[400];
+    const auto r = std::to_chars(buf, buf + sizeof buf, value, std::chars_format::fixed);
+    return std::string(buf, r.ptr);
+}
+
+ItemWriter& ItemWriter::line(int indent)
+{
+    out.append(static_cast<std::size_t>(indent), ' ');
+    lineHasItem = false;
+    return *this;
+}
+
+void ItemWriter::separate()
+{
+    if (lineHasItem)
+        out += ',';
+    lineHasItem = true;
+}
+
+ItemWriter& ItemWriter::text(std::string_view value)
+{
+    separate();
+    out += '"';
+    out += value;
+    out += '"';
+    return *this;
+}
+
+ItemWriter& ItemWriter::number(long value)
+{
+    separate();
+    out += formatNumber(value);
+    return *this;
+}
+
+ItemWriter& ItemWriter::real(double value)
+{
+    separate();
+    out += formatNumber(value);
+    return *this;
+}
+
+void ItemWriter::end()
+{
+    out += "\r\n";
+    lineHasItem = false;
+}
+
+} // namespace kestrel
