@@ -129,28 +129,6 @@ TEST_F(EventSim, ModuleWithoutEventOnGivesOneMessageAndEventOffStillRuns)
     EXPECT_EQ(s.config.events(4).OffEvent, (std::array<std::int16_t, 5>{-1, 3, -1, -1, 0}));
 }
 
-TEST_F(EventSim, WriteAllThenReadAllRoundTrip)
-{
-    for (int p = 0; p < kPinCount; ++p)
-        for (int i = 0; i < kEventSlots; ++i) {
-            s.config.events(p).OnEvent[i] = static_cast<std::int16_t>((p + i) % 13 - 1);  // -1..11
-            s.config.events(p).OffEvent[i] = static_cast<std::int16_t>((p * 3 + i) % 13 - 1);
-        }
-    s.general.CheckInitEE = {0, 1, 1, 0, 1, 0, 0, 1};
-    ASSERT_TRUE(WriteAllEvents(s));
-    ASSERT_TRUE(WriteEnableMaps(s));
-    EXPECT_EQ(sim.memory().pins[2].eventOn, (std::array<std::uint8_t, 4>{0x01, 0x12, 0x23, 0x34}));
-    EXPECT_EQ(sim.memory().eventOnEnable, 1 + 8);
-    EXPECT_EQ(sim.memory().eventOffEnable, 2 + 4);
-
-    auto other = sim.fresh();
-    ASSERT_TRUE(ReadAllEvents(*other));
-    ASSERT_TRUE(ReadEnableMaps(*other));
-    EXPECT_EQ(other->config.EventMap, s.config.EventMap);
-    EXPECT_EQ(other->general.CheckInitEE, s.general.CheckInitEE);
-    EXPECT_TRUE(sim.dialogs.messages.empty());
-}
-
 TEST_F(EventSim, VerifyWritesOneLinePerDifferingSlotAndTheMaskLines)
 {
     s.config.NumberingBase = 1;
