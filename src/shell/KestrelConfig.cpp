@@ -1,6 +1,11 @@
 #include "shell/KestrelConfig.h"
 
+#include "link/ProgramFault.h"
+#include "ops/Bulk.h"
+#include "ops/EventControl.h"
+#include "ops/PinTransfer.h"
 #include "shell/BuiltInSim.h"
+#include "shell/QtProgress.h"
 #include "shell/QtSerialPort.h"
 
 #include <QApplication>
@@ -12,6 +17,9 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QDialog>
+#include <QPlainTextEdit>
+#include <QTimer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
@@ -55,6 +63,21 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     buildLinkArea(central);
     layout->addWidget(linkFrame);
 
+    auto* bulk = new QHBoxLayout;
+    CommandReadAll = named(new QPushButton("Read All"), "CommandReadAll");
+    CommandWriteAll = named(new QPushButton("Write All"), "CommandWriteAll");
+    CommandVerifyAll = named(new QPushButton("Verify All"), "CommandVerifyAll");
+    CheckWritePinConfig = named(new QCheckBox("Write pin configurations too"), "CheckWritePinConfig");
+    CheckWritePinConfig->setToolTip("Also writes each pin's servo, PWM or input parameters to flash");
+    for (QWidget* w : {static_cast<QWidget*>(CommandReadAll), static_cast<QWidget*>(CommandWriteAll),
+                       static_cast<QWidget*>(CommandVerifyAll), static_cast<QWidget*>(CheckWritePinConfig)})
+        bulk->addWidget(w);
+    bulk->addStretch();
+    layout->addLayout(bulk);
+    connect(CommandReadAll, &QPushButton::clicked, this, &KestrelConfig::CommandReadAll_Click);
+    connect(CommandWriteAll, &QPushButton::clicked, this, &KestrelConfig::CommandWriteAll_Click);
+    connect(CommandVerifyAll, &QPushButton::clicked, this, &KestrelConfig::CommandVerifyAll_Click);
+
     tabs = named(new QTabWidget, "SSTab1");
     tabs->addTab(buildGeneralPage(), "General");
     layout->addWidget(tabs, 1);
@@ -68,8 +91,131 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     core->link.onTextResponse = [this](const std::string& t) { TextResponse->setText(latin1(t)); };
     core->link.onSettingsChanged = [this] { refreshLinkDisplays(); };
 
+    core->report.onClear = [this] {
+        ensureVerificationWindow();
+        txtVerification->clear();
+    };
+    core->report.onLine = [this](const std::string& line) {
+        ensureVerificationWindow();
+        txtVerification->appendPlainText(latin1(line));
+    };
+    core->onShowVerification = [this] {
+        ensureVerificationWindow();
+        frmKestrelVerification->show();
+        frmKestrelVerification->raise();
+    };
+    core->onConfigurationChanged = [this] {
+        LabelGenVersionString->setText(latin1(core->link.VersionText));
+        refreshLinkDisplays();
+    };
+
+    addJobs();
+    Timer1 = new QTimer(this);
+    Timer1->setObjectName("Timer1");
+    Timer1->setInterval(200);
+    connect(Timer1, &QTimer::timeout, this, &KestrelConfig::Timer1_Timer);
+    Timer1->start();
+
     fillPortList();
     refreshLinkDisplays();
+}
+
+void KestrelConfig::addJobs()
+{
+    Session& s = *core;
+    auto pinConfigToo = [this] { return CheckWritePinConfig->isChecked(); };
+    jobs.add("ReadAll", [this, &s] { runJob("Read All", [&s] { ReadAll(s); }); });
+    jobs.add("WriteAll", [this, &s, pinConfigToo] {
+        const bool withConfig = pinConfigToo();
+        runJob("Write All", [&s, withConfig] { WriteAll(s, withConfig); });
+    });
+    jobs.add("VerifyAll", [this, &s] { runJob("Verify All", [&s] { VerifyAll(s); }); });
+    jobs.add("ReadPin", [this, &s] { runJob("Read Pin", [&s] { ReadPin(s, s.config.CurrentPin); }); });
+    jobs.add("WritePin", [this, &s, pinConfigToo] {
+        const bool withConfig = pinConfigToo();
+        runJob("Write Pin", [&s, withConfig] { WritePin(s, s.config.CurrentPin, withConfig); });
+    });
+    jobs.add("ReadDevice", [this, &s] { runJob("Read Device", [&s] { ReadDevice(s); }); });
+    jobs.add("WriteDevice", [this, &s] { runJob("Write Device", [&s] { WriteDevice(s); }); });
+    jobs.add("ReadAllPins", [this, &s] { runJob("Read All Pins", [&s] { ReadAllPins(s); }); });
+    jobs.add("WriteAllPins", [this, &s, pinConfigToo] {
+        const bool withConfig = pinConfigToo();
+        runJob("Write All Pins", [&s, withConfig] { WriteAllPins(s, withConfig); });
+    });
+    jobs.add("PAspReadPin", [this, &s] { runJob("Read Pin", [&s] { PAspReadPin(s, s.config.CurrentPin); }); });
+    jobs.add("PAspWritePin", [this, &s] { runJob("Write Pin", [&s] { WritePin(s, s.config.CurrentPin); }); });
+    jobs.add("VerifyAllPins", [this, &s] {
+        runJob("Verify All Pins", [&s] {
+            s.report.clear();
+            VerifyAllPins(s);
+            if (s.onShowVerification)
+                s.onShowVerification();
+        });
+    });
+    jobs.add("ECWriteAll", [this, &s] { runJob("Write All Events", [&s] { WriteAllEvents(s); }); });
+    jobs.add("ECReadAll", [this, &s] { runJob("Read All Events", [&s] { ReadAllEvents(s); }); });
+    jobs.add("ECVerify", [this, &s] {
+        runJob("Verify Event Control", [&s] {
+            s.report.clear();
+            VerifyEventControl(s);
+            if (s.onShowVerification)
+                s.onShowVerification();
+        });
+    });
+}
+
+void KestrelConfig::startJob(const char* name)
+{
+    LabelAction->setVisible(true);
+    jobs.request(name);
+}
+
+void KestrelConfig::Timer1_Timer()
+{
+    jobs.Timer1_Timer();
+}
+
+void KestrelConfig::runJob(const QString& title, const std::function<void()>& operation)
+{
+    QtProgress progress(this, title);
+    core->link.setProgress(&progress);
+    try {
+        operation();
+    } catch (const ProgramFault& fault) {
+        core->dialogs().message(std::string("Program error, the operation was stopped: ") + fault.what(),
+                                Icon::Warning);
+    }
+    core->link.setProgress(nullptr);
+    LabelAction->setVisible(false);
+    refreshLinkDisplays();
+}
+
+void KestrelConfig::ensureVerificationWindow()
+{
+    if (frmKestrelVerification)
+        return;
+    frmKestrelVerification = named(new QDialog(this), "frmKestrelVerification");
+    frmKestrelVerification->setWindowTitle("Kestrel Verification");
+    auto* l = new QVBoxLayout(frmKestrelVerification);
+    txtVerification = named(new QPlainTextEdit, "txtVerification");
+    txtVerification->setReadOnly(true);
+    l->addWidget(txtVerification);
+    frmKestrelVerification->resize(560, 420);
+}
+
+void KestrelConfig::CommandReadAll_Click()
+{
+    startJob("ReadAll");
+}
+
+void KestrelConfig::CommandWriteAll_Click()
+{
+    startJob("WriteAll");
+}
+
+void KestrelConfig::CommandVerifyAll_Click()
+{
+    startJob("VerifyAll");
 }
 
 KestrelConfig::~KestrelConfig()

@@ -1,4 +1,5 @@
 #pragma once
+#include "ops/JobDispatcher.h"
 #include "ops/Session.h"
 #include "shell/PortRouter.h"
 #include "shell/QtDialogs.h"
@@ -11,6 +12,8 @@ class QComboBox;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
+class QPlainTextEdit;
+class QDialog;
 class QPushButton;
 class QRadioButton;
 class QSpinBox;
@@ -51,9 +54,22 @@ public:
     QLabel* LabelAction;
     QTabWidget* tabs;
 
+    // Whole-module buttons
+    QPushButton* CommandReadAll;
+    QPushButton* CommandWriteAll;
+    QPushButton* CommandVerifyAll;
+    QCheckBox* CheckWritePinConfig; // also send each pin's configuration to flash
+
     // General page
     QPushButton* CommandGenVersion;
     QLabel* LabelGenVersionString;
+
+    // The verification report window
+    QDialog* frmKestrelVerification = nullptr;
+    QPlainTextEdit* txtVerification = nullptr;
+
+    JobDispatcher jobs;
+    QTimer* Timer1;
 
 public slots:
     void ComboPort_Click();
@@ -67,6 +83,10 @@ public slots:
     void CheckKestrelBD_Click();
     void LabelPort_DblClick();
     void CommandGenVersion_Click();
+    void CommandReadAll_Click();
+    void CommandWriteAll_Click();
+    void CommandVerifyAll_Click();
+    void Timer1_Timer();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -76,6 +96,11 @@ private:
     QWidget* buildGeneralPage();
     void refreshLinkDisplays();
     void fillPortList();
+    void addJobs();
+    // Runs one job behind the progress dialog; a program fault is reported once.
+    void runJob(const QString& title, const std::function<void()>& operation);
+    void startJob(const char* name);
+    void ensureVerificationWindow();
 
     QtDialogs boxes;
     std::unique_ptr<PortRouter> port;

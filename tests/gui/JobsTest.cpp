@@ -1,0 +1,62 @@
+// Whole-module jobs started from their buttons run on the timer behind the busy notice.
+#include "shell/KestrelConfig.h"
+#include "support/RecordingDialogs.h"
+
+#include <QComboBox>
+#include <QDialog>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTest>
+#include <gtest/gtest.h>
+
+using namespace kestrel;
+
+namespace {
+void openSim(KestrelConfig& w)
+{
+    w.ComboPort->setCurrentIndex(w.ComboPort->findText("sim"));
+    w.ComboPort_Click();
+}
+
+// Waits (processing events) until the busy notice is hidden again.
+bool waitIdle(KestrelConfig& w)
+{
+    return QTest::qWaitFor([&] { return !w.LabelAction->isVisible() && w.jobs.PendingJob.empty(); }, 20000);
+}
+} // namespace
+
+TEST(MainWindowJobs, ReadAllThenVerifyAllReportsOk)
+{
+    test::RecordingDialogs dialogs;
+    KestrelConfig window(nullptr, &dialogs);
+    window.show();
+    openSim(window);
+
+    QTest::mouseClick(window.CommandReadAll, Qt::LeftButton);
+    EXPECT_TRUE(window.LabelAction->isVisible());
+    EXPECT_EQ(window.LabelAction->text(), "Working ... Please WAIT");
+    EXPECT_EQ(window.jobs.PendingJob, "ReadAll");
+    ASSERT_TRUE(waitIdle(window));
+    EXPECT_EQ(window.LabelGenVersionString->text(), "1.2.3.4");
+    EXPECT_TRUE(dialogs.messages.empty()) << dialogs.messages[0].text;
+
+    QTest::mouseClick(window.CommandVerifyAll, Qt::LeftButton);
+    ASSERT_TRUE(waitIdle(window));
+    ASSERT_NE(window.txtVerification, nullptr);
+    EXPECT_TRUE(window.frmKestrelVerification->isVisible());
+    const QString report = window.txtVerification->toPlainText();
+    EXPECT_TRUE(report.startsWith("Start General Settings Verification")) << report.toStdString();
+    EXPECT_TRUE(report.endsWith("Verify OK")) << report.toStdString();
+}
+
+TEST(MainWindowJobs, WithoutAPortTheJobFailsWithOneMessage)
+{
+    test::RecordingDialogs dialogs;
+    KestrelConfig window(nullptr, &dialogs);
+    window.show();
+    QTest::mouseClick(window.CommandWriteAll, Qt::LeftButton);
+    ASSERT_TRUE(waitIdle(window));
+    ASSERT_EQ(dialogs.messages.size(), 1u);
+    EXPECT_EQ(dialogs.messages[0].text, "Select communications port");
+}

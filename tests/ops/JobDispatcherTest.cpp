@@ -1,0 +1,45 @@
+#include "ops/JobDispatcher.h"
+
+#include <gtest/gtest.h>
+
+using namespace kestrel;
+
+TEST(JobDispatcher, RunsTheLastRequestOnceAndDropsUnknownNames)
+{
+    JobDispatcher d;
+    std::vector<std::string> ran;
+    d.add("ReadAll", [&] { ran.push_back("ReadAll"); });
+    d.add("WriteAll", [&] { ran.push_back("WriteAll"); });
+
+    EXPECT_FALSE(d.Timer1_Timer()); // nothing pending
+    d.request("ReadAll");
+    d.request("WriteAll"); // two clicks within one interval: only the later runs
+    EXPECT_TRUE(d.Timer1_Timer());
+    EXPECT_FALSE(d.Timer1_Timer());
+    EXPECT_EQ(ran, std::vector<std::string>{"WriteAll"});
+
+    d.request("readall"); // compared exactly, case included
+    EXPECT_FALSE(d.Timer1_Timer());
+    EXPECT_TRUE(d.PendingJob.empty());
+    EXPECT_EQ(ran.size(), 1u);
+}
+
+TEST(JobDispatcher, TickDuringAJobDoesNothingAndAFailingJobStillClears)
+{
+    JobDispatcher d;
+    int inner = 0;
+    d.add("VerifyAll", [&] {
+        d.request("VerifyAll");
+        inner += d.Timer1_Timer() ? 1 : 0; // the window's events keep ticking meanwhile
+    });
+    d.add("Boom", [] { throw std::runtime_error("fault"); });
+    d.request("VerifyAll");
+    EXPECT_TRUE(d.Timer1_Timer());
+    EXPECT_EQ(inner, 0);
+    EXPECT_EQ(d.PendingJob, "VerifyAll"); // asked for again while running: runs on a later tick
+
+    d.request("Boom");
+    EXPECT_THROW(d.Timer1_Timer(), std::runtime_error);
+    EXPECT_FALSE(d.running());
+    EXPECT_TRUE(d.PendingJob.empty());
+}
