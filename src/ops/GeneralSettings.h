@@ -34,7 +34,9 @@ struct GeneralSettings {
     int OptionGenSerialStop = 0;      // 0 or 1
     int OptionGenSerialParity = 0;    // 0, 2 or 3
 
-    std::array<int, 8> CheckInitEE{}; // event enables: 0..3 Event-On, 4..7 Event-Off
+    // Event enables: 0..3 Event-On, 4..7 Event-Off. They start checked, as a module
+    // leaves the factory with every input enabled; the data file does not carry them.
+    std::array<int, 8> CheckInitEE{1, 1, 1, 1, 1, 1, 1, 1};
 
     // Form-level values.
     int LynxFlexAddress = 0;

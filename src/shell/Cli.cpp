@@ -2,6 +2,9 @@
 
 #include "link/CorvidControl.h"
 #include "link/ProgramFault.h"
+#include "files/ConfigurationFile.h"
+#include "ops/Bulk.h"
+#include "ops/GeneralCommands.h"
 #include "link/Text.h"
 #include "ops/Session.h"
 #include "shell/BuiltInSim.h"
@@ -28,6 +31,10 @@ const char* kUsageText =
     "commands:\n"
     "  ports                         list the ports (\"sim\" is the built-in simulated module)\n"
     "  version                       print the module's firmware version\n"
+    "  read FILE [--compact]         read the whole module and save it as a data file\n"
+    "  write FILE [--with-pin-config] load a data file and write it to the module\n"
+    "  verify FILE                   load a data file and verify the module against it\n"
+    "  erase --yes                   erase the module's configuration memory\n"
     "  transparent [--yes]           switch the Corvid interface unit into transparent mode\n";
 
 struct CliOptions {
@@ -63,6 +70,69 @@ int commandVersion(CliContext& c)
     return kOk;
 }
 
+// Loads the data file named on the command line into the session.
+bool loadOperand(CliContext& c)
+{
+    const std::string& path = c.options.operands[0];
+    switch (loadConfigurationFile(path, c.session.config, c.session.general, c.dialogs)) {
+    case LoadResult::Loaded:
+        return true;
+    case LoadResult::CannotOpen:
+        std::fprintf(stderr, "Cannot read %s\n", path.c_str());
+        return false;
+    default:
+        return false;
+    }
+}
+
+// Read All, then save the data file (full, or compact with --compact).
+int commandRead(CliContext& c)
+{
+    if (!ReadAll(c.session))
+        return kFailed;
+    std::string error;
+    if (!saveConfigurationFile(c.options.operands[0], c.session.config, c.session.general,
+                               c.options.compact ? SaveForm::Compact : SaveForm::Full, error)) {
+        std::fprintf(stderr, "Cannot save %s: %s\n", c.options.operands[0].c_str(), error.c_str());
+        return kFailed;
+    }
+    return kOk;
+}
+
+// Load the data file, then Write All (with --with-pin-config also every pin's configuration to flash).
+int commandWrite(CliContext& c)
+{
+    if (!loadOperand(c))
+        return kFailed;
+    return WriteAll(c.session, c.options.withPinConfig) ? kOk : kFailed;
+}
+
+// Load the data file, then Verify All; the report goes to stdout as the report window holds it.
+int commandVerify(CliContext& c)
+{
+    if (!loadOperand(c))
+        return kFailed;
+    const bool ok = VerifyAll(c.session);
+    std::fputs(c.session.report.txtVerification.c_str(), stdout);
+    const std::string& text = c.session.report.txtVerification;
+    const std::string last = "Verify OK\r\n";
+    const bool verified = text.size() >= last.size() && text.compare(text.size() - last.size(), last.size(), last) == 0;
+    return ok && verified ? kOk : kFailed;
+}
+
+// Erase the module's configuration memory. The second question asks whether to cancel,
+// so going on means answering it with Cancel.
+int commandErase(CliContext& c)
+{
+    if (c.options.yes)
+        c.dialogs.scripted = {Answer::Ok, Answer::Cancel};
+    else
+        c.dialogs.scripted = {Answer::Cancel};
+    const int before = c.session.link.stats.exchanges;
+    EraseFlash(c.session);
+    return c.session.link.stats.exchanges > before ? kOk : kFailed;
+}
+
 // Switches an interface unit of the Corvid system into transparent mode.
 int commandTransparent(CliContext& c)
 {
@@ -74,6 +144,10 @@ const std::map<std::string, Command>& commands()
     static const std::map<std::string, Command> table = {
         {"version", commandVersion},
         {"transparent", commandTransparent},
+        {"read", commandRead},
+        {"write", commandWrite},
+        {"verify", commandVerify},
+        {"erase", commandErase},
     };
     return table;
 }
@@ -134,6 +208,11 @@ bool parse(const std::vector<std::string>& args, CliOptions& o, std::string& err
     }
     if (o.command.empty()) {
         error = "no command given";
+        return false;
+    }
+    const bool needsFile = o.command == "read" || o.command == "write" || o.command == "verify";
+    if (needsFile && o.operands.size() != 1) {
+        error = o.command + " needs one FILE";
         return false;
     }
     return true;

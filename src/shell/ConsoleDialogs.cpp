@@ -40,7 +40,10 @@ void ConsoleDialogs::message(const std::string& text, Icon icon)
 Answer ConsoleDialogs::ask(const std::string& text, Buttons buttons, Icon icon)
 {
     Answer a;
-    if (buttons == Buttons::YesNo)
+    if (!scripted.empty()) {
+        a = scripted.front();
+        scripted.pop_front();
+    } else if (buttons == Buttons::YesNo)
         a = yes ? Answer::Yes : Answer::No;
     else if (buttons == Buttons::OkCancel)
         a = yes ? Answer::Ok : Answer::Cancel;

@@ -1,6 +1,8 @@
 #pragma once
 #include "link/UserDialogs.h"
 
+#include <deque>
+
 namespace kestrel {
 
 // The batch tool's dialogs: every message goes to stderr; questions are answered
@@ -9,6 +11,8 @@ class ConsoleDialogs : public UserDialogs {
 public:
     bool yes = false;
     int messageCount = 0;
+    // Answers for the next questions, used before `yes` decides.
+    std::deque<Answer> scripted;
     void message(const std::string& text, Icon icon) override;
     Answer ask(const std::string& text, Buttons buttons, Icon icon) override;
     std::string openFileName(const std::string&, const std::string&, const std::string& defaultName) override
