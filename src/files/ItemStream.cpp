@@ -52,12 +52,16 @@ bool ItemReader::atEnd()
 std::string ItemReader::next()
 {
     skipToItem();
-    itemLine = curLine;
-    itemInLine = curItem;
     if (pos >= data.size()) {
+        // The missing item is due right after the last one that was there.
         lastEndedByComma = false;
+        if (itemInLine == 0)
+            itemLine = 1;
+        itemInLine += 1;
         fail("The file ends before \"End\"");
     }
+    itemLine = curLine;
+    itemInLine = curItem;
 
     std::string value;
     if (data[pos] == '"') {

@@ -33,7 +33,7 @@ public:
     bool atEnd();
 
     // The next item; at the end of the text a FileFormatError saying that the file ends
-    // before "End", naming the position where the item was due.
+    // before "End", placed just after the last item there was (on its line).
     std::string next();
 
     // The next item as a number of the given kind. A missing item, a text that is not a
@@ -43,7 +43,7 @@ public:
     double nextReal();
 
     // Where the item last returned stood (line and item within the line, from 1), or,
-    // after a failed next(), where the missing item was due.
+    // after next() found no item, the place just after the last one.
     int line() const { return itemLine; }
     int item() const { return itemInLine; }
 

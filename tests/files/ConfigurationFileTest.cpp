@@ -1,0 +1,501 @@
+#include "files/ConfigurationFile.h"
+#include "files/FilesTestSupport.h"
+#include "files/TextFile.h"
+#include "ops/Session.h"
+#include "support/FakeClock.h"
+#include "support/RecordingDialogs.h"
+#include "support/ScriptedPort.h"
+
+#include <gtest/gtest.h>
+
+#include <locale>
+
+using namespace kestrel;
+using namespace kestrel::test;
+
+namespace {
+
+// General settings that touch every bit of the six general records.
+GeneralSettings sampleGeneral()
+{
+    GeneralSettings g;
+    g.TextGenIDString = "Yard 3";
+    g.TextGenDCCAddress = "202";
+    g.TextGenXDCCAddress = "12.5";
+    g.OptGenDCC_PRP = 2;
+    g.ChkGenDCC_BPSI = 1; // flags 2 + 4 = 6
+    g.CheckGenLynxaddr = 1;
+    g.LynxFlexAddress = 5;
+    g.ExtendedAddress = 17;
+    g.CheckGenXGM[0] = g.CheckGenXGM[5] = g.CheckGenXGM[15] = 1; // masks 1, 2, 0, 8
+    g.ChkGenHWCSink = {1, 0, 0, 1};
+    g.ChkGenHWCSource = {0, 1, 0, 1}; // 1, 2, 0, 3
+    g.CheckLCGreen[0] = g.CheckLCGreen[3] = 1; // 9
+    g.CheckLCOrange[7] = 1;                    // 0: element 7 is not written
+    g.CheckGenSerialEnable = 1;
+    g.ComboGenBaud = 4; // "38400"
+    g.OptionGenSerialDatabits = 1;
+    g.OptionGenSerialParity = 2;
+    g.OptionGenSerialStop = 1;
+    return g;
+}
+
+// Pin 5 heads a servo "Home signal" with layout 3, pin 6 is its PWM member, pin 7 an
+// input, pin 9 an unknown mode without description.
+Configuration sampleConfig()
+{
+    Configuration c;
+    c.EventMap[0].OnEvent = {-1, 0, 11, 3, 0};
+    for (int p = 1; p < kPinCount; ++p)
+        c.EventMap[p].OffEvent = {-1, -1, -1, -1, 0};
+
+    PinRecord& head = c.Pins[5];
+    head.Description = "Signal, home";
+    head.DeviceDescription = "Home signal";
+    head.AspectLayout = 3;
+    head.InitAspect = 2;
+    head.ConfigMode = 1;
+    head.ConfigParams = {64, 200, 64, 4, 5, 6, 7, 68, 9, 60, 11, 0};
+    head.XDccCount = 1;
+    head.DccCount = 2;
+    head.LynxCount = 3;
+    head.Aspects[0].Description = "Danger";
+    head.Aspects[0].Steps[0] = {39, 1, 0, 24, 0, 0};
+    head.Aspects[0].Steps[2] = {127, 0, 0, 0, 25, 1};
+    head.Aspects[1].Steps[0] = {8, 0, 0, 0, 0, 0}; // aspect without description
+    head.Aspects[2].Description = "Clear";
+    head.Aspects[2].Steps[0] = {9, 0, 1, 0, 0, 0};
+
+    PinRecord& lamp = c.Pins[6];
+    lamp.Description = "Signal lamp";
+    lamp.DeviceOffset = -1;
+    lamp.ConfigMode = 2;
+    lamp.ConfigParams = {0, 3, 8, 0, 31, 99, 0, 0, 0, 0, 0, 0};
+
+    PinRecord& button = c.Pins[7];
+    button.Description = "Button";
+    button.ConfigMode = 4;
+    button.ConfigParams = {1, 2, 3, 4, 5, 0, 0, 0, 0, 0, 0, 0};
+
+    c.Pins[9].ConfigMode = 7;
+    return c;
+}
+
+std::string generalAndEventLines()
+{
+    std::string out = crlf({"\"KestrelConfiguration 3100\"", "\"ID$\",\"Yard 3\"", "\"DCC\",202,12.5,6",
+                            "\"XAD\",5,1,17,1,2,0,8", "\"HWC\",1,2,0,3", "\"LED\",9,0", "\"SPC\",1,\"38400\",8,2,2"});
+    out += "\"Eon\",0,0,1,12,4\r\n";
+    for (int p = 1; p < 32; ++p)
+        out += "\"Eon\"," + std::to_string(p) + ",1,1,1,1\r\n";
+    out += "\"Eof\",0,1,1,1,1\r\n";
+    for (int p = 1; p < 32; ++p)
+        out += "\"Eof\"," + std::to_string(p) + ",0,0,0,0\r\n";
+    return out;
+}
+
+const std::string kPin6And7 = crlf({"\"Pin\",6,0,0,\"Signal lamp\"", "  \"Dev\",-1,\"\"", "  \"Cfg\",2,0,3,8,0,31",
+                                    "  \"PAM\",0,0,0", "\"Pin\",7,0,0,\"Button\"", "  \"Dev\",0,\"\"",
+                                    "  \"Cfg\",4,1,2,3,4", "  \"PAM\",0,0,0"});
+
+std::string emptyPin(int p, const std::string& mode = "0")
+{
+    return crlf({"\"Pin\"," + std::to_string(p) + ",0,0,\"\"", "  \"Dev\",0,\"\"", "  \"Cfg\"," + mode,
+                 "  \"PAM\",0,0,0"});
+}
+
+std::string emptySteps(int from, int to)
+{
+    std::string out;
+    for (int s = from; s <= to; ++s)
+        out += "    \"Ins\"," + std::to_string(s) + ",0,0,0,0,0\r\n";
+    return out;
+}
+
+struct Loader {
+    RecordingDialogs dialogs;
+    Configuration config;
+    GeneralSettings general;
+    LoadResult load(const std::string& text) { return readConfigurationText(text, config, general, dialogs); }
+};
+
+} // namespace
+
+TEST(DataFileWriting, CompactHoldsOnlyDescribedPinsAspectsAndSteps)
+{
+    Configuration c = sampleConfig();
+    const std::string expected =
+        generalAndEventLines() +
+        crlf({"\"Pin\",5,3,2,\"Signal, home\"", "  \"Dev\",0,\"Home signal\"", "  \"Cfg\",1,64,8,64,4,5,6,7,68,9,60,11",
+              "  \"PAM\",1,2,3", "  \"Asp\",0,\"Danger\"", "    \"Ins\",0,55,0,24,0,0", "    \"Ins\",2,127,0,0,25,1",
+              "  \"Asp\",2,\"Clear\"", "    \"Ins\",0,9,1,0,0,0"}) +
+        kPin6And7 + "\"End\"\r\n";
+    EXPECT_EQ(writeConfigurationText(c, sampleGeneral(), SaveForm::Compact), expected);
+    // Servo parameter 2 of 200 was written as 200 AND 63 = 8 and is 8 in memory as well.
+    EXPECT_EQ(c.Pins[5].P(2), 8);
+}
+
+TEST(DataFileWriting, FullHoldsEveryPinEveryAspectOfTheLayoutAndEveryStep)
+{
+    Configuration c = sampleConfig();
+    std::string expected = generalAndEventLines();
+    for (int p = 0; p < 5; ++p)
+        expected += emptyPin(p);
+    expected += crlf({"\"Pin\",5,3,2,\"Signal, home\"", "  \"Dev\",0,\"Home signal\"",
+                      "  \"Cfg\",1,64,8,64,4,5,6,7,68,9,60,11", "  \"PAM\",1,2,3", "  \"Asp\",0,\"Danger\"",
+                      "    \"Ins\",0,55,0,24,0,0", "    \"Ins\",1,0,0,0,0,0", "    \"Ins\",2,127,0,0,25,1"});
+    expected += emptySteps(3, 8);
+    expected += crlf({"  \"Asp\",1,\"\"", "    \"Ins\",0,8,0,0,0,0"}) + emptySteps(1, 8);
+    expected += crlf({"  \"Asp\",2,\"Clear\"", "    \"Ins\",0,9,1,0,0,0"}) + emptySteps(1, 8);
+    expected += "  \"Asp\",3,\"\"\r\n" + emptySteps(0, 8);
+    expected += kPin6And7 + emptyPin(8) + emptyPin(9, "7");
+    for (int p = 10; p < 32; ++p)
+        expected += emptyPin(p);
+    expected += "\"End\"\r\n";
+    EXPECT_EQ(writeConfigurationText(c, sampleGeneral(), SaveForm::Full), expected);
+}
+
+TEST(DataFileWriting, CompactWithoutDescriptionsIsHeaderGeneralEventsAndEnd)
+{
+    Configuration c;
+    const std::string text = writeConfigurationText(c, GeneralSettings{}, SaveForm::Compact);
+    int lines = 0;
+    for (char ch : text)
+        lines += ch == '\n';
+    EXPECT_EQ(lines, 1 + 6 + 64 + 1);
+    EXPECT_NE(text.find("\"DCC\",0,0,0\r\n\"XAD\",0,0,0,0,0,0,0\r\n"), std::string::npos);
+    EXPECT_NE(text.find("\"SPC\",0,\"9600\",7,0,1\r\n"), std::string::npos);
+
+    // Loading it clears no pin.
+    Loader l;
+    l.config.Pins[3].Description = "Keep me";
+    l.config.Pins[3].Aspects[1].Steps[0].Instruction = 9;
+    EXPECT_EQ(l.load(text), LoadResult::Loaded);
+    EXPECT_EQ(l.config.Pins[3].Description, "Keep me");
+    EXPECT_EQ(l.config.Pins[3].Aspects[1].Steps[0].Instruction, 9);
+}
+
+TEST(DataFileWriting, NativeModeIsWrittenAsModeByte64)
+{
+    Configuration c;
+    GeneralSettings g;
+    g.CheckGenKestrelNative = 1;
+    g.LynxFlexAddress = 9; // not written while flex-addressing is off
+    EXPECT_NE(writeConfigurationText(c, g, SaveForm::Compact).find("\"XAD\",64,0,0,"), std::string::npos);
+}
+
+TEST(DataFileReading, FullFileReadsBackToTheSameText)
+{
+    Configuration c = sampleConfig();
+    c.Pins[9].ConfigMode = 0; // an unknown mode reads back as 0 (see CfgRules...)
+    const std::string first = writeConfigurationText(c, sampleGeneral(), SaveForm::Full);
+    Loader l;
+    ASSERT_EQ(l.load(first), LoadResult::Loaded);
+    EXPECT_TRUE(l.dialogs.messages.empty());
+    EXPECT_EQ(writeConfigurationText(l.config, l.general, SaveForm::Full), first);
+
+    EXPECT_EQ(l.general.TextGenXDCCAddress, "12.5");
+    EXPECT_EQ(l.general.TextGenXaddr, "17");
+    EXPECT_EQ(l.general.CheckLCOrange[7], 1); // the value 0
+    EXPECT_EQ(l.config.Pins[5].OutputValue, 64); // parameter 1
+    EXPECT_EQ(l.config.Pins[6].P(6), 0);         // PWM parameters 6..11 cleared
+    EXPECT_EQ(l.config.Pins[7].P(5), 0);         // not in the file, left as it was
+    EXPECT_EQ(l.config.EventMap[0].OnEvent[0], -1);
+    EXPECT_EQ(l.config.DccFirstIndex[6], 2 + 5 * 0); // address index rebuilt: pin 5 has 2
+}
+
+TEST(DataFileReading, CompactFileLeavesWhatItDoesNotNameEmpty)
+{
+    Configuration c = sampleConfig();
+    const std::string compact = writeConfigurationText(c, sampleGeneral(), SaveForm::Compact);
+    Loader l;
+    l.config.Pins[5].Aspects[1].Description = "Old";
+    l.config.Pins[5].Aspects[3].Steps[4] = {9, 1, 2, 3, 4, 5};
+    l.config.Pins[5].Aspects[11].Steps[8].Instruction = 7;
+    l.config.Pins[5].Aspects[11].Steps[9].Instruction = 7; // step 9 is not touched
+    ASSERT_EQ(l.load(compact), LoadResult::Loaded);
+    const PinRecord& p = l.config.Pins[5];
+    EXPECT_EQ(p.Aspects[1].Description, "");
+    EXPECT_EQ(p.Aspects[3].Steps[4], StepRecord{});
+    EXPECT_EQ(p.Aspects[11].Steps[8], StepRecord{});
+    EXPECT_EQ(p.Aspects[11].Steps[9].Instruction, 7);
+    EXPECT_EQ(p.Aspects[0].Steps[0], (StepRecord{39, 1, 0, 24, 0, 0}));
+    // "Pin" sets the three counts to 1 before "PAM".
+    EXPECT_EQ(l.config.Pins[7].DccCount, 0);
+    EXPECT_EQ(l.config.Pins[8].DccCount, 0); // no record for pin 8
+}
+
+TEST(DataFileReading, InsOpSplitsOnlyFrom19To63)
+{
+    // op = 16 x Fade + Instruction; only 19..63 are split, by bit 4.
+    Loader l;
+    ASSERT_EQ(l.load(crlf({"\"KestrelConfiguration 3100\"", "\"Pin\",2,3,0,\"x\"", "\"Asp\",0,\"a\"",
+                           "\"Ins\",0,17,0,1,0,0", "\"Ins\",1,35,0,5,0,0", "\"Ins\",2,112,0,0,3,1",
+                           "\"Ins\",3,16,0,0,0,0", "\"Ins\",4,38,0,1,0,0", "\"Ins\",5,51,0,5,0,0",
+                           "\"Ins\",6,26,0,9,0,0", "\"End\""})),
+              LoadResult::Loaded);
+    const auto& s = l.config.Pins[2].Aspects[0].Steps;
+    EXPECT_EQ(s[0].Instruction, 17); // "Feedback", never a faded "Jump"
+    EXPECT_EQ(s[0].Fade, 0);
+    EXPECT_EQ(s[1].Instruction, 35); // 35 has bit 4 clear: "Multibit 7 AD" without fade
+    EXPECT_EQ(s[1].Fade, 0);
+    EXPECT_EQ(s[5].Instruction, 35); // 51 = 16 + 35
+    EXPECT_EQ(s[5].Fade, 1);
+    EXPECT_EQ(s[6].Instruction, 10); // 26 = 16 + 10, "Invert" with fade
+    EXPECT_EQ(s[6].Fade, 1);
+    EXPECT_EQ(s[2].Instruction, 112);
+    EXPECT_EQ(s[3].Instruction, 16);
+    EXPECT_EQ(s[4].Instruction, 38); // bit 4 clear
+    EXPECT_EQ(s[4].Fade, 0);
+}
+
+TEST(DataFileReading, FadeOutside19To63StaysAsItWas)
+{
+    Loader l;
+    // No "Pin" record: the step is not cleared first, and op 17 leaves its fade.
+    l.config.Pins[0].Aspects[0].Steps[0].Fade = 1;
+    ASSERT_EQ(l.load(crlf({"\"KestrelConfiguration 3100\"", "\"Ins\",0,17,0,1,0,0", "\"End\""})), LoadResult::Loaded);
+    EXPECT_EQ(l.config.Pins[0].Aspects[0].Steps[0].Instruction, 17);
+    EXPECT_EQ(l.config.Pins[0].Aspects[0].Steps[0].Fade, 1);
+}
+
+TEST(DataFileReading, CfgRulesOutputValueAndServoConversion)
+{
+    Loader l;
+    l.config.Pins[4].ConfigParams = {9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9};
+    ASSERT_EQ(l.load(crlf({"\"KestrelConfiguration 3100\"", "\"Pin\",1,0,0,\"a\"", "\"Cfg\",1,70,48,64,1,1,1,1,64,0,64,0",
+                           "\"Pin\",2,0,0,\"b\"", "\"Cfg\",1,70,56,64,1,1,1,1,64,0,64,0", "\"Pin\",3,0,0,\"c\"",
+                           "\"Cfg\",9", "\"Pin\",4,0,0,\"d\"", "\"Cfg\",5,10,11,12,13", "\"End\""})),
+              LoadResult::Loaded);
+    EXPECT_EQ(l.config.Pins[1].P(2), 43); // 48: range 3 in the high nibble, bit 3 clear -> 3 + 40
+    EXPECT_EQ(l.config.Pins[2].P(2), 56); // bit 3 set: kept
+    EXPECT_EQ(l.config.Pins[1].OutputValue, 70);
+    EXPECT_EQ(l.config.Pins[3].ConfigMode, 0);
+    EXPECT_EQ(l.config.Pins[4].ConfigMode, 5);
+    EXPECT_EQ(l.config.Pins[4].P(4), 13);
+    EXPECT_EQ(l.config.Pins[4].P(5), 9); // input: the others are left as they were
+    EXPECT_EQ(l.config.Pins[4].OutputValue, 10);
+}
+
+TEST(DataFileReading, GeneralRecordsSetTheControls)
+{
+    Loader l;
+    l.config.NumberingBase = 1;
+    l.general.ComboGenBaud = 3;
+    ASSERT_EQ(l.load(crlf({"\"KestrelConfiguration 3100\"", "\"XAD\",64,0,20,15,0,0,0", "\"LED\",0,127",
+                           "\"SPC\",1,\"1200\",7,3,1", "\"End\""})),
+              LoadResult::Loaded);
+    const GeneralSettings& g = l.general;
+    EXPECT_EQ(g.CheckGenKestrelNative, 1);
+    EXPECT_EQ(g.CheckGenLynxaddr, 0);
+    EXPECT_EQ(g.ExtendedAddress, 20);
+    EXPECT_EQ(g.TextGenXaddr, "21"); // shown with the numbering base
+    EXPECT_EQ(g.CheckGenXGM[3], 1);
+    EXPECT_EQ(g.CheckGenXGM[4], 0);
+    EXPECT_EQ(g.CheckLCGreen[0], 0);
+    EXPECT_EQ(g.CheckLCOrange[6], 1);
+    EXPECT_EQ(g.ComboGenBaud, 3); // "1200" is no entry: the selection stays
+    EXPECT_EQ(g.OptionGenSerialParity, 3);
+    EXPECT_EQ(g.OptionGenSerialDatabits, 0);
+}
+
+TEST(DataFileReading, OlderVersionsReadWhatTheyHeld)
+{
+    {   // Version 31: DCC without the eXtended address, PAM without the eXtended count.
+        Loader l;
+        ASSERT_EQ(l.load(crlf({"\"KestrelConfiguration 0031\"", "\"DCC\",202,6", "\"Pin\",1,0,0,\"a\"",
+                               "\"PAM\",4,2", "\"End\""})),
+                  LoadResult::Loaded);
+        ASSERT_EQ(l.dialogs.messages.size(), 1u);
+        EXPECT_EQ(l.dialogs.messages[0].text, "Data File Version = 31");
+        EXPECT_EQ(l.dialogs.messages[0].icon, Icon::Information);
+        EXPECT_EQ(l.general.TextGenDCCAddress, "202");
+        EXPECT_EQ(l.general.TextGenXDCCAddress, "0");
+        EXPECT_EQ(l.general.OptGenDCC_PRP, 2);
+        EXPECT_EQ(l.general.ChkGenDCC_BPSI, 1);
+        EXPECT_EQ(l.config.Pins[1].DccCount, 4);
+        EXPECT_EQ(l.config.Pins[1].LynxCount, 2);
+        EXPECT_EQ(l.config.Pins[1].XDccCount, 1);
+    }
+    {   // Version 22: no DCC flags either.
+        Loader l;
+        l.general.OptGenDCC_PRP = 1;
+        ASSERT_EQ(l.load(crlf({"\"KestrelConfiguration 0022\"", "\"DCC\",7", "\"LED\",3,0", "\"End\""})),
+                  LoadResult::Loaded);
+        EXPECT_EQ(l.general.TextGenDCCAddress, "7");
+        EXPECT_EQ(l.general.OptGenDCC_PRP, 1);
+        EXPECT_EQ(l.general.CheckLCGreen[1], 1);
+    }
+    {   // Version 19: PWM with three parameters, off-level 0 and on-level 31.
+        Loader l;
+        l.config.Pins[2].ConfigParams = {9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9};
+        ASSERT_EQ(l.load(crlf({"\"KestrelConfiguration 0019\"", "\"Pin\",2,0,0,\"a\"", "\"Cfg\",3,5,1,8",
+                               "\"PAM\",1,1", "\"End\""})),
+                  LoadResult::Loaded);
+        const PinRecord& p = l.config.Pins[2];
+        EXPECT_EQ(p.ConfigMode, 3);
+        EXPECT_EQ(p.P(3), 8);
+        EXPECT_EQ(p.P(4), 0);
+        EXPECT_EQ(p.P(5), 31);
+        EXPECT_EQ(p.P(6), 0);
+        EXPECT_EQ(p.P(11), 0);
+        EXPECT_EQ(p.DccCount, 1);
+    }
+}
+
+TEST(DataFileReading, UnknownKeywordsAndEvtArePassedOverOrAccepted)
+{
+    Loader l;
+    ASSERT_EQ(l.load(crlf({"\"KestrelConfiguration 3100\"", "\"Note\",\"made by hand\",1,2,3", "\"Evt\",4,0,1,2,3",
+                           "\"Extra\"", "\"Eof\",4,13,0,0,0", "\"End\"", "\"ID$\",\"after End\""})),
+              LoadResult::Loaded);
+    EXPECT_TRUE(l.dialogs.messages.empty());
+    EXPECT_EQ(l.config.EventMap[4].OnEvent[0], -1);
+    EXPECT_EQ(l.config.EventMap[4].OnEvent[3], 2);
+    EXPECT_EQ(l.config.EventMap[4].OffEvent[0], 12);
+    EXPECT_EQ(l.general.TextGenIDString, "");
+}
+
+TEST(DataFileReading, BadHeaderChangesNothing)
+{
+    for (const std::string text : {"\"KestrelConfiguration 310\"\r\n\"ID$\",\"x\"\r\n\"End\"\r\n",
+                                   "\"KestrelDeviceDefinitions 3100\"\r\n\"End\"\r\n", "", "\r\n"}) {
+        Loader l;
+        EXPECT_EQ(l.load(text), LoadResult::InvalidHeader);
+        ASSERT_EQ(l.dialogs.messages.size(), 1u);
+        EXPECT_EQ(l.dialogs.messages[0].text, "Invalid configuration file");
+        EXPECT_EQ(l.dialogs.messages[0].icon, Icon::Warning);
+        EXPECT_EQ(l.general.TextGenIDString, "");
+    }
+}
+
+TEST(DataFileReading, FormatErrorsStopTheLoadAndKeepWhatWasRead)
+{
+    struct Case {
+        std::string text;
+        std::string message;
+    };
+    const std::string head = "\"KestrelConfiguration 3100\"\r\n\"ID$\",\"Kept\"\r\n\"Pin\",3,0,0,\"Lamp\"\r\n";
+    const std::string tail = "\r\nLoading stopped; what was read before is kept.";
+    const Case cases[] = {
+        {head + "  \"Cfg\",2,1", "The file ends before \"End\" at line 4, item 4"},
+        {head + "  \"Cfg\",2,1\r\n\r\n", "The file ends before \"End\" at line 4, item 4"},
+        {"\"KestrelConfiguration 3100\"\r\n\"ID$\",\"Kept\"\r\n\"Pin\",3,0,0,\"Lamp\"\r\n", "The file ends before \"End\" at line 3, item 6"},
+        {head + "\"Pin\",33,0,0,\"x\"\r\n\"End\"\r\n", "Pin index 33 out of range 0..32 at line 4, item 2"},
+        {head + "\"Eof\",40,0,0,0,0\r\n\"End\"\r\n", "Pin index 40 out of range 0..32 at line 4, item 2"},
+        {head + "\"Asp\",13,\"x\"\r\n\"End\"\r\n", "Aspect index 13 out of range 0..12 at line 4, item 2"},
+        {head + "\"Ins\",10,9,0,0,0,0\r\n\"End\"\r\n", "Step index 10 out of range 0..9 at line 4, item 2"},
+        {head + "\"Ins\",0,300,0,0,0,0\r\n\"End\"\r\n", "Instruction 300 out of range 0..255 at line 4, item 3"},
+        {head + "\"LED\",1,\"x\"\r\n\"End\"\r\n", "Number expected, found \"x\" at line 4, item 3"},
+    };
+    for (const Case& c : cases) {
+        Loader l;
+        EXPECT_EQ(l.load(c.text), LoadResult::FormatError) << c.message;
+        ASSERT_EQ(l.dialogs.messages.size(), 1u);
+        EXPECT_EQ(l.dialogs.messages[0].text, "Error in configuration file: " + c.message + tail);
+        EXPECT_EQ(l.dialogs.messages[0].icon, Icon::Warning);
+        EXPECT_EQ(l.general.TextGenIDString, "Kept");
+        EXPECT_EQ(l.config.Pins[3].Description, "Lamp");
+        EXPECT_EQ(l.config.DccFirstIndex[4], 1); // address index rebuilt from what was read
+    }
+
+    // Index 32 (the spare record), aspect 12 and step 9 are within the bounds.
+    Loader l;
+    EXPECT_EQ(l.load(head + "\"Pin\",32,0,0,\"\"\r\n\"Asp\",12,\"s\"\r\n\"Ins\",9,9,0,0,0,0\r\n\"End\"\r\n"),
+              LoadResult::Loaded);
+    EXPECT_EQ(l.config.Pins[32].Aspects[12].Steps[9].Instruction, 9);
+}
+
+TEST(DataFileSaving, WritesBesideAndReplacesOnlyWhenComplete)
+{
+    ScratchDir dir("save");
+    const std::string target = dir.file("layout.dat");
+    spit(target, "old content");
+    Configuration c = sampleConfig();
+    std::string error;
+
+    // The temporary file cannot be made: the target and the model stay as they were.
+    std::filesystem::create_directory(temporaryPathFor(target));
+    EXPECT_FALSE(saveConfigurationFile(target, c, sampleGeneral(), SaveForm::Full, error));
+    EXPECT_FALSE(error.empty());
+    EXPECT_EQ(slurp(target), "old content");
+    EXPECT_EQ(c.Pins[5].P(2), 200);
+    std::filesystem::remove(temporaryPathFor(target));
+
+    // A target that cannot be replaced (it is a directory) leaves no temporary file behind.
+    const std::string folder = dir.file("folder.dat");
+    std::filesystem::create_directory(folder);
+    EXPECT_FALSE(saveConfigurationFile(folder, c, sampleGeneral(), SaveForm::Full, error));
+    EXPECT_FALSE(std::filesystem::exists(temporaryPathFor(folder)));
+
+    ASSERT_TRUE(saveConfigurationFile(target, c, sampleGeneral(), SaveForm::Compact, error));
+    EXPECT_EQ(c.Pins[5].P(2), 8);
+    EXPECT_EQ(slurp(target), writeConfigurationText(c, sampleGeneral(), SaveForm::Compact));
+    EXPECT_FALSE(std::filesystem::exists(temporaryPathFor(target)));
+}
+
+TEST(DataFileSaving, DccNumbersKeepTheirPointUnderACommaDecimalLocale)
+{
+    struct CommaDecimal : std::numpunct<char> {
+        char do_decimal_point() const override { return ','; }
+    };
+    const std::locale old = std::locale::global(std::locale(std::locale::classic(), new CommaDecimal));
+    Configuration c;
+    GeneralSettings g;
+    g.TextGenDCCAddress = "12.5";
+    const std::string text = writeConfigurationText(c, g, SaveForm::Compact);
+    Loader l;
+    const LoadResult r = l.load(text);
+    std::locale::global(old);
+    EXPECT_NE(text.find("\"DCC\",12.5,0,0\r\n"), std::string::npos);
+    EXPECT_EQ(r, LoadResult::Loaded);
+    EXPECT_EQ(l.general.TextGenDCCAddress, "12.5");
+}
+
+namespace {
+
+struct SessionRig {
+    FakeClock clock;
+    ScriptedPort port{clock};
+    RecordingDialogs dialogs;
+    Session session{port, clock, dialogs};
+};
+
+} // namespace
+
+TEST(DataFileCommands, SaveAndLoadThroughTheFileDialog)
+{
+    ScratchDir dir("commands");
+    SessionRig rig;
+    rig.session.config = sampleConfig();
+    rig.session.general = sampleGeneral();
+
+    rig.dialogs.fileNames = {dir.file("full.dat"), dir.file("compact.dat"), dir.file("never.dat")};
+    CommandSave_MouseDown(rig.session, 1, 0);
+    CommandSave_MouseDown(rig.session, 1, 1);
+    CommandSave_MouseDown(rig.session, 2, 0); // right button: nothing, not even the dialog
+    CommandSave_MouseDown(rig.session, 1, 2); // Ctrl: nothing
+    EXPECT_EQ(rig.dialogs.fileNames.size(), 1u);
+    EXPECT_EQ(slurp(dir.file("full.dat")), writeConfigurationText(rig.session.config, rig.session.general, SaveForm::Full));
+    EXPECT_EQ(slurp(dir.file("compact.dat")),
+              writeConfigurationText(rig.session.config, rig.session.general, SaveForm::Compact));
+
+    rig.dialogs.fileNames = {""}; // cancelled: silent
+    CommandSave_MouseDown(rig.session, 1, 0);
+    EXPECT_TRUE(rig.dialogs.messages.empty());
+
+    SessionRig other;
+    int refreshed = 0;
+    other.session.onConfigurationChanged = [&] { ++refreshed; };
+    other.dialogs.fileNames = {dir.file("compact.dat"), dir.file("missing.dat"), ""};
+    CommandLoad_Click(other.session);
+    EXPECT_EQ(refreshed, 1);
+    EXPECT_EQ(other.session.config.Pins[5].DeviceDescription, "Home signal");
+    EXPECT_EQ(other.session.general.TextGenIDString, "Yard 3");
+    CommandLoad_Click(other.session);
+    ASSERT_EQ(other.dialogs.messages.size(), 1u);
+    EXPECT_EQ(other.dialogs.messages[0].text, "Can not open " + dir.file("missing.dat"));
+    CommandLoad_Click(other.session);
+    EXPECT_EQ(refreshed, 1);
+    EXPECT_EQ(other.dialogs.messages.size(), 1u);
+}
