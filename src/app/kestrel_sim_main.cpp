@@ -2,6 +2,7 @@
 // on a pseudo-terminal. The first line of stdout is the path of the terminal to open;
 // a one-line statistics summary goes to stderr on exit (SIGINT or SIGTERM).
 
+#include "app/SimSeed.h"
 #include "sim/SimBus.h"
 #include "sim/SimCorvid.h"
 
@@ -42,7 +43,8 @@ constexpr const char* kUsage =
     "  --corvid         put a simulated Corvid system in front of the modules\n"
     "  --system-version X.Y  Corvid system version, e.g. 6.45 = 6045 (default 6.45)\n"
     "  --unit TYPE      interface unit: hub-a (default), hub-b or linkbox\n"
-    "  --unit-version N interface unit version, e.g. 1020 or 1.20 (default 1020)\n";
+    "  --unit-version N interface unit version, e.g. 1020 or 1.20 (default 1020)\n"
+    "  --load FILE.dat  every module starts with the configuration of this data file\n";
 
 struct Options {
     std::vector<int> addresses;
@@ -53,6 +55,7 @@ struct Options {
     int systemVersion = 6045;
     CorvidUnit unit = CorvidUnit::HubA;
     int unitVersion = 1020;
+    std::string load; // configuration data file that every module starts with
 };
 
 int parseInt(const std::string& text, int lo, int hi, const std::string& what)
@@ -128,9 +131,9 @@ Options parseOptions(int argc, char** argv)
         } else if (arg == "--unit-version") {
             o.unitVersion = parseCorvidVersion(value(i), "--unit-version");
         }
-        // A later "--load FILE.dat" option, seeding module memory from a configuration
-        // data file, is parsed here (see LOAD below).
-        else {
+        else if (arg == "--load") {
+            o.load = value(i);
+        } else {
             throw std::invalid_argument("unknown option " + arg);
         }
     }
@@ -202,8 +205,16 @@ int main(int argc, char** argv)
         if (a > 15 && !options.corvid)
             std::fprintf(stderr, "kestrel-sim: warning: address %d can only be reached through --corvid\n", a);
     }
-    // LOAD: a later "--load FILE.dat" seeds each module's memory (bus.modules()[i]->memory())
-    // from a configuration data file here, before the terminal is offered.
+    if (!options.load.empty()) {
+        for (int a : options.addresses) {
+            std::string error;
+            if (!kestrel::seedModuleFromFile(bus, a, options.load, error)) {
+                std::fprintf(stderr, "kestrel-sim: %s\n", error.c_str());
+                return 2;
+            }
+        }
+        bus.resetStats();
+    }
 
     std::unique_ptr<SimCorvid> corvid;
     SimEndpoint* endpoint = &bus;

@@ -1,5 +1,7 @@
 #include "shell/BuiltInSim.h"
 
+#include "app/SimSeed.h"
+#include "files/DemoConfiguration.h"
 #include "sim/SimBus.h"
 #include "sim/SimPort.h"
 
@@ -16,6 +18,13 @@ public:
     BuiltInSimPort() : SimPort(bus)
     {
         bus.addModule(0);
+        // It starts with the demonstration configuration, so a first Read All shows something real.
+        Configuration demo;
+        GeneralSettings general;
+        fillDemoConfiguration(demo, general);
+        std::string error;
+        seedModule(bus, 0, demo, general, error);
+        bus.resetStats();
         // A missing reply costs the full time-out, as on a real line.
         setRealTimeWaits(true);
     }

@@ -64,7 +64,16 @@ void SimBus::countExchanges()
     long accepted = 0;
     for (auto& m : modules_)
         accepted += m->stats().requests;
-    stats_.exchanges = accepted;
+    stats_.exchanges = accepted - exchangeBase_;
+}
+
+void SimBus::resetStats()
+{
+    stats_ = {};
+    exchangeBase_ = 0;
+    countExchanges();
+    exchangeBase_ = stats_.exchanges;
+    stats_.exchanges = 0;
 }
 
 } // namespace kestrel::sim

@@ -29,6 +29,8 @@ public:
     std::size_t available() const override { return out_.size(); }
     int read() override;
     const WireStats& stats() const override { return stats_; }
+    // Starts the counts afresh (after the modules were given their starting configuration).
+    void resetStats();
 
     // A request that reached the bus by another way (the Corvid tunnel): offered to the
     // modules with this bus address; the first answer is returned.
@@ -40,6 +42,7 @@ private:
     std::vector<std::unique_ptr<SimModule>> modules_;
     std::deque<std::uint8_t> out_;
     WireStats stats_;
+    long exchangeBase_ = 0; // module requests before the last resetStats()
 };
 
 } // namespace kestrel::sim
