@@ -18,12 +18,13 @@ namespace kestrel {
 
 namespace {
 
-int checked(int box) { return box == 1 ? 1 : 0; }
+int checked(int box) {
+    return box == 1 ? 1 : 0;
+}
 
 // ---- Writing ----
 
-void writeGeneral(ItemWriter& w, const GeneralSettings& g)
-{
+void writeGeneral(ItemWriter& w, const GeneralSettings& g) {
     w.line().text("ID$").text(g.TextGenIDString).end();
 
     const int flags = (g.OptGenDCC_PRP & 3) + 4 * checked(g.ChkGenDCC_BPSI) + 8 * checked(g.ChkGenDCCAllow0);
@@ -64,8 +65,7 @@ void writeGeneral(ItemWriter& w, const GeneralSettings& g)
         .end();
 }
 
-void writeEvents(ItemWriter& w, const Configuration& config)
-{
+void writeEvents(ItemWriter& w, const Configuration& config) {
     for (const char* keyword : {"Eon", "Eof"}) {
         const bool on = std::strcmp(keyword, "Eon") == 0;
         for (int p = 0; p < kPinCount; ++p) {
@@ -81,8 +81,7 @@ void writeEvents(ItemWriter& w, const Configuration& config)
 } // namespace
 
 // Shared with the definitions file: the "Cfg" record of a pin.
-void writeCfgRecord(ItemWriter& w, int indent, PinRecord& pin)
-{
+void writeCfgRecord(ItemWriter& w, int indent, PinRecord& pin) {
     w.line(indent).text("Cfg").number(pin.ConfigMode);
     int count = 0;
     switch (pin.ConfigMode) {
@@ -106,8 +105,7 @@ void writeCfgRecord(ItemWriter& w, int indent, PinRecord& pin)
     w.end();
 }
 
-void writeInsRecord(ItemWriter& w, int indent, int s, const StepRecord& step)
-{
+void writeInsRecord(ItemWriter& w, int indent, int s, const StepRecord& step) {
     w.line(indent)
         .text("Ins")
         .number(s)
@@ -119,8 +117,7 @@ void writeInsRecord(ItemWriter& w, int indent, int s, const StepRecord& step)
         .end();
 }
 
-std::string writeConfigurationText(Configuration& config, const GeneralSettings& general, SaveForm form)
-{
+std::string writeConfigurationText(Configuration& config, const GeneralSettings& general, SaveForm form) {
     const bool compact = form == SaveForm::Compact;
     ItemWriter w;
     w.line().text(std::string(kConfigFileKeyword) + " " + kConfigFileVersion).end();
@@ -131,7 +128,13 @@ std::string writeConfigurationText(Configuration& config, const GeneralSettings&
         PinRecord& pin = config.pin(p);
         if (compact && pin.Description.empty())
             continue;
-        w.line().text("Pin").number(p).number(pin.AspectLayout).number(pin.InitAspect).text(pin.Description).end();
+        w.line()
+            .text("Pin")
+            .number(p)
+            .number(pin.AspectLayout)
+            .number(pin.InitAspect)
+            .text(pin.Description)
+            .end();
         w.line(2).text("Dev").number(pin.DeviceOffset).text(pin.DeviceDescription).end();
         writeCfgRecord(w, 2, pin);
         w.line(2).text("PAM").number(pin.XDccCount).number(pin.DccCount).number(pin.LynxCount).end();
@@ -155,8 +158,7 @@ std::string writeConfigurationText(Configuration& config, const GeneralSettings&
 }
 
 bool saveConfigurationFile(const std::string& path, Configuration& config, const GeneralSettings& general,
-                           SaveForm form, std::string& error)
-{
+                           SaveForm form, std::string& error) {
     // The model is changed (servo parameter 2) only when the file is really written.
     Configuration copy = config;
     const std::string text = writeConfigurationText(copy, general, form);
@@ -170,22 +172,19 @@ bool saveConfigurationFile(const std::string& path, Configuration& config, const
 
 namespace {
 
-void checkRange(ItemReader& in, int value, int highest, const char* what)
-{
+void checkRange(ItemReader& in, int value, int highest, const char* what) {
     if (value > highest)
-        in.fail(std::string(what) + " index " + std::to_string(value) + " out of range 0.." + std::to_string(highest));
+        in.fail(std::string(what) + " index " + std::to_string(value) + " out of range 0.." +
+                std::to_string(highest));
 }
 
 class ConfigReader {
 public:
     ConfigReader(ItemReader& in, double version, Configuration& config, GeneralSettings& general)
-        : in(in), version(version), config(config), g(general)
-    {
-    }
+        : in(in), version(version), config(config), g(general) {}
 
     // Dispatches keywords until "End".
-    void run()
-    {
+    void run() {
         for (;;) {
             const std::string keyword = in.next();
             if (keyword == "End")
@@ -195,8 +194,7 @@ public:
     }
 
 private:
-    void dispatch(const std::string& k)
-    {
+    void dispatch(const std::string& k) {
         if (k == "ID$")
             g.TextGenIDString = in.next();
         else if (k == "DCC")
@@ -228,8 +226,7 @@ private:
         // Anything else is not a keyword: passed over, and the next item is tried.
     }
 
-    void readDcc()
-    {
+    void readDcc() {
         g.TextGenDCCAddress = formatNumber(in.nextReal());
         if (version >= 32)
             g.TextGenXDCCAddress = formatNumber(in.nextReal());
@@ -241,8 +238,7 @@ private:
         }
     }
 
-    void readXad()
-    {
+    void readXad() {
         const int a = in.nextInt16();
         const int b = in.nextInt16();
         const int c = in.nextByte();
@@ -265,8 +261,7 @@ private:
                 g.CheckGenXGM[4 * i + j] = (masks[i] >> j) & 1;
     }
 
-    void readHwc()
-    {
+    void readHwc() {
         std::array<int, 4> h{};
         for (int& v : h)
             v = in.nextInt16();
@@ -276,8 +271,7 @@ private:
         }
     }
 
-    void readLed()
-    {
+    void readLed() {
         const int green = in.nextByte();
         const int orange = in.nextByte();
         for (int k = 0; k < 7; ++k) {
@@ -289,8 +283,7 @@ private:
         g.CheckLCOrange[7] = orange == 0 ? 1 : 0;
     }
 
-    void readSpc()
-    {
+    void readSpc() {
         const int enable = in.nextInt16();
         const std::string rate = in.next();
         const int data = in.nextInt16();
@@ -305,15 +298,13 @@ private:
         g.OptionGenSerialStop = stop == 2 ? 1 : 0;
     }
 
-    int readPinIndex()
-    {
+    int readPinIndex() {
         const int p = in.nextByte();
         checkRange(in, p, kPinRecords - 1, "Pin");
         return p;
     }
 
-    void readEvents(bool on)
-    {
+    void readEvents(bool on) {
         const int p = readPinIndex();
         std::array<int, 4> entries{};
         for (int& e : entries) {
@@ -326,8 +317,7 @@ private:
             target[slot] = static_cast<std::int16_t>(entries[slot]);
     }
 
-    void readPin()
-    {
+    void readPin() {
         const int p = readPinIndex();
         const int layout = in.nextByte();
         const int init = in.nextByte();
@@ -347,16 +337,14 @@ private:
         }
     }
 
-    void readDev()
-    {
+    void readDev() {
         const int offset = in.nextInt16();
         std::string description = in.next();
         config.pin(pin).DeviceOffset = static_cast<std::int16_t>(offset);
         config.pin(pin).DeviceDescription = std::move(description);
     }
 
-    void readCfg()
-    {
+    void readCfg() {
         const int mode = in.nextByte();
         std::array<int, 12> p{}; // p[n] = parameter n
         PinRecord& r = config.pin(pin);
@@ -403,8 +391,7 @@ private:
         r.OutputValue = r.P(1);
     }
 
-    void readPam()
-    {
+    void readPam() {
         PinRecord& r = config.pin(pin);
         int xdcc = r.XDccCount;
         if (version >= 32)
@@ -416,8 +403,7 @@ private:
         r.LynxCount = static_cast<std::uint8_t>(lynx);
     }
 
-    void readAsp()
-    {
+    void readAsp() {
         const int a = in.nextByte();
         checkRange(in, a, kAspectRecords - 1, "Aspect");
         std::string description = in.next();
@@ -425,11 +411,11 @@ private:
         config.aspect(pin, a).Description = std::move(description);
     }
 
-    void readIns()
-    {
+    void readIns() {
         const int s = in.nextInt16();
         if (s < 0 || s > kStepRecords - 1)
-            in.fail("Step index " + std::to_string(s) + " out of range 0.." + std::to_string(kStepRecords - 1));
+            in.fail("Step index " + std::to_string(s) + " out of range 0.." +
+                    std::to_string(kStepRecords - 1));
         const int op = in.nextInt16();
         if (op < 0 || op > 255)
             in.fail("Instruction " + std::to_string(op) + " out of range 0..255");
@@ -443,8 +429,7 @@ public:
     // The op of an "Ins" record: stored whole as the instruction; only an op of 19 to 63
     // is split into fade (bit 4) and instruction, so 16 to 18 never carry a fade and
     // outside 19..63 the fade stays as it was.
-    static void readStep(StepRecord& step, int op, const std::array<int, 4>& par)
-    {
+    static void readStep(StepRecord& step, int op, const std::array<int, 4>& par) {
         step.Instruction = static_cast<std::uint8_t>(op);
         if (op >= 19 && op <= 63)
             splitCodeByte(op, step);
@@ -466,11 +451,12 @@ private:
 } // namespace
 
 // Shared with the definitions file.
-void readStepOp(StepRecord& step, int op, const std::array<int, 4>& par) { ConfigReader::readStep(step, op, par); }
+void readStepOp(StepRecord& step, int op, const std::array<int, 4>& par) {
+    ConfigReader::readStep(step, op, par);
+}
 
 LoadResult readConfigurationText(const std::string& text, Configuration& config, GeneralSettings& general,
-                                 UserDialogs& dialogs)
-{
+                                 UserDialogs& dialogs) {
     ItemReader in(text);
     const std::string keyword = kConfigFileKeyword;
     std::string header;
@@ -498,16 +484,14 @@ LoadResult readConfigurationText(const std::string& text, Configuration& config,
 }
 
 LoadResult loadConfigurationFile(const std::string& path, Configuration& config, GeneralSettings& general,
-                                 UserDialogs& dialogs)
-{
+                                 UserDialogs& dialogs) {
     std::string text;
     if (!readTextFile(path, text))
         return LoadResult::CannotOpen;
     return readConfigurationText(text, config, general, dialogs);
 }
 
-void CommandSave_MouseDown(Session& session, int button, int shift)
-{
+void CommandSave_MouseDown(Session& session, int button, int shift) {
     if (button != 1 || (shift != 0 && shift != 1))
         return;
     const SaveForm form = shift == 1 ? SaveForm::Compact : SaveForm::Full;
@@ -519,8 +503,7 @@ void CommandSave_MouseDown(Session& session, int button, int shift)
         session.dialogs().message("The configuration was not saved: " + error, Icon::Warning);
 }
 
-void CommandLoad_Click(Session& session)
-{
+void CommandLoad_Click(Session& session) {
     const std::string path = session.dialogs().openFileName("Load Configuration", kConfigFileFilter, "");
     if (path.empty())
         return;

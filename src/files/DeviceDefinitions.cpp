@@ -15,20 +15,20 @@ namespace kestrel {
 
 namespace {
 
-std::string formatFault(const FileFormatError& e)
-{
+std::string formatFault(const FileFormatError& e) {
     return std::string("Error in device definitions file: ") + e.what();
 }
 
-int wrapPin(int n) { return ((n % kPinCount) + kPinCount) % kPinCount; }
+int wrapPin(int n) {
+    return ((n % kPinCount) + kPinCount) % kPinCount;
+}
 
 } // namespace
 
 // ---- The list ----
 
 ListLoad readDeviceListText(DeviceList& list, const std::string& text, const std::string& path, ListMode mode,
-                            UserDialogs& dialogs)
-{
+                            UserDialogs& dialogs) {
     ItemReader in(text);
     const std::string keyword = kDeviceFileKeyword;
     std::string header;
@@ -70,27 +70,25 @@ ListLoad readDeviceListText(DeviceList& list, const std::string& text, const std
     return ListLoad::Loaded;
 }
 
-ListLoad readDeviceList(DeviceList& list, const std::string& path, ListMode mode, UserDialogs& dialogs)
-{
+ListLoad readDeviceList(DeviceList& list, const std::string& path, ListMode mode, UserDialogs& dialogs) {
     std::string text;
     if (!readTextFile(path, text))
         return ListLoad::CannotOpen;
     return readDeviceListText(list, text, path, mode, dialogs);
 }
 
-void loadStandardDeviceList(DeviceList& list, const std::string& programFolder, UserDialogs& dialogs)
-{
+void loadStandardDeviceList(DeviceList& list, const std::string& programFolder, UserDialogs& dialogs) {
     const std::string standard = (std::filesystem::path(programFolder) / kStandardDeviceFile).string();
     if (readDeviceList(list, standard, ListMode::Replace, dialogs) != ListLoad::CannotOpen)
         return;
     dialogs.message("Can not find Device Configuration file at standard location", Icon::Warning);
-    const std::string chosen = dialogs.openFileName("Load Device Definitions", kDeviceFileFilter, kStandardDeviceFile);
+    const std::string chosen =
+        dialogs.openFileName("Load Device Definitions", kDeviceFileFilter, kStandardDeviceFile);
     if (chosen.empty() || readDeviceList(list, chosen, ListMode::Replace, dialogs) == ListLoad::CannotOpen)
         dialogs.message("No Device Configuration available", Icon::Warning);
 }
 
-void CommandReloadDD_MouseDown(DeviceList& list, UserDialogs& dialogs, int button, int shift)
-{
+void CommandReloadDD_MouseDown(DeviceList& list, UserDialogs& dialogs, int button, int shift) {
     if (button != 1)
         return;
     const ListMode mode = shift == 1 ? ListMode::Append : ListMode::Replace;
@@ -101,8 +99,7 @@ void CommandReloadDD_MouseDown(DeviceList& list, UserDialogs& dialogs, int butto
 
 // ---- Placing a device ----
 
-void dissolveDevice(Configuration& config, int p)
-{
+void dissolveDevice(Configuration& config, int p) {
     if (config.pin(p).DeviceOffset != 0)
         return;
     for (int q = 0; q < kPinCount; ++q) {
@@ -121,8 +118,7 @@ public:
     DeviceLoader(ItemReader& in, Configuration& config) : in(in), config(config), head(config.CurrentPin) {}
 
     // Reads records of the device block until "Dev", "End" or a fault.
-    void run(const std::string& name)
-    {
+    void run(const std::string& name) {
         dissolveDevice(config, head);
         config.pin(head).DeviceDescription = name;
         target = head;
@@ -155,8 +151,7 @@ public:
     std::array<bool, kPinCount> used{};
 
 private:
-    void readPin(int t)
-    {
+    void readPin(int t) {
         if (t != head)
             dissolveDevice(config, t);
         PinRecord& r = config.pin(t);
@@ -176,8 +171,7 @@ private:
         r.LynxCount = 1;
     }
 
-    void readPam()
-    {
+    void readPam() {
         const int xdcc = in.nextByte();
         const int dcc = in.nextByte();
         const int lynx = in.nextByte();
@@ -187,8 +181,7 @@ private:
         r.LynxCount = static_cast<std::uint8_t>(lynx);
     }
 
-    void readCfg()
-    {
+    void readCfg() {
         PinRecord& r = config.pin(target);
         r.ConfigMode = static_cast<std::uint8_t>(in.nextByte());
         if (r.ConfigMode == 1) {
@@ -208,8 +201,7 @@ private:
         }
     }
 
-    int checkedByte(const std::string& item)
-    {
+    int checkedByte(const std::string& item) {
         // An item already taken from the stream, checked like nextByte() would.
         ItemReader one(item);
         try {
@@ -219,20 +211,20 @@ private:
         }
     }
 
-    void readAsp()
-    {
+    void readAsp() {
         const int a = in.nextByte();
         if (a > kAspectRecords - 1)
-            in.fail("Aspect index " + std::to_string(a) + " out of range 0.." + std::to_string(kAspectRecords - 1));
+            in.fail("Aspect index " + std::to_string(a) + " out of range 0.." +
+                    std::to_string(kAspectRecords - 1));
         aspect = a;
         config.aspect(target, a).Description = in.next();
     }
 
-    void readIns()
-    {
+    void readIns() {
         const int s = in.nextInt16();
         if (s < 0 || s > kStepRecords - 1)
-            in.fail("Step index " + std::to_string(s) + " out of range 0.." + std::to_string(kStepRecords - 1));
+            in.fail("Step index " + std::to_string(s) + " out of range 0.." +
+                    std::to_string(kStepRecords - 1));
         const int op = in.nextInt16();
         if (op < 0 || op > 255)
             in.fail("Instruction " + std::to_string(op) + " out of range 0..255");
@@ -253,8 +245,7 @@ private:
 } // namespace
 
 bool loadDeviceFromText(const std::string& text, const std::string& name, Configuration& config,
-                        UserDialogs& dialogs)
-{
+                        UserDialogs& dialogs) {
     ItemReader in(text);
     // Find the block: items until a "Dev" with this name.
     for (;;) {
@@ -276,7 +267,8 @@ bool loadDeviceFromText(const std::string& text, const std::string& name, Config
     try {
         loader.run(name);
     } catch (const FileFormatError& e) {
-        dialogs.message(formatFault(e) + "\r\nLoading stopped; what was placed before is kept.", Icon::Warning);
+        dialogs.message(formatFault(e) + "\r\nLoading stopped; what was placed before is kept.",
+                        Icon::Warning);
         complete = false;
     }
     RecalcAddressIndex(config);
@@ -296,8 +288,7 @@ bool loadDeviceFromText(const std::string& text, const std::string& name, Config
     return true;
 }
 
-bool CommandPAspPreLoad_Click(const DeviceList& list, Configuration& config, UserDialogs& dialogs)
-{
+bool CommandPAspPreLoad_Click(const DeviceList& list, Configuration& config, UserDialogs& dialogs) {
     if (list.selected < 0 || list.selected >= static_cast<int>(list.cboDevice.size())) {
         dialogs.message("Select Devicename to load", Icon::Warning);
         return false;
@@ -313,8 +304,7 @@ bool CommandPAspPreLoad_Click(const DeviceList& list, Configuration& config, Use
 
 // ---- Saving a device ----
 
-std::string writeDeviceText(Configuration& config, int head)
-{
+std::string writeDeviceText(Configuration& config, int head) {
     const std::string name = config.pin(head).DeviceDescription;
     ItemWriter w;
     w.line().text(std::string(kDeviceFileKeyword) + " " + name).end();
@@ -327,7 +317,13 @@ std::string writeDeviceText(Configuration& config, int head)
 
     for (int q : pins) {
         PinRecord& r = config.pin(q);
-        w.line(2).text("Pin").number(wrapPin(q - head)).number(r.AspectLayout).number(r.InitAspect).text(r.Description).end();
+        w.line(2)
+            .text("Pin")
+            .number(wrapPin(q - head))
+            .number(r.AspectLayout)
+            .number(r.InitAspect)
+            .text(r.Description)
+            .end();
         writeCfgRecord(w, 4, r);
         w.line(4).text("PAM").number(r.XDccCount).number(r.DccCount).number(r.LynxCount).end();
         const LayoutSlots slots = layoutSlots(r.AspectLayout);
@@ -345,8 +341,7 @@ std::string writeDeviceText(Configuration& config, int head)
     return w.result();
 }
 
-bool saveDeviceFile(const std::string& path, Configuration& config, int head, std::string& error)
-{
+bool saveDeviceFile(const std::string& path, Configuration& config, int head, std::string& error) {
     Configuration copy = config;
     const std::string text = writeDeviceText(copy, head);
     if (!replaceFile(path, text, error))
@@ -355,8 +350,7 @@ bool saveDeviceFile(const std::string& path, Configuration& config, int head, st
     return true;
 }
 
-bool CommandSaveDevice_Click(Configuration& config, UserDialogs& dialogs)
-{
+bool CommandSaveDevice_Click(Configuration& config, UserDialogs& dialogs) {
     const int head = deviceHead(config, config.CurrentPin);
     if (config.pin(head).DeviceOffset != 0) {
         dialogs.message("Referral is not a device", Icon::Warning);

@@ -38,8 +38,8 @@ public:
 
     // The next item as a number of the given kind. A missing item, a text that is not a
     // number and a value outside the kind's range are FileFormatErrors.
-    int nextByte();   // 0..255
-    int nextInt16();  // -32768..32767
+    int nextByte();  // 0..255
+    int nextInt16(); // -32768..32767
     double nextReal();
 
     // Where the item last returned stood (line and item within the line, from 1), or,
@@ -55,7 +55,7 @@ private:
     std::string data;
     std::size_t pos = 0;
     int curLine = 1;
-    int curItem = 1;     // number the next item on the current line will get
+    int curItem = 1; // number the next item on the current line will get
     int itemLine = 1;
     int itemInLine = 0;
     bool lastEndedByComma = false;

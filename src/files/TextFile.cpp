@@ -9,8 +9,7 @@ namespace kestrel {
 
 namespace fs = std::filesystem;
 
-bool readTextFile(const std::string& path, std::string& content)
-{
+bool readTextFile(const std::string& path, std::string& content) {
     if (path.empty())
         return false;
     std::error_code ec;
@@ -26,14 +25,12 @@ bool readTextFile(const std::string& path, std::string& content)
     return true;
 }
 
-std::string temporaryPathFor(const std::string& path)
-{
+std::string temporaryPathFor(const std::string& path) {
     const fs::path target(path);
     return (target.parent_path() / ("." + target.filename().string() + ".saving")).string();
 }
 
-bool replaceFile(const std::string& path, const std::string& content, std::string& error)
-{
+bool replaceFile(const std::string& path, const std::string& content, std::string& error) {
     const std::string temporary = temporaryPathFor(path);
     {
         std::ofstream out(temporary, std::ios::binary | std::ios::trunc);

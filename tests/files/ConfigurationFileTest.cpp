@@ -16,8 +16,7 @@ using namespace kestrel::test;
 namespace {
 
 // General settings that touch every bit of the six general records.
-GeneralSettings sampleGeneral()
-{
+GeneralSettings sampleGeneral() {
     GeneralSettings g;
     g.TextGenIDString = "Yard 3";
     g.TextGenDCCAddress = "202";
@@ -29,7 +28,7 @@ GeneralSettings sampleGeneral()
     g.ExtendedAddress = 17;
     g.CheckGenXGM[0] = g.CheckGenXGM[5] = g.CheckGenXGM[15] = 1; // masks 1, 2, 0, 8
     g.ChkGenHWCSink = {1, 0, 0, 1};
-    g.ChkGenHWCSource = {0, 1, 0, 1}; // 1, 2, 0, 3
+    g.ChkGenHWCSource = {0, 1, 0, 1};          // 1, 2, 0, 3
     g.CheckLCGreen[0] = g.CheckLCGreen[3] = 1; // 9
     g.CheckLCOrange[7] = 1;                    // 0: element 7 is not written
     g.CheckGenSerialEnable = 1;
@@ -42,8 +41,7 @@ GeneralSettings sampleGeneral()
 
 // Pin 5 heads a servo "Home signal" with layout 3, pin 6 is its PWM member, pin 7 an
 // input, pin 9 an unknown mode without description.
-Configuration sampleConfig()
-{
+Configuration sampleConfig() {
     Configuration c;
     c.EventMap[0].OnEvent = {-1, 0, 11, 3, 0};
     for (int p = 1; p < kPinCount; ++p)
@@ -81,10 +79,10 @@ Configuration sampleConfig()
     return c;
 }
 
-std::string generalAndEventLines()
-{
-    std::string out = crlf({"\"KestrelConfiguration 3100\"", "\"ID$\",\"Yard 3\"", "\"DCC\",202,12.5,6",
-                            "\"XAD\",5,1,17,1,2,0,8", "\"HWC\",1,2,0,3", "\"LED\",9,0", "\"SPC\",1,\"38400\",8,2,2"});
+std::string generalAndEventLines() {
+    std::string out =
+        crlf({"\"KestrelConfiguration 3100\"", "\"ID$\",\"Yard 3\"", "\"DCC\",202,12.5,6",
+              "\"XAD\",5,1,17,1,2,0,8", "\"HWC\",1,2,0,3", "\"LED\",9,0", "\"SPC\",1,\"38400\",8,2,2"});
     out += "\"Eon\",0,0,1,12,4\r\n";
     for (int p = 1; p < 32; ++p)
         out += "\"Eon\"," + std::to_string(p) + ",1,1,1,1\r\n";
@@ -94,18 +92,16 @@ std::string generalAndEventLines()
     return out;
 }
 
-const std::string kPin6And7 = crlf({"\"Pin\",6,0,0,\"Signal lamp\"", "  \"Dev\",-1,\"\"", "  \"Cfg\",2,0,3,8,0,31",
-                                    "  \"PAM\",0,0,0", "\"Pin\",7,0,0,\"Button\"", "  \"Dev\",0,\"\"",
-                                    "  \"Cfg\",4,1,2,3,4", "  \"PAM\",0,0,0"});
+const std::string kPin6And7 =
+    crlf({"\"Pin\",6,0,0,\"Signal lamp\"", "  \"Dev\",-1,\"\"", "  \"Cfg\",2,0,3,8,0,31", "  \"PAM\",0,0,0",
+          "\"Pin\",7,0,0,\"Button\"", "  \"Dev\",0,\"\"", "  \"Cfg\",4,1,2,3,4", "  \"PAM\",0,0,0"});
 
-std::string emptyPin(int p, const std::string& mode = "0")
-{
+std::string emptyPin(int p, const std::string& mode = "0") {
     return crlf({"\"Pin\"," + std::to_string(p) + ",0,0,\"\"", "  \"Dev\",0,\"\"", "  \"Cfg\"," + mode,
                  "  \"PAM\",0,0,0"});
 }
 
-std::string emptySteps(int from, int to)
-{
+std::string emptySteps(int from, int to) {
     std::string out;
     for (int s = from; s <= to; ++s)
         out += "    \"Ins\"," + std::to_string(s) + ",0,0,0,0,0\r\n";
@@ -121,22 +117,21 @@ struct Loader {
 
 } // namespace
 
-TEST(DataFileWriting, CompactHoldsOnlyDescribedPinsAspectsAndSteps)
-{
+TEST(DataFileWriting, CompactHoldsOnlyDescribedPinsAspectsAndSteps) {
     Configuration c = sampleConfig();
     const std::string expected =
         generalAndEventLines() +
-        crlf({"\"Pin\",5,3,2,\"Signal, home\"", "  \"Dev\",0,\"Home signal\"", "  \"Cfg\",1,64,8,64,4,5,6,7,68,9,60,11",
-              "  \"PAM\",1,2,3", "  \"Asp\",0,\"Danger\"", "    \"Ins\",0,55,0,24,0,0", "    \"Ins\",2,127,0,0,25,1",
-              "  \"Asp\",2,\"Clear\"", "    \"Ins\",0,9,1,0,0,0"}) +
+        crlf({"\"Pin\",5,3,2,\"Signal, home\"", "  \"Dev\",0,\"Home signal\"",
+              "  \"Cfg\",1,64,8,64,4,5,6,7,68,9,60,11", "  \"PAM\",1,2,3", "  \"Asp\",0,\"Danger\"",
+              "    \"Ins\",0,55,0,24,0,0", "    \"Ins\",2,127,0,0,25,1", "  \"Asp\",2,\"Clear\"",
+              "    \"Ins\",0,9,1,0,0,0"}) +
         kPin6And7 + "\"End\"\r\n";
     EXPECT_EQ(writeConfigurationText(c, sampleGeneral(), SaveForm::Compact), expected);
     // Servo parameter 2 of 200 was written as 200 AND 63 = 8 and is 8 in memory as well.
     EXPECT_EQ(c.Pins[5].P(2), 8);
 }
 
-TEST(DataFileWriting, FullHoldsEveryPinEveryAspectOfTheLayoutAndEveryStep)
-{
+TEST(DataFileWriting, FullHoldsEveryPinEveryAspectOfTheLayoutAndEveryStep) {
     Configuration c = sampleConfig();
     std::string expected = generalAndEventLines();
     for (int p = 0; p < 5; ++p)
@@ -155,8 +150,7 @@ TEST(DataFileWriting, FullHoldsEveryPinEveryAspectOfTheLayoutAndEveryStep)
     EXPECT_EQ(writeConfigurationText(c, sampleGeneral(), SaveForm::Full), expected);
 }
 
-TEST(DataFileWriting, CompactWithoutDescriptionsIsHeaderGeneralEventsAndEnd)
-{
+TEST(DataFileWriting, CompactWithoutDescriptionsIsHeaderGeneralEventsAndEnd) {
     Configuration c;
     const std::string text = writeConfigurationText(c, GeneralSettings{}, SaveForm::Compact);
     int lines = 0;
@@ -175,8 +169,7 @@ TEST(DataFileWriting, CompactWithoutDescriptionsIsHeaderGeneralEventsAndEnd)
     EXPECT_EQ(l.config.Pins[3].Aspects[1].Steps[0].Instruction, 9);
 }
 
-TEST(DataFileWriting, NativeModeIsWrittenAsModeByte64)
-{
+TEST(DataFileWriting, NativeModeIsWrittenAsModeByte64) {
     Configuration c;
     GeneralSettings g;
     g.CheckGenKestrelNative = 1;
@@ -184,8 +177,7 @@ TEST(DataFileWriting, NativeModeIsWrittenAsModeByte64)
     EXPECT_NE(writeConfigurationText(c, g, SaveForm::Compact).find("\"XAD\",64,0,0,"), std::string::npos);
 }
 
-TEST(DataFileReading, FullFileReadsBackToTheSameText)
-{
+TEST(DataFileReading, FullFileReadsBackToTheSameText) {
     Configuration c = sampleConfig();
     c.Pins[9].ConfigMode = 0; // an unknown mode reads back as 0 (see CfgRules...)
     const std::string first = writeConfigurationText(c, sampleGeneral(), SaveForm::Full);
@@ -196,7 +188,7 @@ TEST(DataFileReading, FullFileReadsBackToTheSameText)
 
     EXPECT_EQ(l.general.TextGenXDCCAddress, "12.5");
     EXPECT_EQ(l.general.TextGenXaddr, "17");
-    EXPECT_EQ(l.general.CheckLCOrange[7], 1); // the value 0
+    EXPECT_EQ(l.general.CheckLCOrange[7], 1);    // the value 0
     EXPECT_EQ(l.config.Pins[5].OutputValue, 64); // parameter 1
     EXPECT_EQ(l.config.Pins[6].P(6), 0);         // PWM parameters 6..11 cleared
     EXPECT_EQ(l.config.Pins[7].P(5), 0);         // not in the file, left as it was
@@ -204,8 +196,7 @@ TEST(DataFileReading, FullFileReadsBackToTheSameText)
     EXPECT_EQ(l.config.DccFirstIndex[6], 2 + 5 * 0); // address index rebuilt: pin 5 has 2
 }
 
-TEST(DataFileReading, CompactFileLeavesWhatItDoesNotNameEmpty)
-{
+TEST(DataFileReading, CompactFileLeavesWhatItDoesNotNameEmpty) {
     Configuration c = sampleConfig();
     const std::string compact = writeConfigurationText(c, sampleGeneral(), SaveForm::Compact);
     Loader l;
@@ -225,8 +216,7 @@ TEST(DataFileReading, CompactFileLeavesWhatItDoesNotNameEmpty)
     EXPECT_EQ(l.config.Pins[8].DccCount, 0); // no record for pin 8
 }
 
-TEST(DataFileReading, InsOpSplitsOnlyFrom19To63)
-{
+TEST(DataFileReading, InsOpSplitsOnlyFrom19To63) {
     // op = 16 x Fade + Instruction; only 19..63 are split, by bit 4.
     Loader l;
     ASSERT_EQ(l.load(crlf({"\"KestrelConfiguration 3100\"", "\"Pin\",2,3,0,\"x\"", "\"Asp\",0,\"a\"",
@@ -249,23 +239,23 @@ TEST(DataFileReading, InsOpSplitsOnlyFrom19To63)
     EXPECT_EQ(s[4].Fade, 0);
 }
 
-TEST(DataFileReading, FadeOutside19To63StaysAsItWas)
-{
+TEST(DataFileReading, FadeOutside19To63StaysAsItWas) {
     Loader l;
     // No "Pin" record: the step is not cleared first, and op 17 leaves its fade.
     l.config.Pins[0].Aspects[0].Steps[0].Fade = 1;
-    ASSERT_EQ(l.load(crlf({"\"KestrelConfiguration 3100\"", "\"Ins\",0,17,0,1,0,0", "\"End\""})), LoadResult::Loaded);
+    ASSERT_EQ(l.load(crlf({"\"KestrelConfiguration 3100\"", "\"Ins\",0,17,0,1,0,0", "\"End\""})),
+              LoadResult::Loaded);
     EXPECT_EQ(l.config.Pins[0].Aspects[0].Steps[0].Instruction, 17);
     EXPECT_EQ(l.config.Pins[0].Aspects[0].Steps[0].Fade, 1);
 }
 
-TEST(DataFileReading, CfgRulesOutputValueAndServoConversion)
-{
+TEST(DataFileReading, CfgRulesOutputValueAndServoConversion) {
     Loader l;
     l.config.Pins[4].ConfigParams = {9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9};
-    ASSERT_EQ(l.load(crlf({"\"KestrelConfiguration 3100\"", "\"Pin\",1,0,0,\"a\"", "\"Cfg\",1,70,48,64,1,1,1,1,64,0,64,0",
-                           "\"Pin\",2,0,0,\"b\"", "\"Cfg\",1,70,56,64,1,1,1,1,64,0,64,0", "\"Pin\",3,0,0,\"c\"",
-                           "\"Cfg\",9", "\"Pin\",4,0,0,\"d\"", "\"Cfg\",5,10,11,12,13", "\"End\""})),
+    ASSERT_EQ(l.load(crlf({"\"KestrelConfiguration 3100\"", "\"Pin\",1,0,0,\"a\"",
+                           "\"Cfg\",1,70,48,64,1,1,1,1,64,0,64,0", "\"Pin\",2,0,0,\"b\"",
+                           "\"Cfg\",1,70,56,64,1,1,1,1,64,0,64,0", "\"Pin\",3,0,0,\"c\"", "\"Cfg\",9",
+                           "\"Pin\",4,0,0,\"d\"", "\"Cfg\",5,10,11,12,13", "\"End\""})),
               LoadResult::Loaded);
     EXPECT_EQ(l.config.Pins[1].P(2), 43); // 48: range 3 in the high nibble, bit 3 clear -> 3 + 40
     EXPECT_EQ(l.config.Pins[2].P(2), 56); // bit 3 set: kept
@@ -277,8 +267,7 @@ TEST(DataFileReading, CfgRulesOutputValueAndServoConversion)
     EXPECT_EQ(l.config.Pins[4].OutputValue, 10);
 }
 
-TEST(DataFileReading, GeneralRecordsSetTheControls)
-{
+TEST(DataFileReading, GeneralRecordsSetTheControls) {
     Loader l;
     l.config.NumberingBase = 1;
     l.general.ComboGenBaud = 3;
@@ -299,9 +288,8 @@ TEST(DataFileReading, GeneralRecordsSetTheControls)
     EXPECT_EQ(g.OptionGenSerialDatabits, 0);
 }
 
-TEST(DataFileReading, OlderVersionsReadWhatTheyHeld)
-{
-    {   // Version 31: DCC without the eXtended address, PAM without the eXtended count.
+TEST(DataFileReading, OlderVersionsReadWhatTheyHeld) {
+    { // Version 31: DCC without the eXtended address, PAM without the eXtended count.
         Loader l;
         ASSERT_EQ(l.load(crlf({"\"KestrelConfiguration 0031\"", "\"DCC\",202,6", "\"Pin\",1,0,0,\"a\"",
                                "\"PAM\",4,2", "\"End\""})),
@@ -317,7 +305,7 @@ TEST(DataFileReading, OlderVersionsReadWhatTheyHeld)
         EXPECT_EQ(l.config.Pins[1].LynxCount, 2);
         EXPECT_EQ(l.config.Pins[1].XDccCount, 1);
     }
-    {   // Version 22: no DCC flags either.
+    { // Version 22: no DCC flags either.
         Loader l;
         l.general.OptGenDCC_PRP = 1;
         ASSERT_EQ(l.load(crlf({"\"KestrelConfiguration 0022\"", "\"DCC\",7", "\"LED\",3,0", "\"End\""})),
@@ -326,7 +314,7 @@ TEST(DataFileReading, OlderVersionsReadWhatTheyHeld)
         EXPECT_EQ(l.general.OptGenDCC_PRP, 1);
         EXPECT_EQ(l.general.CheckLCGreen[1], 1);
     }
-    {   // Version 19: PWM with three parameters, off-level 0 and on-level 31.
+    { // Version 19: PWM with three parameters, off-level 0 and on-level 31.
         Loader l;
         l.config.Pins[2].ConfigParams = {9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9};
         ASSERT_EQ(l.load(crlf({"\"KestrelConfiguration 0019\"", "\"Pin\",2,0,0,\"a\"", "\"Cfg\",3,5,1,8",
@@ -343,12 +331,12 @@ TEST(DataFileReading, OlderVersionsReadWhatTheyHeld)
     }
 }
 
-TEST(DataFileReading, UnknownKeywordsAndEvtArePassedOverOrAccepted)
-{
+TEST(DataFileReading, UnknownKeywordsAndEvtArePassedOverOrAccepted) {
     Loader l;
-    ASSERT_EQ(l.load(crlf({"\"KestrelConfiguration 3100\"", "\"Note\",\"made by hand\",1,2,3", "\"Evt\",4,0,1,2,3",
-                           "\"Extra\"", "\"Eof\",4,13,0,0,0", "\"End\"", "\"ID$\",\"after End\""})),
-              LoadResult::Loaded);
+    ASSERT_EQ(
+        l.load(crlf({"\"KestrelConfiguration 3100\"", "\"Note\",\"made by hand\",1,2,3", "\"Evt\",4,0,1,2,3",
+                     "\"Extra\"", "\"Eof\",4,13,0,0,0", "\"End\"", "\"ID$\",\"after End\""})),
+        LoadResult::Loaded);
     EXPECT_TRUE(l.dialogs.messages.empty());
     EXPECT_EQ(l.config.EventMap[4].OnEvent[0], -1);
     EXPECT_EQ(l.config.EventMap[4].OnEvent[3], 2);
@@ -356,8 +344,7 @@ TEST(DataFileReading, UnknownKeywordsAndEvtArePassedOverOrAccepted)
     EXPECT_EQ(l.general.TextGenIDString, "");
 }
 
-TEST(DataFileReading, BadHeaderChangesNothing)
-{
+TEST(DataFileReading, BadHeaderChangesNothing) {
     for (const std::string text : {"\"KestrelConfiguration 310\"\r\n\"ID$\",\"x\"\r\n\"End\"\r\n",
                                    "\"KestrelDeviceDefinitions 3100\"\r\n\"End\"\r\n", "", "\r\n"}) {
         Loader l;
@@ -369,23 +356,25 @@ TEST(DataFileReading, BadHeaderChangesNothing)
     }
 }
 
-TEST(DataFileReading, FormatErrorsStopTheLoadAndKeepWhatWasRead)
-{
+TEST(DataFileReading, FormatErrorsStopTheLoadAndKeepWhatWasRead) {
     struct Case {
         std::string text;
         std::string message;
     };
-    const std::string head = "\"KestrelConfiguration 3100\"\r\n\"ID$\",\"Kept\"\r\n\"Pin\",3,0,0,\"Lamp\"\r\n";
+    const std::string head =
+        "\"KestrelConfiguration 3100\"\r\n\"ID$\",\"Kept\"\r\n\"Pin\",3,0,0,\"Lamp\"\r\n";
     const std::string tail = "\r\nLoading stopped; what was read before is kept.";
     const Case cases[] = {
         {head + "  \"Cfg\",2,1", "The file ends before \"End\" at line 4, item 4"},
         {head + "  \"Cfg\",2,1\r\n\r\n", "The file ends before \"End\" at line 4, item 4"},
-        {"\"KestrelConfiguration 3100\"\r\n\"ID$\",\"Kept\"\r\n\"Pin\",3,0,0,\"Lamp\"\r\n", "The file ends before \"End\" at line 3, item 6"},
+        {"\"KestrelConfiguration 3100\"\r\n\"ID$\",\"Kept\"\r\n\"Pin\",3,0,0,\"Lamp\"\r\n",
+         "The file ends before \"End\" at line 3, item 6"},
         {head + "\"Pin\",33,0,0,\"x\"\r\n\"End\"\r\n", "Pin index 33 out of range 0..32 at line 4, item 2"},
         {head + "\"Eof\",40,0,0,0,0\r\n\"End\"\r\n", "Pin index 40 out of range 0..32 at line 4, item 2"},
         {head + "\"Asp\",13,\"x\"\r\n\"End\"\r\n", "Aspect index 13 out of range 0..12 at line 4, item 2"},
         {head + "\"Ins\",10,9,0,0,0,0\r\n\"End\"\r\n", "Step index 10 out of range 0..9 at line 4, item 2"},
-        {head + "\"Ins\",0,300,0,0,0,0\r\n\"End\"\r\n", "Instruction 300 out of range 0..255 at line 4, item 3"},
+        {head + "\"Ins\",0,300,0,0,0,0\r\n\"End\"\r\n",
+         "Instruction 300 out of range 0..255 at line 4, item 3"},
         {head + "\"LED\",1,\"x\"\r\n\"End\"\r\n", "Number expected, found \"x\" at line 4, item 3"},
     };
     for (const Case& c : cases) {
@@ -406,8 +395,7 @@ TEST(DataFileReading, FormatErrorsStopTheLoadAndKeepWhatWasRead)
     EXPECT_EQ(l.config.Pins[32].Aspects[12].Steps[9].Instruction, 9);
 }
 
-TEST(DataFileSaving, WritesBesideAndReplacesOnlyWhenComplete)
-{
+TEST(DataFileSaving, WritesBesideAndReplacesOnlyWhenComplete) {
     ScratchDir dir("save");
     const std::string target = dir.file("layout.dat");
     spit(target, "old content");
@@ -434,8 +422,7 @@ TEST(DataFileSaving, WritesBesideAndReplacesOnlyWhenComplete)
     EXPECT_FALSE(std::filesystem::exists(temporaryPathFor(target)));
 }
 
-TEST(DataFileSaving, DccNumbersKeepTheirPointUnderACommaDecimalLocale)
-{
+TEST(DataFileSaving, DccNumbersKeepTheirPointUnderACommaDecimalLocale) {
     struct CommaDecimal : std::numpunct<char> {
         char do_decimal_point() const override { return ','; }
     };
@@ -463,8 +450,7 @@ struct SessionRig {
 
 } // namespace
 
-TEST(DataFileCommands, SaveAndLoadThroughTheFileDialog)
-{
+TEST(DataFileCommands, SaveAndLoadThroughTheFileDialog) {
     ScratchDir dir("commands");
     SessionRig rig;
     rig.session.config = sampleConfig();
@@ -476,7 +462,8 @@ TEST(DataFileCommands, SaveAndLoadThroughTheFileDialog)
     CommandSave_MouseDown(rig.session, 2, 0); // right button: nothing, not even the dialog
     CommandSave_MouseDown(rig.session, 1, 2); // Ctrl: nothing
     EXPECT_EQ(rig.dialogs.fileNames.size(), 1u);
-    EXPECT_EQ(slurp(dir.file("full.dat")), writeConfigurationText(rig.session.config, rig.session.general, SaveForm::Full));
+    EXPECT_EQ(slurp(dir.file("full.dat")),
+              writeConfigurationText(rig.session.config, rig.session.general, SaveForm::Full));
     EXPECT_EQ(slurp(dir.file("compact.dat")),
               writeConfigurationText(rig.session.config, rig.session.general, SaveForm::Compact));
 

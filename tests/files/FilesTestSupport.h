@@ -10,8 +10,7 @@ namespace kestrel::test {
 struct ScratchDir {
     std::filesystem::path path;
     explicit ScratchDir(const std::string& name)
-        : path(std::filesystem::temp_directory_path() / ("kestrel-files-" + name))
-    {
+        : path(std::filesystem::temp_directory_path() / ("kestrel-files-" + name)) {
         std::filesystem::remove_all(path);
         std::filesystem::create_directories(path);
     }
@@ -19,20 +18,17 @@ struct ScratchDir {
     std::string file(const std::string& name) const { return (path / name).string(); }
 };
 
-inline std::string slurp(const std::string& path)
-{
+inline std::string slurp(const std::string& path) {
     std::ifstream in(path, std::ios::binary);
     return std::string((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
 }
 
-inline void spit(const std::string& path, const std::string& text)
-{
+inline void spit(const std::string& path, const std::string& text) {
     std::ofstream(path, std::ios::binary) << text;
 }
 
 // Lines joined with CR LF, each line ended by one.
-inline std::string crlf(std::initializer_list<std::string> lines)
-{
+inline std::string crlf(std::initializer_list<std::string> lines) {
     std::string out;
     for (const auto& l : lines)
         out += l + "\r\n";

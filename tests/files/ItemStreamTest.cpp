@@ -10,8 +10,7 @@ using namespace kestrel;
 
 namespace {
 
-std::vector<std::string> allItems(const std::string& text)
-{
+std::vector<std::string> allItems(const std::string& text) {
     ItemReader in(text);
     std::vector<std::string> out;
     while (!in.atEnd())
@@ -21,20 +20,21 @@ std::vector<std::string> allItems(const std::string& text)
 
 } // namespace
 
-TEST(ItemReader, CommasAndLineEndsEndItemsBlanksAndQuotesGo)
-{
+TEST(ItemReader, CommasAndLineEndsEndItemsBlanksAndQuotesGo) {
     using V = std::vector<std::string>;
-    EXPECT_EQ(allItems("\"Pin\",3,2,1,\"Lamp\"\r\n  \"Dev\",0,\"\"\r\n"), (V{"Pin", "3", "2", "1", "Lamp", "Dev", "0", ""}));
+    EXPECT_EQ(allItems("\"Pin\",3,2,1,\"Lamp\"\r\n  \"Dev\",0,\"\"\r\n"),
+              (V{"Pin", "3", "2", "1", "Lamp", "Dev", "0", ""}));
     // A comma between quotes belongs to the text; LF-only and CR-only line ends work too.
     EXPECT_EQ(allItems("\"Signal, home\",  7\n8\r9"), (V{"Signal, home", "7", "8", "9"}));
     // Blank lines give no item; a record may be spread over lines.
     EXPECT_EQ(allItems("\r\n\r\n\"Cfg\",\r\n  4,1\r\n\r\n"), (V{"Cfg", "", "4", "1"}));
     // Single-byte text stays as its bytes.
-    EXPECT_EQ(allItems("\"Gr\xFC" "n\""), (V{"Gr\xFCn"}));
+    EXPECT_EQ(allItems("\"Gr\xFC"
+                       "n\""),
+              (V{"Gr\xFCn"}));
 }
 
-TEST(ItemReader, TellsLineAndItemAndWhereTheTextEnded)
-{
+TEST(ItemReader, TellsLineAndItemAndWhereTheTextEnded) {
     ItemReader in("\"A\",1\r\n  \"B\",2,3\r\n");
     in.next();
     in.next();
@@ -53,8 +53,7 @@ TEST(ItemReader, TellsLineAndItemAndWhereTheTextEnded)
     }
 }
 
-TEST(ItemReader, NumbersAreCheckedForFormAndRange)
-{
+TEST(ItemReader, NumbersAreCheckedForFormAndRange) {
     auto message = [](const std::string& text, auto read) {
         ItemReader in(text);
         try {
@@ -89,8 +88,7 @@ TEST(ItemReader, NumbersAreCheckedForFormAndRange)
     EXPECT_FALSE(isNumberItem("-"));
 }
 
-TEST(ItemWriter, WritesQuotedTextNumbersIndentationAndCrLf)
-{
+TEST(ItemWriter, WritesQuotedTextNumbersIndentationAndCrLf) {
     ItemWriter w;
     w.line().text("Pin").number(5).number(-1).text("a, b").end();
     w.line(4).text("Ins").real(12.5).real(202).real(-0.0).end();
@@ -108,8 +106,7 @@ struct CommaDecimal : std::numpunct<char> {
 
 } // namespace
 
-TEST(ItemWriter, NumbersKeepThePointUnderACommaDecimalLocale)
-{
+TEST(ItemWriter, NumbersKeepThePointUnderACommaDecimalLocale) {
     // No comma-decimal locale is installed on every machine; a numpunct facet made
     // global has the same effect on every stream made afterwards.
     const std::locale old = std::locale::global(std::locale(std::locale::classic(), new CommaDecimal));

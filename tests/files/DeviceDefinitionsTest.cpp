@@ -1,0 +1,361 @@
+#include "files/DeviceDefinitions.h"
+#include "files/FilesTestSupport.h"
+#include "files/TextFile.h"
+#include "model/AddressIndex.h"
+#include "model/InstructionSet.h"
+#include "support/RecordingDialogs.h"
+
+#include <gtest/gtest.h>
+
+using namespace kestrel;
+using namespace kestrel::test;
+
+namespace {
+
+// Two devices: a three-pin "Signal" (head with layout 2 and two aspects, members PWM)
+// and a one-pin "Button" in input mode.
+const std::string kTwoDevices = crlf({
+    "\"KestrelDeviceDefinitions Test set\"",
+    "\"Dev\",\"Signal\"",
+    "  \"Pin\",0,2,1,\"red\"",
+    "    \"Cfg\",2,0,3,8,0,31",
+    "    \"PAM\",1,2,1",
+    "    \"Asp\",0,\"Stop\"",
+    "      \"Ins\",0,29,0,1,0,0",
+    "    \"Asp\",1,\"Clear\"",
+    "      \"Ins\",0,29,0,4,0,0",
+    "      \"Ins\",1,17,0,1,0,0",
+    "  \"Pin\",1,0,0,\"yellow\"",
+    "    \"Cfg\",2,0,3,8,0,31",
+    "    \"PAM\",0,0,0",
+    "  \"Pin\",2,0,0,\"green\"",
+    "    \"Cfg\",2,0,3,8,0,31",
+    "    \"PAM\",0,0,0",
+    "\"Dev\",\"Button\"",
+    "  \"Pin\",0,0,0,\"push\"",
+    "    \"Cfg\",4,1,2,3,4",
+    "    \"PAM\",0,0,0",
+    "\"End\"",
+});
+
+std::string standardFile() {
+    return (std::filesystem::path(__FILE__).parent_path() / ".." / ".." / "resources" / kStandardDeviceFile)
+        .string();
+}
+
+struct Rig {
+    RecordingDialogs dialogs;
+    Configuration config;
+    bool load(const std::string& text, const std::string& name, int head) {
+        config.CurrentPin = head;
+        return loadDeviceFromText(text, name, config, dialogs);
+    }
+};
+
+} // namespace
+
+TEST(DeviceLoading, ThreePinDeviceOnPin31WrapsToPins0And1) {
+    Rig r;
+    ASSERT_TRUE(r.load(kTwoDevices, "Signal", 31));
+    EXPECT_TRUE(r.dialogs.messages.empty());
+    EXPECT_EQ(r.config.Pins[31].DeviceOffset, 0);
+    EXPECT_EQ(r.config.Pins[0].DeviceOffset, 31);
+    EXPECT_EQ(r.config.Pins[1].DeviceOffset, 30);
+    EXPECT_EQ(r.config.Pins[31].DeviceDescription, "Signal");
+    EXPECT_EQ(r.config.Pins[0].Description, "yellow");
+    EXPECT_EQ(r.config.Pins[1].Description, "green");
+    EXPECT_EQ(r.config.Pins[31].InitAspect, 1);
+    EXPECT_EQ(r.config.Pins[31].Aspects[1].Steps[0], (StepRecord{13, 1, 0, 4, 0, 0})); // 29 = 16 + 13
+    EXPECT_EQ(r.config.Pins[31].Aspects[1].Steps[1].Instruction, 17);
+    EXPECT_EQ(r.config.Pins[31].DccCount, 2);
+    EXPECT_EQ(r.config.Pins[0].DccCount, 0);
+    EXPECT_EQ(r.config.DccTotal, 2); // address index rebuilt
+}
+
+TEST(DeviceLoading, PinsGetClearedAspectsAndAWarningWhenAlreadyUsed) {
+    Rig r;
+    r.config.NumberingBase = 1;
+    r.config.Pins[5].Description = "old head";
+    r.config.Pins[7].Description = "old lamp";
+    r.config.Pins[7].Aspects[4].Description = "old aspect";
+    r.config.Pins[7].Aspects[4].Steps[2].Instruction = 9;
+    ASSERT_TRUE(r.load(kTwoDevices, "Signal", 5));
+    ASSERT_EQ(r.dialogs.messages.size(), 1u);
+    EXPECT_EQ(r.dialogs.messages[0].text, "The following Pin numbers were already used: \r\n 6, 8");
+    EXPECT_EQ(r.dialogs.messages[0].icon, Icon::Warning);
+    EXPECT_EQ(r.config.Pins[7].Description, "green"); // overwritten all the same
+    EXPECT_EQ(r.config.Pins[7].Aspects[4].Description, "");
+    EXPECT_EQ(r.config.Pins[7].Aspects[4].Steps[2].Instruction, 0);
+}
+
+TEST(DeviceLoading, DissolvesTheOldDeviceAtTheHeadAndAtEachTarget) {
+    Rig r;
+    // "Old" at pin 4 with members 5, 6 and 7; "Other" at pin 10 with member 11.
+    r.config.Pins[4].DeviceDescription = "Old";
+    for (int p = 5; p <= 7; ++p)
+        r.config.Pins[p].DeviceOffset = static_cast<std::int16_t>(4 - p);
+    r.config.Pins[10].DeviceDescription = "Other";
+    r.config.Pins[11].DeviceOffset = -1;
+
+    const std::string pab = crlf({"\"KestrelDeviceDefinitions\"", "\"Dev\",\"Pair\"", "  \"Pin\",0,0,0,\"a\"",
+                                  "  \"Pab\",42,0,0,\"b\"", "\"End\""}); // 42 mod 32 = 10
+    ASSERT_TRUE(r.load(pab, "Pair", 4));
+    for (int p = 5; p <= 7; ++p) {
+        EXPECT_EQ(r.config.Pins[p].DeviceOffset, 0) << p;
+        EXPECT_EQ(r.config.Pins[p].DeviceDescription, "") << p;
+    }
+    EXPECT_EQ(r.config.Pins[4].DeviceDescription, "Pair");
+    EXPECT_EQ(r.config.Pins[10].DeviceOffset, -6);
+    EXPECT_EQ(r.config.Pins[10].DeviceDescription, "");
+    EXPECT_EQ(r.config.Pins[11].DeviceOffset, 0); // released with "Other"
+
+    // A member is not dissolved on its own.
+    dissolveDevice(r.config, 10);
+    EXPECT_EQ(r.config.Pins[10].DeviceOffset, -6);
+}
+
+TEST(DeviceLoading, OnlyServoAndPwmReadParameters) {
+    Rig r;
+    r.config.Pins[3].ConfigParams = {9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9};
+    r.config.Pins[4].ConfigParams = {9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9};
+    r.config.Pins[5].ConfigParams = {9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9};
+    const std::string text =
+        crlf({"\"KestrelDeviceDefinitions x\"", "\"Dev\",\"Mixed\"", "  \"Pin\",0,0,0,\"input\"",
+              "    \"Cfg\",4,1,2,3,4", "    \"PAM\",0,3,0", "  \"Pin\",1,0,0,\"old PWM\"",
+              "    \"Cfg\",2,5,1,8", "    \"PAM\",0,4,0", "  \"Pin\",2,0,0,\"servo\"",
+              "    \"Cfg\",1,70,48,64,1,1,1,1,64,0,64,0", "\"End\""});
+    ASSERT_TRUE(r.load(text, "Mixed", 3));
+    EXPECT_EQ(r.config.Pins[3].ConfigMode, 4);
+    EXPECT_EQ(r.config.Pins[3].P(1), 9); // the old parameters stay, the items were passed over
+    EXPECT_EQ(r.config.Pins[3].DccCount, 3);
+    EXPECT_EQ(r.config.Pins[4].P(3), 8); // three-parameter PWM: "PAM" is the next keyword
+    EXPECT_EQ(r.config.Pins[4].P(4), 9);
+    EXPECT_EQ(r.config.Pins[4].DccCount, 4);
+    EXPECT_EQ(r.config.Pins[5].P(2), 48); // no servo conversion here
+    EXPECT_EQ(r.config.Pins[5].P(11), 0);
+}
+
+TEST(DeviceLoading, MissingDeviceNoSelectionAndBrokenBlocks) {
+    Rig r;
+    EXPECT_FALSE(r.load(kTwoDevices, "Turntable", 0));
+    EXPECT_EQ(r.dialogs.texts(), std::vector<std::string>{"No match found"});
+    EXPECT_EQ(r.config.Pins[0].DeviceDescription, "");
+
+    r.dialogs.clear();
+    DeviceList empty;
+    EXPECT_FALSE(CommandPAspPreLoad_Click(empty, r.config, r.dialogs));
+    EXPECT_EQ(r.dialogs.texts(), std::vector<std::string>{"Select Devicename to load"});
+
+    r.dialogs.clear();
+    const std::string broken = crlf({"\"KestrelDeviceDefinitions\"", "\"Dev\",\"B\"",
+                                     "  \"Pin\",0,0,0,\"kept\"", "    \"Asp\",14,\"x\""});
+    EXPECT_TRUE(r.load(broken, "B", 2));
+    EXPECT_EQ(r.dialogs.texts(),
+              std::vector<std::string>{
+                  "Error in device definitions file: Aspect index 14 out of range 0..12 at line 4, "
+                  "item 2\r\nLoading stopped; what was placed before is kept."});
+    EXPECT_EQ(r.config.Pins[2].Description, "kept");
+}
+
+TEST(DeviceList, ReplaceAppendAndLoadingFromEachEntrysOwnFile) {
+    ScratchDir dir("list");
+    const std::string first = dir.file("first.def");
+    const std::string second = dir.file("second.def");
+    spit(first, kTwoDevices);
+    // The second file has its own "Button" (a servo) and a "Crane".
+    spit(second, crlf({"\"KestrelDeviceDefinitions Second set\"", "\"Dev\",\"Button\"",
+                       "  \"Pin\",0,0,0,\"servo\"", "    \"Cfg\",1,1,2,3,4,5,6,7,8,9,10,11",
+                       "\"Dev\",\"Crane\"", "  \"Pin\",0,0,0,\"hook\"", "\"End\""}));
+
+    RecordingDialogs dialogs;
+    DeviceList list;
+    dialogs.fileNames = {first, second};
+    CommandReloadDD_MouseDown(list, dialogs, 1, 0);
+    CommandReloadDD_MouseDown(list, dialogs, 1, 1);
+    EXPECT_TRUE(dialogs.messages.empty());
+    EXPECT_EQ(list.cboDevice, (std::vector<std::string>{"Signal", "Button", "Button", "Crane"}));
+    EXPECT_EQ(list.paths, (std::vector<std::string>{first, first, second, second}));
+    EXPECT_EQ(list.lblDDVersion, "Test set + Second set");
+
+    Configuration config;
+    list.selected = 1; // the first file's "Button"
+    ASSERT_TRUE(CommandPAspPreLoad_Click(list, config, dialogs));
+    EXPECT_EQ(config.Pins[0].ConfigMode, 4);
+    list.selected = 2;
+    ASSERT_TRUE(CommandPAspPreLoad_Click(list, config, dialogs));
+    EXPECT_EQ(config.Pins[0].ConfigMode, 1);
+    EXPECT_EQ(config.Pins[0].P(11), 11);
+
+    // Plain Reload DD replaces the list; other buttons do nothing.
+    dialogs.fileNames = {second, first};
+    CommandReloadDD_MouseDown(list, dialogs, 1, 0);
+    CommandReloadDD_MouseDown(list, dialogs, 2, 1);
+    EXPECT_EQ(list.cboDevice, (std::vector<std::string>{"Button", "Crane"}));
+    EXPECT_EQ(list.lblDDVersion, "Second set");
+    EXPECT_EQ(list.selected, 0);
+}
+
+TEST(DeviceList, LongCaptionsAndFilesThatCannotBeUsed) {
+    RecordingDialogs dialogs;
+    DeviceList list;
+    const std::string v1 = "Standard devices of the layout club";
+    const std::string v2 = "Signals for the branch line";
+    readDeviceListText(list, "\"KestrelDeviceDefinitions " + v1 + "\"\r\n\"End\"\r\n", "a", ListMode::Replace,
+                       dialogs);
+    readDeviceListText(list, "\"KestrelDeviceDefinitions " + v2 + "\"\r\n\"End\"\r\n", "b", ListMode::Append,
+                       dialogs);
+    const std::string joined = v1 + " + " + v2; // 65 characters
+    ASSERT_GT(joined.size(), 50u);
+    EXPECT_EQ(list.lblDDVersion, ".." + joined.substr(joined.size() - 48));
+    EXPECT_EQ(list.lblDDVersion.size(), 50u);
+
+    // The header keyword alone gives an empty version text.
+    readDeviceListText(list, "\"KestrelDeviceDefinitions\"\r\n\"Dev\",\"A\"\r\n\"End\"\r\n", "c",
+                       ListMode::Replace, dialogs);
+    EXPECT_EQ(list.lblDDVersion, "");
+
+    EXPECT_EQ(readDeviceListText(list, "\"KestrelConfiguration 3100\"\r\n", "d", ListMode::Replace, dialogs),
+              ListLoad::Invalid);
+    EXPECT_EQ(list.cboDevice, std::vector<std::string>{"A"});
+
+    dialogs.fileNames = {""};
+    CommandReloadDD_MouseDown(list, dialogs, 1, 0);
+    EXPECT_EQ(dialogs.texts(),
+              (std::vector<std::string>{"Invalid definition file", "No Device Configuration file selected"}));
+    EXPECT_EQ(list.cboDevice, std::vector<std::string>{"A"});
+}
+
+TEST(DeviceList, StartUpFallsBackToTheDialog) {
+    ScratchDir dir("startup");
+    RecordingDialogs dialogs;
+    DeviceList list;
+    dialogs.fileNames = {""};
+    loadStandardDeviceList(list, dir.path.string(), dialogs);
+    EXPECT_EQ(dialogs.texts(),
+              (std::vector<std::string>{"Can not find Device Configuration file at standard location",
+                                        "No Device Configuration available"}));
+    EXPECT_TRUE(list.cboDevice.empty());
+
+    dialogs.clear();
+    dialogs.fileNames = {standardFile()};
+    loadStandardDeviceList(list, dir.path.string(), dialogs);
+    EXPECT_EQ(dialogs.texts(),
+              std::vector<std::string>{"Can not find Device Configuration file at standard location"});
+    EXPECT_FALSE(list.cboDevice.empty());
+
+    dialogs.clear();
+    DeviceList fromFolder;
+    loadStandardDeviceList(fromFolder, std::filesystem::path(standardFile()).parent_path().string(), dialogs);
+    EXPECT_TRUE(dialogs.messages.empty());
+    EXPECT_EQ(fromFolder.cboDevice, list.cboDevice);
+    EXPECT_EQ(fromFolder.lblDDVersion, "Kestrel standard devices 2026-11-21");
+}
+
+TEST(DeviceSaving, SavingFromAMemberWritesTheWholeDeviceFromItsHead) {
+    ScratchDir dir("save");
+    Rig r;
+    ASSERT_TRUE(r.load(kTwoDevices, "Signal", 31));
+    r.config.Pins[31].ConfigMode = 1;
+    r.config.Pins[31].ConfigParams = {64, 200, 64, 1, 2, 3, 4, 64, 0, 64, 0, 0};
+    r.config.CurrentPin = 1; // a member
+    r.dialogs.fileNames = {dir.file("mine.def")};
+    ASSERT_TRUE(CommandSaveDevice_Click(r.config, r.dialogs));
+    const std::string expected = crlf({
+        "\"KestrelDeviceDefinitions Signal\"",
+        "\"Dev\",\"Signal\"",
+        "  \"Pin\",0,2,1,\"red\"",
+        "    \"Cfg\",1,64,8,64,1,2,3,4,64,0,64,0",
+        "    \"PAM\",1,2,1",
+        "    \"Asp\",0,\"Stop\"",
+        "      \"Ins\",0,29,0,1,0,0",
+        "    \"Asp\",1,\"Clear\"",
+        "      \"Ins\",0,29,0,4,0,0",
+        "      \"Ins\",1,17,0,1,0,0",
+        "  \"Pin\",1,0,0,\"yellow\"",
+        "    \"Cfg\",2,0,3,8,0,31",
+        "    \"PAM\",0,0,0",
+        "  \"Pin\",2,0,0,\"green\"",
+        "    \"Cfg\",2,0,3,8,0,31",
+        "    \"PAM\",0,0,0",
+        "\"End\"",
+    });
+    EXPECT_EQ(slurp(dir.file("mine.def")), expected);
+    EXPECT_EQ(r.config.Pins[31].P(2), 8);
+
+    // Read back, the saved device places the same pins.
+    Rig again;
+    ASSERT_TRUE(again.load(expected, "Signal", 31));
+    for (int p : {31, 0, 1}) {
+        EXPECT_EQ(again.config.Pins[p].Aspects, r.config.Pins[p].Aspects) << p;
+        EXPECT_EQ(again.config.Pins[p].DeviceOffset, r.config.Pins[p].DeviceOffset) << p;
+    }
+}
+
+TEST(DeviceSaving, AReferralToAMemberIsNoDevice) {
+    Rig r;
+    r.config.Pins[3].DeviceOffset = -1; // pin 3 points at 2
+    r.config.Pins[2].DeviceOffset = -2; // and 2 itself at 0
+    r.config.CurrentPin = 3;
+    r.dialogs.fileNames = {"never used"};
+    EXPECT_FALSE(CommandSaveDevice_Click(r.config, r.dialogs));
+    EXPECT_EQ(r.dialogs.texts(), std::vector<std::string>{"Referral is not a device"});
+    EXPECT_EQ(r.dialogs.fileNames.size(), 1u);
+}
+
+TEST(StandardDevices, EveryDeviceLoadsIntoSensibleSteps) {
+    std::string text;
+    ASSERT_TRUE(readTextFile(standardFile(), text));
+    RecordingDialogs dialogs;
+    DeviceList list;
+    ASSERT_EQ(readDeviceListText(list, text, standardFile(), ListMode::Replace, dialogs), ListLoad::Loaded);
+    EXPECT_TRUE(dialogs.messages.empty());
+    ASSERT_GE(list.cboDevice.size(), 8u);
+
+    for (const std::string& name : list.cboDevice) {
+        SCOPED_TRACE(name);
+        Rig r;
+        const int head = 29; // devices of more than three pins wrap around
+        ASSERT_TRUE(r.load(text, name, head));
+        EXPECT_TRUE(r.dialogs.messages.empty());
+        EXPECT_EQ(r.config.Pins[head].DeviceDescription, name);
+        EXPECT_GT(r.config.Pins[head].DccCount, 0);
+        EXPECT_GT(r.config.Pins[head].InitAspect, 0);
+
+        int aspects = 0;
+        for (int p = 0; p < kPinCount; ++p) {
+            const PinRecord& pin = r.config.Pins[p];
+            if (pin.Description.empty())
+                continue;
+            EXPECT_EQ(p + pin.DeviceOffset, head);
+            EXPECT_LE(pin.DccCount, addressCountMaximum(AddressKind::Dcc));
+            EXPECT_LE(pin.XDccCount, addressCountMaximum(AddressKind::XDcc));
+            EXPECT_LE(pin.LynxCount, addressCountMaximum(AddressKind::Lynx));
+            if (pin.ConfigMode == 1)
+                EXPECT_EQ(pin.P(2) & 8, 8) << "servo parameter 2 in the current layout";
+            const LayoutSlots slots = layoutSlots(pin.AspectLayout);
+            for (int a = 0; a < slots.aspects; ++a) {
+                if (pin.Aspects[a].Description.empty())
+                    continue;
+                ++aspects;
+                for (int s = 0; s < slots.steps; ++s) {
+                    StepRecord step = pin.Aspects[a].Steps[s];
+                    if (step.Instruction == 0)
+                        continue;
+                    const StepRecord stored = step;
+                    EXPECT_FALSE(instructionInfo(step.Instruction).Name.empty()) << int(step.Instruction);
+                    normaliseStep(step); // no fade where none is allowed, unused parameters 0
+                    EXPECT_EQ(step, stored) << "pin " << p << " aspect " << a << " step " << s;
+                    EXPECT_LE(step.Par2, 63);
+                    EXPECT_LE(step.Par3, 3);
+                    if (step.Instruction == 1) { // "Jump" stays inside the program
+                        EXPECT_LT(step.Par1, slots.aspects);
+                        EXPECT_LT(step.Par2, slots.steps);
+                    }
+                }
+            }
+            if (pin.InitAspect > 0)
+                EXPECT_FALSE(pin.Aspects[pin.InitAspect - 1].Description.empty());
+        }
+        EXPECT_GE(aspects, 2);
+    }
+}
