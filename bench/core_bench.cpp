@@ -1,0 +1,188 @@
+// Google Benchmark of the core's hot paths: framing and checksum of a request, a whole
+// request/reply exchange through the link against an in-memory module, and writing and
+// reading the data file of a fully populated configuration.
+#include "FullConfiguration.h"
+#include "files/ConfigurationFile.h"
+#include "link/Link.h"
+
+#include <benchmark/benchmark.h>
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <deque>
+#include <stdexcept>
+#include <vector>
+
+using namespace kestrel;
+
+namespace {
+
+class SteadyFakeClock : public Clock {
+public:
+    double secondsSinceMidnight() override { return 43200.0; }
+    void sleepMs(int) override {}
+};
+
+class SilentDialogs : public UserDialogs {
+public:
+    int shown = 0;
+    void message(const std::string&, Icon) override { ++shown; }
+    Answer ask(const std::string&, Buttons, Icon) override { return Answer::Ok; }
+    std::string openFileName(const std::string&, const std::string&, const std::string&) override { return {}; }
+    std::string saveFileName(const std::string&, const std::string&, const std::string&) override { return {}; }
+};
+
+// A port in memory. Bytes written are discarded, except that a whole request frame with
+// the bidirectional bit is answered at once with a reply from the same address and toggle
+// (echoed command and item, then four values), as a module on the bus would.
+class MemoryPort : public SerialPort {
+public:
+    explicit MemoryPort(bool answer) : answer(answer)
+    {
+        for (int toggle : {0, 64})
+            replies[toggle / 64] = makeReply(3 + toggle);
+    }
+    void select(const std::string&) override {}
+    std::string selected() const override { return "memory"; }
+    bool open() override { return true; }
+    void close() override {}
+    bool isOpen() const override { return true; }
+    void setSettings(const std::string&) override {}
+    std::string settings() const override { return "19200,o,8,1"; }
+    bool writeByte(std::uint8_t b) override
+    {
+        if (!answer)
+            return true;
+        if (b < 128) {
+            first = b;
+            position = 1;
+            return true;
+        }
+        if (position == 1) {
+            header = b;
+            left = (b & 15) + ((b & 16) ? 1 : 0) + 1;
+            position = 2;
+            return true;
+        }
+        if (position >= 2 && --left == 0) {
+            position = 0;
+            if ((header & 32) && (header & 15) > 0) {
+                const auto& r = replies[(first & 64) ? 1 : 0];
+                input.insert(input.end(), r.begin(), r.end());
+            }
+        }
+        return true;
+    }
+    int bytesWaiting() override { return static_cast<int>(input.size()); }
+    int readByte() override
+    {
+        if (input.empty())
+            return -1;
+        const int b = input.front();
+        input.pop_front();
+        return b;
+    }
+    bool waitForBytes(int) override { return !input.empty(); }
+    std::string errorString() const override { return {}; }
+
+private:
+    static std::vector<int> makeReply(int addressByte)
+    {
+        std::vector<int> f{addressByte, 128 + 96 + 6, 128 + 112, 128 + 0, 128 + 1, 128 + 2, 128 + 3, 128 + 4};
+        int sum = 0;
+        for (std::size_t i = 0; i < f.size(); ++i)
+            sum += i == 0 ? f[i] : (f[i] & 127);
+        f.push_back(128 + (128 - sum % 128) % 128);
+        return f;
+    }
+    bool answer;
+    std::array<std::vector<int>, 2> replies;
+    std::deque<int> input;
+    int first = 0, header = 0, position = 0, left = 0;
+};
+
+// The running-sum checksum over a step-write frame (address, header, nine data bytes).
+void BM_FrameChecksum(benchmark::State& state)
+{
+    std::array<int, 11> frame{67, 233, 227, 133, 129, 130, 152, 129, 140, 128, 128};
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(frame.data()); // the frame as data, not constants folded away
+        benchmark::ClobberMemory();
+        FrameChecksum sum(frame[0]);
+        for (std::size_t i = 1; i < frame.size(); ++i)
+            sum.add(frame[i]);
+        benchmark::DoNotOptimize(sum.value());
+    }
+}
+BENCHMARK(BM_FrameChecksum);
+
+// Framing, checking and writing a nine-byte step write without a reply (one-way link).
+void BM_FrameRequest(benchmark::State& state)
+{
+    MemoryPort port(false);
+    SteadyFakeClock clock;
+    SilentDialogs dialogs;
+    Link link(port, clock, dialogs);
+    link.settings.CheckKestrelBD = false;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(link.SendKestrelMessage(false, 9, {99, 5, 1, 2, 24, 1, 0, 0, 0}));
+    state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(BM_FrameRequest);
+
+// A whole exchange: Request Version framed, written, its reply received and checked.
+void BM_RequestReply(benchmark::State& state)
+{
+    MemoryPort port(true);
+    SteadyFakeClock clock;
+    SilentDialogs dialogs;
+    Link link(port, clock, dialogs);
+    for (auto _ : state) {
+        link.SendKestrelMessage(true, 2, {112, 0});
+        if (!link.state.ReplyValid)
+            throw std::runtime_error("benchmark reply was not valid");
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(BM_RequestReply);
+
+// The full data file (32 pins with 36 steps) written to text.
+void BM_DataFileWrite(benchmark::State& state)
+{
+    Configuration config;
+    GeneralSettings general;
+    bench::fillFullConfiguration(config, general);
+    std::size_t bytes = 0;
+    for (auto _ : state) {
+        const std::string text = writeConfigurationText(config, general, SaveForm::Full);
+        bytes = text.size();
+        benchmark::DoNotOptimize(text.data());
+    }
+    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * bytes));
+    state.counters["file_bytes"] = static_cast<double>(bytes);
+}
+BENCHMARK(BM_DataFileWrite)->Unit(benchmark::kMicrosecond);
+
+// The same text read back into a fresh configuration.
+void BM_DataFileRead(benchmark::State& state)
+{
+    Configuration config;
+    GeneralSettings general;
+    bench::fillFullConfiguration(config, general);
+    const std::string text = writeConfigurationText(config, general, SaveForm::Full);
+    SilentDialogs dialogs;
+    for (auto _ : state) {
+        Configuration loaded;
+        GeneralSettings loadedGeneral;
+        if (readConfigurationText(text, loaded, loadedGeneral, dialogs) != LoadResult::Loaded)
+            throw std::runtime_error("benchmark data file did not load");
+        benchmark::DoNotOptimize(loaded.Pins.data());
+    }
+    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * text.size()));
+}
+BENCHMARK(BM_DataFileRead)->Unit(benchmark::kMicrosecond);
+
+} // namespace
+
+BENCHMARK_MAIN();
