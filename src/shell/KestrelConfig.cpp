@@ -1,5 +1,6 @@
 #include "shell/KestrelConfig.h"
 
+#include "files/ConfigurationFile.h"
 #include "link/ProgramFault.h"
 #include "ops/Bulk.h"
 #include "ops/EventControl.h"
@@ -17,6 +18,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QDialog>
 #include <QPlainTextEdit>
 #include <QTimer>
@@ -57,6 +59,7 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     port = std::make_unique<PortRouter>(std::make_unique<QtSerialPort>(), makeBuiltInSimPort());
     core = std::make_unique<Session>(*port, clock, dialogs ? *dialogs : static_cast<UserDialogs&>(boxes));
     core->linkControl.systemPorts = &QtSerialPort::systemPorts;
+    corvid = std::make_unique<CorvidControl>(core->link, core->linkControl);
 
     auto* central = new QWidget;
     auto* layout = new QVBoxLayout(central);
@@ -69,9 +72,15 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     CommandVerifyAll = named(new QPushButton("Verify All"), "CommandVerifyAll");
     CheckWritePinConfig = named(new QCheckBox("Write pin configurations too"), "CheckWritePinConfig");
     CheckWritePinConfig->setToolTip("Also writes each pin's servo, PWM or input parameters to flash");
+    CommandSave = named(new QPushButton("Save File"), "CommandSave");
+    CommandSave->setToolTip("Shift+Save File to save compact");
+    CommandSave->installEventFilter(this);
+    CommandLoad = named(new QPushButton("Load File"), "CommandLoad");
     for (QWidget* w : {static_cast<QWidget*>(CommandReadAll), static_cast<QWidget*>(CommandWriteAll),
-                       static_cast<QWidget*>(CommandVerifyAll), static_cast<QWidget*>(CheckWritePinConfig)})
+                       static_cast<QWidget*>(CommandVerifyAll), static_cast<QWidget*>(CheckWritePinConfig),
+                       static_cast<QWidget*>(CommandSave), static_cast<QWidget*>(CommandLoad)})
         bulk->addWidget(w);
+    connect(CommandLoad, &QPushButton::clicked, this, &KestrelConfig::CommandLoad_Click);
     bulk->addStretch();
     layout->addLayout(bulk);
     connect(CommandReadAll, &QPushButton::clicked, this, &KestrelConfig::CommandReadAll_Click);
@@ -90,6 +99,12 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
 
     core->link.onTextResponse = [this](const std::string& t) { TextResponse->setText(latin1(t)); };
     core->link.onSettingsChanged = [this] { refreshLinkDisplays(); };
+    core->link.onCorvidLog = [this](const std::string& line) {
+        ensureCorvidWindow();
+        txtCorvidCommunication->appendPlainText(latin1(line));
+        if (!frmCorvidComm->isVisible())
+            frmCorvidComm->show();
+    };
 
     core->report.onClear = [this] {
         ensureVerificationWindow();
@@ -203,6 +218,48 @@ void KestrelConfig::ensureVerificationWindow()
     frmKestrelVerification->resize(560, 420);
 }
 
+void KestrelConfig::ensureCorvidWindow()
+{
+    if (frmCorvidComm)
+        return;
+    frmCorvidComm = named(new QDialog(this), "frmCorvidComm");
+    frmCorvidComm->setWindowTitle("Corvid Communication");
+    auto* l = new QVBoxLayout(frmCorvidComm);
+    txtCorvidCommunication = named(new QPlainTextEdit, "txtCorvidCommunication");
+    txtCorvidCommunication->setReadOnly(true);
+    txtCorvidCommunication->setFont(QFont("monospace"));
+    cmdClear = named(new QPushButton("Clear"), "cmdClear");
+    l->addWidget(txtCorvidCommunication);
+    l->addWidget(cmdClear);
+    connect(cmdClear, &QPushButton::clicked, this, [this] {
+        txtCorvidCommunication->clear();
+        core->link.txtCorvidCommunication.clear();
+    });
+    frmCorvidComm->resize(480, 360);
+}
+
+void KestrelConfig::CheckCorvid_Click()
+{
+    corvid->CheckCorvid_Click(CheckCorvid->isChecked());
+    refreshLinkDisplays();
+}
+
+void KestrelConfig::cmdSetTM_Click()
+{
+    corvid->cmdSetTM_Click();
+    refreshLinkDisplays();
+}
+
+void KestrelConfig::CommandLoad_Click()
+{
+    try {
+        kestrel::CommandLoad_Click(*core);
+    } catch (const ProgramFault& fault) {
+        core->dialogs().message(std::string("Program error, the load was stopped: ") + fault.what(), Icon::Warning);
+    }
+    refreshLinkDisplays();
+}
+
 void KestrelConfig::CommandReadAll_Click()
 {
     startJob("ReadAll");
@@ -277,7 +334,9 @@ void KestrelConfig::buildLinkArea(QWidget* host)
 
     CheckKestrelBD = named(new QCheckBox("Bidirectional Comm."), "CheckKestrelBD");
     CheckCorvid = named(new QCheckBox("Use Corvid Tunneling"), "CheckCorvid");
-    CheckCorvid->setEnabled(false); // the tunnel is switched on through the Corvid checks
+    cmdSetTM = named(new QPushButton("Activate Transparent Mode"), "cmdSetTM");
+    cmdSetTM->setToolTip("Switch Hub-A or Linkbox in Transparant Mode for Kestrel Configuration");
+    grid->addWidget(cmdSetTM, 3, 5);
     CheckKLnumber = named(new QCheckBox("Start numbering at 1"), "CheckKLnumber");
     grid->addWidget(CheckKestrelBD, 0, 5);
     grid->addWidget(CheckCorvid, 1, 5);
@@ -286,7 +345,7 @@ void KestrelConfig::buildLinkArea(QWidget* host)
     TextResponse = named(new QLineEdit, "TextResponse");
     TextResponse->setReadOnly(true);
     grid->addWidget(new QLabel("Response:"), 3, 0);
-    grid->addWidget(TextResponse, 3, 1, 1, 5);
+    grid->addWidget(TextResponse, 3, 1, 1, 4);
 
     connect(ComboPort, &QComboBox::activated, this, [this](int) { ComboPort_Click(); });
     connect(ComboPort->lineEdit(), &QLineEdit::returnPressed, this, &KestrelConfig::ComboPort_Click);
@@ -297,6 +356,8 @@ void KestrelConfig::buildLinkArea(QWidget* host)
     connect(UpDownXaddr, &QSpinBox::valueChanged, this, &KestrelConfig::UpDownXaddr_Change);
     connect(CheckXaddress, &QCheckBox::clicked, this, &KestrelConfig::CheckXaddress_Click);
     connect(CheckKestrelBD, &QCheckBox::clicked, this, &KestrelConfig::CheckKestrelBD_Click);
+    connect(CheckCorvid, &QCheckBox::clicked, this, &KestrelConfig::CheckCorvid_Click);
+    connect(cmdSetTM, &QPushButton::clicked, this, &KestrelConfig::cmdSetTM_Click);
 }
 
 QWidget* KestrelConfig::buildGeneralPage()
@@ -344,6 +405,7 @@ void KestrelConfig::refreshLinkDisplays()
     UpDownXaddr->setVisible(s.CheckXaddress);
     CheckKestrelBD->setChecked(s.CheckKestrelBD);
     CheckCorvid->setChecked(s.CheckCorvid);
+    cmdSetTM->setVisible(corvid->cmdSetTMVisible);
     updating = false;
 }
 
@@ -424,6 +486,15 @@ bool KestrelConfig::eventFilter(QObject* watched, QEvent* event)
     if (watched == LabelPort && event->type() == QEvent::MouseButtonDblClick) {
         LabelPort_DblClick();
         return true;
+    }
+    // Save acts on the press, where the Shift key decides between the full and the compact file.
+    if (watched == CommandSave && event->type() == QEvent::MouseButtonPress) {
+        auto* mouse = static_cast<QMouseEvent*>(event);
+        const int button = mouse->button() == Qt::LeftButton ? 1 : mouse->button() == Qt::RightButton ? 2 : 4;
+        const int shift = (mouse->modifiers() & Qt::ShiftModifier ? 1 : 0) | (mouse->modifiers() & Qt::ControlModifier ? 2 : 0) |
+                          (mouse->modifiers() & Qt::AltModifier ? 4 : 0);
+        CommandSave_MouseDown(*core, button, shift);
+        return false;
     }
     return QMainWindow::eventFilter(watched, event);
 }

@@ -1,4 +1,5 @@
 #pragma once
+#include "link/CorvidControl.h"
 #include "ops/JobDispatcher.h"
 #include "ops/Session.h"
 #include "shell/PortRouter.h"
@@ -59,6 +60,14 @@ public:
     QPushButton* CommandWriteAll;
     QPushButton* CommandVerifyAll;
     QCheckBox* CheckWritePinConfig; // also send each pin's configuration to flash
+    QPushButton* CommandSave;
+    QPushButton* CommandLoad;
+    QPushButton* cmdSetTM;
+
+    // The Corvid log window
+    QDialog* frmCorvidComm = nullptr;
+    QPlainTextEdit* txtCorvidCommunication = nullptr;
+    QPushButton* cmdClear = nullptr;
 
     // General page
     QPushButton* CommandGenVersion;
@@ -83,6 +92,9 @@ public slots:
     void CheckKestrelBD_Click();
     void LabelPort_DblClick();
     void CommandGenVersion_Click();
+    void CheckCorvid_Click();
+    void cmdSetTM_Click();
+    void CommandLoad_Click();
     void CommandReadAll_Click();
     void CommandWriteAll_Click();
     void CommandVerifyAll_Click();
@@ -101,11 +113,13 @@ private:
     void runJob(const QString& title, const std::function<void()>& operation);
     void startJob(const char* name);
     void ensureVerificationWindow();
+    void ensureCorvidWindow();
 
     QtDialogs boxes;
     std::unique_ptr<PortRouter> port;
     SystemClock clock;
     std::unique_ptr<Session> core;
+    std::unique_ptr<CorvidControl> corvid;
     QGroupBox* linkFrame = nullptr; // the frame LabelPort's double-click shows and hides
     bool updating = false;
 };
