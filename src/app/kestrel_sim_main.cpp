@@ -1,6 +1,7 @@
 // kestrel-sim: simulated Kestrel modules (optionally behind a simulated Corvid system)
 // on a pseudo-terminal. The first line of stdout is the path of the terminal to open;
-// a one-line statistics summary goes to stderr on exit (SIGINT or SIGTERM).
+// a one-line statistics summary goes to stderr on exit (SIGINT or SIGTERM), followed by
+// the same numbers as a "kestrel-sim-stats:" line of key=value pairs.
 
 #include "app/SimSeed.h"
 #include "sim/SimBus.h"
@@ -323,6 +324,9 @@ int main(int argc, char** argv)
     const int baud = options.paceBaud > 0 ? options.paceBaud : 19200;
     std::fprintf(stderr,
                  "kestrel-sim: %ld exchanges, %ld bytes received, %ld bytes sent, wire time at least %.3f s at %d baud\n",
+                 s.exchanges, s.bytesIn, s.bytesOut, s.wireSeconds(baud), baud);
+    // The same numbers as key=value pairs on a line of their own, for scripts (scripts/bench).
+    std::fprintf(stderr, "kestrel-sim-stats: exchanges=%ld bytes_in=%ld bytes_out=%ld wire_seconds=%.6f baud=%d\n",
                  s.exchanges, s.bytesIn, s.bytesOut, s.wireSeconds(baud), baud);
     close(pty.slave);
     close(pty.master);
