@@ -244,6 +244,13 @@ void KestrelConfig::CheckCorvid_Click()
     refreshLinkDisplays();
 }
 
+void KestrelConfig::CheckKLnumber_Click()
+{
+    // Shown numbers move with the base; what is stored stays numbered from 0.
+    core->config.NumberingBase = CheckKLnumber->isChecked() ? 1 : 0;
+    refreshLinkDisplays();
+}
+
 void KestrelConfig::cmdSetTM_Click()
 {
     corvid->cmdSetTM_Click();
@@ -357,6 +364,7 @@ void KestrelConfig::buildLinkArea(QWidget* host)
     connect(CheckXaddress, &QCheckBox::clicked, this, &KestrelConfig::CheckXaddress_Click);
     connect(CheckKestrelBD, &QCheckBox::clicked, this, &KestrelConfig::CheckKestrelBD_Click);
     connect(CheckCorvid, &QCheckBox::clicked, this, &KestrelConfig::CheckCorvid_Click);
+    connect(CheckKLnumber, &QCheckBox::clicked, this, &KestrelConfig::CheckKLnumber_Click);
     connect(cmdSetTM, &QPushButton::clicked, this, &KestrelConfig::cmdSetTM_Click);
 }
 

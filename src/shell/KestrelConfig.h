@@ -93,6 +93,7 @@ public slots:
     void LabelPort_DblClick();
     void CommandGenVersion_Click();
     void CheckCorvid_Click();
+    void CheckKLnumber_Click();
     void cmdSetTM_Click();
     void CommandLoad_Click();
     void CommandReadAll_Click();

@@ -77,3 +77,20 @@ TEST(MainWindow, ExtendedAddressControlsFollowTheCheckBox)
     EXPECT_EQ(x->text(), "15");
     EXPECT_EQ(window.session().link.settings.TargetXAddress, 15);
 }
+
+TEST(MainWindow, NumberingFromOneMovesTheShownAddresses)
+{
+    test::RecordingDialogs dialogs;
+    KestrelConfig window(nullptr, &dialogs);
+    window.show();
+    auto* address = child<QLineEdit>(window, "TextAddress");
+    address->setText("7");
+    window.TextAddress_Click();
+    QTest::mouseClick(child<QCheckBox>(window, "CheckKLnumber"), Qt::LeftButton);
+    EXPECT_EQ(address->text(), "8");
+    EXPECT_EQ(window.session().link.settings.TargetAddress, 7);
+    address->setText("0");
+    window.TextAddress_Click();
+    EXPECT_EQ(address->text(), "1");
+    EXPECT_EQ(window.session().link.settings.TargetAddress, 0);
+}
