@@ -14,8 +14,8 @@ LinkControl::LinkControl(Link& l, const int& numberingBase) : link(l), base(numb
 void LinkControl::ScanPorts()
 {
     ComboPort.clear();
-    SerialPort& port = link.port();
 #ifdef _WIN32
+    SerialPort& port = link.port();
     // Numbered COM ports: try to open each of 1..16, keep those that open.
     const std::string keep = port.selected();
     for (int n = 1; n <= 16; ++n) {

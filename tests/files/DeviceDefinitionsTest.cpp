@@ -330,8 +330,9 @@ TEST(StandardDevices, EveryDeviceLoadsIntoSensibleSteps) {
             EXPECT_LE(pin.DccCount, addressCountMaximum(AddressKind::Dcc));
             EXPECT_LE(pin.XDccCount, addressCountMaximum(AddressKind::XDcc));
             EXPECT_LE(pin.LynxCount, addressCountMaximum(AddressKind::Lynx));
-            if (pin.ConfigMode == 1)
+            if (pin.ConfigMode == 1) {
                 EXPECT_EQ(pin.P(2) & 8, 8) << "servo parameter 2 in the current layout";
+            }
             const LayoutSlots slots = layoutSlots(pin.AspectLayout);
             for (int a = 0; a < slots.aspects; ++a) {
                 if (pin.Aspects[a].Description.empty())
@@ -353,8 +354,9 @@ TEST(StandardDevices, EveryDeviceLoadsIntoSensibleSteps) {
                     }
                 }
             }
-            if (pin.InitAspect > 0)
+            if (pin.InitAspect > 0) {
                 EXPECT_FALSE(pin.Aspects[pin.InitAspect - 1].Description.empty());
+            }
         }
         EXPECT_GE(aspects, 2);
     }
