@@ -10,6 +10,7 @@ namespace kestrel {
 namespace {
 constexpr double kReplyTimeout = 2.0; // seconds
 constexpr int kWakeUp[] = {0, 0, 0, 255, 255, 255, 170, 170, 170};
+constexpr int kStalePolls = 8; // polls at most to clear what a cut-short tunnel exchange left
 
 std::array<int, 15> toArray15(int size, std::initializer_list<int> bytes)
 {
@@ -69,6 +70,7 @@ bool Link::portLost()
                        (serial.errorString().empty() ? std::string() : " (" + serial.errorString() + ")"),
                    Icon::Warning);
     lostReported = true;
+    tunnelStale = true;
     serial.close();
     state.LinkToggle = 128;
     return false;
@@ -166,10 +168,13 @@ bool Link::SendKestrelMessage(bool expectReply, int size, const std::array<int, 
 
     if (settings.CheckKestrelBD) {
         if (!receiveDirect()) {
-            if (serial.isOpen()) {
-                ui.message("No response received, resetting bidirectional communication");
-                setBidirectional(false);
-            }
+            // The port went away while the reply was awaited: that has been said once;
+            // the call fails like one that could not send, so that the job ends here
+            // instead of going on to "Select communications port" at its next request.
+            if (!serial.isOpen())
+                return false;
+            ui.message("No response received, resetting bidirectional communication");
+            setBidirectional(false);
         } else {
             const int n = state.ReplyBuffer[1] & 15;
             std::string text = "[" + hexUpper(state.ReplyBuffer[0]) + "]";
@@ -261,11 +266,26 @@ bool Link::sendTunnelled(bool expectReply, int size, const std::array<int, 15>& 
     }
     for (int i = 0; i < size; ++i)
         data[n++] = b[i];
+    if (tunnelStale) {
+        // An exchange was cut short (the port lost, or a Corvid frame that failed): the
+        // system may still hold the module's reply to it. Poll that away first, so that
+        // it is not taken for the reply to this request.
+        for (int i = 0; i < kStalePolls; ++i) {
+            if (!CorvidExchange(0))
+                return false;
+            if (state.ReplyBuffer[0] == 0) // an empty frame: nothing is left
+                break;
+        }
+        tunnelStale = false;
+    }
     state.ReplyValid = CorvidExchange(n, data);
-    if (!state.ReplyValid)
+    if (!state.ReplyValid) {
+        tunnelStale = true;
         return false;
+    }
     if (!expectReply) {
         state.ReplyValid = CorvidExchange(0);
+        tunnelStale = !state.ReplyValid;
         return state.ReplyValid;
     }
     auto& buf = state.ReplyBuffer;
@@ -296,6 +316,7 @@ bool Link::sendTunnelled(bool expectReply, int size, const std::array<int, 15>& 
             break;
         state.ReplyValid = CorvidExchange(0);
     }
+    tunnelStale = !state.ReplyValid;
     return state.ReplyValid;
 }
 

@@ -103,6 +103,7 @@ private:
     UserDialogs& ui;
     Progress* progress = nullptr;
     bool lostReported = false;
+    bool tunnelStale = false; // a tunnelled exchange was cut short; poll before the next
 };
 
 // The running-sum checksum of both routes: the sum starts with the first byte,
