@@ -403,41 +403,9 @@ private:
         r.LynxCount = static_cast<std::uint8_t>(lynx);
     }
 
-    void readAsp() {
-        const int a = in.nextByte();
-        checkRange(in, a, kAspectRecords - 1, "Aspect");
-        std::string description = in.next();
-        aspect = a;
-        config.aspect(pin, a).Description = std::move(description);
-    }
+    void readAsp() { aspect = readAspRecord(in, config, pin); }
 
-    void readIns() {
-        const int s = in.nextInt16();
-        if (s < 0 || s > kStepRecords - 1)
-            in.fail("Step index " + std::to_string(s) + " out of range 0.." +
-                    std::to_string(kStepRecords - 1));
-        const int op = in.nextInt16();
-        if (op < 0 || op > 255)
-            in.fail("Instruction " + std::to_string(op) + " out of range 0..255");
-        std::array<int, 4> par{};
-        for (int& v : par)
-            v = in.nextByte();
-        readStep(config.step(pin, aspect, s), op, par);
-    }
-
-public:
-    // The op of an "Ins" record: stored whole as the instruction; only an op of 19 to 63
-    // is split into fade (bit 4) and instruction, so 16 to 18 never carry a fade and
-    // outside 19..63 the fade stays as it was.
-    static void readStep(StepRecord& step, int op, const std::array<int, 4>& par) {
-        step.Instruction = static_cast<std::uint8_t>(op);
-        if (op >= 19 && op <= 63)
-            splitCodeByte(op, step);
-        step.Par0 = static_cast<std::uint8_t>(par[0]);
-        step.Par1 = static_cast<std::uint8_t>(par[1]);
-        step.Par2 = static_cast<std::uint8_t>(par[2]);
-        step.Par3 = static_cast<std::uint8_t>(par[3]);
-    }
+    void readIns() { readInsRecord(in, config, pin, aspect); }
 
 private:
     ItemReader& in;
@@ -450,9 +418,31 @@ private:
 
 } // namespace
 
-// Shared with the definitions file.
-void readStepOp(StepRecord& step, int op, const std::array<int, 4>& par) {
-    ConfigReader::readStep(step, op, par);
+int readAspRecord(ItemReader& in, Configuration& config, int pin) {
+    const int a = in.nextByte();
+    checkRange(in, a, kAspectRecords - 1, "Aspect");
+    config.aspect(pin, a).Description = in.next();
+    return a;
+}
+
+void readInsRecord(ItemReader& in, Configuration& config, int pin, int aspect) {
+    const int s = in.nextInt16();
+    if (s < 0 || s > kStepRecords - 1)
+        in.fail("Step index " + std::to_string(s) + " out of range 0.." + std::to_string(kStepRecords - 1));
+    const int op = in.nextInt16();
+    if (op < 0 || op > 255)
+        in.fail("Instruction " + std::to_string(op) + " out of range 0..255");
+    std::array<int, 4> par{};
+    for (int& v : par)
+        v = in.nextByte();
+    StepRecord& step = config.step(pin, aspect, s);
+    step.Instruction = static_cast<std::uint8_t>(op);
+    if (op >= 19 && op <= 63)
+        splitCodeByte(op, step);
+    step.Par0 = static_cast<std::uint8_t>(par[0]);
+    step.Par1 = static_cast<std::uint8_t>(par[1]);
+    step.Par2 = static_cast<std::uint8_t>(par[2]);
+    step.Par3 = static_cast<std::uint8_t>(par[3]);
 }
 
 LoadResult readConfigurationText(const std::string& text, Configuration& config, GeneralSettings& general,

@@ -211,28 +211,9 @@ private:
         }
     }
 
-    void readAsp() {
-        const int a = in.nextByte();
-        if (a > kAspectRecords - 1)
-            in.fail("Aspect index " + std::to_string(a) + " out of range 0.." +
-                    std::to_string(kAspectRecords - 1));
-        aspect = a;
-        config.aspect(target, a).Description = in.next();
-    }
+    void readAsp() { aspect = readAspRecord(in, config, target); }
 
-    void readIns() {
-        const int s = in.nextInt16();
-        if (s < 0 || s > kStepRecords - 1)
-            in.fail("Step index " + std::to_string(s) + " out of range 0.." +
-                    std::to_string(kStepRecords - 1));
-        const int op = in.nextInt16();
-        if (op < 0 || op > 255)
-            in.fail("Instruction " + std::to_string(op) + " out of range 0..255");
-        std::array<int, 4> par{};
-        for (int& v : par)
-            v = in.nextByte();
-        readStepOp(config.step(target, aspect, s), op, par);
-    }
+    void readIns() { readInsRecord(in, config, target, aspect); }
 
     ItemReader& in;
     Configuration& config;

@@ -15,8 +15,14 @@ void writeCfgRecord(ItemWriter& w, int indent, PinRecord& pin);
 // "Ins",<s>,<op>,<par0>..<par3> with op = 16 x Fade + Instruction.
 void writeInsRecord(ItemWriter& w, int indent, int s, const StepRecord& step);
 
-// Stores an "Ins" record's op and parameters into a step: the op is stored whole as the
-// instruction, and only an op of 19 to 63 is split into fade (bit 4) and instruction.
-void readStepOp(StepRecord& step, int op, const std::array<int, 4>& par);
+// The items of an "Asp" record after its keyword: the aspect index (0..12), which is
+// returned, and the description, stored into that aspect of the pin.
+int readAspRecord(ItemReader& in, Configuration& config, int pin);
+
+// The items of an "Ins" record after its keyword, into a step of the pin's aspect: the op
+// is stored whole as the instruction, and only an op of 19 to 63 is split into fade
+// (bit 4) and instruction, so 16 to 18 never carry a fade and outside 19..63 the fade
+// stays as it was.
+void readInsRecord(ItemReader& in, Configuration& config, int pin, int aspect);
 
 } // namespace kestrel
