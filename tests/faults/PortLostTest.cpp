@@ -1,0 +1,158 @@
+// A port that disappears under a job (a USB adapter pulled out) in the ways the matrix
+// does not cover: during a time-out, on a one-way write, for good, and over the tunnel
+// in the middle of Read All. Each gives one clear message and a failed step, and the
+// session works again once the port is back.
+#include "FaultRig.h"
+#include "ops/EventControl.h"
+#include "ops/GeneralCommands.h"
+
+#include <gtest/gtest.h>
+
+using namespace kestrel;
+using namespace kestrel::test;
+using namespace kestrel::test::faults;
+
+namespace {
+
+const std::string kPortLost = "Communications port lost: sim (Port sim: the simulated port has gone away)";
+
+void bringBack(FaultRig& rig)
+{
+    rig.port.setVanished(false);
+    ASSERT_TRUE(rig.session.linkControl.ComboPort_Click("sim"));
+    rig.dialogs.clear();
+}
+
+TEST(PortLost, DuringATimeOutIsTheOnlyMessage)
+{
+    FaultRig rig(false);
+    ASSERT_TRUE(rig.ready);
+    rig.forgetModel();
+    // The module stays silent; half a second into the wait the adapter is pulled.
+    rig.module.faults.dropReplies = 1;
+    rig.port.setWaitHook([&](int) {
+        rig.clock.advance(0.5);
+        rig.port.setVanished(true);
+    });
+    const double start = rig.clock.now;
+    EXPECT_FALSE(ReadAll(rig.session));
+    EXPECT_EQ(rig.dialogs.texts(), std::vector<std::string>{kPortLost});
+    EXPECT_NEAR(rig.clock.now - start, 0.5, 1e-6); // not the rest of the 2 s
+    EXPECT_TRUE(rig.session.link.settings.CheckKestrelBD); // no time-out: nothing reset
+    EXPECT_EQ(rig.session.general.LabelGenVersionString, "Unknown");
+
+    rig.port.setWaitHook([&](int ms) { rig.clock.advance(ms / 1000.0); });
+    bringBack(rig);
+    EXPECT_TRUE(ReadAll(rig.session));
+    EXPECT_EQ(rig.dialogs.texts(), std::vector<std::string>{});
+    EXPECT_EQ(rig.session.general, rig.sourceGeneral);
+}
+
+TEST(PortLost, OneWayWriteAllStopsAtTheFirstFailedWrite)
+{
+    FaultRig rig(false);
+    ASSERT_TRUE(rig.ready);
+    rig.eraseModule();
+    rig.session.link.setBidirectional(false);
+    // Event-On of pin 12 is being written when the adapter goes (command 100 with the
+    // slot 0 byte, action 11; with a tag-7 byte it would be the pin's initial aspect).
+    ASSERT_EQ(rig.source.events(12).OnEvent[0], 11);
+    rig.wire.arm(Fault::PortGoneWriting, {100, 12, 11});
+    const double start = rig.clock.now;
+    const long slept = rig.clock.slept;
+    EXPECT_FALSE(WriteAll(rig.session));
+    EXPECT_EQ(rig.wire.hits, 1);
+    EXPECT_EQ(rig.dialogs.texts(), std::vector<std::string>{kPortLost});
+    // Only the pauses that pace one-way writes have passed: no reply was waited for.
+    EXPECT_NEAR(rig.clock.now - start, (rig.clock.slept - slept) / 1000.0, 1e-6);
+    for (int p = 0; p < kPinCount; ++p)
+        EXPECT_EQ(rig.module.memory().pins[p].eventOn,
+                  p < 12 ? rig.seeded.pins[p].eventOn : rig.module.factoryMemory().pins[p].eventOn)
+            << p;
+    EXPECT_EQ(rig.module.memory().eventOnEnable, rig.module.factoryMemory().eventOnEnable);
+
+    bringBack(rig);
+    EXPECT_TRUE(WriteAll(rig.session));
+    EXPECT_EQ(rig.dialogs.texts(), std::vector<std::string>{});
+    EXPECT_TRUE(rig.module.memory() == rig.seeded);
+}
+
+TEST(PortLost, AJobStartedWhileItIsStillGoneSaysSoOnce)
+{
+    FaultRig rig(false);
+    ASSERT_TRUE(rig.ready);
+    rig.wire.arm(Fault::PortGoneWaiting, {112, 0});
+    EXPECT_FALSE(ReadAll(rig.session));
+    EXPECT_EQ(rig.dialogs.texts(), std::vector<std::string>{kPortLost});
+    rig.dialogs.clear();
+
+    // The user tries again before plugging the adapter back in: each job stops at its
+    // first request with the port closed.
+    EXPECT_FALSE(WriteAll(rig.session));
+    EXPECT_EQ(rig.dialogs.texts(), std::vector<std::string>{"Select communications port"});
+    rig.dialogs.clear();
+    EXPECT_FALSE(VerifyAll(rig.session));
+    EXPECT_EQ(rig.dialogs.texts(), std::vector<std::string>{"Select communications port"});
+    EXPECT_EQ(rig.session.report.txtVerification, "Start General Settings Verification\r\nVerification Stopped\r\n");
+    rig.dialogs.clear();
+
+    // Choosing the port while it is still gone fails with its own message.
+    EXPECT_FALSE(rig.session.linkControl.ComboPort_Click("sim"));
+    EXPECT_EQ(rig.dialogs.texts(),
+              std::vector<std::string>{"Cannot open port sim: Port sim: the simulated port has gone away"});
+
+    bringBack(rig);
+    EXPECT_TRUE(VerifyAll(rig.session));
+    EXPECT_EQ(rig.dialogs.texts(), std::vector<std::string>{});
+}
+
+TEST(PortLost, TunnelledReadAllAndTheNextJob)
+{
+    FaultRig rig(true);
+    ASSERT_TRUE(rig.ready);
+    rig.forgetModel();
+    // The step read of pin 9, aspect 2, step 1 is on its way when the adapter goes.
+    rig.wire.arm(Fault::PortGoneWaiting, {115, 9, 2, 1});
+    EXPECT_FALSE(ReadAll(rig.session));
+    EXPECT_EQ(rig.wire.hits, 1);
+    EXPECT_EQ(rig.dialogs.texts(), std::vector<std::string>{kPortLost});
+    EXPECT_EQ(rig.session.general.TextGenIDString, rig.sourceGeneral.TextGenIDString);
+    EXPECT_EQ(rig.session.config.pin(8), rig.source.pin(8));
+    EXPECT_EQ(rig.session.config.pin(10), Configuration{}.pin(10));
+
+    // The module's reply to that step read still waits in the Corvid system; it must not
+    // be taken for the reply to the next job's first request.
+    bringBack(rig);
+    rig.forgetModel();
+    EXPECT_TRUE(ReadAll(rig.session));
+    EXPECT_EQ(rig.dialogs.texts(), std::vector<std::string>{});
+    EXPECT_EQ(rig.session.general, rig.sourceGeneral);
+    for (int p = 0; p < kPinCount; ++p) {
+        EXPECT_EQ(rig.session.config.pin(p), rig.source.pin(p)) << p;
+        EXPECT_EQ(rig.session.config.events(p), rig.source.events(p)) << p;
+    }
+}
+
+TEST(TunnelResync, AFailedCorvidFrameLeavesNoStaleReplyForTheNextRequest)
+{
+    FaultRig rig(true);
+    ASSERT_TRUE(rig.ready);
+    rig.forgetModel();
+    // The Corvid answer to the ID string request is corrupted; the module has answered
+    // all the same, and its reply waits for a poll.
+    rig.wire.arm(Fault::CorruptNoGoodCopy, {112, 10});
+    EXPECT_FALSE(ReadIDString(rig.session));
+    ASSERT_EQ(rig.dialogs.texts().size(), 2u);
+    EXPECT_EQ(rig.dialogs.texts()[1], "No answer from Corvid");
+    EXPECT_EQ(rig.corvid.pendingReplies(), 1u);
+    rig.dialogs.clear();
+
+    EXPECT_TRUE(RequestVersion(rig.session));
+    EXPECT_EQ(rig.session.general.LabelGenVersionString, "1.2.3.4");
+    EXPECT_EQ(rig.dialogs.texts(), std::vector<std::string>{});
+    EXPECT_EQ(rig.corvid.pendingReplies(), 0u);
+    EXPECT_TRUE(ReadIDString(rig.session));
+    EXPECT_EQ(rig.session.general.TextGenIDString, rig.sourceGeneral.TextGenIDString);
+}
+
+} // namespace
