@@ -3,6 +3,10 @@
 #include <QSerialPortInfo>
 #include <QStringList>
 
+#ifndef _WIN32
+#include <poll.h>
+#endif
+
 namespace kestrel {
 
 QtSerialPort::QtSerialPort() = default;
@@ -49,6 +53,21 @@ bool QtSerialPort::open()
     }
     port.clear();
     return true;
+}
+
+// True when the other end has gone (an adapter pulled out, a pseudo-terminal whose other
+// side closed). The system then reports a hang-up at once on every wait while reads
+// return nothing, and QSerialPort reports no error of its own: a wait for a reply would
+// spin to its time-out and end as "no response" instead of a lost port.
+static bool hungUp(QSerialPort& port)
+{
+#ifndef _WIN32
+    pollfd p{static_cast<int>(port.handle()), POLLIN, 0};
+    return ::poll(&p, 1, 0) > 0 && (p.revents & (POLLHUP | POLLERR | POLLNVAL)) != 0;
+#else
+    (void)port;
+    return false;
+#endif
 }
 
 void QtSerialPort::close()
@@ -126,8 +145,12 @@ bool QtSerialPort::waitForBytes(int timeoutMs)
         return true;
     // Blocks in the system's wait until a byte arrives or the time is up.
     const bool ready = port.waitForReadyRead(timeoutMs);
-    if (!ready && failed())
+    if (!ready && failed()) {
         port.close();
+    } else if (!ready && hungUp(port)) {
+        error = "the port hung up";
+        port.close();
+    }
     return ready && port.bytesAvailable() > 0;
 }
 

@@ -1,0 +1,76 @@
+// kestrel-cli loses its port in the middle of a job: kestrel-sim, paced like a 9600 baud
+// wire so that the job takes a few seconds, is stopped while the job runs, and its
+// pseudo-terminal goes with it. The job ends at once with one message and status 1.
+#include "support/Process.h"
+
+#include <chrono>
+#include <gtest/gtest.h>
+#include <thread>
+#include <unistd.h>
+
+using namespace kestrel::test;
+
+namespace {
+
+std::string tempPath(const char* name)
+{
+    return "/tmp/kestrel-it-" + std::to_string(getpid()) + "-" + name;
+}
+
+bool exists(const std::string& path) { return access(path.c_str(), F_OK) == 0; }
+
+// Runs kestrel-cli with args against a paced kestrel-sim and stops the simulator a second
+// after the job has started.
+CommandResult runAndPullThePort(const std::vector<std::string>& args, std::string& pty)
+{
+    SimProcess sim({"--pace-baud", "9600"});
+    pty = sim.pty();
+    std::vector<std::string> all{"--port", sim.pty(), "--baud", "9600"};
+    all.insert(all.end(), args.begin(), args.end());
+    std::thread pull([&sim] {
+        std::this_thread::sleep_for(std::chrono::seconds(1));
+        sim.stop();
+    });
+    CommandResult r = runProgram(binPath("kestrel-cli"), all);
+    pull.join();
+    return r;
+}
+
+} // namespace
+
+TEST(CliPortLost, ReadEndsWithOneMessageAndNoFile)
+{
+    const std::string file = tempPath("lost-read.dat");
+    std::remove(file.c_str());
+    std::string pty;
+    const CommandResult r = runAndPullThePort({"read", file}, pty);
+    EXPECT_EQ(r.status, 1);
+    EXPECT_EQ(r.out, "");
+    // Not "No response received ...", and nothing for the rest of the job.
+    EXPECT_EQ(r.err, "Warning: Communications port lost: " + pty + " (the port hung up)\n");
+    EXPECT_FALSE(exists(file));
+
+    // A port that is there again serves the next job.
+    SimProcess sim;
+    const CommandResult again = runProgram(binPath("kestrel-cli"), {"--port", sim.pty(), "read", file});
+    EXPECT_EQ(again.status, 0) << again.err;
+    EXPECT_EQ(again.err, "");
+    EXPECT_TRUE(exists(file));
+    std::remove(file.c_str());
+}
+
+TEST(CliPortLost, WriteEndsWithOneMessage)
+{
+    // The demonstration configuration of the built-in module, to write.
+    const std::string file = tempPath("lost-write.dat");
+    const CommandResult saved = runProgram(binPath("kestrel-cli"), {"--port", "sim", "read", file});
+    ASSERT_EQ(saved.status, 0) << saved.err;
+
+    std::string pty;
+    const CommandResult r = runAndPullThePort({"write", file}, pty);
+    EXPECT_EQ(r.status, 1);
+    EXPECT_EQ(r.out, "");
+    // In particular no "Select communications port" for each item left to write.
+    EXPECT_EQ(r.err, "Warning: Communications port lost: " + pty + " (the port hung up)\n");
+    std::remove(file.c_str());
+}
