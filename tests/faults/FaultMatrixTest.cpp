@@ -417,7 +417,7 @@ void PrintTo(const Case& c, std::ostream* os) { *os << c.family->name << " / " <
 
 class FaultMatrix : public ::testing::TestWithParam<Case> {};
 
-TEST_P(FaultMatrix, EndsAsSpecified)
+TEST_P(FaultMatrix, EndsAsItShould)
 {
     const Family& family = *GetParam().family;
     const Cell& cell = GetParam().cell;
