@@ -45,7 +45,13 @@ constexpr const char* kUsage =
     "  --system-version X.Y  Corvid system version, e.g. 6.45 = 6045 (default 6.45)\n"
     "  --unit TYPE      interface unit: hub-a (default), hub-b or linkbox\n"
     "  --unit-version N interface unit version, e.g. 1020 or 1.20 (default 1020)\n"
-    "  --load FILE.dat  every module starts with the configuration of this data file\n";
+    "  --load FILE.dat  every module starts with the configuration of this data file\n"
+    "fault switches (every module):\n"
+    "  --drop-replies N     leave the next N replies unsent\n"
+    "  --corrupt-copies N   send the next N replies first as a copy with a bad check byte\n"
+    "  --garbage N          send N stray bytes before every reply\n"
+    "  --refuse CMD[,ITEM][:noreply|echo|length]  answer a command (for one item or pin)\n"
+    "                       not at all, with a wrong echo or with a wrong length\n";
 
 struct Options {
     std::vector<int> addresses;
@@ -57,6 +63,7 @@ struct Options {
     CorvidUnit unit = CorvidUnit::HubA;
     int unitVersion = 1020;
     std::string load; // configuration data file that every module starts with
+    ModuleFaults faults;
 };
 
 int parseInt(const std::string& text, int lo, int hi, const std::string& what)
@@ -115,6 +122,32 @@ Options parseOptions(int argc, char** argv)
                 throw std::invalid_argument("--version takes four numbers A.B.C.D");
         } else if (arg == "--pace-baud") {
             o.paceBaud = parseInt(value(i), 1, 10000000, "--pace-baud");
+        } else if (arg == "--drop-replies") {
+            o.faults.dropReplies = parseInt(value(i), 0, 1000000, "--drop-replies");
+        } else if (arg == "--corrupt-copies") {
+            o.faults.corruptCopies = parseInt(value(i), 0, 1000000, "--corrupt-copies");
+        } else if (arg == "--garbage") {
+            const int n = parseInt(value(i), 0, 64, "--garbage");
+            o.faults.garbage.assign(static_cast<std::size_t>(n), 0xAA);
+        } else if (arg == "--refuse") {
+            // CMD[,ITEM][:noreply|echo|length]
+            std::string spec = value(i);
+            Refusal how = Refusal::NoReply;
+            const auto colon = spec.find(':');
+            if (colon != std::string::npos) {
+                const std::string kind = spec.substr(colon + 1);
+                if (kind == "echo")
+                    how = Refusal::WrongEcho;
+                else if (kind == "length")
+                    how = Refusal::WrongLength;
+                else if (kind != "noreply")
+                    throw std::invalid_argument("--refuse: the kind must be noreply, echo or length");
+                spec.resize(colon);
+            }
+            const auto comma = spec.find(',');
+            const int command = parseInt(spec.substr(0, comma), 0, 127, "--refuse command");
+            const int item = comma == std::string::npos ? -1 : parseInt(spec.substr(comma + 1), 0, 127, "--refuse item");
+            o.faults.refuse(command, how, item);
         } else if (arg == "--corvid") {
             o.corvid = true;
         } else if (arg == "--system-version") {
@@ -216,6 +249,9 @@ int main(int argc, char** argv)
         }
         bus.resetStats();
     }
+    // The fault switches act from here on, after the modules got their configuration.
+    for (SimModule* m : bus.modules())
+        m->faults = options.faults;
 
     std::unique_ptr<SimCorvid> corvid;
     SimEndpoint* endpoint = &bus;

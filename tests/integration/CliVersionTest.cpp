@@ -44,3 +44,23 @@ TEST(CliAgainstSimProcess, UsageAndPortErrorsExitWithTwo)
     EXPECT_EQ(r.status, 0);
     EXPECT_EQ(r.out, "1.2.3.4\n");
 }
+
+TEST(CliAgainstSimProcess, FaultSwitchesOfTheSimulator)
+{
+    const std::string cli = binPath("kestrel-cli");
+    {
+        SimProcess sim({"--refuse", "112,0:length"});
+        auto r = runProgram(cli, {"--port", sim.pty(), "version"});
+        EXPECT_EQ(r.status, 1);
+        EXPECT_EQ(r.err, "GetVersion: No valid response, size <> 6\n");
+    }
+    {
+        // Stray bytes and a corrupted copy before each good reply do no harm.
+        SimProcess sim({"--garbage", "5", "--corrupt-copies", "2"});
+        for (int i = 0; i < 3; ++i) {
+            auto r = runProgram(cli, {"--port", sim.pty(), "version"});
+            EXPECT_EQ(r.status, 0) << r.err;
+            EXPECT_EQ(r.out, "1.2.3.4\n");
+        }
+    }
+}
