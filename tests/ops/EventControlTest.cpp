@@ -1,13 +1,13 @@
 // Event control: slot bytes, single and bulk transfer, the entry boxes, the enable
 // maps and the verification lines.
-#include "ScriptedModule.h"
-#include "SimModuleSession.h"
+#include "support/ScriptedModule.h"
+#include "support/SimSession.h"
 #include "ops/EventControl.h"
 
 #include <gtest/gtest.h>
 
 using namespace kestrel;
-using namespace kestrel::test::ops;
+using namespace kestrel::test;
 
 TEST(EventSlotByte, HighNibbleIsTheSlotAndFifteenMeansNone)
 {
@@ -100,23 +100,12 @@ TEST_F(EventScripted, EnableMapsAreTheInverseOfTheBoxes)
     EXPECT_EQ(m.dialogs.texts(), (std::vector<std::string>{"No valid response size", "No valid response type"}));
 }
 
-TEST_F(EventScripted, WriteAllPacesEachWriteWhenNoReplyPacesIt)
-{
-    s.link.settings.CheckKestrelBD = false;
-    EXPECT_TRUE(WriteAllEvents(s));
-    ASSERT_EQ(m.requests.size(), 64u);
-    EXPECT_EQ(m.requests[0][0], 100);
-    EXPECT_EQ(m.requests[31], (Data{100, 31, 0x00, 0x10, 0x20, 0x30}));
-    EXPECT_EQ(m.requests[32][0], 101);
-    EXPECT_EQ(m.clock.slept, 64 * 100);
-}
-
 // ---- against the simulated module ----
 
 namespace {
 struct EventSim : ::testing::Test {
-    SimModuleSession sim;
-    Session& s = *sim.session;
+    SimSession sim;
+    Session& s = sim.session;
 };
 } // namespace
 

@@ -1,4 +1,4 @@
-#include "PinTestSupport.h"
+#include "support/ScriptedModule.h"
 #include "pins/LiveOutput.h"
 #include "pins/PinConfig.h"
 #include "pins/PinConfigView.h"
@@ -12,13 +12,13 @@ using namespace kestrel::test;
 TEST(ReadPinConfig, ActiveReplyPutsSecondByteIntoOutputValueFlashIntoP1)
 {
     for (int source : {0, 1}) {
-        ScriptedRig rig;
+        ScriptedModule rig;
         rig.session.link.settings.CheckKestrelBD = false; // a read switches it on
-        rig.reply({source == 0 ? 'Q' : 'q', 7, 1, 70, 11, 64});
+        rig.answer({source == 0 ? 'Q' : 'q', 7, 1, 70, 11, 64});
         ASSERT_TRUE(ReadPinConfig(rig.session, source, 7));
         EXPECT_TRUE(rig.session.link.settings.CheckKestrelBD);
         const PinRecord& pin = rig.session.config.Pins[7];
-        EXPECT_EQ(rig.frames()[0], (std::vector<int>{source == 0 ? 81 : 113, 7}));
+        EXPECT_EQ(rig.take()[0], (std::vector<int>{source == 0 ? 81 : 113, 7}));
         EXPECT_EQ(pin.ConfigMode, 1);
         // The mode changed to servo: both positions start at 64 before the bytes arrive.
         EXPECT_EQ(pin.OutputValue, source == 0 ? 70 : 64);
@@ -54,10 +54,10 @@ TEST(ReadPinConfig, ModeChangeClearsAndRepliesAreNormalised)
 
 TEST(ReadPinConfig, WrongPinOrCommandIsNoValidResponse)
 {
-    ScriptedRig rig;
-    rig.reply({'q', 8, 1, 64});
-    rig.reply({'r', 7, 1, 64});
-    rig.reply({'q', 7}); // no configuration bytes
+    ScriptedModule rig;
+    rig.answer({'q', 8, 1, 64});
+    rig.answer({'r', 7, 1, 64});
+    rig.answer({'q', 7}); // no configuration bytes
     EXPECT_FALSE(ReadPinConfig(rig.session, 1, 7));
     EXPECT_FALSE(ReadPinConfig(rig.session, 1, 7));
     EXPECT_FALSE(ReadPinConfig(rig.session, 1, 7));
@@ -66,7 +66,7 @@ TEST(ReadPinConfig, WrongPinOrCommandIsNoValidResponse)
 
 TEST(SendPinConfig, EveryModeWithItsSizeAndValue)
 {
-    ScriptedRig rig;
+    ScriptedModule rig;
     rig.session.link.settings.CheckKestrelBD = false;
     PinRecord& pin = rig.session.config.Pins[2];
     pin.ConfigMode = 1;
@@ -82,7 +82,7 @@ TEST(SendPinConfig, EveryModeWithItsSizeAndValue)
     pin.ConfigMode = 7;
     SendPinConfig(rig.session, 0, 2);
 
-    const auto f = rig.frames();
+    const auto f = rig.take();
     ASSERT_EQ(f.size(), 5u);
     EXPECT_EQ(f[0], (std::vector<int>{'a', 2, 1, 70, 0x0B, 60, 4, 5, 6, 7, 68, 9, 50, 11}));
     EXPECT_EQ(f[1], (std::vector<int>{'A', 2, 1, 80, 0x0B, 60, 4, 5, 6, 7, 68, 9, 50, 11}));
@@ -93,7 +93,7 @@ TEST(SendPinConfig, EveryModeWithItsSizeAndValue)
 
 TEST(LiveOutput, ServoAndPwmSubCommands)
 {
-    ScriptedRig rig;
+    ScriptedModule rig;
     rig.session.link.settings.CheckKestrelBD = false;
     rig.session.config.CurrentPin = 12;
     PinRecord& pin = rig.session.config.Pins[12];
@@ -107,7 +107,7 @@ TEST(LiveOutput, ServoAndPwmSubCommands)
     EXPECT_EQ(pin.OutputValue, 20);
     const std::vector<std::vector<int>> expected{
         {0, 55, 12, 54}, {0, 39, 12, 69}, {0, 39, 12, 0}, {0, 54, 12, 20}, {0, 38, 12, 31}};
-    EXPECT_EQ(rig.frames(), expected);
+    EXPECT_EQ(rig.take(), expected);
 }
 
 TEST(PinEdits, BoxesClampToTheirRangesAndStoreTheirEncoding)

@@ -1,4 +1,4 @@
-#include "PinTestSupport.h"
+#include "support/SimSession.h"
 #include "ops/PinTransfer.h"
 #include "pins/PinConfig.h"
 
@@ -52,7 +52,7 @@ public:
 
 TEST(PinTransferSim, WriteThenReadGivesThePinsBack)
 {
-    SimRig rig;
+    SimSession rig;
     fillPins(rig.session.config);
     ASSERT_TRUE(WritePin(rig.session, 4, true));
     ASSERT_TRUE(WritePin(rig.session, 5, true));
@@ -83,7 +83,7 @@ TEST(PinTransferSim, WriteThenReadGivesThePinsBack)
 
 TEST(PinTransferSim, VerifyReportsEachDifferenceOnce)
 {
-    SimRig rig;
+    SimSession rig;
     fillPins(rig.session.config);
     rig.session.config.Pins[11].ConfigMode = 2; // PWM whose module answers only five bytes
     rig.session.config.Pins[11].ConfigParams = {10, 1, 5, 0, 31, 0, 0, 0, 0, 0, 0, 0};
@@ -122,7 +122,7 @@ TEST(PinTransferSim, VerifyReportsEachDifferenceOnce)
 
 TEST(PinTransferSim, VerifyWrongAndMissingReplies)
 {
-    SimRig rig;
+    SimSession rig;
     rig.module.faults.refuse(118, sim::Refusal::WrongEcho, 2);
     rig.module.faults.refuse(113, sim::Refusal::NoReply, 3);
     EXPECT_FALSE(VerifyAllPins(rig.session));
@@ -134,7 +134,7 @@ TEST(PinTransferSim, VerifyWrongAndMissingReplies)
 
 TEST(PinTransferSim, DeviceIsItsHeadAndTheFollowingPinsThatPointAtIt)
 {
-    SimRig rig;
+    SimSession rig;
     for (int p = 3; p <= 7; ++p)
         rig.modulePin(p).aspectLayout = 3;
     rig.modulePin(5).deviceOffset = 31; // head 4
@@ -164,7 +164,7 @@ TEST(PinTransferSim, DeviceIsItsHeadAndTheFollowingPinsThatPointAtIt)
 
 TEST(PinTransferSim, AllPinsReportProgressAndStopWhenCancelled)
 {
-    SimRig rig;
+    SimSession rig;
     CancelAt progress(3);
     rig.session.link.setProgress(&progress);
     EXPECT_FALSE(ReadAllPins(rig.session));

@@ -1,4 +1,4 @@
-#include "PinTestSupport.h"
+#include "support/ScriptedModule.h"
 #include "ops/PinTransfer.h"
 
 #include <gtest/gtest.h>
@@ -12,23 +12,23 @@ using Frames = std::vector<std::vector<int>>;
 
 // Replies for a layout-2 pin whose steps are all empty except the given code bytes in
 // aspect 0, then the initial aspect entry and the three address bytes.
-void scriptPinRead(ScriptedRig& rig, int pin, std::vector<int> codes, int initEntry, std::vector<int> address)
+void scriptPinRead(ScriptedModule& rig, int pin, std::vector<int> codes, int initEntry, std::vector<int> address)
 {
-    rig.reply({114, pin, 2});
+    rig.answer({114, pin, 2});
     for (int a = 0; a < 12; ++a)
         for (int s = 0; s < 3; ++s) {
             const int code = a == 0 && s < static_cast<int>(codes.size()) ? codes[s] : 0;
-            rig.reply({115, pin, a, s, code, 1, 2, 3, 4});
+            rig.answer({115, pin, a, s, code, 1, 2, 3, 4});
         }
-    rig.reply({116, pin, initEntry, 0x0F, 0x1F, 0x2F, 0x3F});
-    rig.reply({118, pin, address[0], address[1], address[2]});
+    rig.answer({116, pin, initEntry, 0x0F, 0x1F, 0x2F, 0x3F});
+    rig.answer({118, pin, address[0], address[1], address[2]});
 }
 
 } // namespace
 
 TEST(PinRead, CodeBytesFadeAndAspectMajorOrder)
 {
-    ScriptedRig rig;
+    ScriptedModule rig;
     scriptPinRead(rig, 5, {0x13, 0x12, 0x43}, 0x73, {0x02, 0x11, 0x40});
     ASSERT_TRUE(PAspReadPin(rig.session, 5));
     const auto& pin = rig.session.config.Pins[5];
@@ -40,7 +40,7 @@ TEST(PinRead, CodeBytesFadeAndAspectMajorOrder)
     EXPECT_EQ(pin.DccCount, 2);
     EXPECT_EQ(pin.LynxCount, 1);
 
-    const Frames f = rig.frames();
+    const Frames f = rig.take();
     ASSERT_EQ(f.size(), 1u + 36 + 2); // the aspect editor's read stops before "q"
     EXPECT_EQ(f[0], (std::vector<int>{114, 5}));
     EXPECT_EQ(f[1], (std::vector<int>{115, 5, 0, 0}));
@@ -59,10 +59,10 @@ TEST(PinRead, AddressBytesInAnyOrderAndDevicePointer)
     };
     for (const Case& c : {Case{30, {0x43, 0x0B, 0x15}, -29}, Case{30, {0x15, 0x41, 0x0B}, 1},
                           Case{0, {0x0B, 0x15, 0x5F}, 31}}) {
-        ScriptedRig rig;
-        rig.reply({114, c.pin, 0});
-        rig.reply({116, c.pin, 0x7F, 0x0F, 0x1F, 0x2F, 0x3F});
-        rig.reply({118, c.pin, c.bytes[0], c.bytes[1], c.bytes[2]});
+        ScriptedModule rig;
+        rig.answer({114, c.pin, 0});
+        rig.answer({116, c.pin, 0x7F, 0x0F, 0x1F, 0x2F, 0x3F});
+        rig.answer({118, c.pin, c.bytes[0], c.bytes[1], c.bytes[2]});
         ASSERT_TRUE(PAspReadPin(rig.session, c.pin));
         const auto& pin = rig.session.config.Pins[c.pin];
         EXPECT_EQ(pin.DeviceOffset, c.offset);
@@ -75,27 +75,27 @@ TEST(PinRead, AddressBytesInAnyOrderAndDevicePointer)
 
 TEST(PinRead, LayoutOtherThanTwoOrThreeReadsNoStepsAndBadRepliesFail)
 {
-    ScriptedRig rig;
-    rig.reply({114, 3, 5});
-    rig.reply({116, 3, 0x65, 0x0F, 0x1F, 0x2F, 0x3F}); // tag 6: no initial aspect
-    rig.reply({118, 3, 0x00, 0x10, 0x30});             // 0x30 carries no tag
+    ScriptedModule rig;
+    rig.answer({114, 3, 5});
+    rig.answer({116, 3, 0x65, 0x0F, 0x1F, 0x2F, 0x3F}); // tag 6: no initial aspect
+    rig.answer({118, 3, 0x00, 0x10, 0x30});             // 0x30 carries no tag
     rig.session.config.Pins[3].InitAspect = 9;
     EXPECT_FALSE(PAspReadPin(rig.session, 3));
     EXPECT_EQ(rig.session.config.Pins[3].InitAspect, 0);
     EXPECT_EQ(rig.dialogs.texts(), (std::vector<std::string>{"Read Pin Address Configuration: Invalid Response"}));
-    const Frames f = rig.frames();
+    const Frames f = rig.take();
     ASSERT_EQ(f.size(), 3u);
     EXPECT_EQ(f[1][0], 116);
 
-    ScriptedRig echo;
-    echo.reply({114, 4, 3}); // answered for pin 4, asked for pin 3
+    ScriptedModule echo;
+    echo.answer({114, 4, 3}); // answered for pin 4, asked for pin 3
     EXPECT_FALSE(ReadPin(echo.session, 3));
     EXPECT_EQ(echo.dialogs.texts(), (std::vector<std::string>{"No valid response"}));
 }
 
 TEST(PinWrite, ExactRequestsAndPacingWhenOneWay)
 {
-    ScriptedRig rig;
+    ScriptedModule rig;
     rig.session.link.settings.CheckKestrelBD = false;
     PinRecord& pin = rig.session.config.Pins[30];
     pin.AspectLayout = 3;
@@ -108,7 +108,7 @@ TEST(PinWrite, ExactRequestsAndPacingWhenOneWay)
     pin.Aspects[3].Steps[8] = {9, 1, 2, 10, 0, 0};
     ASSERT_TRUE(WritePin(rig.session, 30));
 
-    const Frames f = rig.frames();
+    const Frames f = rig.take();
     ASSERT_EQ(f.size(), 3u + 36);
     EXPECT_EQ(f[0], (std::vector<int>{98, 30, 3}));
     EXPECT_EQ(f[1], (std::vector<int>{100, 30, 127})); // no initial aspect: 112 + 15
@@ -120,7 +120,7 @@ TEST(PinWrite, ExactRequestsAndPacingWhenOneWay)
     pin.AspectLayout = 1; // neither 2 nor 3: no steps
     pin.InitAspect = 12;
     ASSERT_TRUE(WritePin(rig.session, 30, true));
-    const Frames g = rig.frames();
+    const Frames g = rig.take();
     ASSERT_EQ(g.size(), 4u);
     EXPECT_EQ(g[1], (std::vector<int>{100, 30, 123}));
     EXPECT_EQ(g[3], (std::vector<int>{97, 30, 0})); // pin configuration to flash, mode 0

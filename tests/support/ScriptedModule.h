@@ -4,15 +4,15 @@
 // reply gets the next scripted reply, or silence; with nothing scripted it is
 // acknowledged with its first two bytes, as a module acknowledges a write.
 #include "ops/Session.h"
-#include "support/FakeClock.h"
-#include "support/RecordingDialogs.h"
-#include "support/ScriptedPort.h"
+#include "FakeClock.h"
+#include "RecordingDialogs.h"
+#include "ScriptedPort.h"
 
 #include <deque>
 #include <optional>
 #include <vector>
 
-namespace kestrel::test::ops {
+namespace kestrel::test {
 
 using Data = std::vector<int>;
 
@@ -33,6 +33,14 @@ struct ScriptedModule {
 
     void answer(Data data) { replies.push_back(std::move(data)); }
     void silence() { replies.push_back(std::nullopt); }
+    // The requests so far, forgotten as they are handed out.
+    std::vector<Data> take()
+    {
+        auto out = std::move(requests);
+        requests.clear();
+        waited.clear();
+        return out;
+    }
 
     // A reply frame built by hand: address byte, header 128 + 96 + N, data + 128, and a
     // check byte that makes address + low 7 bits of every later byte a multiple of 128.
@@ -102,4 +110,4 @@ private:
     Data current;
 };
 
-} // namespace kestrel::test::ops
+} // namespace kestrel::test
