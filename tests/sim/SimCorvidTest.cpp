@@ -72,10 +72,6 @@ TEST(SimCorvid, SystemVersionAndInterfaceUnit)
     rig.corvid.setUnit(CorvidUnit::Linkbox, 1030);
     EXPECT_EQ(rig.exchange({1, 10}), (Bytes{1, 10, 10, 8, 24}));
     EXPECT_THROW(rig.corvid.setUnit(CorvidUnit::HubA, 1019), std::invalid_argument); // units digit 9 > 7
-}
-
-TEST(SimCorvid, VersionEncodingRejectsDigitsThatDoNotFit)
-{
     EXPECT_EQ(decodeCorvidVersion(0x30, 0x25), 6045);
     EXPECT_EQ(encodeCorvidVersion(1027), (std::pair<std::uint8_t, std::uint8_t>{8, 23}));
     EXPECT_THROW(encodeCorvidVersion(6800), std::invalid_argument);
@@ -93,6 +89,12 @@ TEST(SimCorvid, TunnelledRequestIsAnsweredOnALaterPoll)
     EXPECT_EQ(frame[0], 64 + 1);
     EXPECT_EQ(answerData(frame), (Bytes{0, 96, 102, 112, 0, 1, 2, 3, 4}));
     EXPECT_TRUE(rig.exchange({}).empty());
+
+    rig.corvid.setReplyDelayPolls(3); // the reply comes with the third poll
+    rig.exchange({0, 96, 96, 112, 0});
+    EXPECT_TRUE(rig.exchange({}).empty());
+    EXPECT_TRUE(rig.exchange({}).empty());
+    EXPECT_EQ(rig.exchange({}).size(), 9u);
 }
 
 TEST(SimCorvid, TunnelReachesHighAddressesAndExtendedAddresses)
@@ -114,17 +116,6 @@ TEST(SimCorvid, TunnelledWritesChangeTheModuleAndAreAcknowledged)
     rig.exchange({0, 99, 96, 96, 10, 'Y', 'a', 'r', 'd'});
     EXPECT_EQ(m.memory().idString, "Yard");
     EXPECT_EQ(rig.exchange({}), (Bytes{0, 99, 98, 96, 10}));
-}
-
-TEST(SimCorvid, ReplyDelayInPolls)
-{
-    Rig rig;
-    rig.bus.addModule(0);
-    rig.corvid.setReplyDelayPolls(3);
-    rig.exchange({0, 96, 96, 112, 0});
-    EXPECT_TRUE(rig.exchange({}).empty());
-    EXPECT_TRUE(rig.exchange({}).empty());
-    EXPECT_EQ(rig.exchange({}).size(), 9u);
 }
 
 TEST(SimCorvid, TransparentModePassesBytesThrough)
