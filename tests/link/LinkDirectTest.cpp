@@ -219,14 +219,3 @@ TEST_F(DirectRoute, PortLostMidExchangeReportsOnceAndFails)
     EXPECT_FALSE(port.isOpen());
     EXPECT_EQ(link.state.LinkToggle, 128);
 }
-
-TEST(FrameChecksumTest, RunningSumRule)
-{
-    FrameChecksum s(67);
-    for (int b : {226, 240, 128})
-        s.add(b);
-    EXPECT_EQ(s.value(), 235);
-    FrameChecksum z(3);
-    z.add(192);
-    EXPECT_EQ(z.value(), 189);
-}
