@@ -2,9 +2,7 @@
 #include "files/FilesTestSupport.h"
 #include "files/TextFile.h"
 #include "ops/Session.h"
-#include "support/FakeClock.h"
-#include "support/RecordingDialogs.h"
-#include "support/ScriptedPort.h"
+#include "support/ScriptedModule.h"
 
 #include <gtest/gtest.h>
 
@@ -439,20 +437,9 @@ TEST(DataFileSaving, DccNumbersKeepTheirPointUnderACommaDecimalLocale) {
     EXPECT_EQ(l.general.TextGenDCCAddress, "12.5");
 }
 
-namespace {
-
-struct SessionRig {
-    FakeClock clock;
-    ScriptedPort port{clock};
-    RecordingDialogs dialogs;
-    Session session{port, clock, dialogs};
-};
-
-} // namespace
-
 TEST(DataFileCommands, SaveAndLoadThroughTheFileDialog) {
     ScratchDir dir("commands");
-    SessionRig rig;
+    ScriptedModule rig;
     rig.session.config = sampleConfig();
     rig.session.general = sampleGeneral();
 
@@ -471,7 +458,7 @@ TEST(DataFileCommands, SaveAndLoadThroughTheFileDialog) {
     CommandSave_MouseDown(rig.session, 1, 0);
     EXPECT_TRUE(rig.dialogs.messages.empty());
 
-    SessionRig other;
+    ScriptedModule other;
     int refreshed = 0;
     other.session.onConfigurationChanged = [&] { ++refreshed; };
     other.dialogs.fileNames = {dir.file("compact.dat"), dir.file("missing.dat"), ""};

@@ -9,17 +9,10 @@ TEST(DemoConfiguration, HoldsSignalsATurnoutAndEvents) {
     Configuration c;
     GeneralSettings g;
     fillDemoConfiguration(c, g);
-    EXPECT_EQ(g.TextGenIDString, "Demo layout");
-    EXPECT_EQ(c.Pins[0].DeviceDescription, "Home signal A1");
     EXPECT_EQ(c.Pins[2].DeviceOffset, -2);
-    EXPECT_EQ(c.Pins[0].AspectLayout, 2);
-    EXPECT_EQ(c.Pins[0].Aspects[2].Description, "Clear");
     EXPECT_EQ(c.Pins[8].ConfigMode, 1);
-    EXPECT_EQ(c.Pins[8].DeviceDescription, "Turnout W1");
-    EXPECT_EQ(c.Pins[10].ConfigMode, 1);
-    EXPECT_EQ(c.EventMap[12].OnEvent[0], 1);
     EXPECT_EQ(c.EventMap[12].OnEvent[1], -1);
-    EXPECT_GT(c.DccTotal, 0);
+    EXPECT_GT(c.DccTotal, 0); // the address index is built
 
     // It is a compact data file as this program writes it.
     EXPECT_EQ(writeConfigurationText(c, g, SaveForm::Compact), demoConfigurationText());
