@@ -33,20 +33,10 @@ enum class Fault {
 
 inline const char* faultName(Fault f)
 {
-    switch (f) {
-    case Fault::None: return "None";
-    case Fault::NoReply: return "NoReply";
-    case Fault::CorruptNoGoodCopy: return "CorruptNoGoodCopy";
-    case Fault::CorruptThenGood: return "CorruptThenGood";
-    case Fault::Garbage: return "Garbage";
-    case Fault::WrongEcho: return "WrongEcho";
-    case Fault::WrongLength: return "WrongLength";
-    case Fault::OtherAddress: return "OtherAddress";
-    case Fault::CorvidSilent: return "CorvidSilent";
-    case Fault::PortGoneWaiting: return "PortGoneWaiting";
-    case Fault::PortGoneWriting: return "PortGoneWriting";
-    }
-    return "?";
+    static const char* const names[] = {"None",         "NoReply",    "CorruptNoGoodCopy", "CorruptThenGood",
+                                        "Garbage",      "WrongEcho",  "WrongLength",       "OtherAddress",
+                                        "CorvidSilent", "PortGoneWaiting", "PortGoneWriting"};
+    return names[static_cast<int>(f)];
 }
 
 // The bus address that a reply claims under Fault::OtherAddress.
