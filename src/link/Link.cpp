@@ -83,7 +83,22 @@ bool Link::writeByte(int value)
     if (!serial.writeByte(static_cast<std::uint8_t>(value)))
         return portLost();
     ++stats.bytesOut;
+    ++unsentOnWire;
     return true;
+}
+
+bool Link::flushFrame()
+{
+    if (!serial.flush())
+        return portLost();
+    return true;
+}
+
+int Link::takeUnsent()
+{
+    const int n = unsentOnWire;
+    unsentOnWire = 0;
+    return n;
 }
 
 void Link::noteExchange()
@@ -163,7 +178,7 @@ bool Link::SendKestrelMessage(bool expectReply, int size, const std::array<int, 
             return false;
         sum.add(d);
     }
-    if (!writeByte(sum.value()))
+    if (!writeByte(sum.value()) || !flushFrame())
         return false;
 
     if (settings.CheckKestrelBD) {
@@ -202,7 +217,18 @@ bool Link::receiveDirect()
     const double start = time.secondsSinceMidnight();
     int p = 0, r = 0, s = 0;
     auto& buf = state.ReplyBuffer;
+    struct HintReset {
+        SerialPort& port;
+        ~HintReset() { port.expectBytes(0); }
+    } hintReset{serial};
+    // Before the reply can start, the request itself has to leave on the wire.
+    int outgoing = takeUnsent();
     for (;;) {
+        // What the wire still has to carry before the frame can be complete: the request,
+        // then at least address, header and checksum; once the header is in, the data, the
+        // eXtended address byte and the checksum it announced.
+        serial.expectBytes(p == 0 ? outgoing + 3 : p == 1 ? 2 : r + 1 + (p == 50 ? 1 : 0));
+        outgoing = 0;
         if (serial.bytesWaiting() <= 0) {
             const double left = remaining(start);
             if (left <= 0)
@@ -361,7 +387,7 @@ bool Link::CorvidExchange(int length, const std::array<int, 19>& data)
         log += hexUpper(data[i]);
     }
     const int check = sum.value();
-    if (!writeByte(check))
+    if (!writeByte(check) || !flushFrame())
         return false;
     log += hexUpper(check & 127);
     appendCorvidLog(log);
@@ -385,7 +411,14 @@ std::string Link::CorvidReceive()
     int length = 0;
     bool flagA = false, flagB = false;
     const double start = time.secondsSinceMidnight();
+    struct HintReset {
+        SerialPort& port;
+        ~HintReset() { port.expectBytes(0); }
+    } hintReset{serial};
+    int outgoing = takeUnsent();
     for (;;) {
+        serial.expectBytes(position == 0 ? outgoing + 2 : length + 2 - position);
+        outgoing = 0;
         if (serial.bytesWaiting() <= 0) {
             const double left = remaining(start);
             if (left <= 0)
@@ -487,6 +520,7 @@ void Link::SendLynxMessage(int first, int d1, int d2, int d3)
         sum.add(128 + d);
     }
     writeByte(sum.value());
+    flushFrame();
     noteExchange();
 }
 

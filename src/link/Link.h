@@ -89,6 +89,8 @@ public:
 
 private:
     bool writeByte(int value);
+    bool flushFrame();
+    int takeUnsent(); // bytes written since the last reply wait began
     bool receiveDirect();
     bool sendTunnelled(bool expectReply, int size, const std::array<int, 15>& bytes);
     bool wakeUp();
@@ -103,6 +105,7 @@ private:
     UserDialogs& ui;
     Progress* progress = nullptr;
     bool lostReported = false;
+    int unsentOnWire = 0;
     bool tunnelStale = false; // a tunnelled exchange was cut short; poll before the next
 };
 

@@ -35,6 +35,14 @@ public:
     // a byte is waiting. Never spins the CPU.
     virtual bool waitForBytes(int timeoutMs) = 0;
 
+    // Hands the bytes written so far to the wire (a port may gather a frame's bytes and
+    // write them at once); false when the port is gone.
+    virtual bool flush() { return true; }
+    // A hint before a wait: the frame being received needs `count` more bytes. A port may
+    // then sleep for most of the time the wire needs to carry them instead of waking up
+    // for every byte.
+    virtual void expectBytes(int count) { (void)count; }
+
     virtual std::string errorString() const = 0;
 };
 

@@ -23,6 +23,8 @@ public:
     int bytesWaiting() override { return active().bytesWaiting(); }
     int readByte() override { return active().readByte(); }
     bool waitForBytes(int timeoutMs) override { return active().waitForBytes(timeoutMs); }
+    bool flush() override { return active().flush(); }
+    void expectBytes(int count) override { active().expectBytes(count); }
     std::string errorString() const override { return active().errorString(); }
 
     bool simulatedChosen() const;

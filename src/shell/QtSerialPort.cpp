@@ -1,6 +1,13 @@
 #include "shell/QtSerialPort.h"
 
 #include <QSerialPortInfo>
+
+#include <algorithm>
+#ifdef __linux__
+#include <sys/prctl.h>
+#endif
+#include <chrono>
+#include <thread>
 #include <QStringList>
 
 #ifndef _WIN32
@@ -9,7 +16,14 @@
 
 namespace kestrel {
 
-QtSerialPort::QtSerialPort() = default;
+QtSerialPort::QtSerialPort()
+{
+#ifdef __linux__
+    // The waits sleep for a wire time of a few hundred microseconds; the default timer slack
+    // of 50 us would add a tenth to each of them.
+    prctl(PR_SET_TIMERSLACK, 1000UL, 0, 0, 0);
+#endif
+}
 QtSerialPort::~QtSerialPort() { close(); }
 
 void QtSerialPort::select(const std::string& n)
@@ -38,13 +52,11 @@ bool QtSerialPort::open()
         return false;
     }
     port.setPortName(portPath(name));
-    const QStringList parts = QString::fromStdString(settingsText).split(',');
-    const int baud = parts.value(0).toInt();
     if (!port.open(QIODevice::ReadWrite)) {
         error = port.errorString().toStdString();
         return false;
     }
-    if (!port.setBaudRate(baud > 0 ? baud : 19200) || !port.setParity(QSerialPort::OddParity) ||
+    if (!port.setBaudRate(baud) || !port.setParity(QSerialPort::OddParity) ||
         !port.setDataBits(QSerialPort::Data8) || !port.setStopBits(QSerialPort::OneStop) ||
         !port.setFlowControl(QSerialPort::NoFlowControl)) {
         error = "cannot set " + settingsText + ": " + port.errorString().toStdString();
@@ -72,8 +84,10 @@ static bool hungUp(QSerialPort& port)
 
 void QtSerialPort::close()
 {
-    if (port.isOpen())
+    if (port.isOpen()) {
+        flushWrites(); // what was written still goes out (an erase frame is the last thing sent)
         port.close();
+    }
 }
 
 bool QtSerialPort::isOpen() const
@@ -84,8 +98,10 @@ bool QtSerialPort::isOpen() const
 void QtSerialPort::setSettings(const std::string& s)
 {
     settingsText = s;
+    const int rate = QString::fromStdString(s).split(',').value(0).toInt();
+    baud = rate > 0 ? rate : 19200;
     if (port.isOpen())
-        port.setBaudRate(QString::fromStdString(s).split(',').value(0).toInt());
+        port.setBaudRate(baud);
 }
 
 bool QtSerialPort::failed()
@@ -102,12 +118,18 @@ bool QtSerialPort::writeByte(std::uint8_t b)
 {
     if (!port.isOpen() || failed())
         return false;
-    if (!port.putChar(static_cast<char>(b)))
-    {
+    if (!port.putChar(static_cast<char>(b))) {
         failed();
         return false;
     }
-    // Hand the byte to the system at once; the wire paces it, not us.
+    // The frame's bytes are gathered and handed to the system together by flush().
+    return true;
+}
+
+bool QtSerialPort::flush()
+{
+    if (!port.isOpen())
+        return false;
     port.flush();
     return !failed();
 }
@@ -123,8 +145,10 @@ int QtSerialPort::bytesWaiting()
     if (!port.isOpen())
         return 0;
     flushWrites();
-    if (port.bytesAvailable() == 0)
-        port.waitForReadyRead(0); // take in what the system holds, without blocking
+    // Take in what the system holds, without blocking; when a frame needs several more
+    // bytes the coming wait does that after letting them arrive.
+    if (port.bytesAvailable() == 0 && expected <= 1)
+        port.waitForReadyRead(0);
     return static_cast<int>(port.bytesAvailable());
 }
 
@@ -143,6 +167,17 @@ bool QtSerialPort::waitForBytes(int timeoutMs)
     flushWrites();
     if (port.bytesAvailable() > 0)
         return true;
+    // When the frame still needs several bytes, sleep while the wire carries all but the
+    // last of them, then wait for that one: a few wake-ups a reply instead of one a byte.
+    const int missing = expected;
+    expected = 0;
+    if (missing > 1 && baud > 0) {
+        const long us = std::min<long>(1000L * timeoutMs, (missing - 1) * 11L * 1000000L / baud);
+        std::this_thread::sleep_for(std::chrono::microseconds(us));
+        timeoutMs -= static_cast<int>(us / 1000);
+        if (port.waitForReadyRead(0) || port.bytesAvailable() > 0)
+            return true;
+    }
     // Blocks in the system's wait until a byte arrives or the time is up.
     const bool ready = port.waitForReadyRead(timeoutMs);
     if (!ready && failed()) {

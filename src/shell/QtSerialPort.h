@@ -22,6 +22,8 @@ public:
     int bytesWaiting() override;
     int readByte() override;
     bool waitForBytes(int timeoutMs) override;
+    bool flush() override;
+    void expectBytes(int count) override { expected = count; }
     std::string errorString() const override { return error; }
 
     // The ports the system reports, by name (e.g. "/dev/ttyUSB0" or "COM3").
@@ -34,6 +36,8 @@ private:
     std::string name;
     std::string settingsText = "19200,o,8,1";
     std::string error;
+    int expected = 0; // bytes the frame being received still needs (a hint)
+    int baud = 19200;
 };
 
 } // namespace kestrel

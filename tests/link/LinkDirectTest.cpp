@@ -219,3 +219,17 @@ TEST_F(DirectRoute, PortLostMidExchangeReportsOnceAndFails)
     EXPECT_FALSE(port.isOpen());
     EXPECT_EQ(link.state.LinkToggle, 128);
 }
+
+TEST_F(DirectRoute, EveryFrameIsHandedToTheWireWhenComplete)
+{
+    // A port may gather a frame's bytes; the link flushes after each frame's checksum, so
+    // nothing written ever waits in a buffer (an erase frame is the last thing a run sends).
+    link.settings.CheckKestrelBD = false;
+    link.SendKestrelMessage(false, 2, {112, 0}); // burst + empty frame + frame: one flush at the end
+    EXPECT_EQ(port.flushedAt, std::vector<std::size_t>{9 + 3 + 5});
+    link.SendLynxMessage(20, 1, 2, 3);
+    EXPECT_EQ(port.flushedAt.back(), port.written.size());
+    link.CorvidExchange(2, {1, 2}); // nothing answers: still flushed before the wait
+    EXPECT_EQ(port.flushedAt.back(), port.written.size());
+    EXPECT_EQ(port.hint, 0); // no hint is left behind after a wait
+}

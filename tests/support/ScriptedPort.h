@@ -84,6 +84,15 @@ public:
         return false;
     }
     std::string errorString() const override { return writesFail ? "device removed" : ""; }
+    // Where in `written` each flush happened, and the last reply-length hint.
+    std::vector<std::size_t> flushedAt;
+    int hint = 0;
+    bool flush() override
+    {
+        flushedAt.push_back(written.size());
+        return opened && !writesFail;
+    }
+    void expectBytes(int count) override { hint = count; }
 
 private:
     FakeClock& clock;
