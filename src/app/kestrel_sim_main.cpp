@@ -131,22 +131,22 @@ Options parseOptions(int argc, char** argv)
             o.faults.garbage.assign(static_cast<std::size_t>(n), 0xAA);
         } else if (arg == "--refuse") {
             // CMD[,ITEM][:noreply|echo|length]
-            std::string spec = value(i);
+            std::string text = value(i);
             Refusal how = Refusal::NoReply;
-            const auto colon = spec.find(':');
+            const auto colon = text.find(':');
             if (colon != std::string::npos) {
-                const std::string kind = spec.substr(colon + 1);
+                const std::string kind = text.substr(colon + 1);
                 if (kind == "echo")
                     how = Refusal::WrongEcho;
                 else if (kind == "length")
                     how = Refusal::WrongLength;
                 else if (kind != "noreply")
                     throw std::invalid_argument("--refuse: the kind must be noreply, echo or length");
-                spec.resize(colon);
+                text.resize(colon);
             }
-            const auto comma = spec.find(',');
-            const int command = parseInt(spec.substr(0, comma), 0, 127, "--refuse command");
-            const int item = comma == std::string::npos ? -1 : parseInt(spec.substr(comma + 1), 0, 127, "--refuse item");
+            const auto comma = text.find(',');
+            const int command = parseInt(text.substr(0, comma), 0, 127, "--refuse command");
+            const int item = comma == std::string::npos ? -1 : parseInt(text.substr(comma + 1), 0, 127, "--refuse item");
             o.faults.refuse(command, how, item);
         } else if (arg == "--corvid") {
             o.corvid = true;
