@@ -39,7 +39,10 @@ bool seedModule(sim::SimBus& bus, int address, const Configuration& config, cons
     session.link.settings.CheckXaddress = module->hasXAddress();
     session.link.settings.TargetXAddress = keptXAddress;
     const bool ok = WriteAll(session, true);
-    module->memory().extendedAddress = keptXAddress;
+    // A module started with an eXtended address keeps answering to it; one without takes
+    // the file's, like any module that is written.
+    if (module->hasXAddress())
+        module->memory().extendedAddress = keptXAddress;
     if (!ok)
         error = dialogs.text.empty() ? "the module refused the configuration" : dialogs.text;
     return ok;
