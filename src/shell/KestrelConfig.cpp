@@ -2,6 +2,7 @@
 
 #include "files/ConfigurationFile.h"
 #include "link/ProgramFault.h"
+#include "model/AspectEditor.h"
 #include "ops/Bulk.h"
 #include "ops/EventControl.h"
 #include "ops/PinTransfer.h"
@@ -89,6 +90,7 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
 
     tabs = named(new QTabWidget, "SSTab1");
     tabs->addTab(buildGeneralPage(), "General");
+    tabs->addTab(buildDevicesPage(), "Devices");
     layout->addWidget(tabs, 1);
 
     LabelAction = named(new QLabel("Working ... Please WAIT"), "LabelAction");
@@ -122,6 +124,7 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     core->onConfigurationChanged = [this] {
         LabelGenVersionString->setText(latin1(core->link.VersionText));
         refreshLinkDisplays();
+        refreshDevices();
     };
 
     addJobs();
@@ -133,6 +136,10 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
 
     fillPortList();
     refreshLinkDisplays();
+
+    // The standard device definitions beside the program.
+    loadStandardDeviceList(devices, QApplication::applicationDirPath().toStdString(), core->dialogs());
+    refreshDevices();
 }
 
 void KestrelConfig::addJobs()
@@ -382,6 +389,85 @@ QWidget* KestrelConfig::buildGeneralPage()
     return page;
 }
 
+QWidget* KestrelConfig::buildDevicesPage()
+{
+    auto* page = named(new QWidget, "PageDevices");
+    auto* grid = new QGridLayout(page);
+    TextPAspOutput = named(new QLineEdit("0"), "TextPAspOutput");
+    TextPAspOutput->setMaximumWidth(50);
+    TextDevicePin = named(new QLineEdit, "TextDevicePin");
+    TextDevicePin->setReadOnly(true);
+    TextDevicePin->setMaximumWidth(50);
+    TextDeviceDescription = named(new QLineEdit, "TextDeviceDescription");
+    TextDeviceDescription->setReadOnly(true);
+    cboDevice = named(new QComboBox, "cboDevice");
+    cboDevice->setMinimumWidth(220);
+    lblDDVersion = named(new QLabel, "lblDDVersion");
+    CommandReloadDD = named(new QPushButton("Reload DD"), "CommandReloadDD");
+    CommandReloadDD->setToolTip("Shift+Reload DD to append a definitions file");
+    CommandReloadDD->installEventFilter(this);
+    CommandPAspPreLoad = named(new QPushButton("Load Device"), "CommandPAspPreLoad");
+    CommandSaveDevice = named(new QPushButton("Save Device"), "CommandSaveDevice");
+
+    grid->addWidget(new QLabel("Pin"), 0, 0);
+    grid->addWidget(TextPAspOutput, 0, 1);
+    grid->addWidget(new QLabel("Device"), 0, 2);
+    grid->addWidget(TextDevicePin, 0, 3);
+    grid->addWidget(TextDeviceDescription, 0, 4, 1, 2);
+    grid->addWidget(cboDevice, 1, 0, 1, 3);
+    grid->addWidget(CommandPAspPreLoad, 1, 3);
+    grid->addWidget(CommandSaveDevice, 1, 4);
+    grid->addWidget(CommandReloadDD, 1, 5);
+    grid->addWidget(lblDDVersion, 2, 0, 1, 6);
+    grid->setColumnStretch(4, 1);
+    grid->setRowStretch(3, 1);
+
+    connect(TextPAspOutput, &QLineEdit::editingFinished, this, &KestrelConfig::TextPAspOutput_Click);
+    connect(cboDevice, &QComboBox::activated, this, [this](int index) { devices.selected = index; });
+    connect(CommandPAspPreLoad, &QPushButton::clicked, this, &KestrelConfig::CommandPAspPreLoad_Click);
+    connect(CommandSaveDevice, &QPushButton::clicked, this, &KestrelConfig::CommandSaveDevice_Click);
+    return page;
+}
+
+void KestrelConfig::refreshDevices()
+{
+    updating = true;
+    cboDevice->clear();
+    for (const auto& name : devices.cboDevice)
+        cboDevice->addItem(latin1(name));
+    cboDevice->setCurrentIndex(devices.selected);
+    lblDDVersion->setText(latin1(devices.lblDDVersion));
+    const AspectView view = ShowAspect(core->config);
+    TextPAspOutput->setText(latin1(view.pinText));
+    TextDevicePin->setText(latin1(view.devicePin));
+    TextDeviceDescription->setText(latin1(view.deviceDescription));
+    updating = false;
+}
+
+void KestrelConfig::TextPAspOutput_Click()
+{
+    if (updating)
+        return;
+    selectPin(core->config, TextPAspOutput->text().toStdString());
+    refreshDevices();
+}
+
+void KestrelConfig::CommandPAspPreLoad_Click()
+{
+    devices.selected = cboDevice->currentIndex();
+    try {
+        kestrel::CommandPAspPreLoad_Click(devices, core->config, core->dialogs());
+    } catch (const ProgramFault& fault) {
+        core->dialogs().message(std::string("Program error, the device was not loaded: ") + fault.what(), Icon::Warning);
+    }
+    refreshDevices();
+}
+
+void KestrelConfig::CommandSaveDevice_Click()
+{
+    kestrel::CommandSaveDevice_Click(core->config, core->dialogs());
+}
+
 void KestrelConfig::fillPortList()
 {
     core->linkControl.ScanPorts();
@@ -494,6 +580,14 @@ bool KestrelConfig::eventFilter(QObject* watched, QEvent* event)
     if (watched == LabelPort && event->type() == QEvent::MouseButtonDblClick) {
         LabelPort_DblClick();
         return true;
+    }
+    // Reload DD acts on the press too: with Shift the chosen file is appended to the list.
+    if (watched == CommandReloadDD && event->type() == QEvent::MouseButtonPress) {
+        auto* mouse = static_cast<QMouseEvent*>(event);
+        CommandReloadDD_MouseDown(devices, core->dialogs(), mouse->button() == Qt::LeftButton ? 1 : 2,
+                                  mouse->modifiers() & Qt::ShiftModifier ? 1 : 0);
+        refreshDevices();
+        return false;
     }
     // Save acts on the press, where the Shift key decides between the full and the compact file.
     if (watched == CommandSave && event->type() == QEvent::MouseButtonPress) {

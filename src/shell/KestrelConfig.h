@@ -1,4 +1,5 @@
 #pragma once
+#include "files/DeviceDefinitions.h"
 #include "link/CorvidControl.h"
 #include "ops/JobDispatcher.h"
 #include "ops/Session.h"
@@ -73,6 +74,17 @@ public:
     QPushButton* CommandGenVersion;
     QLabel* LabelGenVersionString;
 
+    // Devices page
+    QLineEdit* TextPAspOutput;
+    QLineEdit* TextDevicePin;
+    QLineEdit* TextDeviceDescription;
+    QComboBox* cboDevice;
+    QLabel* lblDDVersion;
+    QPushButton* CommandReloadDD;
+    QPushButton* CommandPAspPreLoad;
+    QPushButton* CommandSaveDevice;
+    DeviceList devices;
+
     // The verification report window
     QDialog* frmKestrelVerification = nullptr;
     QPlainTextEdit* txtVerification = nullptr;
@@ -96,6 +108,9 @@ public slots:
     void CheckKLnumber_Click();
     void cmdSetTM_Click();
     void CommandLoad_Click();
+    void TextPAspOutput_Click();
+    void CommandPAspPreLoad_Click();
+    void CommandSaveDevice_Click();
     void CommandReadAll_Click();
     void CommandWriteAll_Click();
     void CommandVerifyAll_Click();
@@ -107,6 +122,8 @@ protected:
 private:
     void buildLinkArea(QWidget* host);
     QWidget* buildGeneralPage();
+    QWidget* buildDevicesPage();
+    void refreshDevices();
     void refreshLinkDisplays();
     void fillPortList();
     void addJobs();

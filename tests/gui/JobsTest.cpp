@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
@@ -59,4 +60,30 @@ TEST(MainWindowJobs, WithoutAPortTheJobFailsWithOneMessage)
     ASSERT_TRUE(waitIdle(window));
     ASSERT_EQ(dialogs.messages.size(), 1u);
     EXPECT_EQ(dialogs.messages[0].text, "Select communications port");
+}
+
+TEST(MainWindowDevices, StandardDevicesAreListedAndLoadOntoTheChosenPin)
+{
+    test::RecordingDialogs dialogs;
+    KestrelConfig window(nullptr, &dialogs);
+    window.show();
+    EXPECT_TRUE(dialogs.messages.empty()); // KestrelDevices.def lies beside the program
+    ASSERT_GE(window.cboDevice->count(), 5);
+    EXPECT_EQ(window.lblDDVersion->text(), "Kestrel standard devices 2026-11-21");
+
+    // A three-pin signal placed on pin 31 wraps round to pins 0 and 1.
+    window.TextPAspOutput->setText("31");
+    window.TextPAspOutput_Click();
+    window.cboDevice->setCurrentIndex(window.cboDevice->findText("Colour light signal, 3 aspects"));
+    QTest::mouseClick(window.CommandPAspPreLoad, Qt::LeftButton);
+    const auto& pins = window.session().config.Pins;
+    EXPECT_EQ(pins[31].DeviceOffset, 0);
+    EXPECT_EQ(pins[0].DeviceOffset, 31);
+    EXPECT_EQ(pins[1].DeviceOffset, 30);
+    EXPECT_EQ(pins[31].DeviceDescription, "Colour light signal, 3 aspects");
+    EXPECT_EQ(window.TextDeviceDescription->text(), "Colour light signal, 3 aspects");
+
+    window.TextPAspOutput->setText("1");
+    window.TextPAspOutput_Click();
+    EXPECT_EQ(window.TextDevicePin->text(), "31");
 }
