@@ -145,13 +145,14 @@ bool WriteDCCSettings(Session& session)
 {
     const auto& g = session.general;
     auto& link = session.link;
-    if (!link.SendKestrelMessage(false, 3, {kGeneralWrite, kItemDccOptions, dccOptionsByte(g)}))
-        return false;
+    // All three are sent whatever the one before did (unlike the serial addressing
+    // writes); the result is True only when the transport took every one of them.
+    bool ok = link.SendKestrelMessage(false, 3, {kGeneralWrite, kItemDccOptions, dccOptionsByte(g)});
     const auto dcc = dccAddressBytes(g.TextGenDCCAddress);
-    if (!link.SendKestrelMessage(false, 4, {kGeneralWrite, kItemDccAddress, dcc[0], dcc[1]}))
-        return false;
+    ok = link.SendKestrelMessage(false, 4, {kGeneralWrite, kItemDccAddress, dcc[0], dcc[1]}) && ok;
     const auto xdcc = dccAddressBytes(g.TextGenXDCCAddress);
-    return link.SendKestrelMessage(false, 4, {kGeneralWrite, kItemXDccAddress, xdcc[0], xdcc[1]});
+    ok = link.SendKestrelMessage(false, 4, {kGeneralWrite, kItemXDccAddress, xdcc[0], xdcc[1]}) && ok;
+    return ok;
 }
 
 // ---- Serial addressing ----
@@ -357,9 +358,12 @@ bool ReadLEDControl(Session& session)
 bool WriteLEDControl(Session& session)
 {
     auto& link = session.link;
-    if (!link.SendKestrelMessage(false, 3, {kGeneralWrite, kItemGreenLed, ledByte(session.general.CheckLCGreen)}))
-        return false;
-    return link.SendKestrelMessage(false, 3, {kGeneralWrite, kItemOrangeLed, ledByte(session.general.CheckLCOrange)});
+    // Orange is sent also when green was not taken; True only when both were.
+    const bool green =
+        link.SendKestrelMessage(false, 3, {kGeneralWrite, kItemGreenLed, ledByte(session.general.CheckLCGreen)});
+    const bool orange =
+        link.SendKestrelMessage(false, 3, {kGeneralWrite, kItemOrangeLed, ledByte(session.general.CheckLCOrange)});
+    return green && orange;
 }
 
 // ---- The module's serial port ----

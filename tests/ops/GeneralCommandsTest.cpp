@@ -272,6 +272,61 @@ TEST_F(GeneralCommands, LedByteZeroMeansElementSevenAndBitSevenIsIgnored)
     EXPECT_EQ(m.requests, (std::vector<Data>{{96, 6, 0}, {96, 7, 2 + 64}}));
 }
 
+// ---- Writers of more than one frame ----
+
+namespace {
+// Lets the link refuse exactly the first call of a job (as a job cancelled and then
+// resumed would), so what the writer does after a failed frame can be seen.
+struct RefuseFirstCall : Progress {
+    void step(int, int, const std::string&) override {}
+    bool cancelled() override { return calls++ == 0; }
+    int calls = 0;
+};
+
+struct MultiFrameWriter {
+    const char* name;
+    bool (*write)(Session&);
+    bool stopsAtFailure;
+    std::vector<Data> afterFailedFirst; // frames sent when the first one was not taken
+};
+} // namespace
+
+TEST_F(GeneralCommands, MultiFrameWritersSendEveryFrameUnlessTheyChainOnSuccess)
+{
+    g.OptGenDCC_PRP = 1;
+    g.TextGenDCCAddress = "202";   // low 10, high 3
+    g.TextGenXDCCAddress = "69";   // low 5, high 1
+    g.CheckLCGreen = {0, 0, 0, 1, 0, 0, 0, 0};
+    g.CheckLCOrange = {1, 0, 0, 0, 0, 0, 0, 0};
+    g.ExtendedAddress = 33;
+    // DCC options, DCC address and eXtended DCC address are sent one after the other,
+    // as are green and orange; only the serial addressing writes go on after success.
+    const MultiFrameWriter writers[] = {
+        {"WriteDCCSettings", WriteDCCSettings, false, {{96, 4, 10, 3}, {96, 12, 5, 1}}},
+        {"WriteLEDControl", WriteLEDControl, false, {{96, 7, 1}}},
+        {"WriteSerialAddressing", WriteSerialAddressing, true, {}},
+    };
+    for (const auto& w : writers) {
+        SCOPED_TRACE(w.name);
+        m.take();
+        m.dialogs.clear();
+        RefuseFirstCall refuse;
+        s.link.setProgress(&refuse);
+        EXPECT_FALSE(w.write(s));
+        s.link.setProgress(nullptr);
+        EXPECT_EQ(m.take(), w.afterFailedFirst);
+        EXPECT_TRUE(messages().empty());
+
+        // With the port closed each frame that is tried says so.
+        m.port.opened = false;
+        EXPECT_FALSE(w.write(s));
+        m.port.opened = true;
+        const std::size_t frames = w.stopsAtFailure ? 1 : w.afterFailedFirst.size() + 1;
+        EXPECT_EQ(messages(), std::vector<std::string>(frames, "Select communications port"));
+        EXPECT_TRUE(m.take().empty());
+    }
+}
+
 // ---- The module's serial port ----
 
 TEST_F(GeneralCommands, SerialPortLineByteAndParityCodes)
