@@ -281,6 +281,18 @@ bool verifyPin(Session& session, int pin, bool& stopped)
         return false;
     };
 
+    // The pin configuration comes first, then what ReadPin reads, in its order.
+    link.SendKestrelMessage(true, 2, {kReadFlashConfig, pin});
+    if (!link.state.ReplyValid)
+        return stop();
+    const int lengthField = replyLength(link);
+    if (lengthField < 3 || r[2] != kReadFlashConfig || r[3] != pin)
+        return stop();
+    PinRecord flash; // a cleared record, filled as ReadPinConfig(1, pin) would fill it
+    storePinConfigReply(flash, 1, std::vector<int>(r.begin() + 4, r.begin() + 2 + lengthField), lengthField);
+    if (pinConfigBytes(flash, 1) != pinConfigBytes(rec, 1))
+        mismatch(": Pinconfig does not compare");
+
     link.SendKestrelMessage(true, 2, {kReadLayout, pin});
     if (!link.state.ReplyValid || !replyIs(link, 3, kReadLayout, pin))
         return stop();
@@ -340,16 +352,6 @@ bool verifyPin(Session& session, int pin, bool& stopped)
             mismatch(": Device Pointer does not compare");
     }
 
-    link.SendKestrelMessage(true, 2, {kReadFlashConfig, pin});
-    if (!link.state.ReplyValid)
-        return stop();
-    const int lengthField = replyLength(link);
-    if (lengthField < 3 || r[2] != kReadFlashConfig || r[3] != pin)
-        return stop();
-    PinRecord flash; // a cleared record, filled as ReadPinConfig(1, pin) would fill it
-    storePinConfigReply(flash, 1, std::vector<int>(r.begin() + 4, r.begin() + 2 + lengthField), lengthField);
-    if (pinConfigBytes(flash, 1) != pinConfigBytes(rec, 1))
-        mismatch(": Pinconfig does not compare");
     return same;
 }
 

@@ -39,9 +39,9 @@ bool WriteDevice(Session& session);
 
 // Compares every pin of the module with the model and writes the report lines to
 // session.report: "Start Pin Verification" (and "Note: Numbering starts at 1"), then per
-// pin, in this order, layout, each aspect of the layout (the five step bytes as they would
-// be written against those read), initial aspect, DCC and serial address counts, device
-// pointer, and the pin configuration in flash. The pin configuration comparison takes
+// pin, in this order, the pin configuration in flash, layout, each aspect of the layout
+// (the five step bytes as they would be written against those read), initial aspect, DCC
+// and serial address counts, and device pointer. The pin configuration comparison takes
 // the flash reply as ReadPinConfig(1, ...) would store it into a cleared record and
 // compares the bytes that SendPinConfig(1, ...) would send: mode and P1..P11 for a servo
 // (P2 without bits 6 and 7), mode and P1..P5 for PWM, mode and P1..P4 for an input, and

@@ -81,7 +81,7 @@ TEST(PinTransferSim, WriteThenReadGivesThePinsBack)
     EXPECT_TRUE(rig.dialogs.messages.empty());
 }
 
-TEST(PinTransferSim, VerifyReportsEachDifferenceOnce)
+TEST(PinTransferSim, VerifyReportsEachDifferenceOnceConfigurationFirst)
 {
     SimSession rig;
     fillPins(rig.session.config);
@@ -101,6 +101,7 @@ TEST(PinTransferSim, VerifyReportsEachDifferenceOnce)
     rig.modulePin(7).lynxCount = 1;
     rig.modulePin(8).deviceOffset = 30;
     rig.modulePin(9).aspectLayout = 2;
+    rig.modulePin(9).flashConfig = {5, 0, 0, 1, 1}; // and its pin configuration: reported first
     rig.modulePin(10).flashConfig = {4, 0, 0, 3, 3};
     rig.modulePin(4).flashConfig[2] |= 64; // servo P2 bits 6 and 7 are not part of the configuration
     rig.session.config.NumberingBase = 1;
@@ -115,6 +116,7 @@ TEST(PinTransferSim, VerifyReportsEachDifferenceOnce)
                                             "Pin 7: DCC Address Configuration does not compare",
                                             "Pin 8: Serial Address Configuration does not compare",
                                             "Pin 9: Device Pointer does not compare",
+                                            "Pin 10: Pinconfig does not compare",
                                             "Pin 10: Aspectconfig does not compare",
                                             "Pin 11: Pinconfig does not compare",
                                         }));
