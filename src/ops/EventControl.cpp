@@ -230,8 +230,10 @@ void EditEventEntry(Session& session, EventSide side, int slot)
 {
     checkIndex(slot, kEventSlots, "event slot");
     auto& text = side == EventSide::On ? session.eventControl.TextECon[slot] : session.eventControl.TextECoff[slot];
-    const long v = std::clamp<long>(valInt(text), kEventActionMin, kEventActionMax);
-    text = std::to_string(v);
+    const long typed = valInt(text);
+    const long v = std::clamp<long>(typed, kEventActionMin, kEventActionMax);
+    if (v != typed) // only a clamped number is written back; the box keeps what was typed otherwise
+        text = std::to_string(v);
     entries(session, side, shownEventPin(session))[slot] = static_cast<std::int16_t>(v);
 }
 

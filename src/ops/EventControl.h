@@ -46,7 +46,8 @@ bool ReadSingleEvents(Session& session);
 bool WriteSingleEvents(Session& session);
 // "Copy to All": the shown entries into every pin.
 void CopyEventsToAll(Session& session);
-// An entry box was edited: clamp to -1..11, write the clamped number back, store it.
+// An entry box was edited: its value clamped to -1..11 (a clamped number is written
+// back into the box) is stored for the pin shown.
 void EditEventEntry(Session& session, EventSide side, int slot);
 
 // Enable maps: bit i set = input i disabled, so each map is the inverse of its boxes.

@@ -67,6 +67,11 @@ TEST_F(EventScripted, EntryBoxesClampToMinusOneAndElevenAndCopyToAll)
     EXPECT_EQ(s.eventControl.TextECoff[2], "11");
     EXPECT_EQ(s.config.events(3).OnEvent[1], -1);
     EXPECT_EQ(s.config.events(3).OffEvent[2], 11);
+    // A number within -1..11 is taken as typed; only a clamped one is written back.
+    s.eventControl.TextECon[3] = "07";
+    EditEventEntry(s, EventSide::On, 3);
+    EXPECT_EQ(s.eventControl.TextECon[3], "07");
+    EXPECT_EQ(s.config.events(3).OnEvent[3], 7);
 
     s.eventControl.TextECon = {"1", "2", "3", "4"};
     s.eventControl.TextECoff = {"-1", "0", "-1", "7"};
