@@ -1,0 +1,599 @@
+#include "shell/GeneralPage.h"
+
+#include "link/Text.h"
+#include "model/AspectEditor.h"
+#include "ops/GeneralCommands.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFontMetrics>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSpinBox>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace kestrel {
+
+namespace {
+
+template <typename W> W* named(W* w, const QString& name)
+{
+    w->setObjectName(name);
+    return w;
+}
+
+QString indexed(const char* name, int index) { return QString("%1_%2").arg(name).arg(index); }
+
+QString latin1(const std::string& s) { return QString::fromLatin1(s.c_str()); }
+
+std::string fromLatin1(const QString& s) { return s.toLatin1().toStdString(); }
+
+int boxValue(const QCheckBox* box) { return box->isChecked() ? 1 : 0; }
+
+void showBox(QCheckBox* box, int value) { box->setChecked(value == 1); }
+
+// A hidden control keeps its place, so the frame does not jump when a mode changes.
+void keepPlaceWhenHidden(QWidget* w)
+{
+    QSizePolicy p = w->sizePolicy();
+    p.setRetainSizeWhenHidden(true);
+    w->setSizePolicy(p);
+}
+
+// Selects the button with the given id, or none when no button has it.
+void selectOption(QButtonGroup* group, int id)
+{
+    if (QAbstractButton* b = group->button(id)) {
+        b->setChecked(true);
+        return;
+    }
+    group->setExclusive(false);
+    for (QAbstractButton* b : group->buttons())
+        b->setChecked(false);
+    group->setExclusive(true);
+}
+
+// The pin legend of the hardware configuration for a numbering base, as the numbering
+// check box sets it.
+QString pinLegend(int base)
+{
+    static const std::array<QString, 2> legends = [] {
+        Configuration scratch;
+        return std::array<QString, 2>{latin1(setNumbering(scratch, false).legend),
+                                      latin1(setNumbering(scratch, true).legend)};
+    }();
+    return legends[base == 1 ? 1 : 0];
+}
+
+constexpr int kFlexAddressMaximum = 127; // the mode byte is one data byte
+constexpr int kExtendedAddressMaximum = 95;
+
+QPushButton* button(const char* caption, const char* name)
+{
+    return named(new QPushButton(caption), name);
+}
+
+QHBoxLayout* buttonRow(QPushButton* read, QPushButton* write)
+{
+    auto* row = new QHBoxLayout;
+    row->addWidget(read);
+    if (write)
+        row->addWidget(write);
+    row->addStretch();
+    return row;
+}
+
+QLineEdit* numberBox(const char* name, int width)
+{
+    auto* box = named(new QLineEdit("0"), name);
+    box->setFixedWidth(width);
+    return box;
+}
+
+} // namespace
+
+GeneralPage::GeneralPage(Session& s, QWidget* parent) : QWidget(parent), session(s)
+{
+    setObjectName("PageGeneral");
+
+    auto* columns = new QHBoxLayout(this);
+    auto* left = new QVBoxLayout;
+    left->addWidget(buildIdentity());
+    left->addWidget(buildDcc());
+    left->addWidget(buildAddressing());
+    left->addStretch();
+    auto* right = new QVBoxLayout;
+    right->addWidget(buildHardware());
+    right->addWidget(buildLeds());
+    right->addWidget(buildSerialPort());
+    right->addWidget(buildErase());
+    right->addStretch();
+    columns->addLayout(left);
+    columns->addLayout(right);
+    columns->addStretch();
+
+    connect(CommandGenVersion, &QPushButton::clicked, this, &GeneralPage::CommandGenVersion_Click);
+    connect(CommandGenIDRead, &QPushButton::clicked, this, &GeneralPage::CommandGenIDRead_Click);
+    connect(CommandGenIDWrite, &QPushButton::clicked, this, &GeneralPage::CommandGenIDWrite_Click);
+    connect(CommandGenDCCRead, &QPushButton::clicked, this, &GeneralPage::CommandGenDCCRead_Click);
+    connect(CommandGenDCCWrite, &QPushButton::clicked, this, &GeneralPage::CommandGenDCCWrite_Click);
+    connect(CommandGenAddrRead, &QPushButton::clicked, this, &GeneralPage::CommandGenAddrRead_Click);
+    connect(CommandGenAddrWrite, &QPushButton::clicked, this, &GeneralPage::CommandGenAddrWrite_Click);
+    connect(CommandGenHWCRead, &QPushButton::clicked, this, &GeneralPage::CommandGenHWCRead_Click);
+    connect(CommandGenHWCWrite, &QPushButton::clicked, this, &GeneralPage::CommandGenHWCWrite_Click);
+    connect(CommandLCRead, &QPushButton::clicked, this, &GeneralPage::CommandLCRead_Click);
+    connect(CommandLCWrite, &QPushButton::clicked, this, &GeneralPage::CommandLCWrite_Click);
+    connect(CommandGenSerialRead, &QPushButton::clicked, this, &GeneralPage::CommandGenSerialRead_Click);
+    connect(CommandGenSerialWrite, &QPushButton::clicked, this, &GeneralPage::CommandGenSerialWrite_Click);
+    connect(CommandGenEraseFlash, &QPushButton::clicked, this, &GeneralPage::CommandGenEraseFlash_Click);
+
+    connect(CheckGenLynxaddr, &QCheckBox::clicked, this, &GeneralPage::CheckGenLynxaddr_Click);
+    connect(CheckGenKestrelNative, &QCheckBox::clicked, this, &GeneralPage::CheckGenKestrelNative_Click);
+    connect(ChkGenDCCAllow0, &QCheckBox::clicked, this, &GeneralPage::ChkGenDCCAllow0_Click);
+    connect(TextGenDCCAddress, &QLineEdit::editingFinished, this, &GeneralPage::TextGenDCCAddress_Click);
+    connect(TextGenXDCCAddress, &QLineEdit::editingFinished, this, &GeneralPage::TextGenXDCCAddress_Click);
+    connect(TextGenXaddr, &QLineEdit::editingFinished, this, &GeneralPage::TextGenXaddr_Click);
+    connect(TextGenLynxaddr, &QLineEdit::editingFinished, this, &GeneralPage::TextGenLynxaddr_Click);
+    connect(UpDownGenLynxaddr, &QSpinBox::valueChanged, this, &GeneralPage::UpDownGenLynxaddr_Change);
+
+    refresh();
+}
+
+// ---- Building ----
+
+QGroupBox* GeneralPage::buildIdentity()
+{
+    auto* frame = named(new QGroupBox("Module"), "FrameGenID");
+    auto* grid = new QGridLayout(frame);
+    CommandGenVersion = button("Request Version", "CommandGenVersion");
+    LabelGenVersionString = named(new QLabel("Unknown"), "LabelGenVersionString");
+    LabelGenVersionString->setMinimumWidth(90);
+    TextGenIDString = named(new QLineEdit, "TextGenIDString");
+    TextGenIDString->setToolTip("At most 12 characters; a longer text is cut when it is written");
+    CommandGenIDRead = button("Read", "CommandGenIDRead");
+    CommandGenIDWrite = button("Write", "CommandGenIDWrite");
+
+    grid->addWidget(CommandGenVersion, 0, 0);
+    grid->addWidget(LabelGenVersionString, 0, 1, 1, 3);
+    grid->addWidget(new QLabel("ID String"), 1, 0);
+    grid->addWidget(TextGenIDString, 1, 1);
+    grid->addWidget(CommandGenIDRead, 1, 2);
+    grid->addWidget(CommandGenIDWrite, 1, 3);
+    grid->setColumnStretch(1, 1);
+    return frame;
+}
+
+QGroupBox* GeneralPage::buildDcc()
+{
+    auto* frame = named(new QGroupBox("DCC"), "FrameGenDCC");
+    auto* grid = new QGridLayout(frame);
+    TextGenDCCAddress = numberBox("TextGenDCCAddress", 60);
+    TextGenXDCCAddress = numberBox("TextGenXDCCAddress", 60);
+    grid->addWidget(new QLabel("DCC Address"), 0, 0);
+    grid->addWidget(TextGenDCCAddress, 0, 1);
+    grid->addWidget(new QLabel("eXtended DCC Address"), 1, 0);
+    grid->addWidget(TextGenXDCCAddress, 1, 1);
+
+    auto* period = named(new QGroupBox("Packet Repeat Period"), "FrameGenDCC_PRP");
+    auto* periodRow = new QHBoxLayout(period);
+    prpGroup = new QButtonGroup(this);
+    const char* periods[4] = {"500ms", "250ms", "125ms", "62.5ms"};
+    for (int i = 0; i < 4; ++i) {
+        OptGenDCC_PRP[i] = named(new QRadioButton(periods[i]), indexed("OptGenDCC_PRP", i));
+        prpGroup->addButton(OptGenDCC_PRP[i], i);
+        periodRow->addWidget(OptGenDCC_PRP[i]);
+    }
+    grid->addWidget(period, 2, 0, 1, 3);
+
+    ChkGenDCC_BPSI = named(new QCheckBox("Basic Packet State Invert"), "ChkGenDCC_BPSI");
+    ChkGenDCCAllow0 = named(new QCheckBox("Allow Address 0"), "ChkGenDCCAllow0");
+    grid->addWidget(ChkGenDCC_BPSI, 3, 0, 1, 2);
+    grid->addWidget(ChkGenDCCAllow0, 4, 0, 1, 2);
+
+    CommandGenDCCRead = button("Read", "CommandGenDCCRead");
+    CommandGenDCCWrite = button("Write", "CommandGenDCCWrite");
+    grid->addLayout(buttonRow(CommandGenDCCRead, CommandGenDCCWrite), 5, 0, 1, 3);
+    grid->setColumnStretch(2, 1);
+    return frame;
+}
+
+QGroupBox* GeneralPage::buildAddressing()
+{
+    auto* frame = named(new QGroupBox("Serial Addressing"), "FrameGenAddr");
+    auto* grid = new QGridLayout(frame);
+    CheckGenKestrelNative = named(new QCheckBox("Enable Native Kestrel Mode"), "CheckGenKestrelNative");
+    CheckGenLynxaddr = named(new QCheckBox("Enable Lynx Flex-Addresss"), "CheckGenLynxaddr");
+    LabelGenXA_4 = named(new QLabel("Flex-Address"), "LabelGenXA_4");
+    TextGenLynxaddr = numberBox("TextGenLynxaddr", 50);
+    TextGenLynxaddr->setToolTip("The first Lynx address of the module; addresses come in groups of 4");
+    UpDownGenLynxaddr = named(new QSpinBox, "UpDownGenLynxaddr");
+    UpDownGenLynxaddr->setFixedWidth(22);
+    UpDownGenLynxaddr->setSingleStep(4);
+    for (QWidget* w : {static_cast<QWidget*>(CheckGenKestrelNative), static_cast<QWidget*>(CheckGenLynxaddr),
+                       static_cast<QWidget*>(LabelGenXA_4), static_cast<QWidget*>(TextGenLynxaddr),
+                       static_cast<QWidget*>(UpDownGenLynxaddr)})
+        keepPlaceWhenHidden(w);
+
+    grid->addWidget(CheckGenKestrelNative, 0, 0, 1, 3);
+    grid->addWidget(CheckGenLynxaddr, 1, 0, 1, 3);
+    auto* flexRow = new QHBoxLayout;
+    flexRow->setSpacing(2);
+    flexRow->addWidget(TextGenLynxaddr);
+    flexRow->addWidget(UpDownGenLynxaddr);
+    flexRow->addStretch();
+    grid->addWidget(LabelGenXA_4, 2, 0);
+    grid->addLayout(flexRow, 2, 1);
+
+    TextGenXaddr = numberBox("TextGenXaddr", 50);
+    grid->addWidget(new QLabel("eXtended Address"), 3, 0);
+    grid->addWidget(TextGenXaddr, 3, 1, Qt::AlignLeft);
+
+    auto* mask = named(new QGroupBox("eXtended Group Mask"), "FrameGenXGM");
+    auto* maskGrid = new QGridLayout(mask);
+    for (int i = 0; i < 16; ++i) {
+        CheckGenXGM[i] = named(new QCheckBox(QString::number(i)), indexed("CheckGenXGM", i));
+        maskGrid->addWidget(CheckGenXGM[i], i / 4, i % 4);
+    }
+    grid->addWidget(mask, 4, 0, 1, 3);
+
+    CommandGenAddrRead = button("Read", "CommandGenAddrRead");
+    CommandGenAddrWrite = button("Write", "CommandGenAddrWrite");
+    grid->addLayout(buttonRow(CommandGenAddrRead, CommandGenAddrWrite), 5, 0, 1, 3);
+    grid->setColumnStretch(2, 1);
+    return frame;
+}
+
+QGroupBox* GeneralPage::buildHardware()
+{
+    auto* frame = named(new QGroupBox("Hardware Configuration"), "FrameGenHWC");
+    auto* column = new QVBoxLayout(frame);
+    hardwareArea = new QWidget;
+    LabelGenHWCPin = named(new QLabel(pinLegend(0), hardwareArea), "LabelGenHWCPin");
+    driverCaptions[0] = new QLabel("Sink Driver", hardwareArea);
+    driverCaptions[1] = new QLabel("Source Driver", hardwareArea);
+    for (int g = 0; g < 4; ++g) {
+        ChkGenHWCSink[g] = named(new QCheckBox(hardwareArea), indexed("ChkGenHWCSink", g));
+        ChkGenHWCSource[g] = named(new QCheckBox(hardwareArea), indexed("ChkGenHWCSource", g));
+    }
+    placeHardwareBoxes();
+    column->addWidget(hardwareArea);
+
+    CommandGenHWCRead = button("Read Config", "CommandGenHWCRead");
+    CommandGenHWCWrite = button("Write Config", "CommandGenHWCWrite");
+    column->addLayout(buttonRow(CommandGenHWCRead, CommandGenHWCWrite));
+    return frame;
+}
+
+void GeneralPage::placeHardwareBoxes()
+{
+    const QFontMetrics fm(LabelGenHWCPin->font());
+    const QString legend = LabelGenHWCPin->text();
+    const int captionWidth =
+        std::max(fm.horizontalAdvance(driverCaptions[0]->text()), fm.horizontalAdvance(driverCaptions[1]->text()));
+    const QSize box = ChkGenHWCSink[0]->sizeHint();
+    const int rowHeight = std::max(box.height(), fm.height()) + 4;
+
+    // The ranges are the words after "Pin"; the check boxes go under their middles.
+    const QStringList words = legend.split(' ', Qt::SkipEmptyParts);
+    std::array<int, 4> middles{};
+    int from = 0;
+    for (int w = 0; w < static_cast<int>(words.size()); ++w) {
+        const int at = legend.indexOf(words[w], from);
+        from = at + words[w].size();
+        if (w >= 1 && w <= 4)
+            middles[w - 1] = fm.horizontalAdvance(legend.left(at)) + fm.horizontalAdvance(words[w]) / 2;
+    }
+    // The legend moves right so that its first range clears the row captions.
+    const int shift = std::max(0, captionWidth + 12 + box.width() / 2 - middles[0]);
+    LabelGenHWCPin->setGeometry(shift, 0, fm.horizontalAdvance(legend) + 4, rowHeight);
+    for (int r = 0; r < 2; ++r) {
+        const int y = rowHeight * (r + 1);
+        driverCaptions[r]->setGeometry(0, y, captionWidth + 4, rowHeight);
+        for (int g = 0; g < 4; ++g) {
+            QCheckBox* b = r == 0 ? ChkGenHWCSink[g] : ChkGenHWCSource[g];
+            b->setGeometry(shift + middles[g] - box.width() / 2, y + (rowHeight - box.height()) / 2, box.width(),
+                           box.height());
+        }
+    }
+    const int width = std::max(shift + fm.horizontalAdvance(legend), shift + middles[3] + box.width()) + 8;
+    hardwareArea->setFixedSize(width, rowHeight * 3);
+}
+
+QGroupBox* GeneralPage::buildLeds()
+{
+    auto* frame = named(new QGroupBox("LED Control"), "FrameGenLC");
+    auto* grid = new QGridLayout(frame);
+    const char* green[8] = {"Basic DCC Packet", "eXtd DCC Packet", "Lynx Message", "Kestrel Message",
+                            "Green 4",          "Green 5",         "Green 6",      "Idle Flash"};
+    const char* orange[8] = {"DCC Checksum Error", "Orange 1", "Orange 2", "Orange 3",
+                             "Orange 4",           "Orange 5", "Orange 6", "All Received Datagrams"};
+    auto* greenHead = new QLabel("<b>Green LED</b>");
+    auto* orangeHead = new QLabel("<b>Orange LED</b>");
+    grid->addWidget(greenHead, 0, 0);
+    grid->addWidget(orangeHead, 0, 1);
+    for (int i = 0; i < 8; ++i) {
+        CheckLCGreen[i] = named(new QCheckBox(green[i]), indexed("CheckLCGreen", i));
+        CheckLCOrange[i] = named(new QCheckBox(orange[i]), indexed("CheckLCOrange", i));
+        grid->addWidget(CheckLCGreen[i], i + 1, 0);
+        grid->addWidget(CheckLCOrange[i], i + 1, 1);
+    }
+    CommandLCRead = button("Read Settings", "CommandLCRead");
+    CommandLCWrite = button("Write Settings", "CommandLCWrite");
+    grid->addLayout(buttonRow(CommandLCRead, CommandLCWrite), 9, 0, 1, 2);
+    return frame;
+}
+
+QGroupBox* GeneralPage::buildSerialPort()
+{
+    auto* frame = named(new QGroupBox("Serial Port"), "FrameGenSerial");
+    auto* grid = new QGridLayout(frame);
+    CheckGenSerialEnable = named(new QCheckBox("Enable"), "CheckGenSerialEnable");
+    ComboGenBaud = named(new QComboBox, "ComboGenBaud");
+    for (const char* rate : kGenBaudList)
+        ComboGenBaud->addItem(rate);
+    grid->addWidget(CheckGenSerialEnable, 0, 0);
+    grid->addWidget(new QLabel("Baud"), 0, 1, Qt::AlignRight);
+    grid->addWidget(ComboGenBaud, 0, 2);
+
+    auto optionFrame = [](const char* title, const char* frameName) {
+        auto* f = named(new QGroupBox(title), frameName);
+        new QVBoxLayout(f);
+        return f;
+    };
+    auto* data = optionFrame("Data Bits", "FrameGenSerialDatabits");
+    auto* stop = optionFrame("Stop Bits", "FrameGenSerialStop");
+    auto* parity = optionFrame("Parity", "FrameGenSerialParity");
+    databitsGroup = new QButtonGroup(this);
+    stopGroup = new QButtonGroup(this);
+    parityGroup = new QButtonGroup(this);
+    const char* dataCaptions[2] = {"7 bits", "8 bits"};
+    const char* stopCaptions[2] = {"1 bit", "2 bits"};
+    for (int i = 0; i < 2; ++i) {
+        OptionGenSerialDatabits[i] = named(new QRadioButton(dataCaptions[i]), indexed("OptionGenSerialDatabits", i));
+        databitsGroup->addButton(OptionGenSerialDatabits[i], i);
+        data->layout()->addWidget(OptionGenSerialDatabits[i]);
+        OptionGenSerialStop[i] = named(new QRadioButton(stopCaptions[i]), indexed("OptionGenSerialStop", i));
+        stopGroup->addButton(OptionGenSerialStop[i], i);
+        stop->layout()->addWidget(OptionGenSerialStop[i]);
+    }
+    // Field value 1 of the parity has no button.
+    OptionGenSerialParity = {};
+    const std::pair<int, const char*> parities[3] = {{0, "None"}, {2, "Even"}, {3, "Odd"}};
+    for (const auto& [index, caption] : parities) {
+        OptionGenSerialParity[index] = named(new QRadioButton(caption), indexed("OptionGenSerialParity", index));
+        parityGroup->addButton(OptionGenSerialParity[index], index);
+        parity->layout()->addWidget(OptionGenSerialParity[index]);
+    }
+    auto* options = new QHBoxLayout;
+    options->addWidget(data);
+    options->addWidget(stop);
+    options->addWidget(parity);
+    grid->addLayout(options, 1, 0, 1, 4);
+
+    CommandGenSerialRead = button("Read Settings", "CommandGenSerialRead");
+    CommandGenSerialWrite = button("Write Settings", "CommandGenSerialWrite");
+    grid->addLayout(buttonRow(CommandGenSerialRead, CommandGenSerialWrite), 2, 0, 1, 4);
+    grid->setColumnStretch(3, 1);
+    return frame;
+}
+
+QGroupBox* GeneralPage::buildErase()
+{
+    auto* frame = named(new QGroupBox("Configuration Memory"), "FrameGenErase");
+    auto* row = new QHBoxLayout(frame);
+    CommandGenEraseFlash = button("Erase Flash", "CommandGenEraseFlash");
+    CommandGenEraseFlash->setToolTip("Erases the whole configuration of the module (takes up to 45 seconds)");
+    row->addWidget(CommandGenEraseFlash);
+    row->addStretch();
+    return frame;
+}
+
+// ---- Showing and taking the values ----
+
+void GeneralPage::refresh()
+{
+    updating = true;
+    GeneralSettings& g = session.general;
+    const int base = session.config.NumberingBase;
+
+    LabelGenVersionString->setText(latin1(g.LabelGenVersionString));
+    TextGenIDString->setText(latin1(g.TextGenIDString));
+
+    TextGenDCCAddress->setText(latin1(g.TextGenDCCAddress));
+    TextGenXDCCAddress->setText(latin1(g.TextGenXDCCAddress));
+    selectOption(prpGroup, g.OptGenDCC_PRP);
+    showBox(ChkGenDCC_BPSI, g.ChkGenDCC_BPSI);
+    showBox(ChkGenDCCAllow0, g.ChkGenDCCAllow0);
+
+    showBox(CheckGenKestrelNative, g.CheckGenKestrelNative);
+    showBox(CheckGenLynxaddr, g.CheckGenLynxaddr);
+    // The form values are what the writers send; the boxes show them with today's base.
+    g.TextGenLynxaddr = std::to_string(g.LynxFlexAddress * 4 + base);
+    g.TextGenXaddr = std::to_string(g.ExtendedAddress + base);
+    TextGenLynxaddr->setText(latin1(g.TextGenLynxaddr));
+    UpDownGenLynxaddr->setRange(base, base + 4 * kFlexAddressMaximum);
+    UpDownGenLynxaddr->setValue(g.LynxFlexAddress * 4 + base);
+    TextGenXaddr->setText(latin1(g.TextGenXaddr));
+    for (int i = 0; i < 16; ++i)
+        showBox(CheckGenXGM[i], g.CheckGenXGM[i]);
+    CheckGenKestrelNative->setVisible(g.CheckGenKestrelNativeVisible);
+    CheckGenLynxaddr->setVisible(g.CheckGenLynxaddrVisible);
+    TextGenLynxaddr->setVisible(g.TextGenLynxaddrVisible);
+    UpDownGenLynxaddr->setVisible(g.TextGenLynxaddrVisible);
+    LabelGenXA_4->setVisible(g.TextGenLynxaddrVisible);
+
+    const QString legend = pinLegend(base);
+    if (LabelGenHWCPin->text() != legend) {
+        LabelGenHWCPin->setText(legend);
+        placeHardwareBoxes();
+    }
+    for (int i = 0; i < 4; ++i) {
+        showBox(ChkGenHWCSink[i], g.ChkGenHWCSink[i]);
+        showBox(ChkGenHWCSource[i], g.ChkGenHWCSource[i]);
+    }
+
+    for (int i = 0; i < 8; ++i) {
+        showBox(CheckLCGreen[i], g.CheckLCGreen[i]);
+        showBox(CheckLCOrange[i], g.CheckLCOrange[i]);
+    }
+
+    showBox(CheckGenSerialEnable, g.CheckGenSerialEnable);
+    ComboGenBaud->setCurrentIndex(std::clamp(g.ComboGenBaud, 0, static_cast<int>(kGenBaudList.size()) - 1));
+    selectOption(databitsGroup, g.OptionGenSerialDatabits);
+    selectOption(stopGroup, g.OptionGenSerialStop);
+    selectOption(parityGroup, g.OptionGenSerialParity);
+    updating = false;
+}
+
+void GeneralPage::commit()
+{
+    GeneralSettings& g = session.general;
+    const int base = session.config.NumberingBase;
+
+    g.TextGenIDString = fromLatin1(TextGenIDString->text());
+
+    g.TextGenDCCAddress = fromLatin1(TextGenDCCAddress->text());
+    g.TextGenXDCCAddress = fromLatin1(TextGenXDCCAddress->text());
+    if (prpGroup->checkedId() >= 0)
+        g.OptGenDCC_PRP = prpGroup->checkedId();
+    g.ChkGenDCC_BPSI = boxValue(ChkGenDCC_BPSI);
+    g.ChkGenDCCAllow0 = boxValue(ChkGenDCCAllow0);
+
+    g.CheckGenKestrelNative = boxValue(CheckGenKestrelNative);
+    g.CheckGenLynxaddr = boxValue(CheckGenLynxaddr);
+    // A typed number is taken only when it differs from what the box was given, so an
+    // untouched box never moves its form value.
+    const std::string flexText = fromLatin1(TextGenLynxaddr->text());
+    if (flexText != std::to_string(g.LynxFlexAddress * 4 + base)) {
+        const long shown = valInt(flexText) - base;
+        g.LynxFlexAddress = static_cast<int>(std::clamp<long>(shown < 0 ? 0 : shown / 4, 0, kFlexAddressMaximum));
+    }
+    g.TextGenLynxaddr = std::to_string(g.LynxFlexAddress * 4 + base);
+    const std::string xText = fromLatin1(TextGenXaddr->text());
+    if (xText != std::to_string(g.ExtendedAddress + base))
+        g.ExtendedAddress = static_cast<int>(std::clamp<long>(valInt(xText) - base, 0, kExtendedAddressMaximum));
+    g.TextGenXaddr = std::to_string(g.ExtendedAddress + base);
+    for (int i = 0; i < 16; ++i)
+        g.CheckGenXGM[i] = boxValue(CheckGenXGM[i]);
+
+    for (int i = 0; i < 4; ++i) {
+        g.ChkGenHWCSink[i] = boxValue(ChkGenHWCSink[i]);
+        g.ChkGenHWCSource[i] = boxValue(ChkGenHWCSource[i]);
+    }
+
+    for (int i = 0; i < 8; ++i) {
+        g.CheckLCGreen[i] = boxValue(CheckLCGreen[i]);
+        g.CheckLCOrange[i] = boxValue(CheckLCOrange[i]);
+    }
+
+    g.CheckGenSerialEnable = boxValue(CheckGenSerialEnable);
+    if (ComboGenBaud->currentIndex() >= 0)
+        g.ComboGenBaud = ComboGenBaud->currentIndex();
+    if (databitsGroup->checkedId() >= 0)
+        g.OptionGenSerialDatabits = databitsGroup->checkedId();
+    if (stopGroup->checkedId() >= 0)
+        g.OptionGenSerialStop = stopGroup->checkedId();
+    if (parityGroup->checkedId() >= 0)
+        g.OptionGenSerialParity = parityGroup->checkedId();
+
+    // The boxes show what was taken (a clamped number is written back).
+    updating = true;
+    TextGenLynxaddr->setText(latin1(g.TextGenLynxaddr));
+    UpDownGenLynxaddr->setValue(g.LynxFlexAddress * 4 + base);
+    TextGenXaddr->setText(latin1(g.TextGenXaddr));
+    updating = false;
+}
+
+// ---- Buttons ----
+
+template <typename Procedure> bool GeneralPage::run(Procedure procedure)
+{
+    commit();
+    const bool ok = procedure(session);
+    refresh();
+    return ok;
+}
+
+bool GeneralPage::CommandGenVersion_Click() { return run(RequestVersion); }
+bool GeneralPage::CommandGenIDRead_Click() { return run(ReadIDString); }
+bool GeneralPage::CommandGenIDWrite_Click() { return run(WriteIDString); }
+bool GeneralPage::CommandGenDCCRead_Click() { return run(ReadDCCSettings); }
+bool GeneralPage::CommandGenDCCWrite_Click() { return run(WriteDCCSettings); }
+bool GeneralPage::CommandGenAddrRead_Click() { return run(kestrel::CommandGenAddrRead_Click); }
+bool GeneralPage::CommandGenAddrWrite_Click() { return run(WriteSerialAddressing); }
+bool GeneralPage::CommandGenHWCRead_Click() { return run(ReadHardwareConfig); }
+bool GeneralPage::CommandGenHWCWrite_Click() { return run(WriteHardwareConfig); }
+bool GeneralPage::CommandLCRead_Click() { return run(ReadLEDControl); }
+bool GeneralPage::CommandLCWrite_Click() { return run(WriteLEDControl); }
+bool GeneralPage::CommandGenSerialRead_Click() { return run(ReadSerialPortSettings); }
+bool GeneralPage::CommandGenSerialWrite_Click() { return run(WriteSerialPortSettings); }
+bool GeneralPage::CommandGenEraseFlash_Click() { return run(EraseFlash); }
+
+// ---- Companion handlers ----
+
+void GeneralPage::CheckGenLynxaddr_Click()
+{
+    commit();
+    kestrel::CheckGenLynxaddr_Click(session);
+    refresh();
+}
+
+void GeneralPage::CheckGenKestrelNative_Click()
+{
+    commit();
+    kestrel::CheckGenKestrelNative_Click(session);
+    refresh();
+}
+
+void GeneralPage::ChkGenDCCAllow0_Click()
+{
+    commit();
+    kestrel::ChkGenDCCAllow0_Click(session);
+    refresh();
+}
+
+void GeneralPage::dccAddressChanged()
+{
+    if (updating)
+        return;
+    commit();
+    if (session.onDccAddressChanged)
+        session.onDccAddressChanged();
+}
+
+void GeneralPage::TextGenDCCAddress_Click() { dccAddressChanged(); }
+
+void GeneralPage::TextGenXDCCAddress_Click() { dccAddressChanged(); }
+
+void GeneralPage::TextGenXaddr_Click()
+{
+    if (!updating)
+        commit();
+}
+
+void GeneralPage::TextGenLynxaddr_Click()
+{
+    if (updating)
+        return;
+    commit();
+    if (session.onPinAddressDisplayChanged)
+        session.onPinAddressDisplayChanged();
+}
+
+void GeneralPage::UpDownGenLynxaddr_Change(int value)
+{
+    if (updating)
+        return;
+    TextGenLynxaddr->setText(QString::number(value));
+    TextGenLynxaddr_Click();
+}
+
+} // namespace kestrel
