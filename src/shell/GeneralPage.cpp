@@ -19,6 +19,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <initializer_list>
 
 namespace kestrel {
 
@@ -104,20 +105,19 @@ GeneralPage::GeneralPage(Session& s, QWidget* parent) : QWidget(parent), session
 {
     setObjectName("PageGeneral");
 
+    // Three columns: the module and DCC, the addressing and the serial port, the
+    // output drivers and the LEDs.
     auto* columns = new QHBoxLayout(this);
-    auto* left = new QVBoxLayout;
-    left->addWidget(buildIdentity());
-    left->addWidget(buildDcc());
-    left->addWidget(buildAddressing());
-    left->addStretch();
-    auto* right = new QVBoxLayout;
-    right->addWidget(buildHardware());
-    right->addWidget(buildLeds());
-    right->addWidget(buildSerialPort());
-    right->addWidget(buildErase());
-    right->addStretch();
-    columns->addLayout(left);
-    columns->addLayout(right);
+    const auto column = [columns](std::initializer_list<QWidget*> frames) {
+        auto* c = new QVBoxLayout;
+        for (QWidget* f : frames)
+            c->addWidget(f);
+        c->addStretch();
+        columns->addLayout(c);
+    };
+    column({buildIdentity(), buildDcc(), buildErase()});
+    column({buildAddressing(), buildSerialPort()});
+    column({buildHardware(), buildLeds()});
     columns->addStretch();
 
     connect(CommandGenVersion, &QPushButton::clicked, this, &GeneralPage::CommandGenVersion_Click);
@@ -161,12 +161,12 @@ QGroupBox* GeneralPage::buildIdentity()
     CommandGenIDRead = button("Read", "CommandGenIDRead");
     CommandGenIDWrite = button("Write", "CommandGenIDWrite");
 
+    TextGenIDString->setMinimumWidth(140);
     grid->addWidget(CommandGenVersion, 0, 0);
-    grid->addWidget(LabelGenVersionString, 0, 1, 1, 3);
+    grid->addWidget(LabelGenVersionString, 0, 1);
     grid->addWidget(new QLabel("ID String"), 1, 0);
     grid->addWidget(TextGenIDString, 1, 1);
-    grid->addWidget(CommandGenIDRead, 1, 2);
-    grid->addWidget(CommandGenIDWrite, 1, 3);
+    grid->addLayout(buttonRow(CommandGenIDRead, CommandGenIDWrite), 2, 0, 1, 2);
     grid->setColumnStretch(1, 1);
     return frame;
 }
@@ -223,18 +223,19 @@ QGroupBox* GeneralPage::buildAddressing()
         keepPlaceWhenHidden(w);
 
     grid->addWidget(CheckGenKestrelNative, 0, 0, 1, 3);
-    grid->addWidget(CheckGenLynxaddr, 1, 0, 1, 3);
+    // The flex-address sits beside its check box, shown only while it is checked.
     auto* flexRow = new QHBoxLayout;
     flexRow->setSpacing(2);
+    flexRow->addWidget(CheckGenLynxaddr);
+    flexRow->addStretch();
+    flexRow->addWidget(LabelGenXA_4);
+    flexRow->addSpacing(6);
     flexRow->addWidget(TextGenLynxaddr);
     flexRow->addWidget(UpDownGenLynxaddr);
-    flexRow->addStretch();
-    grid->addWidget(LabelGenXA_4, 2, 0);
-    grid->addLayout(flexRow, 2, 1);
-
+    grid->addLayout(flexRow, 1, 0, 1, 3);
     TextGenXaddr = numberBox("TextGenXaddr", 50);
-    grid->addWidget(new QLabel("eXtended Address"), 3, 0);
-    grid->addWidget(TextGenXaddr, 3, 1, Qt::AlignLeft);
+    grid->addWidget(new QLabel("eXtended Address"), 2, 0);
+    grid->addWidget(TextGenXaddr, 2, 1, Qt::AlignLeft);
 
     auto* mask = named(new QGroupBox("eXtended Group Mask"), "FrameGenXGM");
     auto* maskGrid = new QGridLayout(mask);
@@ -242,11 +243,11 @@ QGroupBox* GeneralPage::buildAddressing()
         CheckGenXGM[i] = named(new QCheckBox(QString::number(i)), indexed("CheckGenXGM", i));
         maskGrid->addWidget(CheckGenXGM[i], i / 4, i % 4);
     }
-    grid->addWidget(mask, 4, 0, 1, 3);
+    grid->addWidget(mask, 3, 0, 1, 3);
 
     CommandGenAddrRead = button("Read", "CommandGenAddrRead");
     CommandGenAddrWrite = button("Write", "CommandGenAddrWrite");
-    grid->addLayout(buttonRow(CommandGenAddrRead, CommandGenAddrWrite), 5, 0, 1, 3);
+    grid->addLayout(buttonRow(CommandGenAddrRead, CommandGenAddrWrite), 4, 0, 1, 3);
     grid->setColumnStretch(2, 1);
     return frame;
 }
