@@ -7,6 +7,7 @@
 #include "ops/EventControl.h"
 #include "ops/PinTransfer.h"
 #include "shell/BuiltInSim.h"
+#include "shell/GeneralPage.h"
 #include "shell/QtProgress.h"
 #include "shell/QtSerialPort.h"
 
@@ -122,6 +123,7 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
         frmKestrelVerification->raise();
     };
     core->onConfigurationChanged = [this] {
+        generalPage->refresh();
         LabelGenVersionString->setText(latin1(core->link.VersionText));
         refreshLinkDisplays();
         refreshDevices();
@@ -256,6 +258,8 @@ void KestrelConfig::CheckKLnumber_Click()
     // Shown numbers move with the base; what is stored stays numbered from 0.
     core->config.NumberingBase = CheckKLnumber->isChecked() ? 1 : 0;
     refreshLinkDisplays();
+    generalPage->refresh();
+    refreshDevices();
 }
 
 void KestrelConfig::cmdSetTM_Click()
@@ -377,16 +381,10 @@ void KestrelConfig::buildLinkArea(QWidget* host)
 
 QWidget* KestrelConfig::buildGeneralPage()
 {
-    auto* page = named(new QWidget, "PageGeneral");
-    auto* grid = new QGridLayout(page);
-    CommandGenVersion = named(new QPushButton("Request Version"), "CommandGenVersion");
-    LabelGenVersionString = named(new QLabel("Unknown"), "LabelGenVersionString");
-    grid->addWidget(CommandGenVersion, 0, 0);
-    grid->addWidget(LabelGenVersionString, 0, 1);
-    grid->setColumnStretch(2, 1);
-    grid->setRowStretch(1, 1);
-    connect(CommandGenVersion, &QPushButton::clicked, this, &KestrelConfig::CommandGenVersion_Click);
-    return page;
+    generalPage = new GeneralPage(*core);
+    CommandGenVersion = generalPage->CommandGenVersion;
+    LabelGenVersionString = generalPage->LabelGenVersionString;
+    return generalPage;
 }
 
 QWidget* KestrelConfig::buildDevicesPage()
@@ -571,8 +569,7 @@ void KestrelConfig::LabelPort_DblClick()
 
 void KestrelConfig::CommandGenVersion_Click()
 {
-    core->link.GetVersion();
-    LabelGenVersionString->setText(latin1(core->link.VersionText));
+    generalPage->CommandGenVersion_Click();
 }
 
 bool KestrelConfig::eventFilter(QObject* watched, QEvent* event)

@@ -23,6 +23,10 @@ class QTabWidget;
 class QTimer;
 
 namespace kestrel {
+class GeneralPage;
+}
+
+namespace kestrel {
 
 // The main window: the link area and the pages. Widgets carry the names the
 // module's tools have always used (objectName = member name; control arrays are
@@ -71,6 +75,7 @@ public:
     QPushButton* cmdClear = nullptr;
 
     // General page
+    GeneralPage* generalPage;
     QPushButton* CommandGenVersion;
     QLabel* LabelGenVersionString;
 
