@@ -56,7 +56,6 @@ QHBoxLayout* boxWithSpinner(QLineEdit* box, QSpinBox* spinner)
     row->setSpacing(0);
     row->addWidget(box);
     row->addWidget(spinner);
-    row->addStretch();
     return row;
 }
 } // namespace

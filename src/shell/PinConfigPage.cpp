@@ -85,10 +85,13 @@ QGroupBox* liveFrame(const char* title, const QString& frameName, const char* ca
     auto* grid = new QGridLayout(frame);
     grid->addWidget(new QLabel(caption), 0, 0);
     grid->addWidget(box, 0, 1);
-    grid->addWidget(slider, 0, 2, 1, 3);
-    grid->addWidget(set, 1, 1, 1, 2);
-    grid->addWidget(option, 1, 3);
-    grid->addWidget(jump, 1, 4);
+    grid->addWidget(slider, 0, 2);
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(set);
+    buttons->addWidget(option);
+    buttons->addWidget(jump);
+    buttons->addStretch();
+    grid->addLayout(buttons, 1, 1, 1, 2);
     grid->setColumnStretch(2, 1);
     return frame;
 }
@@ -123,7 +126,7 @@ PinConfigPage::PinConfigPage(Session& s, QWidget* parent) : QWidget(parent), ses
     SSTabPCFG->addTab(buildServoPage(), "Servo");
     SSTabPCFG->addTab(buildPwmPage(), "PWM");
     SSTabPCFG->addTab(buildInputPage(), "Input");
-    layout->addWidget(SSTabPCFG);
+    layout->addWidget(SSTabPCFG, 1);
 
     auto* transfer = named(new QGroupBox("Pin Configuration"), "FramePCFGTransfer");
     auto* row = new QHBoxLayout(transfer);
@@ -146,7 +149,6 @@ PinConfigPage::PinConfigPage(Session& s, QWidget* parent) : QWidget(parent), ses
     }
     row->addStretch();
     layout->addWidget(transfer);
-    layout->addStretch();
 
     connect(TextPCFGPin, &QLineEdit::editingFinished, this, &PinConfigPage::TextPCFGPin_Click);
     connect(UpDownPCFGPin, &QSpinBox::valueChanged, this, [this](int v) {
@@ -362,7 +364,6 @@ QWidget* PinConfigPage::buildInputPage()
     TextInputDelay[1] = fieldBox(PinField::TextInputDelay1, "TextInputDelay_1");
     addField(grid, 0, 0, "ON-delay (debounce)", TextInputDelay[0]);
     addField(grid, 1, 0, "OFF-delay (debounce)", TextInputDelay[1]);
-    grid->setColumnStretch(2, 1);
     auto* row = new QHBoxLayout;
     row->addWidget(frame);
     row->addStretch();
