@@ -7,7 +7,9 @@
 #include "ops/EventControl.h"
 #include "ops/PinTransfer.h"
 #include "shell/BuiltInSim.h"
+#include "shell/EventPage.h"
 #include "shell/GeneralPage.h"
+#include "shell/PinConfigPage.h"
 #include "shell/QtProgress.h"
 #include "shell/QtSerialPort.h"
 
@@ -91,6 +93,10 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
 
     tabs = named(new QTabWidget, "SSTab1");
     tabs->addTab(buildGeneralPage(), "General");
+    eventPage = new EventPage(*core, [this](const char* job) { startJob(job); });
+    tabs->addTab(eventPage, "Event Control");
+    pinConfigPage = new PinConfigPage(*core);
+    tabs->addTab(pinConfigPage, "Pin Configuration");
     tabs->addTab(buildDevicesPage(), "Devices");
     layout->addWidget(tabs, 1);
 
@@ -124,6 +130,8 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     };
     core->onConfigurationChanged = [this] {
         generalPage->refresh();
+        eventPage->refresh();
+        pinConfigPage->refresh();
         LabelGenVersionString->setText(latin1(core->link.VersionText));
         refreshLinkDisplays();
         refreshDevices();
@@ -212,6 +220,11 @@ void KestrelConfig::runJob(const QString& title, const std::function<void()>& op
     core->link.setProgress(nullptr);
     LabelAction->setVisible(false);
     refreshLinkDisplays();
+    // Whatever the job read is shown on every page.
+    generalPage->refresh();
+    eventPage->refresh();
+    pinConfigPage->refresh();
+    refreshDevices();
 }
 
 void KestrelConfig::ensureVerificationWindow()
@@ -259,6 +272,8 @@ void KestrelConfig::CheckKLnumber_Click()
     core->config.NumberingBase = CheckKLnumber->isChecked() ? 1 : 0;
     refreshLinkDisplays();
     generalPage->refresh();
+    eventPage->refresh();
+    pinConfigPage->refresh();
     refreshDevices();
 }
 

@@ -24,6 +24,8 @@ class QTimer;
 
 namespace kestrel {
 class GeneralPage;
+class EventPage;
+class PinConfigPage;
 }
 
 namespace kestrel {
@@ -76,6 +78,8 @@ public:
 
     // General page
     GeneralPage* generalPage;
+    EventPage* eventPage;
+    PinConfigPage* pinConfigPage;
     QPushButton* CommandGenVersion;
     QLabel* LabelGenVersionString;
 
