@@ -4,8 +4,8 @@
 namespace kestrel {
 
 enum class Icon { None, Warning, Information, Question };
-enum class Buttons { Ok, OkCancel, YesNo };
-enum class Answer { Ok, Cancel, Yes, No };
+enum class Buttons { Ok, OkCancel, YesNo, SaveDiscardCancel };
+enum class Answer { Ok, Cancel, Yes, No, Save, Discard };
 
 // Everything the core tells or asks the user goes through here: message boxes in
 // the window, stderr and command-line flags in the batch tool, a recorder in tests.

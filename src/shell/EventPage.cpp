@@ -2,6 +2,8 @@
 
 #include "link/Text.h"
 
+#include <algorithm>
+
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -19,16 +21,6 @@ template <typename W> W* named(W* w, const QString& name)
 {
     w->setObjectName(name);
     return w;
-}
-
-QString latin1(const std::string& s)
-{
-    return QString::fromLatin1(s.c_str());
-}
-
-std::string fromBox(const QLineEdit* box)
-{
-    return box->text().toLatin1().toStdString();
 }
 
 // An up-down control beside its text box: only the arrows show.
@@ -60,8 +52,9 @@ QHBoxLayout* boxWithSpinner(QLineEdit* box, QSpinBox* spinner)
 }
 } // namespace
 
-EventPage::EventPage(Session& s, std::function<void(const char* job)> start, QWidget* parent)
-    : QWidget(parent), session(s), startJob(std::move(start))
+EventPage::EventPage(Session& s, std::function<void(const char* job)> start, Guard* sharedGuard, QWidget* parent)
+    : QWidget(parent), session(s), startJob(std::move(start)), ownGuard(sharedGuard ? nullptr : new Guard(s)),
+      guard(sharedGuard ? *sharedGuard : *ownGuard), bindings(guard, [this] { refresh(); })
 {
     setObjectName("PageEventControl");
     auto* layout = new QVBoxLayout(this);
@@ -108,7 +101,6 @@ EventPage::EventPage(Session& s, std::function<void(const char* job)> start, QWi
     for (int i = 0; i < 8; ++i) {
         CheckInitEE[i] = named(new QCheckBox, QString("CheckInitEE_%1").arg(i));
         table->addWidget(CheckInitEE[i], 4 + i / 4, 1 + i % 4);
-        connect(CheckInitEE[i], &QCheckBox::clicked, this, [this, i] { CheckInitEE_Click(i); });
     }
     CommandECInitRead = named(new QPushButton("Read Enable Map"), "CommandECInitRead");
     CommandECInitWrite = named(new QPushButton("Write Enable Map"), "CommandECInitWrite");
@@ -131,24 +123,7 @@ EventPage::EventPage(Session& s, std::function<void(const char* job)> start, QWi
     layout->addWidget(all);
     layout->addStretch();
 
-    connect(TextECpin, &QLineEdit::editingFinished, this, &EventPage::TextECpin_Click);
-    connect(UpDownECpin, &QSpinBox::valueChanged, this, &EventPage::UpDownECpin_Change);
-    for (int i = 0; i < kEventSlots; ++i) {
-        connect(TextECon[i], &QLineEdit::editingFinished, this, [this, i] { TextECon_LostFocus(i); });
-        connect(TextECoff[i], &QLineEdit::editingFinished, this, [this, i] { TextECoff_LostFocus(i); });
-        connect(UpDownECon[i], &QSpinBox::valueChanged, this, [this, i](int v) {
-            if (updating)
-                return;
-            TextECon[i]->setText(QString::number(v));
-            TextECon_LostFocus(i);
-        });
-        connect(UpDownECoff[i], &QSpinBox::valueChanged, this, [this, i](int v) {
-            if (updating)
-                return;
-            TextECoff[i]->setText(QString::number(v));
-            TextECoff_LostFocus(i);
-        });
-    }
+    bind();
     connect(CommandECReadSingle, &QPushButton::clicked, this, &EventPage::CommandECReadSingle_Click);
     connect(CommandECWriteSingle, &QPushButton::clicked, this, &EventPage::CommandECWriteSingle_Click);
     connect(CommandECcopy, &QPushButton::clicked, this, &EventPage::CommandECcopy_Click);
@@ -161,18 +136,50 @@ EventPage::EventPage(Session& s, std::function<void(const char* job)> start, QWi
     refresh();
 }
 
-void EventPage::refresh()
+void EventPage::bind()
 {
-    ShowEventPin(session);
-    updating = true;
-    const int base = session.config.NumberingBase;
-    UpDownECpin->setRange(base, base + kPinCount - 1);
-    UpDownECpin->setValue(base + shownEventPin(session));
-    TextECpin->setText(latin1(session.eventControl.TextECpin));
-    updating = false;
-    showEntries();
-    showEnables();
+    Bindings& b = bindings;
+    EventControlPage& page = session.eventControl;
+    const auto base = [this] { return session.config.NumberingBase; };
+    // The page shows CurrentPin, which every page shares.
+    b.display([this, base, &page] {
+        page.TextECpin = std::to_string(std::clamp(session.config.CurrentPin, 0, kPinCount - 1) + base());
+        ShowEventPin(session);
+        UpDownECpin->setRange(base(), base() + kPinCount - 1);
+    });
+    numericInput(TextECpin, 3);
+    b.entry(
+        TextECpin, [&page] { return page.TextECpin; },
+        [this, &page](const std::string& typed) {
+            bindings.commitPending(); // entries typed for the pin shown so far stay with it
+            page.TextECpin = typed;
+            session.config.CurrentPin = shownEventPin(session);
+            if (onPinChosen)
+                onPinChosen();
+        });
+    b.spinner(UpDownECpin, TextECpin, [this, base] { return session.config.CurrentPin + base(); });
+    for (int i = 0; i < kEventSlots; ++i) {
+        for (EventSide side : {EventSide::On, EventSide::Off}) {
+            QLineEdit* box = side == EventSide::On ? TextECon[i] : TextECoff[i];
+            std::string& text = side == EventSide::On ? page.TextECon[i] : page.TextECoff[i];
+            numericInput(box, 4);
+            b.entry(
+                box, [&text] { return text; },
+                [this, &text, side, i](const std::string& typed) {
+                    text = typed;
+                    EditEventEntry(session, side, i);
+                });
+            b.spinner(side == EventSide::On ? UpDownECon[i] : UpDownECoff[i], box,
+                      [&text] { return static_cast<int>(valInt(text)); });
+        }
+    }
+    for (int i = 0; i < 8; ++i)
+        b.check(CheckInitEE[i], session.general.CheckInitEE[i]);
 }
+
+void EventPage::refresh() { bindings.show(); }
+
+void EventPage::commitPending() { bindings.commitPending(); }
 
 void EventPage::showEvent(QShowEvent* event)
 {
@@ -181,126 +188,57 @@ void EventPage::showEvent(QShowEvent* event)
     QWidget::showEvent(event);
 }
 
-void EventPage::showEntries()
+void EventPage::run(const std::function<void()>& handler)
 {
-    updating = true;
-    const auto& page = session.eventControl;
-    for (int i = 0; i < kEventSlots; ++i) {
-        TextECon[i]->setText(latin1(page.TextECon[i]));
-        TextECoff[i]->setText(latin1(page.TextECoff[i]));
-        UpDownECon[i]->setValue(static_cast<int>(valInt(page.TextECon[i])));
-        UpDownECoff[i]->setValue(static_cast<int>(valInt(page.TextECoff[i])));
-    }
-    updating = false;
-}
-
-void EventPage::showEnables()
-{
-    updating = true;
-    for (int i = 0; i < 8; ++i)
-        CheckInitEE[i]->setChecked(session.general.CheckInitEE[i] == 1);
-    updating = false;
-}
-
-void EventPage::TextECpin_Click()
-{
-    if (updating)
-        return;
-    session.eventControl.TextECpin = fromBox(TextECpin);
+    guard([&] {
+        commitPending();
+        handler();
+    });
     refresh();
-}
-
-void EventPage::UpDownECpin_Change(int value)
-{
-    if (updating)
-        return;
-    session.eventControl.TextECpin = std::to_string(value);
-    refresh();
-}
-
-void EventPage::editEntry(EventSide side, int slot)
-{
-    auto& text = side == EventSide::On ? session.eventControl.TextECon[slot] : session.eventControl.TextECoff[slot];
-    QLineEdit* box = side == EventSide::On ? TextECon[slot] : TextECoff[slot];
-    QSpinBox* spinner = side == EventSide::On ? UpDownECon[slot] : UpDownECoff[slot];
-    text = fromBox(box);
-    EditEventEntry(session, side, slot);
-    updating = true;
-    box->setText(latin1(text));
-    spinner->setValue(static_cast<int>(valInt(text)));
-    updating = false;
-}
-
-void EventPage::TextECon_LostFocus(int slot)
-{
-    if (!updating)
-        editEntry(EventSide::On, slot);
-}
-
-void EventPage::TextECoff_LostFocus(int slot)
-{
-    if (!updating)
-        editEntry(EventSide::Off, slot);
-}
-
-void EventPage::commitEntries()
-{
-    for (int i = 0; i < kEventSlots; ++i) {
-        editEntry(EventSide::On, i);
-        editEntry(EventSide::Off, i);
-    }
-}
-
-void EventPage::CheckInitEE_Click(int index)
-{
-    if (updating)
-        return;
-    session.general.CheckInitEE[index] = CheckInitEE[index]->isChecked() ? 1 : 0;
 }
 
 void EventPage::CommandECReadSingle_Click()
 {
-    ReadSingleEvents(session);
-    refresh();
+    run([this] { ReadSingleEvents(session); });
 }
 
 void EventPage::CommandECWriteSingle_Click()
 {
-    commitEntries();
-    WriteSingleEvents(session);
+    run([this] { WriteSingleEvents(session); });
 }
 
 void EventPage::CommandECcopy_Click()
 {
-    commitEntries();
-    CopyEventsToAll(session);
+    run([this] { CopyEventsToAll(session); });
 }
 
 void EventPage::CommandECInitRead_Click()
 {
-    ReadEnableMaps(session);
-    showEnables();
+    run([this] { ReadEnableMaps(session); });
 }
 
 void EventPage::CommandECInitWrite_Click()
 {
-    WriteEnableMaps(session);
+    run([this] { WriteEnableMaps(session); });
 }
 
 void EventPage::CommandECRead_Click()
 {
+    commitPending();
     if (startJob)
         startJob("ECReadAll");
 }
 
 void EventPage::CommandECWrite_Click()
 {
+    commitPending();
     if (startJob)
         startJob("ECWriteAll");
 }
 
 void EventPage::CommandECVerify_Click()
 {
+    commitPending();
     if (startJob)
         startJob("ECVerify");
 }

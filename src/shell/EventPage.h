@@ -1,9 +1,12 @@
 #pragma once
 #include "ops/EventControl.h"
 #include "ops/Session.h"
+#include "shell/Bindings.h"
+#include "shell/Guard.h"
 
 #include <QWidget>
 #include <functional>
+#include <memory>
 
 class QCheckBox;
 class QLabel;
@@ -20,10 +23,16 @@ namespace kestrel {
 class EventPage : public QWidget {
     Q_OBJECT
 public:
-    EventPage(Session& session, std::function<void(const char* job)> startJob, QWidget* parent = nullptr);
+    // `guard` is the window's; a page on its own keeps one of its own.
+    EventPage(Session& session, std::function<void(const char* job)> startJob, Guard* guard = nullptr,
+              QWidget* parent = nullptr);
 
-    // Shows the pin in TextECpin, its entries and the enable boxes from the session.
+    // Shows CurrentPin in TextECpin, its entries and the enable boxes from the session
+    // (an entry typed but not yet finished is taken first).
     void refresh();
+    void commitPending();
+    // The user chose another pin here (CurrentPin has moved): the window shows it everywhere.
+    std::function<void()> onPinChosen;
 
     QLineEdit* TextECpin;
     QSpinBox* UpDownECpin;
@@ -45,11 +54,6 @@ public:
     QPushButton* CommandECVerify;
 
 public slots:
-    void TextECpin_Click();
-    void UpDownECpin_Change(int value);
-    void TextECon_LostFocus(int slot);
-    void TextECoff_LostFocus(int slot);
-    void CheckInitEE_Click(int index);
     void CommandECReadSingle_Click();
     void CommandECWriteSingle_Click();
     void CommandECcopy_Click();
@@ -63,14 +67,14 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    void editEntry(EventSide side, int slot);
-    void showEntries();   // the entry boxes and their spinners from session.eventControl
-    void commitEntries(); // every entry box through its handler
-    void showEnables();
+    void bind();
+    void run(const std::function<void()>& handler); // a button: pending entries first, guarded
 
     Session& session;
     std::function<void(const char*)> startJob;
-    bool updating = false;
+    std::unique_ptr<Guard> ownGuard;
+    Guard& guard;
+    Bindings bindings;
 };
 
 } // namespace kestrel

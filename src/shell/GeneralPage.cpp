@@ -3,6 +3,7 @@
 #include "link/Text.h"
 #include "model/AspectEditor.h"
 #include "ops/GeneralCommands.h"
+#include "shell/Bindings.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -15,6 +16,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QRegularExpressionValidator>
 #include <QSpinBox>
 #include <QVBoxLayout>
 
@@ -33,13 +35,6 @@ template <typename W> W* named(W* w, const QString& name)
 
 QString indexed(const char* name, int index) { return QString("%1_%2").arg(name).arg(index); }
 
-QString latin1(const std::string& s) { return QString::fromLatin1(s.c_str()); }
-
-std::string fromLatin1(const QString& s) { return s.toLatin1().toStdString(); }
-
-int boxValue(const QCheckBox* box) { return box->isChecked() ? 1 : 0; }
-
-void showBox(QCheckBox* box, int value) { box->setChecked(value == 1); }
 
 // A hidden control keeps its place, so the frame does not jump when a mode changes.
 void keepPlaceWhenHidden(QWidget* w)
@@ -47,19 +42,6 @@ void keepPlaceWhenHidden(QWidget* w)
     QSizePolicy p = w->sizePolicy();
     p.setRetainSizeWhenHidden(true);
     w->setSizePolicy(p);
-}
-
-// Selects the button with the given id, or none when no button has it.
-void selectOption(QButtonGroup* group, int id)
-{
-    if (QAbstractButton* b = group->button(id)) {
-        b->setChecked(true);
-        return;
-    }
-    group->setExclusive(false);
-    for (QAbstractButton* b : group->buttons())
-        b->setChecked(false);
-    group->setExclusive(true);
 }
 
 // The pin legend of the hardware configuration for a numbering base, as the numbering
@@ -76,6 +58,8 @@ QString pinLegend(int base)
 
 constexpr int kFlexAddressMaximum = 127; // the mode byte is one data byte
 constexpr int kExtendedAddressMaximum = 95;
+constexpr long kDccAddressMaximum = 127 * 64 + 63; // high part one data byte, low part 6 bits
+constexpr std::size_t kIDStringMaximum = 12;
 
 QPushButton* button(const char* caption, const char* name)
 {
@@ -101,7 +85,9 @@ QLineEdit* numberBox(const char* name, int width)
 
 } // namespace
 
-GeneralPage::GeneralPage(Session& s, QWidget* parent) : QWidget(parent), session(s)
+GeneralPage::GeneralPage(Session& s, Guard* sharedGuard, QWidget* parent)
+    : QWidget(parent), session(s), ownGuard(sharedGuard ? nullptr : new Guard(s)),
+      guard(sharedGuard ? *sharedGuard : *ownGuard), bindings(guard, [this] { refresh(); })
 {
     setObjectName("PageGeneral");
 
@@ -135,15 +121,7 @@ GeneralPage::GeneralPage(Session& s, QWidget* parent) : QWidget(parent), session
     connect(CommandGenSerialWrite, &QPushButton::clicked, this, &GeneralPage::CommandGenSerialWrite_Click);
     connect(CommandGenEraseFlash, &QPushButton::clicked, this, &GeneralPage::CommandGenEraseFlash_Click);
 
-    connect(CheckGenLynxaddr, &QCheckBox::clicked, this, &GeneralPage::CheckGenLynxaddr_Click);
-    connect(CheckGenKestrelNative, &QCheckBox::clicked, this, &GeneralPage::CheckGenKestrelNative_Click);
-    connect(ChkGenDCCAllow0, &QCheckBox::clicked, this, &GeneralPage::ChkGenDCCAllow0_Click);
-    connect(TextGenDCCAddress, &QLineEdit::editingFinished, this, &GeneralPage::TextGenDCCAddress_Click);
-    connect(TextGenXDCCAddress, &QLineEdit::editingFinished, this, &GeneralPage::TextGenXDCCAddress_Click);
-    connect(TextGenXaddr, &QLineEdit::editingFinished, this, &GeneralPage::TextGenXaddr_Click);
-    connect(TextGenLynxaddr, &QLineEdit::editingFinished, this, &GeneralPage::TextGenLynxaddr_Click);
-    connect(UpDownGenLynxaddr, &QSpinBox::valueChanged, this, &GeneralPage::UpDownGenLynxaddr_Change);
-
+    bind();
     refresh();
 }
 
@@ -157,7 +135,7 @@ QGroupBox* GeneralPage::buildIdentity()
     LabelGenVersionString = named(new QLabel("Unknown"), "LabelGenVersionString");
     LabelGenVersionString->setMinimumWidth(90);
     TextGenIDString = named(new QLineEdit, "TextGenIDString");
-    TextGenIDString->setToolTip("At most 12 characters; a longer text is cut when it is written");
+    TextGenIDString->setToolTip("At most 12 characters, letters, digits and signs without accents");
     CommandGenIDRead = button("Read", "CommandGenIDRead");
     CommandGenIDWrite = button("Write", "CommandGenIDWrite");
 
@@ -397,128 +375,125 @@ QGroupBox* GeneralPage::buildErase()
     return frame;
 }
 
-// ---- Showing and taking the values ----
+// ---- The binding of every control to its field ----
 
-void GeneralPage::refresh()
-{
-    updating = true;
-    GeneralSettings& g = session.general;
-    const int base = session.config.NumberingBase;
-
-    LabelGenVersionString->setText(latin1(g.LabelGenVersionString));
-    TextGenIDString->setText(latin1(g.TextGenIDString));
-
-    TextGenDCCAddress->setText(latin1(g.TextGenDCCAddress));
-    TextGenXDCCAddress->setText(latin1(g.TextGenXDCCAddress));
-    selectOption(prpGroup, g.OptGenDCC_PRP);
-    showBox(ChkGenDCC_BPSI, g.ChkGenDCC_BPSI);
-    showBox(ChkGenDCCAllow0, g.ChkGenDCCAllow0);
-
-    showBox(CheckGenKestrelNative, g.CheckGenKestrelNative);
-    showBox(CheckGenLynxaddr, g.CheckGenLynxaddr);
-    // The form values are what the writers send; the boxes show them with today's base.
-    g.TextGenLynxaddr = std::to_string(g.LynxFlexAddress * 4 + base);
-    g.TextGenXaddr = std::to_string(g.ExtendedAddress + base);
-    TextGenLynxaddr->setText(latin1(g.TextGenLynxaddr));
-    UpDownGenLynxaddr->setRange(base, base + 4 * kFlexAddressMaximum);
-    UpDownGenLynxaddr->setValue(g.LynxFlexAddress * 4 + base);
-    TextGenXaddr->setText(latin1(g.TextGenXaddr));
-    for (int i = 0; i < 16; ++i)
-        showBox(CheckGenXGM[i], g.CheckGenXGM[i]);
-    CheckGenKestrelNative->setVisible(g.CheckGenKestrelNativeVisible);
-    CheckGenLynxaddr->setVisible(g.CheckGenLynxaddrVisible);
-    TextGenLynxaddr->setVisible(g.TextGenLynxaddrVisible);
-    UpDownGenLynxaddr->setVisible(g.TextGenLynxaddrVisible);
-    LabelGenXA_4->setVisible(g.TextGenLynxaddrVisible);
-
-    const QString legend = pinLegend(base);
-    if (LabelGenHWCPin->text() != legend) {
-        LabelGenHWCPin->setText(legend);
-        placeHardwareBoxes();
-    }
-    for (int i = 0; i < 4; ++i) {
-        showBox(ChkGenHWCSink[i], g.ChkGenHWCSink[i]);
-        showBox(ChkGenHWCSource[i], g.ChkGenHWCSource[i]);
-    }
-
-    for (int i = 0; i < 8; ++i) {
-        showBox(CheckLCGreen[i], g.CheckLCGreen[i]);
-        showBox(CheckLCOrange[i], g.CheckLCOrange[i]);
-    }
-
-    showBox(CheckGenSerialEnable, g.CheckGenSerialEnable);
-    ComboGenBaud->setCurrentIndex(std::clamp(g.ComboGenBaud, 0, static_cast<int>(kGenBaudList.size()) - 1));
-    selectOption(databitsGroup, g.OptionGenSerialDatabits);
-    selectOption(stopGroup, g.OptionGenSerialStop);
-    selectOption(parityGroup, g.OptionGenSerialParity);
-    updating = false;
-}
-
-void GeneralPage::commit()
+void GeneralPage::bind()
 {
     GeneralSettings& g = session.general;
-    const int base = session.config.NumberingBase;
+    Bindings& b = bindings;
+    const auto base = [this] { return session.config.NumberingBase; };
 
-    g.TextGenIDString = fromLatin1(TextGenIDString->text());
+    b.display([this, &g] { LabelGenVersionString->setText(latin1(g.LabelGenVersionString)); });
+    // The module stores single-byte characters of 0..127: only printable ones are taken.
+    TextGenIDString->setValidator(
+        new QRegularExpressionValidator(QRegularExpression("[\\x20-\\x7e]*"), TextGenIDString));
+    b.text(TextGenIDString, g.TextGenIDString);
+    connect(TextGenIDString, &QLineEdit::editingFinished, this, [this] { guard([this] { cutIDString(); }); });
 
-    g.TextGenDCCAddress = fromLatin1(TextGenDCCAddress->text());
-    g.TextGenXDCCAddress = fromLatin1(TextGenXDCCAddress->text());
-    if (prpGroup->checkedId() >= 0)
-        g.OptGenDCC_PRP = prpGroup->checkedId();
-    g.ChkGenDCC_BPSI = boxValue(ChkGenDCC_BPSI);
-    g.ChkGenDCCAllow0 = boxValue(ChkGenDCCAllow0);
+    const auto dccEntry = [this, &b](QLineEdit* box, std::string& field) {
+        numericInput(box, 5);
+        b.entry(
+            box, [&field] { return field; },
+            [this, &field](const std::string& typed) {
+                // The module takes 13 bits (low 6, high 7): clamped and written back.
+                field = std::to_string(std::clamp<long>(valInt(typed), 0, kDccAddressMaximum));
+                if (session.onDccAddressChanged)
+                    session.onDccAddressChanged();
+            });
+    };
+    dccEntry(TextGenDCCAddress, g.TextGenDCCAddress);
+    dccEntry(TextGenXDCCAddress, g.TextGenXDCCAddress);
+    b.option(prpGroup, g.OptGenDCC_PRP);
+    b.check(ChkGenDCC_BPSI, g.ChkGenDCC_BPSI);
+    b.check(ChkGenDCCAllow0, g.ChkGenDCCAllow0, [this] { kestrel::ChkGenDCCAllow0_Click(session); });
 
-    g.CheckGenKestrelNative = boxValue(CheckGenKestrelNative);
-    g.CheckGenLynxaddr = boxValue(CheckGenLynxaddr);
-    // A typed number is taken only when it differs from what the box was given, so an
-    // untouched box never moves its form value.
-    const std::string flexText = fromLatin1(TextGenLynxaddr->text());
-    if (flexText != std::to_string(g.LynxFlexAddress * 4 + base)) {
-        const long shown = valInt(flexText) - base;
-        g.LynxFlexAddress = static_cast<int>(std::clamp<long>(shown < 0 ? 0 : shown / 4, 0, kFlexAddressMaximum));
-    }
-    g.TextGenLynxaddr = std::to_string(g.LynxFlexAddress * 4 + base);
-    const std::string xText = fromLatin1(TextGenXaddr->text());
-    if (xText != std::to_string(g.ExtendedAddress + base))
-        g.ExtendedAddress = static_cast<int>(std::clamp<long>(valInt(xText) - base, 0, kExtendedAddressMaximum));
-    g.TextGenXaddr = std::to_string(g.ExtendedAddress + base);
+    b.check(CheckGenKestrelNative, g.CheckGenKestrelNative, [this] { kestrel::CheckGenKestrelNative_Click(session); });
+    b.check(CheckGenLynxaddr, g.CheckGenLynxaddr, [this] { kestrel::CheckGenLynxaddr_Click(session); });
+    // The flex-address is shown times 4 with the numbering base; its text field follows
+    // LynxFlexAddress, which the writer sends.
+    numericInput(TextGenLynxaddr, 4);
+    b.entry(
+        TextGenLynxaddr,
+        [&g, base] {
+            g.TextGenLynxaddr = std::to_string(g.LynxFlexAddress * 4 + base());
+            return g.TextGenLynxaddr;
+        },
+        [this, &g, base](const std::string& typed) {
+            const long shown = valInt(typed) - base();
+            g.LynxFlexAddress = static_cast<int>(std::clamp<long>(shown < 0 ? 0 : shown / 4, 0, kFlexAddressMaximum));
+            g.TextGenLynxaddr = std::to_string(g.LynxFlexAddress * 4 + base());
+            if (session.onPinAddressDisplayChanged)
+                session.onPinAddressDisplayChanged();
+        });
+    b.display([this, base] { UpDownGenLynxaddr->setRange(base(), base() + 4 * kFlexAddressMaximum); });
+    b.spinner(UpDownGenLynxaddr, TextGenLynxaddr, [&g, base] { return g.LynxFlexAddress * 4 + base(); });
+    numericInput(TextGenXaddr, 4);
+    b.entry(
+        TextGenXaddr,
+        [&g, base] {
+            g.TextGenXaddr = std::to_string(g.ExtendedAddress + base());
+            return g.TextGenXaddr;
+        },
+        [&g, base](const std::string& typed) {
+            g.ExtendedAddress = static_cast<int>(std::clamp<long>(valInt(typed) - base(), 0, kExtendedAddressMaximum));
+            g.TextGenXaddr = std::to_string(g.ExtendedAddress + base());
+        });
     for (int i = 0; i < 16; ++i)
-        g.CheckGenXGM[i] = boxValue(CheckGenXGM[i]);
+        b.check(CheckGenXGM[i], g.CheckGenXGM[i]);
+    b.display([this, &g] {
+        CheckGenKestrelNative->setVisible(g.CheckGenKestrelNativeVisible);
+        CheckGenLynxaddr->setVisible(g.CheckGenLynxaddrVisible);
+        TextGenLynxaddr->setVisible(g.TextGenLynxaddrVisible);
+        UpDownGenLynxaddr->setVisible(g.TextGenLynxaddrVisible);
+        LabelGenXA_4->setVisible(g.TextGenLynxaddrVisible);
+    });
 
+    b.display([this, base] {
+        const QString legend = pinLegend(base());
+        if (LabelGenHWCPin->text() != legend) {
+            LabelGenHWCPin->setText(legend);
+            placeHardwareBoxes();
+        }
+    });
     for (int i = 0; i < 4; ++i) {
-        g.ChkGenHWCSink[i] = boxValue(ChkGenHWCSink[i]);
-        g.ChkGenHWCSource[i] = boxValue(ChkGenHWCSource[i]);
+        b.check(ChkGenHWCSink[i], g.ChkGenHWCSink[i]);
+        b.check(ChkGenHWCSource[i], g.ChkGenHWCSource[i]);
     }
-
     for (int i = 0; i < 8; ++i) {
-        g.CheckLCGreen[i] = boxValue(CheckLCGreen[i]);
-        g.CheckLCOrange[i] = boxValue(CheckLCOrange[i]);
+        b.check(CheckLCGreen[i], g.CheckLCGreen[i]);
+        b.check(CheckLCOrange[i], g.CheckLCOrange[i]);
     }
 
-    g.CheckGenSerialEnable = boxValue(CheckGenSerialEnable);
-    if (ComboGenBaud->currentIndex() >= 0)
-        g.ComboGenBaud = ComboGenBaud->currentIndex();
-    if (databitsGroup->checkedId() >= 0)
-        g.OptionGenSerialDatabits = databitsGroup->checkedId();
-    if (stopGroup->checkedId() >= 0)
-        g.OptionGenSerialStop = stopGroup->checkedId();
-    if (parityGroup->checkedId() >= 0)
-        g.OptionGenSerialParity = parityGroup->checkedId();
-
-    // The boxes show what was taken (a clamped number is written back).
-    updating = true;
-    TextGenLynxaddr->setText(latin1(g.TextGenLynxaddr));
-    UpDownGenLynxaddr->setValue(g.LynxFlexAddress * 4 + base);
-    TextGenXaddr->setText(latin1(g.TextGenXaddr));
-    updating = false;
+    b.check(CheckGenSerialEnable, g.CheckGenSerialEnable);
+    b.combo(ComboGenBaud, g.ComboGenBaud);
+    b.option(databitsGroup, g.OptionGenSerialDatabits);
+    b.option(stopGroup, g.OptionGenSerialStop);
+    b.option(parityGroup, g.OptionGenSerialParity);
 }
+
+void GeneralPage::cutIDString()
+{
+    std::string& id = session.general.TextGenIDString;
+    if (id.size() <= kIDStringMaximum)
+        return;
+    id.resize(kIDStringMaximum);
+    refresh();
+    session.dialogs().message("ID string cut to 12 characters: " + id, Icon::Information);
+}
+
+void GeneralPage::refresh() { bindings.show(); }
+
+void GeneralPage::commit() { bindings.commitPending(); }
 
 // ---- Buttons ----
 
 template <typename Procedure> bool GeneralPage::run(Procedure procedure)
 {
-    commit();
-    const bool ok = procedure(session);
+    bool ok = false;
+    guard([&] {
+        commit();
+        ok = procedure(session);
+    });
     refresh();
     return ok;
 }
@@ -537,64 +512,5 @@ bool GeneralPage::CommandLCWrite_Click() { return run(WriteLEDControl); }
 bool GeneralPage::CommandGenSerialRead_Click() { return run(ReadSerialPortSettings); }
 bool GeneralPage::CommandGenSerialWrite_Click() { return run(WriteSerialPortSettings); }
 bool GeneralPage::CommandGenEraseFlash_Click() { return run(EraseFlash); }
-
-// ---- Companion handlers ----
-
-void GeneralPage::CheckGenLynxaddr_Click()
-{
-    commit();
-    kestrel::CheckGenLynxaddr_Click(session);
-    refresh();
-}
-
-void GeneralPage::CheckGenKestrelNative_Click()
-{
-    commit();
-    kestrel::CheckGenKestrelNative_Click(session);
-    refresh();
-}
-
-void GeneralPage::ChkGenDCCAllow0_Click()
-{
-    commit();
-    kestrel::ChkGenDCCAllow0_Click(session);
-    refresh();
-}
-
-void GeneralPage::dccAddressChanged()
-{
-    if (updating)
-        return;
-    commit();
-    if (session.onDccAddressChanged)
-        session.onDccAddressChanged();
-}
-
-void GeneralPage::TextGenDCCAddress_Click() { dccAddressChanged(); }
-
-void GeneralPage::TextGenXDCCAddress_Click() { dccAddressChanged(); }
-
-void GeneralPage::TextGenXaddr_Click()
-{
-    if (!updating)
-        commit();
-}
-
-void GeneralPage::TextGenLynxaddr_Click()
-{
-    if (updating)
-        return;
-    commit();
-    if (session.onPinAddressDisplayChanged)
-        session.onPinAddressDisplayChanged();
-}
-
-void GeneralPage::UpDownGenLynxaddr_Change(int value)
-{
-    if (updating)
-        return;
-    TextGenLynxaddr->setText(QString::number(value));
-    TextGenLynxaddr_Click();
-}
 
 } // namespace kestrel

@@ -1,8 +1,11 @@
 #pragma once
 #include "ops/Session.h"
+#include "shell/Bindings.h"
+#include "shell/Guard.h"
 
 #include <QWidget>
 #include <array>
+#include <memory>
 
 class QButtonGroup;
 class QCheckBox;
@@ -28,15 +31,17 @@ namespace kestrel {
 class GeneralPage : public QWidget {
     Q_OBJECT
 public:
-    explicit GeneralPage(Session& session, QWidget* parent = nullptr);
+    // `guard` is the window's; a page on its own keeps one of its own.
+    explicit GeneralPage(Session& session, Guard* guard = nullptr, QWidget* parent = nullptr);
 
-    // Shows every field of session.general in its control. The eXtended address and
-    // flex-address boxes are shown from ExtendedAddress and LynxFlexAddress with the
-    // current numbering base (their text fields are brought in line).
+    // Shows every field of session.general in its control (a typed entry not yet taken
+    // is taken first). The eXtended address and flex-address boxes are shown from
+    // ExtendedAddress and LynxFlexAddress with the current numbering base.
     void refresh();
-    // Takes every control's value into session.general. A typed eXtended address or
-    // flex-address is clamped (0..95, 0..127 after the base is taken off; the flex
-    // address is shown times 4) and written back.
+    // Takes a typed entry that editing has not yet finished. Every other control is
+    // taken the moment it changes. A typed eXtended address or flex-address is clamped
+    // (0..95, 0..127 after the base is taken off; the flex address is shown times 4), a
+    // DCC address to 0..8191, and written back.
     void commit();
 
     // Identity and version
@@ -107,16 +112,6 @@ public slots:
     bool CommandGenSerialWrite_Click();
     bool CommandGenEraseFlash_Click();
 
-    // Companion handlers
-    void CheckGenLynxaddr_Click();
-    void CheckGenKestrelNative_Click();
-    void ChkGenDCCAllow0_Click();
-    void TextGenDCCAddress_Click();
-    void TextGenXDCCAddress_Click();
-    void TextGenXaddr_Click();
-    void TextGenLynxaddr_Click();
-    void UpDownGenLynxaddr_Change(int value);
-
 private:
     QGroupBox* buildIdentity();
     QGroupBox* buildDcc();
@@ -128,16 +123,19 @@ private:
     // Puts the driver check boxes under the pin ranges of the legend.
     void placeHardwareBoxes();
     template <typename Procedure> bool run(Procedure procedure);
-    void dccAddressChanged();
+    void bind();
+    void cutIDString(); // a longer ID is cut to what the module stores, and the user told
 
     Session& session;
+    std::unique_ptr<Guard> ownGuard;
+    Guard& guard;
+    Bindings bindings;
     QButtonGroup* prpGroup;
     QButtonGroup* databitsGroup;
     QButtonGroup* stopGroup;
     QButtonGroup* parityGroup;
     QWidget* hardwareArea = nullptr;
     std::array<QLabel*, 2> driverCaptions{};
-    bool updating = false;
 };
 
 } // namespace kestrel

@@ -1,8 +1,8 @@
 #include "shell/KestrelConfig.h"
 
 #include "files/ConfigurationFile.h"
-#include "link/ProgramFault.h"
 #include "model/AspectEditor.h"
+#include "model/PinTools.h"
 #include "ops/Bulk.h"
 #include "ops/EventControl.h"
 #include "ops/PinTransfer.h"
@@ -12,8 +12,15 @@
 #include "shell/PinConfigPage.h"
 #include "shell/QtProgress.h"
 #include "shell/QtSerialPort.h"
+#include "shell/Bindings.h"
 
 #include <QApplication>
+#include <QCloseEvent>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QSignalBlocker>
+#include <QStatusBar>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
@@ -41,9 +48,36 @@ template <typename W> W* named(W* w, const QString& name)
     return w;
 }
 
-QString latin1(const std::string& s)
+// Progress that remembers the last step reported, so the outcome can say where a job stopped.
+class JobProgress : public QtProgress {
+public:
+    using QtProgress::QtProgress;
+    void step(int done, int total, const std::string& what) override
+    {
+        last = what;
+        QtProgress::step(done, total, what);
+    }
+    std::string last;
+};
+
+// Where a job stopped, from its last step: "at pin 12 of 32" or "while reading DCC settings".
+QString whereStopped(const std::string& step)
 {
-    return QString::fromLatin1(s.c_str());
+    const QString what = QString::fromLatin1(step.c_str());
+    const auto pin = QRegularExpression(R"(^\w+ pin (\d+)$)").match(what);
+    if (pin.hasMatch())
+        return QString("at pin %1 of %2").arg(pin.captured(1)).arg(kPinCount);
+    if (what.isEmpty() || what.startsWith("Request"))
+        return "at the version request";
+    return "while " + what.left(1).toLower() + what.mid(1);
+}
+
+// What is kept in a data file, without what only shows (labels, the warning flag).
+GeneralSettings filed(GeneralSettings g)
+{
+    g.LabelGenVersionString.clear();
+    g.SuppressAddrWarning = false;
+    return g;
 }
 
 // An up-down control beside its text box: only the arrows show.
@@ -64,6 +98,7 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     core = std::make_unique<Session>(*port, clock, dialogs ? *dialogs : static_cast<UserDialogs&>(boxes));
     core->linkControl.systemPorts = &QtSerialPort::systemPorts;
     corvid = std::make_unique<CorvidControl>(core->link, core->linkControl);
+    guard = std::make_unique<Guard>(*core);
 
     auto* central = new QWidget;
     auto* layout = new QVBoxLayout(central);
@@ -84,7 +119,7 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
                        static_cast<QWidget*>(CommandVerifyAll), static_cast<QWidget*>(CheckWritePinConfig),
                        static_cast<QWidget*>(CommandSave), static_cast<QWidget*>(CommandLoad)})
         bulk->addWidget(w);
-    connect(CommandLoad, &QPushButton::clicked, this, &KestrelConfig::CommandLoad_Click);
+    connect(CommandLoad, &QPushButton::clicked, this, [this] { guard->operator()([this] { CommandLoad_Click(); }); });
     bulk->addStretch();
     layout->addLayout(bulk);
     connect(CommandReadAll, &QPushButton::clicked, this, &KestrelConfig::CommandReadAll_Click);
@@ -93,18 +128,29 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
 
     tabs = named(new QTabWidget, "SSTab1");
     tabs->addTab(buildGeneralPage(), "General");
-    eventPage = new EventPage(*core, [this](const char* job) { startJob(job); });
+    eventPage = new EventPage(*core, [this](const char* job) { startJob(job); }, guard.get());
     tabs->addTab(eventPage, "Event Control");
-    pinConfigPage = new PinConfigPage(*core);
+    pinConfigPage = new PinConfigPage(*core, guard.get());
     tabs->addTab(pinConfigPage, "Pin Configuration");
     tabs->addTab(buildDevicesPage(), "Devices");
     layout->addWidget(tabs, 1);
+    // One pin selection for the whole window: a pin chosen on one page is shown on all.
+    eventPage->onPinChosen = [this] { refreshAll(); };
+    pinConfigPage->onPinChosen = [this] { refreshAll(); };
+    connect(tabs, &QTabWidget::currentChanged, this, [this] { refreshAll(); });
 
     LabelAction = named(new QLabel("Working ... Please WAIT"), "LabelAction");
     LabelAction->setStyleSheet("color: #b00000; font-weight: bold;");
     LabelAction->hide();
     layout->addWidget(LabelAction);
     setCentralWidget(central);
+
+    LabelStatusPort = named(new QLabel, "LabelStatusPort");
+    LabelStatusJob = named(new QLabel, "LabelStatusJob");
+    statusBar()->addWidget(LabelStatusPort);
+    statusBar()->addWidget(LabelStatusJob, 1);
+    guard->after = [this] { updateWindowState(); };
+    guard->afterFault = [this] { refreshAll(); };
 
     core->link.onTextResponse = [this](const std::string& t) { TextResponse->setText(latin1(t)); };
     core->link.onSettingsChanged = [this] { refreshLinkDisplays(); };
@@ -129,12 +175,8 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
         frmKestrelVerification->raise();
     };
     core->onConfigurationChanged = [this] {
-        generalPage->refresh();
-        eventPage->refresh();
-        pinConfigPage->refresh();
         LabelGenVersionString->setText(latin1(core->link.VersionText));
-        refreshLinkDisplays();
-        refreshDevices();
+        refreshAll();
     };
 
     addJobs();
@@ -148,56 +190,57 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     refreshLinkDisplays();
 
     // The standard device definitions beside the program.
-    loadStandardDeviceList(devices, QApplication::applicationDirPath().toStdString(), core->dialogs());
-    refreshDevices();
+    boxes.definitionsFolder = QApplication::applicationDirPath();
+    (*guard)([this] {
+        loadStandardDeviceList(devices, QApplication::applicationDirPath().toStdString(), core->dialogs());
+    });
+    markClean();
+    refreshAll();
 }
 
 void KestrelConfig::addJobs()
 {
     Session& s = *core;
     auto pinConfigToo = [this] { return CheckWritePinConfig->isChecked(); };
-    jobs.add("ReadAll", [this, &s] { runJob("Read All", [&s] { ReadAll(s); }); });
+    auto verify = [&s](bool (*run)(Session&)) {
+        return [&s, run] {
+            s.report.clear();
+            const bool ok = run(s);
+            if (s.onShowVerification)
+                s.onShowVerification();
+            return ok;
+        };
+    };
+    jobs.add("ReadAll", [this, &s] { runJob("Read All", [&s] { return ReadAll(s); }, true, true); });
     jobs.add("WriteAll", [this, &s, pinConfigToo] {
         const bool withConfig = pinConfigToo();
-        runJob("Write All", [&s, withConfig] { WriteAll(s, withConfig); });
+        runJob("Write All", [&s, withConfig] { return WriteAll(s, withConfig); }, false, true);
     });
-    jobs.add("VerifyAll", [this, &s] { runJob("Verify All", [&s] { VerifyAll(s); }); });
-    jobs.add("ReadPin", [this, &s] { runJob("Read Pin", [&s] { ReadPin(s, s.config.CurrentPin); }); });
+    jobs.add("VerifyAll", [this, &s] { runJob("Verify All", [&s] { return VerifyAll(s); }); });
+    jobs.add("ReadPin", [this, &s] { runJob("Read Pin", [&s] { return ReadPin(s, s.config.CurrentPin); }, true); });
     jobs.add("WritePin", [this, &s, pinConfigToo] {
         const bool withConfig = pinConfigToo();
-        runJob("Write Pin", [&s, withConfig] { WritePin(s, s.config.CurrentPin, withConfig); });
+        runJob("Write Pin", [&s, withConfig] { return WritePin(s, s.config.CurrentPin, withConfig); });
     });
-    jobs.add("ReadDevice", [this, &s] { runJob("Read Device", [&s] { ReadDevice(s); }); });
-    jobs.add("WriteDevice", [this, &s] { runJob("Write Device", [&s] { WriteDevice(s); }); });
-    jobs.add("ReadAllPins", [this, &s] { runJob("Read All Pins", [&s] { ReadAllPins(s); }); });
+    jobs.add("ReadDevice", [this, &s] { runJob("Read Device", [&s] { return ReadDevice(s); }, true); });
+    jobs.add("WriteDevice", [this, &s] { runJob("Write Device", [&s] { return WriteDevice(s); }); });
+    jobs.add("ReadAllPins", [this, &s] { runJob("Read All Pins", [&s] { return ReadAllPins(s); }, true); });
     jobs.add("WriteAllPins", [this, &s, pinConfigToo] {
         const bool withConfig = pinConfigToo();
-        runJob("Write All Pins", [&s, withConfig] { WriteAllPins(s, withConfig); });
+        runJob("Write All Pins", [&s, withConfig] { return WriteAllPins(s, withConfig); });
     });
-    jobs.add("PAspReadPin", [this, &s] { runJob("Read Pin", [&s] { PAspReadPin(s, s.config.CurrentPin); }); });
-    jobs.add("PAspWritePin", [this, &s] { runJob("Write Pin", [&s] { WritePin(s, s.config.CurrentPin); }); });
-    jobs.add("VerifyAllPins", [this, &s] {
-        runJob("Verify All Pins", [&s] {
-            s.report.clear();
-            VerifyAllPins(s);
-            if (s.onShowVerification)
-                s.onShowVerification();
-        });
-    });
-    jobs.add("ECWriteAll", [this, &s] { runJob("Write All Events", [&s] { WriteAllEvents(s); }); });
-    jobs.add("ECReadAll", [this, &s] { runJob("Read All Events", [&s] { ReadAllEvents(s); }); });
-    jobs.add("ECVerify", [this, &s] {
-        runJob("Verify Event Control", [&s] {
-            s.report.clear();
-            VerifyEventControl(s);
-            if (s.onShowVerification)
-                s.onShowVerification();
-        });
-    });
+    jobs.add("PAspReadPin",
+             [this, &s] { runJob("Read Pin", [&s] { return PAspReadPin(s, s.config.CurrentPin); }, true); });
+    jobs.add("PAspWritePin", [this, &s] { runJob("Write Pin", [&s] { return WritePin(s, s.config.CurrentPin); }); });
+    jobs.add("VerifyAllPins", [this, verify] { runJob("Verify All Pins", verify(&VerifyAllPins)); });
+    jobs.add("ECWriteAll", [this, &s] { runJob("Write All Events", [&s] { return WriteAllEvents(s); }); });
+    jobs.add("ECReadAll", [this, &s] { runJob("Read All Events", [&s] { return ReadAllEvents(s); }, true); });
+    jobs.add("ECVerify", [this, verify] { runJob("Verify Event Control", verify(&VerifyEventControl)); });
 }
 
 void KestrelConfig::startJob(const char* name)
 {
+    commitAll();
     LabelAction->setVisible(true);
     jobs.request(name);
 }
@@ -207,24 +250,133 @@ void KestrelConfig::Timer1_Timer()
     jobs.Timer1_Timer();
 }
 
-void KestrelConfig::runJob(const QString& title, const std::function<void()>& operation)
+void KestrelConfig::runJob(const QString& title, const std::function<bool()>& operation, bool reads, bool clean)
 {
-    QtProgress progress(this, title);
+    commitAll();
+    JobProgress progress(this, title);
     core->link.setProgress(&progress);
-    try {
-        operation();
-    } catch (const ProgramFault& fault) {
-        core->dialogs().message(std::string("Program error, the operation was stopped: ") + fault.what(),
-                                Icon::Warning);
-    }
+    QElapsedTimer clock;
+    clock.start();
+    bool ok = false;
+    const auto reportEndsWith = [this](const std::string& line) {
+        const std::string& text = core->report.txtVerification;
+        const std::string tail = line + "\r\n";
+        return text.size() >= tail.size() && text.compare(text.size() - tail.size(), tail.size(), tail) == 0;
+    };
+    const bool noFault = (*guard)([&] { ok = operation(); });
     core->link.setProgress(nullptr);
     LabelAction->setVisible(false);
+
+    const QString partial = reads ? ": the pages show a partial read" : QString();
+    QString outcome;
+    if (!noFault)
+        outcome = title + " stopped by a program error; the configuration is as it was before";
+    else if (progress.cancelled())
+        outcome = title + " cancelled " + whereStopped(progress.last) + partial;
+    else if (!ok && reportEndsWith("Verification Stopped"))
+        outcome = title + ": the module differs, see the verification report";
+    else if (!ok)
+        outcome = title + " stopped " + whereStopped(progress.last) + partial;
+    else if (title == "Verify All" && reportEndsWith("Verify OK"))
+        outcome = "Verify OK";
+    else
+        outcome = QString("%1 done in %2 s").arg(title).arg(clock.elapsed() / 1000.0, 0, 'f', 1);
+    LabelStatusJob->setText(outcome);
+    if (noFault && ok && clean)
+        markClean();
+    refreshAll();
+}
+
+void KestrelConfig::commitAll()
+{
+    generalPage->commit();
+    eventPage->commitPending();
+    pinConfigPage->commitPending();
+    for (QLineEdit* box : {TextAddress, txtXaddr, TextPAspOutput, TextDeviceDescription})
+        if (box->isModified())
+            emit box->editingFinished();
+}
+
+void KestrelConfig::refreshAll()
+{
+    commitAll();
     refreshLinkDisplays();
-    // Whatever the job read is shown on every page.
     generalPage->refresh();
     eventPage->refresh();
     pinConfigPage->refresh();
     refreshDevices();
+    updateWindowState();
+}
+
+bool KestrelConfig::unsavedChanges() const
+{
+    return core->config.Pins != cleanConfig.Pins || core->config.EventMap != cleanConfig.EventMap ||
+           filed(core->general) != filed(cleanGeneral);
+}
+
+void KestrelConfig::markClean()
+{
+    cleanConfig = core->config;
+    cleanGeneral = core->general;
+    updateWindowState();
+}
+
+void KestrelConfig::updateWindowState()
+{
+    const QString name = fileName.isEmpty() ? QString() : QFileInfo(fileName).fileName();
+    const bool changed = unsavedChanges();
+    // "Kestrel Config" while nothing is changed; "mylayout.dat* - Kestrel Config" (or
+    // "untitled*") while the configuration differs from its file, read or write.
+    if (name.isEmpty() && !changed)
+        setWindowTitle("Kestrel Config");
+    else
+        setWindowTitle((name.isEmpty() ? QString("untitled") : name) + (changed ? "*" : "") + " - Kestrel Config");
+    SerialPort& port = core->link.port();
+    const int rate = core->linkControl.OptionBitRate;
+    static const char* rates[3] = {"9600", "19200", "38400"};
+    LabelStatusPort->setText(port.isOpen() ? QString("Port %1 open at %2 bit/s")
+                                                 .arg(QString::fromStdString(core->linkControl.ComboPortText))
+                                                 .arg(rates[std::clamp(rate, 0, 2)])
+                                           : QString("Port closed"));
+}
+
+bool KestrelConfig::keepChangesSafe(const char* doing)
+{
+    commitAll();
+    if (!unsavedChanges())
+        return true;
+    const Answer a = core->dialogs().ask(std::string("The configuration has changes that are not saved.\r\n") + doing +
+                                             " would lose them. Save them first?",
+                                         Buttons::SaveDiscardCancel, Icon::Warning);
+    if (a == Answer::Discard)
+        return true;
+    if (a != Answer::Save)
+        return false;
+    CommandSave_MouseDown(1, 0);
+    return !unsavedChanges(); // a cancelled or failed save keeps the changes and stops here
+}
+
+void KestrelConfig::closeEvent(QCloseEvent* event)
+{
+    bool leave = false;
+    (*guard)([&] { leave = keepChangesSafe("Closing the window"); });
+    if (leave)
+        event->accept();
+    else
+        event->ignore();
+}
+
+void KestrelConfig::CommandSave_MouseDown(int button, int shift)
+{
+    commitAll();
+    (*guard)([&] {
+        const std::string path = kestrel::CommandSave_MouseDown(*core, button, shift);
+        if (path.empty())
+            return;
+        fileName = QString::fromStdString(path);
+        markClean();
+        LabelStatusJob->setText(QString("Saved %1%2").arg(fileName, shift == 1 ? " (compact)" : ""));
+    });
 }
 
 void KestrelConfig::ensureVerificationWindow()
@@ -262,40 +414,54 @@ void KestrelConfig::ensureCorvidWindow()
 
 void KestrelConfig::CheckCorvid_Click()
 {
-    corvid->CheckCorvid_Click(CheckCorvid->isChecked());
+    (*guard)([this] { corvid->CheckCorvid_Click(CheckCorvid->isChecked()); });
     refreshLinkDisplays();
 }
 
 void KestrelConfig::CheckKLnumber_Click()
 {
     // Shown numbers move with the base; what is stored stays numbered from 0.
+    commitAll(); // a typed number is taken with the base it was typed for
     core->config.NumberingBase = CheckKLnumber->isChecked() ? 1 : 0;
-    refreshLinkDisplays();
-    generalPage->refresh();
-    eventPage->refresh();
-    pinConfigPage->refresh();
-    refreshDevices();
+    refreshAll();
 }
 
 void KestrelConfig::cmdSetTM_Click()
 {
-    corvid->cmdSetTM_Click();
+    (*guard)([this] { corvid->cmdSetTM_Click(); });
     refreshLinkDisplays();
 }
 
 void KestrelConfig::CommandLoad_Click()
 {
-    try {
-        kestrel::CommandLoad_Click(*core);
-    } catch (const ProgramFault& fault) {
-        core->dialogs().message(std::string("Program error, the load was stopped: ") + fault.what(), Icon::Warning);
-    }
-    refreshLinkDisplays();
+    if (!keepChangesSafe("Loading a file"))
+        return;
+    (*guard)([this] {
+        const LoadOutcome loaded = kestrel::CommandLoad_Click(*core);
+        if (loaded.path.empty())
+            return;
+        const QString name = QString::fromStdString(loaded.path);
+        switch (loaded.result) {
+        case LoadResult::Loaded:
+            fileName = name;
+            markClean();
+            LabelStatusJob->setText("Loaded " + name);
+            break;
+        case LoadResult::FormatError:
+            LabelStatusJob->setText("Load stopped at a fault in " + name + ": the pages show what was read before it");
+            break;
+        default:
+            LabelStatusJob->setText("Nothing was loaded from " + name);
+            break;
+        }
+    });
+    refreshAll();
 }
 
 void KestrelConfig::CommandReadAll_Click()
 {
-    startJob("ReadAll");
+    if (keepChangesSafe("Reading the module"))
+        startJob("ReadAll");
 }
 
 void KestrelConfig::CommandWriteAll_Click()
@@ -344,6 +510,7 @@ void KestrelConfig::buildLinkArea(QWidget* host)
     LabelAddress = named(new QLabel("Module Address"), "LabelAddress");
     TextAddress = named(new QLineEdit("0"), "TextAddress");
     TextAddress->setMaximumWidth(50);
+    numericInput(TextAddress, 3);
     UpDownAddress = upDown("UpDownAddress");
     auto* addrRow = new QHBoxLayout;
     addrRow->addWidget(TextAddress);
@@ -356,6 +523,7 @@ void KestrelConfig::buildLinkArea(QWidget* host)
     LabelXaddress = named(new QLabel("eXtended address"), "LabelXaddress");
     txtXaddr = named(new QLineEdit("0"), "txtXaddr");
     txtXaddr->setMaximumWidth(50);
+    numericInput(txtXaddr, 3);
     UpDownXaddr = upDown("UpDownXaddr");
     auto* xRow = new QHBoxLayout;
     xRow->addWidget(txtXaddr);
@@ -408,23 +576,28 @@ QWidget* KestrelConfig::buildDevicesPage()
     auto* grid = new QGridLayout(page);
     TextPAspOutput = named(new QLineEdit("0"), "TextPAspOutput");
     TextPAspOutput->setMaximumWidth(50);
+    numericInput(TextPAspOutput, 3);
     TextDevicePin = named(new QLineEdit, "TextDevicePin");
     TextDevicePin->setReadOnly(true);
     TextDevicePin->setMaximumWidth(50);
     TextDeviceDescription = named(new QLineEdit, "TextDeviceDescription");
-    TextDeviceDescription->setReadOnly(true);
+    TextDeviceDescription->setToolTip("The device's name, kept by its first pin");
     cboDevice = named(new QComboBox, "cboDevice");
     cboDevice->setMinimumWidth(220);
     lblDDVersion = named(new QLabel, "lblDDVersion");
     CommandReloadDD = named(new QPushButton("Reload DD"), "CommandReloadDD");
-    CommandReloadDD->setToolTip("Shift+Reload DD to append a definitions file");
+    CommandReloadDD->setToolTip("Reload DD to load new file, Shift + Reload DD to append");
     CommandReloadDD->installEventFilter(this);
     CommandPAspPreLoad = named(new QPushButton("Load Device"), "CommandPAspPreLoad");
     CommandSaveDevice = named(new QPushButton("Save Device"), "CommandSaveDevice");
 
-    grid->addWidget(new QLabel("Pin"), 0, 0);
+    auto* pinLabel = new QLabel("Pin");
+    pinLabel->setBuddy(TextPAspOutput);
+    auto* deviceLabel = new QLabel("Device");
+    deviceLabel->setBuddy(TextDeviceDescription);
+    grid->addWidget(pinLabel, 0, 0);
     grid->addWidget(TextPAspOutput, 0, 1);
-    grid->addWidget(new QLabel("Device"), 0, 2);
+    grid->addWidget(deviceLabel, 0, 2);
     grid->addWidget(TextDevicePin, 0, 3);
     grid->addWidget(TextDeviceDescription, 0, 4, 1, 2);
     grid->addWidget(cboDevice, 1, 0, 1, 3);
@@ -436,6 +609,7 @@ QWidget* KestrelConfig::buildDevicesPage()
     grid->setRowStretch(3, 1);
 
     connect(TextPAspOutput, &QLineEdit::editingFinished, this, &KestrelConfig::TextPAspOutput_Click);
+    connect(TextDeviceDescription, &QLineEdit::textEdited, this, &KestrelConfig::TextDeviceDescription_Change);
     connect(cboDevice, &QComboBox::activated, this, [this](int index) { devices.selected = index; });
     connect(CommandPAspPreLoad, &QPushButton::clicked, this, &KestrelConfig::CommandPAspPreLoad_Click);
     connect(CommandSaveDevice, &QPushButton::clicked, this, &KestrelConfig::CommandSaveDevice_Click);
@@ -444,61 +618,81 @@ QWidget* KestrelConfig::buildDevicesPage()
 
 void KestrelConfig::refreshDevices()
 {
-    updating = true;
+    const QSignalBlocker blockList(cboDevice);
+    const QSignalBlocker blockPin(TextPAspOutput);
+    const QSignalBlocker blockDescription(TextDeviceDescription);
     cboDevice->clear();
     for (const auto& name : devices.cboDevice)
         cboDevice->addItem(latin1(name));
     cboDevice->setCurrentIndex(devices.selected);
     lblDDVersion->setText(latin1(devices.lblDDVersion));
-    const AspectView view = ShowAspect(core->config);
-    TextPAspOutput->setText(latin1(view.pinText));
-    TextDevicePin->setText(latin1(view.devicePin));
-    TextDeviceDescription->setText(latin1(view.deviceDescription));
-    updating = false;
+    const Configuration& c = core->config;
+    const int pin = std::clamp(c.CurrentPin, 0, kPinCount - 1);
+    TextPAspOutput->setText(QString::number(pin + c.NumberingBase));
+    TextPAspOutput->setModified(false);
+    TextDevicePin->setText(QString::number(deviceHead(c, pin) + c.NumberingBase));
+    const QString description = latin1(deviceDescriptionText(c, pin));
+    if (TextDeviceDescription->text() != description)
+        TextDeviceDescription->setText(description);
+    TextDeviceDescription->setModified(false);
+    // Only the device's head holds its name; a member shows it and leaves it alone.
+    TextDeviceDescription->setReadOnly(c.pin(pin).DeviceOffset != 0);
 }
 
 void KestrelConfig::TextPAspOutput_Click()
 {
-    if (updating)
-        return;
-    selectPin(core->config, TextPAspOutput->text().toStdString());
-    refreshDevices();
+    TextPAspOutput->setModified(false);
+    (*guard)([this] { selectPin(core->config, fromLatin1(TextPAspOutput->text())); });
+    refreshAll();
+}
+
+void KestrelConfig::TextDeviceDescription_Change()
+{
+    TextDeviceDescription->setModified(false);
+    (*guard)([this] { setDeviceDescription(core->config, fromLatin1(TextDeviceDescription->text())); });
 }
 
 void KestrelConfig::CommandPAspPreLoad_Click()
 {
+    commitAll();
     devices.selected = cboDevice->currentIndex();
-    try {
-        kestrel::CommandPAspPreLoad_Click(devices, core->config, core->dialogs());
-    } catch (const ProgramFault& fault) {
-        core->dialogs().message(std::string("Program error, the device was not loaded: ") + fault.what(), Icon::Warning);
-    }
-    refreshDevices();
+    (*guard)([this] { kestrel::CommandPAspPreLoad_Click(devices, core->config, core->dialogs()); });
+    refreshAll();
 }
 
 void KestrelConfig::CommandSaveDevice_Click()
 {
-    kestrel::CommandSaveDevice_Click(core->config, core->dialogs());
+    commitAll();
+    (*guard)([this] { kestrel::CommandSaveDevice_Click(core->config, core->dialogs()); });
+}
+
+void KestrelConfig::CommandReloadDD_MouseDown(int button, int shift)
+{
+    (*guard)([&] { kestrel::CommandReloadDD_MouseDown(devices, core->dialogs(), button, shift); });
+    refreshDevices();
 }
 
 void KestrelConfig::fillPortList()
 {
     core->linkControl.ScanPorts();
-    updating = true;
+    const QSignalBlocker block(ComboPort);
     ComboPort->clear();
     for (const auto& p : core->linkControl.ComboPort)
         ComboPort->addItem(QString::fromStdString(p));
+    // The port in use stays chosen; with none, the box is empty.
     ComboPort->setCurrentIndex(-1);
-    ComboPort->setEditText(QString());
-    updating = false;
+    ComboPort->setEditText(core->link.port().isOpen() ? QString::fromStdString(core->linkControl.ComboPortText)
+                                                      : QString());
 }
 
 void KestrelConfig::refreshLinkDisplays()
 {
-    updating = true;
     auto& lc = core->linkControl;
     auto& s = core->link.settings;
     const int base = core->config.NumberingBase;
+    for (QWidget* w : std::initializer_list<QWidget*>{UpDownAddress, TextAddress, UpDownXaddr, txtXaddr,
+                                                      CheckXaddress, CheckKestrelBD, CheckCorvid})
+        w->blockSignals(true);
     UpDownAddress->setRange(base, lc.addressMaximum());
     UpDownAddress->setValue(s.TargetAddress + base);
     TextAddress->setText(QString::fromStdString(lc.addressText()));
@@ -513,62 +707,59 @@ void KestrelConfig::refreshLinkDisplays()
     CheckKestrelBD->setChecked(s.CheckKestrelBD);
     CheckCorvid->setChecked(s.CheckCorvid);
     cmdSetTM->setVisible(corvid->cmdSetTMVisible);
-    updating = false;
+    for (QWidget* w : std::initializer_list<QWidget*>{UpDownAddress, TextAddress, UpDownXaddr, txtXaddr,
+                                                      CheckXaddress, CheckKestrelBD, CheckCorvid})
+        w->blockSignals(false);
+    updateWindowState();
 }
 
 void KestrelConfig::ComboPort_Click()
 {
-    if (updating)
-        return;
-    core->linkControl.ComboPort_Click(ComboPort->currentText().trimmed().toStdString());
+    const std::string chosen = ComboPort->currentText().trimmed().toStdString();
+    (*guard)([&] { core->linkControl.ComboPort_Click(chosen); });
 }
 
 void KestrelConfig::cmdRefreshComm_Click()
 {
-    core->linkControl.cmdRefreshComm_Click();
+    (*guard)([this] { core->linkControl.cmdRefreshComm_Click(); });
     fillPortList();
+    updateWindowState();
 }
 
 void KestrelConfig::OptionBitRate_Click(int index)
 {
-    core->linkControl.OptionBitRate_Click(index);
+    (*guard)([&] { core->linkControl.OptionBitRate_Click(index); });
 }
 
 void KestrelConfig::TextAddress_Click()
 {
-    if (updating)
-        return;
-    TextAddress->setText(QString::fromStdString(core->linkControl.TextAddress_Click(TextAddress->text().toStdString())));
+    TextAddress->setModified(false);
+    (*guard)([this] { core->linkControl.TextAddress_Click(fromLatin1(TextAddress->text())); });
     refreshLinkDisplays();
 }
 
 void KestrelConfig::UpDownAddress_Change(int value)
 {
-    if (updating)
-        return;
-    core->linkControl.UpDownAddress_Change(value);
+    (*guard)([&] { core->linkControl.UpDownAddress_Change(value); });
     refreshLinkDisplays();
 }
 
 void KestrelConfig::txtXaddr_Click()
 {
-    if (updating)
-        return;
-    txtXaddr->setText(QString::fromStdString(core->linkControl.txtXaddr_Click(txtXaddr->text().toStdString())));
+    txtXaddr->setModified(false);
+    (*guard)([this] { core->linkControl.txtXaddr_Click(fromLatin1(txtXaddr->text())); });
     refreshLinkDisplays();
 }
 
 void KestrelConfig::UpDownXaddr_Change(int value)
 {
-    if (updating)
-        return;
-    core->linkControl.UpDownXaddr_Change(value);
+    (*guard)([&] { core->linkControl.UpDownXaddr_Change(value); });
     refreshLinkDisplays();
 }
 
 void KestrelConfig::CheckXaddress_Click()
 {
-    core->linkControl.CheckXaddress_Click(CheckXaddress->isChecked());
+    (*guard)([this] { core->linkControl.CheckXaddress_Click(CheckXaddress->isChecked()); });
     refreshLinkDisplays();
 }
 
@@ -587,27 +778,33 @@ void KestrelConfig::CommandGenVersion_Click()
     generalPage->CommandGenVersion_Click();
 }
 
+namespace {
+// The mouse button and the keys held, as the buttons' handlers take them: button 1 left,
+// 2 right, 4 middle; Shift 1, Ctrl 2, Alt 4 added together.
+std::pair<int, int> pressOf(const QMouseEvent* mouse)
+{
+    const int button = mouse->button() == Qt::LeftButton ? 1 : mouse->button() == Qt::RightButton ? 2 : 4;
+    const auto keys = mouse->modifiers();
+    const int shift = (keys & Qt::ShiftModifier ? 1 : 0) | (keys & Qt::ControlModifier ? 2 : 0) |
+                      (keys & Qt::AltModifier ? 4 : 0);
+    return {button, shift};
+}
+} // namespace
+
 bool KestrelConfig::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == LabelPort && event->type() == QEvent::MouseButtonDblClick) {
         LabelPort_DblClick();
         return true;
     }
-    // Reload DD acts on the press too: with Shift the chosen file is appended to the list.
-    if (watched == CommandReloadDD && event->type() == QEvent::MouseButtonPress) {
-        auto* mouse = static_cast<QMouseEvent*>(event);
-        CommandReloadDD_MouseDown(devices, core->dialogs(), mouse->button() == Qt::LeftButton ? 1 : 2,
-                                  mouse->modifiers() & Qt::ShiftModifier ? 1 : 0);
-        refreshDevices();
-        return false;
-    }
-    // Save acts on the press, where the Shift key decides between the full and the compact file.
-    if (watched == CommandSave && event->type() == QEvent::MouseButtonPress) {
-        auto* mouse = static_cast<QMouseEvent*>(event);
-        const int button = mouse->button() == Qt::LeftButton ? 1 : mouse->button() == Qt::RightButton ? 2 : 4;
-        const int shift = (mouse->modifiers() & Qt::ShiftModifier ? 1 : 0) | (mouse->modifiers() & Qt::ControlModifier ? 2 : 0) |
-                          (mouse->modifiers() & Qt::AltModifier ? 4 : 0);
-        CommandSave_MouseDown(*core, button, shift);
+    // Reload DD and Save act on the press, where the keys held decide: Shift alone appends
+    // a definitions file or saves the compact file.
+    if ((watched == CommandReloadDD || watched == CommandSave) && event->type() == QEvent::MouseButtonPress) {
+        const auto [button, shift] = pressOf(static_cast<QMouseEvent*>(event));
+        if (watched == CommandReloadDD)
+            CommandReloadDD_MouseDown(button, shift);
+        else
+            CommandSave_MouseDown(button, shift);
         return false;
     }
     return QMainWindow::eventFilter(watched, event);

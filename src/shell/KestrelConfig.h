@@ -4,6 +4,7 @@
 #include "ops/JobDispatcher.h"
 #include "ops/Session.h"
 #include "shell/PortRouter.h"
+#include "shell/Guard.h"
 #include "shell/QtDialogs.h"
 
 #include <QMainWindow>
@@ -21,6 +22,7 @@ class QRadioButton;
 class QSpinBox;
 class QTabWidget;
 class QTimer;
+class QCloseEvent;
 
 namespace kestrel {
 class GeneralPage;
@@ -41,6 +43,11 @@ public:
     ~KestrelConfig() override;
 
     Session& session() { return *core; }
+
+    // The file the configuration was last loaded from or saved to ("" for none), and
+    // whether it differs from what was last loaded, saved, read or written.
+    QString currentFile() const { return fileName; }
+    bool unsavedChanges() const;
 
     // Link area
     QLabel* LabelPort;
@@ -98,6 +105,10 @@ public:
     QDialog* frmKestrelVerification = nullptr;
     QPlainTextEdit* txtVerification = nullptr;
 
+    // The status bar: the port, and what the last job did.
+    QLabel* LabelStatusPort;
+    QLabel* LabelStatusJob;
+
     JobDispatcher jobs;
     QTimer* Timer1;
 
@@ -117,6 +128,10 @@ public slots:
     void CheckKLnumber_Click();
     void cmdSetTM_Click();
     void CommandLoad_Click();
+    // Plain click: the full file; Shift: the compact one; other buttons or keys: nothing.
+    void CommandSave_MouseDown(int button, int shift);
+    void CommandReloadDD_MouseDown(int button, int shift);
+    void TextDeviceDescription_Change();
     void TextPAspOutput_Click();
     void CommandPAspPreLoad_Click();
     void CommandSaveDevice_Click();
@@ -127,6 +142,7 @@ public slots:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     void buildLinkArea(QWidget* host);
@@ -136,8 +152,20 @@ private:
     void refreshLinkDisplays();
     void fillPortList();
     void addJobs();
-    // Runs one job behind the progress dialog; a program fault is reported once.
-    void runJob(const QString& title, const std::function<void()>& operation);
+    // Runs one job behind the progress dialog, inside the guard, and tells its outcome in
+    // the status bar. `reads` jobs fill the pages; `clean` jobs leave the configuration
+    // equal to the module's when they succeed.
+    void runJob(const QString& title, const std::function<bool()>& operation, bool reads = false,
+                bool clean = false);
+    // Takes every typed entry of every page that editing has not yet finished.
+    void commitAll();
+    // Shows the model on every page.
+    void refreshAll();
+    // The title (file name, "*" for unsaved changes) and the port's state.
+    void updateWindowState();
+    void markClean();
+    // Over unsaved changes: Save / Discard / Cancel. True when the caller may go on.
+    bool keepChangesSafe(const char* doing);
     void startJob(const char* name);
     void ensureVerificationWindow();
     void ensureCorvidWindow();
@@ -147,8 +175,11 @@ private:
     SystemClock clock;
     std::unique_ptr<Session> core;
     std::unique_ptr<CorvidControl> corvid;
+    std::unique_ptr<Guard> guard;
     QGroupBox* linkFrame = nullptr; // the frame LabelPort's double-click shows and hides
-    bool updating = false;
+    QString fileName;
+    Configuration cleanConfig;     // as last loaded, saved, read or written
+    GeneralSettings cleanGeneral;
 };
 
 } // namespace kestrel

@@ -15,6 +15,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSignalBlocker>
 #include <QSlider>
 #include <QSpinBox>
 #include <QTabWidget>
@@ -31,10 +32,6 @@ template <typename W> W* named(W* w, const QString& name)
     return w;
 }
 
-QString latin1(const std::string& s)
-{
-    return QString::fromLatin1(s.c_str());
-}
 
 const char* const kDynamicTip = "If checked, use active dynamic parameters, else go directly to position";
 
@@ -97,7 +94,9 @@ QGroupBox* liveFrame(const char* title, const QString& frameName, const char* ca
 }
 } // namespace
 
-PinConfigPage::PinConfigPage(Session& s, QWidget* parent) : QWidget(parent), session(s)
+PinConfigPage::PinConfigPage(Session& s, Guard* sharedGuard, QWidget* parent)
+    : QWidget(parent), session(s), ownGuard(sharedGuard ? nullptr : new Guard(s)),
+      guard(sharedGuard ? *sharedGuard : *ownGuard)
 {
     setObjectName("PagePinConfig");
     auto* layout = new QVBoxLayout(this);
@@ -150,10 +149,9 @@ PinConfigPage::PinConfigPage(Session& s, QWidget* parent) : QWidget(parent), ses
     row->addStretch();
     layout->addWidget(transfer);
 
+    numericInput(TextPCFGPin, 3);
     connect(TextPCFGPin, &QLineEdit::editingFinished, this, &PinConfigPage::TextPCFGPin_Click);
     connect(UpDownPCFGPin, &QSpinBox::valueChanged, this, [this](int v) {
-        if (updating)
-            return;
         TextPCFGPin->setText(QString::number(v));
         TextPCFGPin_Click();
     });
@@ -168,6 +166,7 @@ QLineEdit* PinConfigPage::fieldBox(PinField field, const QString& name)
     box->setFixedWidth(48);
     box->setAlignment(Qt::AlignRight);
     fields[field] = box;
+    numericInput(box, 5);
     connect(box, &QLineEdit::editingFinished, this, [this, field] { commitField(field); });
     return box;
 }
@@ -250,12 +249,9 @@ QWidget* PinConfigPage::buildServoPage()
     layout->setColumnStretch(0, 1);
 
     connect(TextPosition, &QLineEdit::editingFinished, this, [this] {
-        if (updating)
-            return;
         const int value = liveValue(PinField::TextPosition); // the slider follows without sending
-        updating = true;
+        const QSignalBlocker block(SliderServo);
         SliderServo->setValue(value);
-        updating = false;
     });
     connect(SliderServo, &QSlider::sliderMoved, this,
             [this](int v) { TextPosition->setText(QString::number(v)); });
@@ -272,7 +268,7 @@ QWidget* PinConfigPage::buildPwmPage()
 
     CheckPWMInverted = named(new QCheckBox("Inverted"), "CheckPWMInverted");
     connect(CheckPWMInverted, &QCheckBox::clicked, this, [this](bool checked) {
-        if (!updating && pageOfMode(pin().ConfigMode) == 2)
+        if (pageOfMode(pin().ConfigMode) == 2)
             pin().ConfigMode = static_cast<std::uint8_t>(pwmConfigMode(checked));
     });
 
@@ -333,12 +329,9 @@ QWidget* PinConfigPage::buildPwmPage()
     layout->setRowStretch(1, 1);
 
     connect(TextPWMLevel, &QLineEdit::editingFinished, this, [this] {
-        if (updating)
-            return;
         const int value = liveValue(PinField::TextPWMLevel); // the slider follows without sending
-        updating = true;
+        const QSignalBlocker block(SliderPWM);
         SliderPWM->setValue(value);
-        updating = false;
     });
     connect(SliderPWM, &QSlider::sliderMoved, this, [this](int v) { TextPWMLevel->setText(QString::number(v)); });
     connect(SliderPWM, &QSlider::valueChanged, this, &PinConfigPage::SliderPWM_Change);
@@ -353,7 +346,7 @@ QWidget* PinConfigPage::buildInputPage()
     auto* layout = new QVBoxLayout(page);
     CheckInputInvert = named(new QCheckBox("Inverted"), "CheckInputInvert");
     connect(CheckInputInvert, &QCheckBox::clicked, this, [this](bool checked) {
-        if (!updating && pageOfMode(pin().ConfigMode) == 3)
+        if (pageOfMode(pin().ConfigMode) == 3)
             pin().ConfigMode = static_cast<std::uint8_t>(inputConfigMode(checked));
     });
     layout->addWidget(CheckInputInvert);
@@ -382,7 +375,8 @@ PinRecord& PinConfigPage::pin()
 
 void PinConfigPage::refresh()
 {
-    updating = true;
+    commitPending(); // what was typed stays; the model is shown after it is taken
+    const auto blocked = blockAll();
     const int base = session.config.NumberingBase;
     UpDownPCFGPin->setRange(base, base + kPinCount - 1);
     UpDownPCFGPin->setValue(session.config.CurrentPin + base);
@@ -433,7 +427,8 @@ void PinConfigPage::refresh()
     }
     LabelSrvHWCWarn->setVisible(v.LabelSrvHWCWarn);
     LabelInpHWCWarn->setVisible(v.LabelInpHWCWarn);
-    updating = false;
+    for (const auto& [field, box] : fields)
+        shown[box] = box->text();
     if (!v.message.empty())
         session.dialogs().message(v.message, Icon::None);
 }
@@ -445,20 +440,38 @@ void PinConfigPage::showEvent(QShowEvent* event)
     QWidget::showEvent(event);
 }
 
+std::vector<std::unique_ptr<QSignalBlocker>> PinConfigPage::blockAll()
+{
+    std::vector<std::unique_ptr<QSignalBlocker>> blocked;
+    for (QObject* o : findChildren<QObject*>())
+        blocked.push_back(std::make_unique<QSignalBlocker>(o));
+    return blocked;
+}
+
+void PinConfigPage::commitPending()
+{
+    for (const auto& [field, box] : fields)
+        if (box->isModified() || (shown.count(box) && box->text() != shown[box]))
+            commitField(field);
+}
+
 void PinConfigPage::commitField(PinField field)
 {
-    if (updating)
-        return;
     QLineEdit* box = fields.at(field);
     const std::string typed = box->text().toLatin1().toStdString();
-    if (pageOfMode(pin().ConfigMode) != pageOfField(field)) {
-        // The pin is not in this page's mode (an unknown mode leaves the page as it was):
-        // the box is clamped, the record keeps its bytes.
-        PinRecord scratch;
-        box->setText(latin1(commitPinField(scratch, field, typed).text));
-        return;
-    }
-    box->setText(latin1(commitPinField(pin(), field, typed).text));
+    box->setModified(false);
+    const QSignalBlocker block(box);
+    guard([&] {
+        if (pageOfMode(pin().ConfigMode) != pageOfField(field)) {
+            // The pin is not in this page's mode (an unknown mode leaves the page as it was):
+            // the box is clamped, the record keeps its bytes.
+            PinRecord scratch;
+            box->setText(latin1(commitPinField(scratch, field, typed).text));
+        } else {
+            box->setText(latin1(commitPinField(pin(), field, typed).text));
+        }
+    });
+    shown[box] = box->text();
 }
 
 int PinConfigPage::liveValue(PinField field)
@@ -474,7 +487,7 @@ int PinConfigPage::liveValue(PinField field)
 
 void PinConfigPage::servoFlagsChanged()
 {
-    if (updating || pin().ConfigMode != kModeServo)
+    if (pin().ConfigMode != kModeServo)
         return;
     int range = 0;
     for (int i = 0; i < 5; ++i)
@@ -486,22 +499,23 @@ void PinConfigPage::servoFlagsChanged()
 
 void PinConfigPage::pwmModesChanged()
 {
-    if (updating || pageOfMode(pin().ConfigMode) != 2)
+    if (pageOfMode(pin().ConfigMode) != 2)
         return;
     pin().P(2) = pwmModeByte(OptionPWMDriveMode[1]->isChecked() ? 1 : 0, OptionPWMAccelMode[1]->isChecked() ? 1 : 0);
 }
 
 void PinConfigPage::TextPCFGPin_Click()
 {
-    if (updating)
-        return;
-    selectPin(session.config, TextPCFGPin->text().toLatin1().toStdString());
+    commitPending(); // entries typed for the pin shown so far stay with it
+    guard([this] { selectPin(session.config, TextPCFGPin->text().toLatin1().toStdString()); });
     refresh();
+    if (onPinChosen)
+        onPinChosen();
 }
 
 void PinConfigPage::SSTabPCFG_Click(int page)
 {
-    if (updating || page < 0 || page == pageOfMode(pin().ConfigMode))
+    if (page < 0 || page == pageOfMode(pin().ConfigMode))
         return;
     // The page chosen by hand gives the pin its mode; the parameters start afresh, as
     // when the module reports a new mode without parameters.
@@ -512,8 +526,9 @@ void PinConfigPage::SSTabPCFG_Click(int page)
 
 void PinConfigPage::CommandPCFGGetParam_Click(int index)
 {
-    if (ReadPinConfig(session, index, session.config.CurrentPin))
-        refresh();
+    commitPending();
+    guard([&] { ReadPinConfig(session, index, session.config.CurrentPin); });
+    refresh();
 }
 
 void PinConfigPage::CommandPCFGSetParam_Click(int index)
@@ -522,57 +537,55 @@ void PinConfigPage::CommandPCFGSetParam_Click(int index)
     std::map<PinField, std::string> boxes;
     for (PinField field : pinEditOrder(page))
         boxes[field] = fields.at(field)->text().toLatin1().toStdString();
-    if (pageOfMode(pin().ConfigMode) == page) {
-        CommitPinEdits(pin(), page, boxes);
-        for (const auto& [field, text] : boxes)
-            fields.at(field)->setText(latin1(text));
-    }
-    SendPinConfig(session, index, session.config.CurrentPin);
+    guard([&] {
+        if (pageOfMode(pin().ConfigMode) == page) {
+            CommitPinEdits(pin(), page, boxes);
+            for (const auto& [field, text] : boxes) {
+                fields.at(field)->setText(latin1(text));
+                shown[fields.at(field)] = latin1(text);
+            }
+        }
+        SendPinConfig(session, index, session.config.CurrentPin);
+    });
     refresh(); // a servo's P2 has lost its status bits
 }
 
 void PinConfigPage::CommandSrvLevel_Click()
 {
     const int position = liveValue(PinField::TextPosition);
-    sendServoLevel(session, position, CheckSrvDynamic->isChecked());
-    updating = true;
+    guard([&] { sendServoLevel(session, position, CheckSrvDynamic->isChecked()); });
+    const QSignalBlocker block(SliderServo);
     SliderServo->setValue(position);
-    updating = false;
 }
 
 void PinConfigPage::CommandStopSrv_Click()
 {
-    sendServoJump(session, liveValue(PinField::TextPosition));
+    guard([this] { sendServoJump(session, liveValue(PinField::TextPosition)); });
 }
 
 void PinConfigPage::CommandPWMLevel_Click()
 {
     const int level = liveValue(PinField::TextPWMLevel);
-    sendPwmLevel(session, level, CheckPWMSlow->isChecked());
-    updating = true;
+    guard([&] { sendPwmLevel(session, level, CheckPWMSlow->isChecked()); });
+    const QSignalBlocker block(SliderPWM);
     SliderPWM->setValue(level);
-    updating = false;
 }
 
 void PinConfigPage::CommandPWMJump_Click()
 {
-    sendPwmJump(session, liveValue(PinField::TextPWMLevel));
+    guard([this] { sendPwmJump(session, liveValue(PinField::TextPWMLevel)); });
 }
 
 void PinConfigPage::SliderServo_Change(int value)
 {
-    if (updating)
-        return;
     TextPosition->setText(QString::number(value));
-    sendServoLevel(session, value, CheckSrvDynamic->isChecked());
+    guard([&] { sendServoLevel(session, value, CheckSrvDynamic->isChecked()); });
 }
 
 void PinConfigPage::SliderPWM_Change(int value)
 {
-    if (updating)
-        return;
     TextPWMLevel->setText(QString::number(value));
-    sendPwmLevel(session, value, CheckPWMSlow->isChecked());
+    guard([&] { sendPwmLevel(session, value, CheckPWMSlow->isChecked()); });
 }
 
 } // namespace kestrel

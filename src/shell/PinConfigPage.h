@@ -1,9 +1,16 @@
 #pragma once
 #include "ops/Session.h"
 #include "pins/PinEdits.h"
+#include "shell/Bindings.h"
+#include "shell/Guard.h"
 
 #include <QWidget>
+#include <functional>
 #include <map>
+#include <memory>
+#include <vector>
+
+#include <QSignalBlocker>
 
 class QCheckBox;
 class QLabel;
@@ -27,11 +34,17 @@ namespace kestrel {
 class PinConfigPage : public QWidget {
     Q_OBJECT
 public:
-    explicit PinConfigPage(Session& session, QWidget* parent = nullptr);
+    // `guard` is the window's; a page on its own keeps one of its own.
+    explicit PinConfigPage(Session& session, Guard* guard = nullptr, QWidget* parent = nullptr);
 
-    // Shows CurrentPin: the pin box and its configuration. An unknown mode is reported
-    // through the session's dialogs and leaves the page as it was.
+    // Shows CurrentPin: the pin box and its configuration (a parameter typed but not yet
+    // taken is taken first). An unknown mode is reported through the session's dialogs
+    // and leaves the page as it was.
     void refresh();
+    // Takes every parameter box whose text was typed but not yet taken.
+    void commitPending();
+    // The user chose another pin here (CurrentPin has moved): the window shows it everywhere.
+    std::function<void()> onPinChosen;
 
     QLineEdit* TextPCFGPin;
     QSpinBox* UpDownPCFGPin;
@@ -113,9 +126,14 @@ private:
     void servoFlagsChanged();
     void pwmModesChanged();
 
+    // Blocks the signals of every control of the page while it shows the model.
+    std::vector<std::unique_ptr<QSignalBlocker>> blockAll();
+
     Session& session;
+    std::unique_ptr<Guard> ownGuard;
+    Guard& guard;
     std::map<PinField, QLineEdit*> fields;
-    bool updating = false;
+    std::map<QLineEdit*, QString> shown; // what each parameter box was last given
 };
 
 } // namespace kestrel

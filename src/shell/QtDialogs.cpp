@@ -2,7 +2,10 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
+#include <QPushButton>
+#include <QRegularExpression>
 
 namespace kestrel {
 
@@ -33,11 +36,30 @@ QString qtFilter(const std::string& filter)
 }
 } // namespace
 
+QWidget* QtDialogs::owner() const
+{
+    if (QWidget* modal = QApplication::activeModalWidget())
+        return modal;
+    return parent;
+}
+
+namespace {
+int showBox(QMessageBox& box)
+{
+    box.setWindowModality(Qt::ApplicationModal);
+    box.show();
+    box.raise();
+    box.activateWindow();
+    return box.exec();
+}
+} // namespace
+
 void QtDialogs::message(const std::string& text, Icon icon)
 {
     QMessageBox box(qtIcon(icon), QApplication::applicationDisplayName(), QString::fromLatin1(text.c_str()),
-                    QMessageBox::Ok, parent);
-    box.exec();
+                    QMessageBox::Ok, owner());
+    box.setObjectName("dlgMessage");
+    showBox(box);
 }
 
 Answer QtDialogs::ask(const std::string& text, Buttons buttons, Icon icon)
@@ -47,32 +69,67 @@ Answer QtDialogs::ask(const std::string& text, Buttons buttons, Icon icon)
         set = QMessageBox::Ok | QMessageBox::Cancel;
     else if (buttons == Buttons::YesNo)
         set = QMessageBox::Yes | QMessageBox::No;
+    else if (buttons == Buttons::SaveDiscardCancel)
+        set = QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel;
     QMessageBox box(qtIcon(icon), QApplication::applicationDisplayName(), QString::fromLatin1(text.c_str()), set,
-                    parent);
-    switch (box.exec()) {
+                    owner());
+    box.setObjectName("dlgQuestion");
+    switch (showBox(box)) {
     case QMessageBox::Ok:
         return Answer::Ok;
     case QMessageBox::Yes:
         return Answer::Yes;
     case QMessageBox::No:
         return Answer::No;
+    case QMessageBox::Save:
+        return Answer::Save;
+    case QMessageBox::Discard:
+        return Answer::Discard;
     default:
         return Answer::Cancel;
     }
 }
 
+QString QtDialogs::withDefaultSuffix(const QString& name, const std::string& filter)
+{
+    if (name.isEmpty() || !QFileInfo(name).suffix().isEmpty())
+        return name;
+    const auto match = QRegularExpression(R"(\*\.(\w+))").match(QString::fromLatin1(filter.c_str()));
+    return match.hasMatch() ? name + "." + match.captured(1) : name;
+}
+
 std::string QtDialogs::openFileName(const std::string& title, const std::string& filter, const std::string& defaultName)
 {
-    return QFileDialog::getOpenFileName(parent, QString::fromLatin1(title.c_str()), QString::fromStdString(defaultName),
-                                        qtFilter(filter))
-        .toStdString();
+    // Definitions files are looked for beside the standard one, data files where the last
+    // file was chosen.
+    const bool definitions = filter.find("*.def") != std::string::npos;
+    const QString folder = definitions && !definitionsFolder.isEmpty() ? definitionsFolder : lastFolder;
+    QString start = QString::fromStdString(defaultName);
+    if (!folder.isEmpty())
+        start = start.isEmpty() ? folder : folder + "/" + start;
+    const QString chosen =
+        QFileDialog::getOpenFileName(owner(), QString::fromLatin1(title.c_str()), start, qtFilter(filter));
+    if (!chosen.isEmpty() && !definitions)
+        lastFolder = QFileInfo(chosen).absolutePath();
+    return chosen.toStdString();
 }
 
 std::string QtDialogs::saveFileName(const std::string& title, const std::string& filter, const std::string& defaultName)
 {
-    return QFileDialog::getSaveFileName(parent, QString::fromLatin1(title.c_str()), QString::fromStdString(defaultName),
-                                        qtFilter(filter))
-        .toStdString();
+    QFileDialog dialog(owner(), QString::fromLatin1(title.c_str()), lastFolder, qtFilter(filter));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    // The suffix is added before the dialog asks about replacing an existing file.
+    const QString suffix = QFileInfo(withDefaultSuffix("x", filter)).suffix();
+    dialog.setDefaultSuffix(suffix);
+    if (!defaultName.empty())
+        dialog.selectFile(QString::fromStdString(defaultName));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return {};
+    const QString chosen = withDefaultSuffix(dialog.selectedFiles().first(), filter);
+    if (!chosen.isEmpty())
+        lastFolder = QFileInfo(chosen).absolutePath();
+    return chosen.toStdString();
 }
 
 } // namespace kestrel

@@ -45,25 +45,26 @@ static QString portPath(const std::string& name)
 bool QtSerialPort::open()
 {
     error.clear();
-    if (port.isOpen())
-        port.close();
+    if (port().isOpen())
+        port().close();
+    device = std::make_unique<QSerialPort>();
     if (name.empty()) {
         error = "no port chosen";
         return false;
     }
-    port.setPortName(portPath(name));
-    if (!port.open(QIODevice::ReadWrite)) {
-        error = port.errorString().toStdString();
+    port().setPortName(portPath(name));
+    if (!port().open(QIODevice::ReadWrite)) {
+        error = port().errorString().toStdString();
         return false;
     }
-    if (!port.setBaudRate(baud) || !port.setParity(QSerialPort::OddParity) ||
-        !port.setDataBits(QSerialPort::Data8) || !port.setStopBits(QSerialPort::OneStop) ||
-        !port.setFlowControl(QSerialPort::NoFlowControl)) {
-        error = "cannot set " + settingsText + ": " + port.errorString().toStdString();
-        port.close();
+    if (!port().setBaudRate(baud) || !port().setParity(QSerialPort::OddParity) ||
+        !port().setDataBits(QSerialPort::Data8) || !port().setStopBits(QSerialPort::OneStop) ||
+        !port().setFlowControl(QSerialPort::NoFlowControl)) {
+        error = "cannot set " + settingsText + ": " + port().errorString().toStdString();
+        port().close();
         return false;
     }
-    port.clear();
+    port().clear();
     return true;
 }
 
@@ -84,15 +85,15 @@ static bool hungUp(QSerialPort& port)
 
 void QtSerialPort::close()
 {
-    if (port.isOpen()) {
+    if (port().isOpen()) {
         flushWrites(); // what was written still goes out (an erase frame is the last thing sent)
-        port.close();
+        port().close();
     }
 }
 
 bool QtSerialPort::isOpen() const
 {
-    return port.isOpen();
+    return port().isOpen();
 }
 
 void QtSerialPort::setSettings(const std::string& s)
@@ -100,15 +101,15 @@ void QtSerialPort::setSettings(const std::string& s)
     settingsText = s;
     const int rate = QString::fromStdString(s).split(',').value(0).toInt();
     baud = rate > 0 ? rate : 19200;
-    if (port.isOpen())
-        port.setBaudRate(baud);
+    if (port().isOpen())
+        port().setBaudRate(baud);
 }
 
 bool QtSerialPort::failed()
 {
-    const auto e = port.error();
+    const auto e = port().error();
     if (e == QSerialPort::ResourceError || e == QSerialPort::PermissionError || e == QSerialPort::DeviceNotFoundError) {
-        error = port.errorString().toStdString();
+        error = port().errorString().toStdString();
         return true;
     }
     return false;
@@ -116,9 +117,9 @@ bool QtSerialPort::failed()
 
 bool QtSerialPort::writeByte(std::uint8_t b)
 {
-    if (!port.isOpen() || failed())
+    if (!port().isOpen() || failed())
         return false;
-    if (!port.putChar(static_cast<char>(b))) {
+    if (!port().putChar(static_cast<char>(b))) {
         failed();
         return false;
     }
@@ -128,44 +129,44 @@ bool QtSerialPort::writeByte(std::uint8_t b)
 
 bool QtSerialPort::flush()
 {
-    if (!port.isOpen())
+    if (!port().isOpen())
         return false;
-    port.flush();
+    port().flush();
     return !failed();
 }
 
 void QtSerialPort::flushWrites()
 {
-    if (port.bytesToWrite() > 0)
-        port.waitForBytesWritten(100);
+    if (port().bytesToWrite() > 0)
+        port().waitForBytesWritten(100);
 }
 
 int QtSerialPort::bytesWaiting()
 {
-    if (!port.isOpen())
+    if (!port().isOpen())
         return 0;
     flushWrites();
     // Take in what the system holds, without blocking; when a frame needs several more
     // bytes the coming wait does that after letting them arrive.
-    if (port.bytesAvailable() == 0 && expected <= 1)
-        port.waitForReadyRead(0);
-    return static_cast<int>(port.bytesAvailable());
+    if (port().bytesAvailable() == 0 && expected <= 1)
+        port().waitForReadyRead(0);
+    return static_cast<int>(port().bytesAvailable());
 }
 
 int QtSerialPort::readByte()
 {
     char c;
-    if (!port.isOpen() || !port.getChar(&c))
+    if (!port().isOpen() || !port().getChar(&c))
         return -1;
     return static_cast<unsigned char>(c);
 }
 
 bool QtSerialPort::waitForBytes(int timeoutMs)
 {
-    if (!port.isOpen())
+    if (!port().isOpen())
         return false;
     flushWrites();
-    if (port.bytesAvailable() > 0)
+    if (port().bytesAvailable() > 0)
         return true;
     // When the frame still needs several bytes, sleep while the wire carries all but the
     // last of them, then wait for that one: a few wake-ups a reply instead of one a byte.
@@ -175,18 +176,18 @@ bool QtSerialPort::waitForBytes(int timeoutMs)
         const long us = std::min<long>(1000L * timeoutMs, (missing - 1) * 11L * 1000000L / baud);
         std::this_thread::sleep_for(std::chrono::microseconds(us));
         timeoutMs -= static_cast<int>(us / 1000);
-        if (port.waitForReadyRead(0) || port.bytesAvailable() > 0)
+        if (port().waitForReadyRead(0) || port().bytesAvailable() > 0)
             return true;
     }
     // Blocks in the system's wait until a byte arrives or the time is up.
-    const bool ready = port.waitForReadyRead(timeoutMs);
+    const bool ready = port().waitForReadyRead(timeoutMs);
     if (!ready && failed()) {
-        port.close();
-    } else if (!ready && hungUp(port)) {
+        port().close();
+    } else if (!ready && hungUp(port())) {
         error = "the port hung up";
-        port.close();
+        port().close();
     }
-    return ready && port.bytesAvailable() > 0;
+    return ready && port().bytesAvailable() > 0;
 }
 
 std::vector<std::string> QtSerialPort::systemPorts()

@@ -2,6 +2,7 @@
 #include "link/SerialPort.h"
 
 #include <QSerialPort>
+#include <memory>
 
 namespace kestrel {
 
@@ -32,7 +33,10 @@ public:
 private:
     bool failed();
     void flushWrites();
-    QSerialPort port;
+    // A new QSerialPort for every open: one that was closed cannot set odd parity on a
+    // pseudo-terminal again ("Invalid argument"), so a reopened port would be refused.
+    std::unique_ptr<QSerialPort> device = std::make_unique<QSerialPort>();
+    QSerialPort& port() const { return *device; }
     std::string name;
     std::string settingsText = "19200,o,8,1";
     std::string error;

@@ -1,0 +1,164 @@
+#include "shell/Bindings.h"
+
+#include "shell/Guard.h"
+
+#include <QAbstractButton>
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QRegularExpressionValidator>
+#include <QSignalBlocker>
+#include <QSpinBox>
+
+#include <memory>
+
+namespace kestrel {
+
+QString latin1(const std::string& s) { return QString::fromLatin1(s.data(), static_cast<qsizetype>(s.size())); }
+
+std::string fromLatin1(const QString& s) { return s.toLatin1().toStdString(); }
+
+void numericInput(QLineEdit* box, int digits)
+{
+    box->setValidator(
+        new QRegularExpressionValidator(QRegularExpression(QString("[-+]?[0-9]{0,%1}").arg(digits)), box));
+}
+
+Bindings::Bindings(Guard& g, std::function<void()> after) : guard(g), afterCommit(std::move(after)) {}
+
+void Bindings::commitNow(const std::function<void()>& take, const std::function<void()>& changed)
+{
+    if (showing)
+        return;
+    guard([&] {
+        take();
+        if (changed)
+            changed();
+    });
+    if (afterCommit)
+        afterCommit();
+}
+
+void Bindings::check(QAbstractButton* box, int& field, std::function<void()> changed)
+{
+    QObject::connect(box, &QAbstractButton::toggled, box,
+                     [this, &field, changed](bool on) { commitNow([&field, on] { field = on ? 1 : 0; }, changed); });
+    items.push_back({[box, &field] {
+                         const QSignalBlocker block(box);
+                         box->setChecked(field == 1);
+                     },
+                     {}});
+}
+
+void Bindings::option(QButtonGroup* group, int& field, std::function<void()> changed)
+{
+    QObject::connect(group, &QButtonGroup::idToggled, group, [this, &field, changed](int id, bool on) {
+        if (on)
+            commitNow([&field, id] { field = id; }, changed);
+    });
+    items.push_back({[group, &field] {
+                         for (QAbstractButton* b : group->buttons()) {
+                             const QSignalBlocker block(b);
+                             b->setChecked(false);
+                         }
+                         // With none selected, an exclusive group would keep the old button.
+                         group->setExclusive(false);
+                         if (QAbstractButton* b = group->button(field)) {
+                             const QSignalBlocker block(b);
+                             b->setChecked(true);
+                         }
+                         group->setExclusive(true);
+                     },
+                     {}});
+}
+
+void Bindings::combo(QComboBox* box, int& field, std::function<void()> changed)
+{
+    QObject::connect(box, &QComboBox::currentIndexChanged, box,
+                     [this, &field, changed](int index) { commitNow([&field, index] { field = index; }, changed); });
+    items.push_back({[box, &field] {
+                         const QSignalBlocker block(box);
+                         box->setCurrentIndex(field >= 0 && field < box->count() ? field : -1);
+                     },
+                     {}});
+}
+
+void Bindings::text(QLineEdit* box, std::string& field, std::function<void()> changed)
+{
+    // textChanged, not textEdited: a text set from outside (a screen reader, a test) is an
+    // edit too; showing blocks the signal.
+    QObject::connect(box, &QLineEdit::textChanged, box, [this, &field, changed](const QString& typed) {
+        commitNow([&field, typed] { field = fromLatin1(typed); }, changed);
+    });
+    items.push_back({[box, &field] {
+                         if (box->text() == latin1(field))
+                             return; // keeps the cursor where the user is typing
+                         const QSignalBlocker block(box);
+                         box->setText(latin1(field));
+                     },
+                     {}});
+}
+
+void Bindings::entry(QLineEdit* box, std::function<std::string()> show, std::function<void(const std::string&)> commit)
+{
+    // What the box was last given: any other text is an edit not yet taken.
+    auto shown = std::make_shared<QString>(box->text());
+    auto showModel = [box, show, shown] {
+        const QSignalBlocker block(box);
+        *shown = latin1(show());
+        if (box->text() != *shown)
+            box->setText(*shown);
+        box->setModified(false);
+    };
+    auto take = [this, box, commit, showModel, shown] {
+        *shown = box->text(); // taken: no longer pending while the page shows the model again
+        box->setModified(false);
+        const std::string typed = fromLatin1(*shown);
+        commitNow([&] { commit(typed); }, {});
+        showModel();
+    };
+    QObject::connect(box, &QLineEdit::editingFinished, box, take);
+    items.push_back({showModel, [box, shown, take] {
+                         if (box->isModified() || box->text() != *shown)
+                             take();
+                     }});
+}
+
+void Bindings::spinner(QSpinBox* spin, QLineEdit* box, std::function<int()> show)
+{
+    QObject::connect(spin, &QSpinBox::valueChanged, spin, [this, box](int value) {
+        if (showing)
+            return;
+        box->setText(QString::number(value));
+        emit box->editingFinished();
+    });
+    items.push_back({[spin, show] {
+                         const QSignalBlocker block(spin);
+                         spin->setValue(show());
+                     },
+                     {}});
+}
+
+void Bindings::display(std::function<void()> show) { items.push_back({std::move(show), {}}); }
+
+void Bindings::commitPending()
+{
+    if (showing)
+        return;
+    for (const Item& item : items)
+        if (item.commitPending)
+            item.commitPending();
+}
+
+void Bindings::show()
+{
+    if (showing)
+        return;
+    commitPending();
+    showing = true;
+    for (const Item& item : items)
+        item.show();
+    showing = false;
+}
+
+} // namespace kestrel

@@ -1,0 +1,67 @@
+#pragma once
+#include <QString>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+class QAbstractButton;
+class QButtonGroup;
+class QComboBox;
+class QLineEdit;
+class QSpinBox;
+
+namespace kestrel {
+
+class Guard;
+
+// The one table of a page that binds each control to one field of the session, both
+// ways. A check box, option group or list is committed the moment the user changes it;
+// a text box while it is typed; an entry box whose number is clamped when editing is
+// finished (focus leaves it, Return) or, at the latest, when anything else happens:
+// show() and commitPending() take a typed but unfinished entry first, so a refresh from
+// the model never overwrites what the user typed. Showing blocks the controls' signals
+// (QSignalBlocker), so showing is never taken for an edit.
+//
+// Every commit runs inside the page's guard, then `changed` (the control's own handler,
+// if any), then the page's `afterCommit` (it shows the model again).
+class Bindings {
+public:
+    explicit Bindings(Guard& guard, std::function<void()> afterCommit = {});
+
+    void check(QAbstractButton* box, int& field, std::function<void()> changed = {});
+    void option(QButtonGroup* group, int& field, std::function<void()> changed = {});
+    void combo(QComboBox* box, int& field, std::function<void()> changed = {});
+    // Latin-1 text, committed as it is typed.
+    void text(QLineEdit* box, std::string& field, std::function<void()> changed = {});
+    // A clamped entry: `show` gives the box's text from the model, `commit` takes the typed
+    // text into the model (clamping it); the box then shows the model again.
+    void entry(QLineEdit* box, std::function<std::string()> show, std::function<void(const std::string&)> commit);
+    // A spinner beside an entry box: its value becomes the box's text and is committed.
+    void spinner(QSpinBox* spin, QLineEdit* box, std::function<int()> show);
+    // Something shown from the model that takes no input (labels, visibility, ranges).
+    void display(std::function<void()> show);
+
+    void show();
+    void commitPending();
+
+private:
+    struct Item {
+        std::function<void()> show;
+        std::function<void()> commitPending; // empty for controls that commit at once
+    };
+    void commitNow(const std::function<void()>& take, const std::function<void()>& changed);
+
+    Guard& guard;
+    std::function<void()> afterCommit;
+    std::vector<Item> items;
+    bool showing = false;
+};
+
+// Entry-box input rules: digits and an optional sign only, at most `digits` digits.
+void numericInput(QLineEdit* box, int digits = 6);
+
+QString latin1(const std::string& s);
+std::string fromLatin1(const QString& s);
+
+} // namespace kestrel
