@@ -564,7 +564,7 @@ void KestrelConfig::buildLinkArea(QWidget* host)
 
 QWidget* KestrelConfig::buildGeneralPage()
 {
-    generalPage = new GeneralPage(*core);
+    generalPage = new GeneralPage(*core, guard.get());
     CommandGenVersion = generalPage->CommandGenVersion;
     LabelGenVersionString = generalPage->LabelGenVersionString;
     return generalPage;

@@ -4,6 +4,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QRegularExpression>
 
@@ -38,6 +39,18 @@ QString qtFilter(const std::string& filter)
 
 QWidget* QtDialogs::owner() const
 {
+    // A job's progress dialog shows itself after a moment even while a box waits for its
+    // answer, and would then cover and block a box that belongs to the window. The box is
+    // the progress dialog's own instead, which is brought up first.
+    if (parent) {
+        const auto running = parent->findChildren<QProgressDialog*>("dlgProgress", Qt::FindDirectChildrenOnly);
+        if (!running.isEmpty()) {
+            QProgressDialog* progress = running.last();
+            if (!progress->isVisible())
+                progress->show();
+            return progress;
+        }
+    }
     if (QWidget* modal = QApplication::activeModalWidget())
         return modal;
     return parent;

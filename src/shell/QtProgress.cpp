@@ -18,8 +18,8 @@ QtProgress::QtProgress(QWidget* parent, const QString& title)
 
 QtProgress::~QtProgress()
 {
-    if (dialog)
-        dialog->deleteLater();
+    // Gone at once: a message after the job must not find it and belong to it.
+    delete dialog.data();
 }
 
 void QtProgress::step(int done, int total, const std::string& what)

@@ -1,8 +1,11 @@
 // Whole-module jobs started from their buttons run on the timer behind the busy notice.
+#include "shell/EventPage.h"
 #include "shell/KestrelConfig.h"
 #include "support/RecordingDialogs.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
+#include <QTabWidget>
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -86,4 +89,29 @@ TEST(MainWindowDevices, StandardDevicesAreListedAndLoadOntoTheChosenPin)
     window.TextPAspOutput->setText("1");
     window.TextPAspOutput_Click();
     EXPECT_EQ(window.TextDevicePin->text(), "31");
+    EXPECT_TRUE(window.TextDeviceDescription->isReadOnly()); // a member: the name is its head's
+
+    // One pin selection for the window: the pin chosen on the Event Control page is the one
+    // the device goes onto, and its head's name can be typed.
+    window.tabs->setCurrentWidget(window.eventPage);
+    window.eventPage->TextECpin->setText("7");
+    emit window.eventPage->TextECpin->editingFinished();
+    window.tabs->setCurrentIndex(window.tabs->count() - 1);
+    EXPECT_EQ(window.TextPAspOutput->text(), "7");
+    QTest::mouseClick(window.CommandPAspPreLoad, Qt::LeftButton);
+    EXPECT_EQ(pins[7].DeviceDescription, "Colour light signal, 3 aspects");
+    ASSERT_FALSE(window.TextDeviceDescription->isReadOnly());
+    window.TextDeviceDescription->selectAll();
+    QTest::keyClicks(window.TextDeviceDescription, "Home");
+    EXPECT_EQ(pins[7].DeviceDescription, "Home");
+
+    // Shift alone appends the chosen definitions; Shift with Ctrl replaces.
+    EXPECT_EQ(window.CommandReloadDD->toolTip(), "Reload DD to load new file, Shift + Reload DD to append");
+    const int count = window.cboDevice->count();
+    const std::string standard = QCoreApplication::applicationDirPath().toStdString() + "/KestrelDevices.def";
+    dialogs.fileNames = {standard, standard};
+    QTest::mousePress(window.CommandReloadDD, Qt::LeftButton, Qt::ShiftModifier);
+    EXPECT_EQ(window.cboDevice->count(), 2 * count);
+    QTest::mousePress(window.CommandReloadDD, Qt::LeftButton, Qt::ShiftModifier | Qt::ControlModifier);
+    EXPECT_EQ(window.cboDevice->count(), count);
 }

@@ -1,0 +1,252 @@
+// The whole window as a user drives it: typed and ticked edits reach Write All, Verify All
+// and Save; nothing typed or pressed ends the program; the port opens again and again;
+// a message raised during a job is above its progress dialog.
+#include "files/ConfigurationFile.h"
+#include "shell/GeneralPage.h"
+#include "shell/Guard.h"
+#include "shell/KestrelConfig.h"
+#include "shell/QtDialogs.h"
+#include "support/Process.h"
+#include "support/RecordingDialogs.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+#include <set>
+
+using namespace kestrel;
+
+namespace {
+
+struct Window {
+    test::RecordingDialogs dialogs;
+    KestrelConfig w{nullptr, &dialogs};
+    Window()
+    {
+        w.show();
+        openPort("sim");
+    }
+    void openPort(const QString& name)
+    {
+        w.ComboPort->setEditText(name);
+        QTest::keyClick(w.ComboPort, Qt::Key_Return);
+    }
+    // Runs a whole-module job from its button and waits for it to end.
+    void job(QPushButton* button)
+    {
+        QTest::mouseClick(button, Qt::LeftButton);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !w.LabelAction->isVisible() && w.jobs.PendingJob.empty(); }, 60000));
+    }
+    QString report() const { return w.txtVerification ? w.txtVerification->toPlainText() : QString(); }
+    QString status() const { return w.LabelStatusJob->text(); }
+};
+
+// Types into a box as a user does: everything selected, the new text typed, Return.
+void type(QLineEdit* box, const QString& text)
+{
+    box->setFocus();
+    box->selectAll();
+    QTest::keyClick(box, Qt::Key_Backspace);
+    for (QChar c : text) // a character beyond ASCII comes as a key event with its text
+        QTest::sendKeyEvent(QTest::Click, box, Qt::Key_unknown, QString(c), Qt::NoModifier);
+    QTest::keyClick(box, Qt::Key_Return);
+}
+
+} // namespace
+
+TEST(Window, GeneralPageEditsReachWriteAllVerifyAllAndTheDataFile)
+{
+    Window m;
+    m.job(m.w.CommandReadAll);
+    EXPECT_EQ(m.w.windowTitle(), "Kestrel Config");
+    GeneralPage& page = *m.w.generalPage;
+
+    type(page.TextGenIDString, QString::fromUtf8("Yard é 9")); // é cannot be stored: not taken
+    EXPECT_EQ(page.TextGenIDString->text(), "Yard  9");
+    type(page.TextGenDCCAddress, "9000"); // above what the module takes: clamped
+    EXPECT_EQ(page.TextGenDCCAddress->text(), "8191");
+    type(page.TextGenXDCCAddress, "x12"); // digits only
+    EXPECT_EQ(page.TextGenXDCCAddress->text(), "12");
+    // Every box and option of the page once, as they are reachable.
+    for (QAbstractButton* b : page.findChildren<QAbstractButton*>())
+        if (b->isCheckable() && b->isVisible() && !b->isChecked())
+            QTest::mouseClick(b, Qt::LeftButton, {}, QPoint(8, b->height() / 2)); // on its indicator
+    page.ComboGenBaud->setFocus();
+    QTest::keyClick(page.ComboGenBaud, Qt::Key_Down);
+    const GeneralSettings edited = m.w.session().general;
+    EXPECT_EQ(edited.TextGenIDString, "Yard  9");
+    EXPECT_EQ(edited.TextGenDCCAddress, "8191");
+    EXPECT_EQ(edited.CheckGenXGM[15], 1);
+    EXPECT_EQ(edited.ChkGenHWCSource[3], 1);
+    EXPECT_EQ(edited.CheckLCOrange[6], 1);
+    EXPECT_EQ(edited.CheckGenSerialEnable, 1);
+    EXPECT_TRUE(m.w.windowTitle().startsWith("untitled*")) << m.w.windowTitle().toStdString();
+
+    // Verify All compares what the user sees, so the module differs before the write ...
+    m.job(m.w.CommandVerifyAll);
+    EXPECT_FALSE(m.report().endsWith("Verify OK")) << m.report().toStdString();
+    EXPECT_TRUE(m.status().contains("the module differs")) << m.status().toStdString();
+    // ... and holds every edit after it. The next job keeps them on screen.
+    m.job(m.w.CommandWriteAll);
+    EXPECT_TRUE(m.status().startsWith("Write All done in")) << m.status().toStdString();
+    EXPECT_EQ(m.w.windowTitle(), "Kestrel Config");
+    m.job(m.w.CommandVerifyAll);
+    EXPECT_TRUE(m.report().endsWith("Verify OK")) << m.report().toStdString();
+    EXPECT_EQ(m.status(), "Verify OK");
+    EXPECT_EQ(page.TextGenIDString->text(), "Yard  9");
+    EXPECT_EQ(m.w.session().general.CheckGenXGM, edited.CheckGenXGM);
+
+    // Save File writes what the page shows; a typed ID not yet finished is taken too.
+    QTemporaryDir dir;
+    const QString path = dir.filePath("mylayout.dat");
+    page.TextGenIDString->setFocus();
+    QTest::keyClicks(page.TextGenIDString, "X");
+    m.dialogs.fileNames = {path.toStdString()};
+    QTest::mouseClick(m.w.CommandSave, Qt::LeftButton);
+    EXPECT_EQ(m.w.windowTitle(), "mylayout.dat - Kestrel Config");
+    Configuration config;
+    GeneralSettings filed;
+    test::RecordingDialogs quiet;
+    ASSERT_EQ(loadConfigurationFile(path.toStdString(), config, filed, quiet), LoadResult::Loaded);
+    EXPECT_EQ(filed.TextGenIDString, "Yard  9X");
+    EXPECT_EQ(filed.TextGenDCCAddress, "8191");
+    EXPECT_EQ(filed.CheckGenXGM, edited.CheckGenXGM);
+    EXPECT_EQ(filed.ComboGenBaud, edited.ComboGenBaud);
+
+    // The numbering switch keeps every edit on screen.
+    type(page.TextGenXaddr, "300");
+    EXPECT_EQ(page.TextGenXaddr->text(), "95");
+    QTest::mouseClick(m.w.CheckKLnumber, Qt::LeftButton);
+    EXPECT_EQ(page.TextGenXaddr->text(), "96");
+    EXPECT_EQ(page.TextGenIDString->text(), "Yard  9X");
+    EXPECT_TRUE(m.dialogs.messages.empty()) << m.dialogs.messages[0].text;
+}
+
+TEST(Window, UnsavedChangesAreAskedAboutBeforeTheyAreLost)
+{
+    Window m;
+    type(m.w.generalPage->TextGenIDString, "Changed");
+    EXPECT_TRUE(m.w.unsavedChanges());
+    // Cancel: the window stays, Read All does not start, nothing is loaded.
+    m.dialogs.defaultAnswer = Answer::Cancel;
+    EXPECT_FALSE(m.w.close());
+    QTest::mouseClick(m.w.CommandReadAll, Qt::LeftButton);
+    EXPECT_TRUE(m.w.jobs.PendingJob.empty());
+    QTest::mouseClick(m.w.CommandLoad, Qt::LeftButton);
+    EXPECT_EQ(m.dialogs.questions.size(), 3u);
+    EXPECT_EQ(m.w.session().general.TextGenIDString, "Changed");
+    // Save: asked for a file; a cancelled save dialog keeps the window open.
+    m.dialogs.answers = {Answer::Save};
+    EXPECT_FALSE(m.w.close());
+    // Discard: Read All runs and puts the module's ID back.
+    m.dialogs.defaultAnswer = Answer::Discard;
+    m.job(m.w.CommandReadAll);
+    EXPECT_EQ(m.w.generalPage->TextGenIDString->text(), "Demo layout");
+    EXPECT_FALSE(m.w.unsavedChanges());
+    EXPECT_TRUE(m.w.close());
+}
+
+TEST(Window, NothingTypedOrPressedEndsTheProgram)
+{
+    Window m;
+    m.dialogs.defaultAnswer = Answer::Discard; // Read All and Load go ahead; warnings say no
+
+    // Every entry box of every page gets out-of-range, negative and non-numeric text, then
+    // every button of the page is pressed.
+    const QStringList typed = {"99999", "-99999", "abc", QString::fromUtf8("é"), "-"};
+    std::set<std::string> texts;
+    for (int t = 0; t < m.w.tabs->count(); ++t) {
+        m.w.tabs->setCurrentIndex(t);
+        QWidget* page = m.w.tabs->widget(t);
+        for (const QString& text : typed)
+            for (QLineEdit* box : page->findChildren<QLineEdit*>())
+                if (box->isVisible() && box->isEnabled() && !box->isReadOnly())
+                    type(box, text);
+        for (QPushButton* b : page->findChildren<QPushButton*>())
+            if (b->isVisible() && b->isEnabled())
+                m.job(b);
+        for (const auto& shown : m.dialogs.messages)
+            texts.insert(shown.text);
+        m.dialogs.clear();
+    }
+    // Only messages the module's rules give, or the guard's.
+    for (const std::string& text : texts) {
+        const bool known = text.rfind(Guard::kFaultText, 0) == 0 || text == "Select Devicename to load" ||
+                           text.rfind("ID string cut", 0) == 0 || text.rfind("Unknown configuration", 0) == 0 ||
+                           text == "No Device Configuration file selected";
+        EXPECT_TRUE(known) << text;
+    }
+    EXPECT_TRUE(m.w.isVisible());
+}
+
+TEST(Window, PseudoTerminalsOpenAgainAtAnyRateAndAfterAnother)
+{
+    test::SimProcess first({"--version", "1.1.1.1"});
+    test::SimProcess second({"--version", "2.2.2.2"});
+    Window m;
+    const auto version = [&] {
+        m.w.LabelGenVersionString->clear();
+        QTest::mouseClick(m.w.CommandGenVersion, Qt::LeftButton);
+        return m.w.LabelGenVersionString->text().toStdString();
+    };
+    m.openPort(QString::fromStdString(first.pty()));
+    EXPECT_EQ(version(), "1.1.1.1");
+    EXPECT_TRUE(m.w.LabelStatusPort->text().contains("19200")) << m.w.LabelStatusPort->text().toStdString();
+    QTest::mouseClick(m.w.OptionBitRate[2], Qt::LeftButton);
+    EXPECT_EQ(version(), "1.1.1.1");
+    EXPECT_TRUE(m.w.LabelStatusPort->text().contains("38400"));
+    m.openPort(QString::fromStdString(first.pty())); // the same port chosen again
+    EXPECT_EQ(version(), "1.1.1.1");
+    m.openPort(QString::fromStdString(second.pty()));
+    EXPECT_EQ(version(), "2.2.2.2");
+    m.openPort(QString::fromStdString(first.pty()));
+    EXPECT_EQ(version(), "1.1.1.1");
+    EXPECT_TRUE(m.dialogs.messages.empty()) << m.dialogs.messages[0].text;
+}
+
+TEST(Window, AMessageDuringAJobIsAboveItsProgressDialog)
+{
+    // Real message boxes: nobody answers at address 9, after the progress dialog is up.
+    KestrelConfig w;
+    w.show();
+    w.ComboPort->setEditText("sim");
+    QTest::keyClick(w.ComboPort, Qt::Key_Return);
+    w.TextAddress->setText("9");
+    w.TextAddress_Click();
+    QString seen;
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, [&] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!box)
+            return;
+        seen = box->text();
+        EXPECT_TRUE(qobject_cast<QProgressDialog*>(box->parentWidget())) << "the box belongs to the progress dialog";
+        QTest::keyClick(box, Qt::Key_Return); // answered from the keyboard
+    });
+    poll.start(50);
+    QTest::mouseClick(w.CommandReadAll, Qt::LeftButton);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !w.LabelAction->isVisible() && w.jobs.PendingJob.empty(); }, 20000));
+    EXPECT_EQ(seen, "No response received, resetting bidirectional communication");
+    EXPECT_TRUE(w.LabelStatusJob->text().startsWith("Read All stopped")) << w.LabelStatusJob->text().toStdString();
+}
+
+TEST(Window, SavedNamesGetTheirSuffix)
+{
+    EXPECT_EQ(QtDialogs::withDefaultSuffix("/tmp/mylayout", "Kestrel Config Data|*.dat"), "/tmp/mylayout.dat");
+    EXPECT_EQ(QtDialogs::withDefaultSuffix("/tmp/my.def", "Kestrel Config Data|*.dat"), "/tmp/my.def");
+    EXPECT_EQ(QtDialogs::withDefaultSuffix("dev", "Kestrel Device Definitions|*.def"), "dev.def");
+    EXPECT_EQ(QtDialogs::withDefaultSuffix("", "Kestrel Device Definitions|*.def"), "");
+}
