@@ -100,52 +100,6 @@ TEST(GeneralPage, ReadsEveryFamilyOfTheDemonstrationModule)
     EXPECT_EQ(m.session->general.CheckGenSerialEnable, demo.CheckGenSerialEnable);
 }
 
-TEST(GeneralPage, WritersTakeTheControlsAsTheyAreAtTheClick)
-{
-    BuiltInModule m;
-    GeneralPage page(*m.session);
-    page.show();
-
-    auto* id = child<QLineEdit>(page, "TextGenIDString");
-    id->setText("Up Main Junction 7");
-    click(page, "CommandGenIDWrite");
-    EXPECT_EQ(id->text(), "Up Main Junc");
-    id->setText("something else");
-    click(page, "CommandGenIDRead");
-    EXPECT_EQ(id->text(), "Up Main Junc");
-
-    // The module's serial port (8 data bits in the demonstration): 7 bits, odd parity,
-    // 2 stop bits, 57600, enabled.
-    QTest::mouseClick(child<QCheckBox>(page, "CheckGenSerialEnable"), Qt::LeftButton);
-    QTest::mouseClick(child<QRadioButton>(page, "OptionGenSerialDatabits_0"), Qt::LeftButton);
-    child<QComboBox>(page, "ComboGenBaud")->setCurrentIndex(5);
-    QTest::mouseClick(child<QRadioButton>(page, "OptionGenSerialParity_3"), Qt::LeftButton);
-    QTest::mouseClick(child<QRadioButton>(page, "OptionGenSerialStop_1"), Qt::LeftButton);
-    EXPECT_EQ(child<QRadioButton>(page, "OptionGenSerialParity_2")->text(), "Even");
-    click(page, "CommandGenSerialWrite");
-    m.session->general = GeneralSettings{};
-    page.refresh();
-    EXPECT_FALSE(child<QCheckBox>(page, "CheckGenSerialEnable")->isChecked());
-    click(page, "CommandGenSerialRead");
-    EXPECT_TRUE(child<QCheckBox>(page, "CheckGenSerialEnable")->isChecked());
-    EXPECT_EQ(child<QComboBox>(page, "ComboGenBaud")->currentText(), "57600");
-    EXPECT_TRUE(checked(page, "OptionGenSerialParity", 3));
-    EXPECT_TRUE(checked(page, "OptionGenSerialStop", 1));
-    EXPECT_TRUE(checked(page, "OptionGenSerialDatabits", 0));
-
-    // A typed eXtended address beyond 95 is clamped, written and read back.
-    auto* xaddr = child<QLineEdit>(page, "TextGenXaddr");
-    xaddr->setText("300");
-    click(page, "CommandGenAddrWrite");
-    EXPECT_EQ(xaddr->text(), "95");
-    xaddr->setText("7");
-    page.commit();
-    EXPECT_EQ(m.session->general.ExtendedAddress, 7);
-    click(page, "CommandGenAddrRead");
-    EXPECT_EQ(xaddr->text(), "95");
-    EXPECT_TRUE(m.dialogs.messages.empty()) << m.dialogs.messages[0].text;
-}
-
 TEST(GeneralPage, FlexAddressingAsksFirstAndSwapsTheModeControls)
 {
     BuiltInModule m;
@@ -178,27 +132,4 @@ TEST(GeneralPage, FlexAddressingAsksFirstAndSwapsTheModeControls)
     EXPECT_EQ(m.dialogs.questions.size(), 2u);
     EXPECT_TRUE(flex->isChecked());
     EXPECT_EQ(flexAddress->text(), "40");
-}
-
-TEST(GeneralPage, EraseNeedsOkThenCancel)
-{
-    BuiltInModule m;
-    GeneralPage page(*m.session);
-    page.show();
-
-    m.dialogs.answers = {Answer::Ok, Answer::Ok}; // the second OK means "yes, cancel"
-    click(page, "CommandGenEraseFlash");
-    EXPECT_EQ(m.dialogs.questions.size(), 2u);
-    click(page, "CommandGenIDRead");
-    EXPECT_EQ(child<QLineEdit>(page, "TextGenIDString")->text(), "Demo layout");
-
-    m.dialogs.clear();
-    m.dialogs.answers = {Answer::Ok, Answer::Cancel};
-    click(page, "CommandGenEraseFlash");
-    ASSERT_EQ(m.dialogs.questions.size(), 2u);
-    EXPECT_EQ(m.dialogs.questions[1].icon, Icon::Warning);
-    EXPECT_TRUE(m.session->link.settings.CheckKestrelBD); // restored after the erase
-    click(page, "CommandGenIDRead");
-    EXPECT_EQ(child<QLineEdit>(page, "TextGenIDString")->text(), "");
-    EXPECT_TRUE(m.dialogs.messages.empty()) << m.dialogs.messages[0].text;
 }

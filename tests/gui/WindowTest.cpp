@@ -74,6 +74,9 @@ TEST(Window, GeneralPageEditsReachWriteAllVerifyAllAndTheDataFile)
     EXPECT_EQ(m.w.windowTitle(), "Kestrel Config");
     GeneralPage& page = *m.w.generalPage;
 
+    type(page.TextGenIDString, "Up Main Junction 7"); // the module keeps 12 characters: told, and cut
+    EXPECT_EQ(m.dialogs.texts(), std::vector<std::string>{"ID string cut to 12 characters: Up Main Junc"});
+    m.dialogs.clear();
     type(page.TextGenIDString, QString::fromUtf8("Yard é 9")); // é cannot be stored: not taken
     EXPECT_EQ(page.TextGenIDString->text(), "Yard  9");
     type(page.TextGenDCCAddress, "9000"); // above what the module takes: clamped
