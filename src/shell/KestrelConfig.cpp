@@ -690,9 +690,8 @@ void KestrelConfig::refreshLinkDisplays()
     auto& lc = core->linkControl;
     auto& s = core->link.settings;
     const int base = core->config.NumberingBase;
-    for (QWidget* w : std::initializer_list<QWidget*>{UpDownAddress, TextAddress, UpDownXaddr, txtXaddr,
-                                                      CheckXaddress, CheckKestrelBD, CheckCorvid})
-        w->blockSignals(true);
+    const QSignalBlocker b1(UpDownAddress), b2(TextAddress), b3(UpDownXaddr), b4(txtXaddr), b5(CheckXaddress),
+        b6(CheckKestrelBD), b7(CheckCorvid);
     UpDownAddress->setRange(base, lc.addressMaximum());
     UpDownAddress->setValue(s.TargetAddress + base);
     TextAddress->setText(QString::fromStdString(lc.addressText()));
@@ -707,9 +706,6 @@ void KestrelConfig::refreshLinkDisplays()
     CheckKestrelBD->setChecked(s.CheckKestrelBD);
     CheckCorvid->setChecked(s.CheckCorvid);
     cmdSetTM->setVisible(corvid->cmdSetTMVisible);
-    for (QWidget* w : std::initializer_list<QWidget*>{UpDownAddress, TextAddress, UpDownXaddr, txtXaddr,
-                                                      CheckXaddress, CheckKestrelBD, CheckCorvid})
-        w->blockSignals(false);
     updateWindowState();
 }
 
