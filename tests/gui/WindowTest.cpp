@@ -253,3 +253,25 @@ TEST(Window, SavedNamesGetTheirSuffix)
     EXPECT_EQ(QtDialogs::withDefaultSuffix("dev", "Kestrel Device Definitions|*.def"), "dev.def");
     EXPECT_EQ(QtDialogs::withDefaultSuffix("", "Kestrel Device Definitions|*.def"), "");
 }
+
+TEST(Window, AProgramFaultIsToldOnceAndLeavesTheConfigurationAsItWas)
+{
+    Window m;
+    Session& s = m.w.session();
+    s.config.pin(3).Description = "kept";
+    Guard guard(s);
+    int after = 0;
+    guard.after = [&] { ++after; };
+    EXPECT_FALSE(guard([&] {
+        s.config.pin(3).Description = "half done";
+        s.general.TextGenIDString = "half done";
+        guard([&] { s.config.pin(99); }); // an inner handler's fault stops the outer one
+        s.config.pin(4).Description = "never";
+    }));
+    EXPECT_EQ(s.config.pin(3).Description, "kept");
+    EXPECT_EQ(s.config.pin(4).Description, "");
+    EXPECT_EQ(s.general.TextGenIDString, "");
+    ASSERT_EQ(m.dialogs.texts().size(), 1u);
+    EXPECT_EQ(m.dialogs.texts()[0], "Program error, the operation was stopped: Index out of range: pin = 99");
+    EXPECT_EQ(after, 1);
+}
