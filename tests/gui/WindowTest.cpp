@@ -218,6 +218,14 @@ TEST(Window, PseudoTerminalsOpenAgainAtAnyRateAndAfterAnother)
     m.openPort(QString::fromStdString(first.pty()));
     EXPECT_EQ(version(), "1.1.1.1");
     EXPECT_TRUE(m.dialogs.messages.empty()) << m.dialogs.messages[0].text;
+
+    // The other end goes away: told once, the port is closed; another one opens at once.
+    first.stop();
+    EXPECT_NE(version(), "1.1.1.1");
+    EXPECT_FALSE(m.dialogs.messages.empty());
+    EXPECT_EQ(m.w.LabelStatusPort->text(), "Port closed");
+    m.openPort(QString::fromStdString(second.pty()));
+    EXPECT_EQ(version(), "2.2.2.2");
 }
 
 TEST(Window, AMessageDuringAJobIsAboveItsProgressDialog)
