@@ -278,9 +278,8 @@ private:
             g.CheckLCGreen[k] = (green >> k) & 1;
             g.CheckLCOrange[k] = (orange >> k) & 1;
         }
-        // Element 7 stands for the value 0 ("Idle Flash", "All Received Datagrams").
-        g.CheckLCGreen[7] = green == 0 ? 1 : 0;
-        g.CheckLCOrange[7] = orange == 0 ? 1 : 0;
+        // Only the seven bit boxes: element 7 ("Idle Flash", "All Received Datagrams") is
+        // not part of the record and keeps its state.
     }
 
     void readSpc() {

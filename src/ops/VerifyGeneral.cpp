@@ -56,8 +56,7 @@ bool VerifyGeneralSettings(Session& session)
         return false;
     };
     auto step = [&](int n, const char* what) {
-        if (auto* p = session.link.currentProgress())
-            p->step(n, 10, what);
+        session.reportStep(n, 10, what);
     };
 
     session.link.setBidirectional(true);

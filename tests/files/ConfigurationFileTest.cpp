@@ -186,7 +186,6 @@ TEST(DataFileReading, FullFileReadsBackToTheSameText) {
 
     EXPECT_EQ(l.general.TextGenXDCCAddress, "12.5");
     EXPECT_EQ(l.general.TextGenXaddr, "17");
-    EXPECT_EQ(l.general.CheckLCOrange[7], 1);    // the value 0
     EXPECT_EQ(l.config.Pins[5].OutputValue, 64); // parameter 1
     EXPECT_EQ(l.config.Pins[6].P(6), 0);         // PWM parameters 6..11 cleared
     EXPECT_EQ(l.config.Pins[7].P(5), 0);         // not in the file, left as it was
@@ -269,6 +268,7 @@ TEST(DataFileReading, GeneralRecordsSetTheControls) {
     Loader l;
     l.config.NumberingBase = 1;
     l.general.ComboGenBaud = 3;
+    l.general.CheckLCOrange[7] = 1;
     ASSERT_EQ(l.load(crlf({"\"KestrelConfiguration 3100\"", "\"XAD\",64,0,20,15,0,0,0", "\"LED\",0,127",
                            "\"SPC\",1,\"1200\",7,3,1", "\"End\""})),
               LoadResult::Loaded);
@@ -281,6 +281,8 @@ TEST(DataFileReading, GeneralRecordsSetTheControls) {
     EXPECT_EQ(g.CheckGenXGM[4], 0);
     EXPECT_EQ(g.CheckLCGreen[0], 0);
     EXPECT_EQ(g.CheckLCOrange[6], 1);
+    EXPECT_EQ(g.CheckLCGreen[7], 0); // the record sets only the seven bit boxes
+    EXPECT_EQ(g.CheckLCOrange[7], 1);
     EXPECT_EQ(g.ComboGenBaud, 3); // "1200" is no entry: the selection stays
     EXPECT_EQ(g.OptionGenSerialParity, 3);
     EXPECT_EQ(g.OptionGenSerialDatabits, 0);
@@ -425,16 +427,18 @@ TEST(DataFileSaving, DccNumbersKeepTheirPointUnderACommaDecimalLocale) {
         char do_decimal_point() const override { return ','; }
     };
     const std::locale old = std::locale::global(std::locale(std::locale::classic(), new CommaDecimal));
-    Configuration c;
-    GeneralSettings g;
-    g.TextGenDCCAddress = "12.5";
-    const std::string text = writeConfigurationText(c, g, SaveForm::Compact);
-    Loader l;
-    const LoadResult r = l.load(text);
+    // A fraction is written as typed, without the noise of its binary value.
+    for (const std::string number : {"12.5", "0.3", "1.1"}) {
+        Configuration c;
+        GeneralSettings g;
+        g.TextGenDCCAddress = number;
+        const std::string text = writeConfigurationText(c, g, SaveForm::Compact);
+        Loader l;
+        EXPECT_EQ(l.load(text), LoadResult::Loaded);
+        EXPECT_NE(text.find("\"DCC\"," + number + ",0,0\r\n"), std::string::npos) << text;
+        EXPECT_EQ(l.general.TextGenDCCAddress, number);
+    }
     std::locale::global(old);
-    EXPECT_NE(text.find("\"DCC\",12.5,0,0\r\n"), std::string::npos);
-    EXPECT_EQ(r, LoadResult::Loaded);
-    EXPECT_EQ(l.general.TextGenDCCAddress, "12.5");
 }
 
 TEST(DataFileCommands, SaveAndLoadThroughTheFileDialog) {
