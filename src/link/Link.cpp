@@ -191,6 +191,11 @@ bool Link::SendKestrelMessage(bool expectReply, int size, const std::array<int, 
                 return false;
             ui.message("No response received, resetting bidirectional communication");
             setBidirectional(false);
+            if (missingReplyFails) {
+                state.LinkToggle = (state.LinkToggle + 64) % 128;
+                noteExchange();
+                return false;
+            }
         } else {
             const int n = state.ReplyBuffer[1] & 15;
             std::string text = "[" + hexUpper(state.ReplyBuffer[0]) + "]";

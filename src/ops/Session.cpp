@@ -48,14 +48,13 @@ std::string Session::jobSummary() const
     const std::string at = o.step.empty() ? std::string() : " at " + o.step;
     if (o.cancelled)
         return o.job + " cancelled" + at;
-    std::string line = o.job + (o.completed ? " incomplete" : " stopped" + at);
-    if (o.problems.empty())
-        return line;
-    if (o.completed)
-        line += ": " + std::to_string(o.problems.size()) + (o.problems.size() == 1 ? " problem" : " problems") +
-                " reported";
-    // The first problem says most; the rest follow from it or are listed above.
-    return line + ": " + o.problems.front();
+    // A job that stopped has just said why; one that stopped before its first step (a
+    // value that cannot be sent) names it here.
+    if (!o.completed)
+        return o.job + " stopped" + at + (o.step.empty() && !o.problems.empty() ? ": " + o.problems.front() : "");
+    const std::size_t n = o.problems.size();
+    return o.job + " incomplete: " + std::to_string(n) + (n == 1 ? " problem" : " problems") +
+           " reported, the first: " + o.problems.front();
 }
 
 } // namespace kestrel

@@ -77,10 +77,10 @@ public:
     void endJob(bool completed);
     const JobOutcome& lastJob() const { return outcome; }
     // "" when the last job ran to its end and nothing was reported; otherwise one line
-    // saying what was incomplete, e.g. "Read All incomplete: 1 problem reported: Read
-    // Event-Off: Function not supported by Device", "Write All stopped at Writing pin 12:
-    // No response received, resetting bidirectional communication", "Read All cancelled
-    // at Reading pin 3".
+    // saying what was incomplete: "Read All incomplete: 1 problem reported, the first:
+    // Read Event-Off: Function not supported by Device", "Write All stopped at Writing
+    // pin 12", "Write All stopped: DCC address 9000 cannot be sent: 0..8191", "Read All
+    // cancelled at Reading pin 3".
     std::string jobSummary() const;
     // A job's progress: noted for the summary and passed to the front end's Progress.
     void reportStep(int done, int total, const std::string& what);
