@@ -459,6 +459,9 @@ void readInsRecord(ItemReader& in, Configuration& config, int pin, int aspect) {
     read.Instruction = static_cast<std::uint8_t>(op);
     if (op >= 19 && op <= 63)
         splitCodeByte(op, read);
+    // Outside 19..63 the fade stays as it was, and with it the code byte could overflow.
+    if (read.Instruction + 16 * read.Fade > kDataByteMax)
+        in.fail(cannotSendText("Instruction code", read.Instruction + 16 * read.Fade, 0, kDataByteMax));
     // SendSerial 1 and 2 carry Par1 and Par2 as 8-bit values and do not send Par0.
     const bool packed = read.Instruction == 4 || read.Instruction == 5;
     std::array<int, 4> par{};

@@ -1,8 +1,11 @@
 #include "files/ConfigurationFile.h"
 #include "files/FilesTestSupport.h"
 #include "files/TextFile.h"
+#include "ops/Bulk.h"
+#include "ops/SendCheck.h"
 #include "ops/Session.h"
 #include "support/ScriptedModule.h"
+#include "support/SimSession.h"
 
 #include <gtest/gtest.h>
 
@@ -409,6 +412,26 @@ TEST(DataFileReading, FormatErrorsStopTheLoadAndKeepWhatWasRead) {
     EXPECT_EQ(l.load(head + "\"Pin\",32,0,0,\"\"\r\n\"Asp\",12,\"s\"\r\n\"Ins\",9,9,0,0,0,0\r\n\"End\"\r\n"),
               LoadResult::Loaded);
     EXPECT_EQ(l.config.Pins[32].Aspects[12].Steps[9].Instruction, 9);
+}
+
+// Whatever a file holds, what it lets into the model can be written whole (or a fault
+// stopped the load): no program fault, and a file that loads sends every byte.
+TEST(DataFileReading, TheFuzzCorpusLoadsThenWritesWithoutAProgramFault) {
+    const auto corpus = std::filesystem::path(__FILE__).parent_path() / ".." / ".." / "fuzz" / "corpus" / "fuzz_data_file";
+    int files = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(corpus)) {
+        SimSession rig;
+        const std::string name = entry.path().filename().string();
+        const LoadResult r = loadConfigurationFile(entry.path().string(), rig.session.config, rig.session.general,
+                                                   rig.dialogs);
+        ASSERT_NE(r, LoadResult::CannotOpen) << name;
+        EXPECT_EQ(unsendableConfiguration(rig.session.config, rig.session.general, true), "") << name;
+        bool written = false;
+        EXPECT_NO_THROW(written = WriteAll(rig.session, true)) << name;
+        EXPECT_TRUE(written || r != LoadResult::Loaded) << name;
+        ++files;
+    }
+    EXPECT_GE(files, 10);
 }
 
 TEST(DataFileSaving, WritesBesideAndReplacesOnlyWhenComplete) {
