@@ -83,6 +83,21 @@ void writeEvents(ItemWriter& w, const Configuration& config) {
 
 } // namespace
 
+const char* const kConfigParameterNames[12] = {
+    "",
+    "Configuration parameter 1",
+    "Configuration parameter 2",
+    "Configuration parameter 3",
+    "Configuration parameter 4",
+    "Configuration parameter 5",
+    "Configuration parameter 6",
+    "Configuration parameter 7",
+    "Configuration parameter 8",
+    "Configuration parameter 9",
+    "Configuration parameter 10",
+    "Configuration parameter 11",
+};
+
 // Shared with the definitions file: the "Cfg" record of a pin.
 void writeCfgRecord(ItemWriter& w, int indent, PinRecord& pin) {
     w.line(indent).text("Cfg").number(pin.ConfigMode);
@@ -412,9 +427,7 @@ private:
         r.OutputValue = r.P(1);
     }
 
-    int nextParameter(int n) {
-        return in.nextSendable(0, kDataByteMax, "Configuration parameter " + std::to_string(n));
-    }
+    int nextParameter(int n) { return in.nextSendable(0, kDataByteMax, kConfigParameterNames[n]); }
 
     void readPam() {
         PinRecord& r = config.pin(pin);
@@ -464,11 +477,10 @@ void readInsRecord(ItemReader& in, Configuration& config, int pin, int aspect) {
         in.fail(cannotSendText("Instruction code", read.Instruction + 16 * read.Fade, 0, kDataByteMax));
     // SendSerial 1 and 2 carry Par1 and Par2 as 8-bit values and do not send Par0.
     const bool packed = read.Instruction == 4 || read.Instruction == 5;
+    static const char* const kParNames[] = {"Par0", "Par1", "Par2", "Par3"};
     std::array<int, 4> par{};
-    for (int n = 0; n < 4; ++n) {
-        const std::string what = "Par" + std::to_string(n);
-        par[n] = packed && n < 3 ? in.nextByte() : in.nextSendable(0, kDataByteMax, what);
-    }
+    for (int n = 0; n < 4; ++n)
+        par[n] = packed && n < 3 ? in.nextByte() : in.nextSendable(0, kDataByteMax, kParNames[n]);
     StepRecord& step = config.step(pin, aspect, s);
     step.Instruction = read.Instruction;
     step.Fade = read.Fade;

@@ -193,8 +193,7 @@ private:
         // Parameters go to the module as they are, but for a servo's parameter 2, which
         // loses its top bits on the way.
         auto parameter = [&](int n) {
-            return static_cast<std::uint8_t>(
-                in.nextSendable(0, kDataByteMax, "Configuration parameter " + std::to_string(n)));
+            return static_cast<std::uint8_t>(in.nextSendable(0, kDataByteMax, kConfigParameterNames[n]));
         };
         if (r.ConfigMode == 1) {
             for (int n = 1; n <= 11; ++n)

@@ -114,16 +114,16 @@ long long wholeNumber(const ItemReader& reader, const std::string& item, long lo
         ++first;
     long long value = 0;
     const auto [ptr, ec] = std::from_chars(first, last, value);
-    const std::string range = " out of range " + std::to_string(lo) + ".." + std::to_string(hi);
+    const auto range = [&] { return " out of range " + std::to_string(lo) + ".." + std::to_string(hi); };
     if (ec == std::errc::result_out_of_range)
-        reader.fail("Value " + quoteForMessage(item) + range);
+        reader.fail("Value " + quoteForMessage(item) + range());
     if (ec != std::errc() || ptr != last || item.empty()) {
         if (isNumberItem(item))
             reader.fail("Whole number expected, found " + quoteForMessage(item));
         reader.fail("Number expected, found " + quoteForMessage(item));
     }
     if (value < lo || value > hi)
-        reader.fail("Value " + std::to_string(value) + range);
+        reader.fail("Value " + std::to_string(value) + range());
     return value;
 }
 

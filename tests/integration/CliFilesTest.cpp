@@ -150,6 +150,12 @@ TEST(CliFiles, AJobThatCannotCompleteFailsAndSaysWhatWasIncomplete)
         << r.err;
     struct stat st {};
     EXPECT_TRUE(stat(fifo.c_str(), &st) == 0 && S_ISFIFO(st.st_mode));
+
+    // A control character of the ID reaches stdout escaped.
+    std::ofstream(demo, std::ios::binary) << "\"KestrelConfiguration 3100\"\r\n\"ID$\",\"A\x01" "B\"\r\n\"End\"\r\n";
+    const auto v = runProgram(cli, {"verify", demo});
+    EXPECT_EQ(v.status, 1);
+    EXPECT_NE(v.out.find("ID does not compare: KestrelConfig = <A\\x01B> Kestrel = <"), std::string::npos) << v.out;
     std::remove(demo.c_str());
     std::remove(fifo.c_str());
 }
