@@ -32,8 +32,8 @@ bool allTextsStorable(const Configuration& c, const GeneralSettings& g)
     return true;
 }
 
-LoadResult read(const std::string& text, Configuration& config, GeneralSettings& general, UserDialogs& dialogs)
-{
+LoadResult read(const std::string& text, Configuration& config, GeneralSettings& general,
+                UserDialogs& dialogs) {
     try {
         return readConfigurationText(text, config, general, dialogs);
     } catch (const ProgramFault& fault) {

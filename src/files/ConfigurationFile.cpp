@@ -550,7 +550,8 @@ void CommandLoad_Click(Session& session) {
     if (path.empty())
         return;
     std::string why;
-    const LoadResult result = loadConfigurationFile(path, session.config, session.general, session.dialogs(), &why);
+    const LoadResult result =
+        loadConfigurationFile(path, session.config, session.general, session.dialogs(), &why);
     if (result == LoadResult::CannotOpen) {
         session.dialogs().message("Can not open " + path + ": " + why, Icon::Warning);
         return;

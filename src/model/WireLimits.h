@@ -13,7 +13,7 @@ inline constexpr long kDccAddressMax = 8191; // 6 bits low, 7 bits high
 inline constexpr int kDccCountMax = 7;
 inline constexpr int kXDccCountMax = 1;
 inline constexpr int kLynxCountMax = 7;
-inline constexpr int kInitAspectMax = 15;     // stored aspect + 1; the entry's low nibble
+inline constexpr int kInitAspectMax = 15;      // stored aspect + 1; the entry's low nibble
 inline constexpr int kEventActionWireMax = 14; // 15 on the wire means "no action"
 inline constexpr std::size_t kIdStringLength = 12;
 

@@ -31,8 +31,7 @@ bool runSteps(Session& session, const std::vector<Step>& steps)
 }
 
 // Runs a bulk job as one job of the session: its outcome is noted for the front end.
-bool asJob(Session& session, const char* name, const std::function<bool()>& job)
-{
+bool asJob(Session& session, const char* name, const std::function<bool()>& job) {
     session.beginJob(name);
     bool ok = false;
     try {
@@ -52,17 +51,17 @@ bool ReadAll(Session& session)
     Session& s = session;
     const bool ok = asJob(s, "Read All", [&] {
         return runSteps(s, {
-            {"Request version", [&] { return RequestVersion(s); }},
-            {"Reading ID string", [&] { return ReadIDString(s); }},
-            {"Reading DCC settings", [&] { return ReadDCCSettings(s); }},
-            {"Reading serial addressing", [&] { return CommandGenAddrRead_Click(s); }},
-            {"Reading LED control", [&] { return ReadLEDControl(s); }},
-            {"Reading hardware configuration", [&] { return ReadHardwareConfig(s); }},
-            {"Reading serial port", [&] { return ReadSerialPortSettings(s); }},
-            {"Reading pins", [&] { return ReadAllPins(s); }},
-            {"Reading events", [&] { return ReadAllEvents(s); }},
-            {"Reading enable maps", [&] { return ReadEnableMaps(s); }},
-        });
+                               {"Request version", [&] { return RequestVersion(s); }},
+                               {"Reading ID string", [&] { return ReadIDString(s); }},
+                               {"Reading DCC settings", [&] { return ReadDCCSettings(s); }},
+                               {"Reading serial addressing", [&] { return CommandGenAddrRead_Click(s); }},
+                               {"Reading LED control", [&] { return ReadLEDControl(s); }},
+                               {"Reading hardware configuration", [&] { return ReadHardwareConfig(s); }},
+                               {"Reading serial port", [&] { return ReadSerialPortSettings(s); }},
+                               {"Reading pins", [&] { return ReadAllPins(s); }},
+                               {"Reading events", [&] { return ReadAllEvents(s); }},
+                               {"Reading enable maps", [&] { return ReadEnableMaps(s); }},
+                           });
     });
     if (s.onConfigurationChanged)
         s.onConfigurationChanged();
@@ -77,16 +76,16 @@ bool WriteAll(Session& session, bool withPinConfig)
         if (!sendable(s, unsendableConfiguration(s.config, s.general, withPinConfig)))
             return false;
         return runSteps(s, {
-            {"Writing ID string", [&] { return WriteIDString(s); }},
-            {"Writing DCC settings", [&] { return WriteDCCSettings(s); }},
-            {"Writing LED control", [&] { return WriteLEDControl(s); }},
-            {"Writing hardware configuration", [&] { return WriteHardwareConfig(s); }},
-            {"Writing serial port", [&] { return WriteSerialPortSettings(s); }},
-            {"Writing pins", [&] { return WriteAllPins(s, withPinConfig); }},
-            {"Writing events", [&] { return WriteAllEvents(s); }},
-            {"Writing enable maps", [&] { return WriteEnableMaps(s); }},
-            {"Writing serial addressing", [&] { return WriteSerialAddressing(s); }},
-        });
+                               {"Writing ID string", [&] { return WriteIDString(s); }},
+                               {"Writing DCC settings", [&] { return WriteDCCSettings(s); }},
+                               {"Writing LED control", [&] { return WriteLEDControl(s); }},
+                               {"Writing hardware configuration", [&] { return WriteHardwareConfig(s); }},
+                               {"Writing serial port", [&] { return WriteSerialPortSettings(s); }},
+                               {"Writing pins", [&] { return WriteAllPins(s, withPinConfig); }},
+                               {"Writing events", [&] { return WriteAllEvents(s); }},
+                               {"Writing enable maps", [&] { return WriteEnableMaps(s); }},
+                               {"Writing serial addressing", [&] { return WriteSerialAddressing(s); }},
+                           });
     });
 }
 
@@ -99,10 +98,10 @@ bool VerifyAll(Session& session)
     // it found. The job's outcome only notes what kept it from comparing (messages, Cancel).
     asJob(s, "Verify All", [&] {
         ok = runSteps(s, {
-            {"Verifying general settings", [&] { return VerifyGeneralSettings(s); }},
-            {"Verifying event control", [&] { return VerifyEventControl(s); }},
-            {"Verifying pins", [&] { return VerifyAllPins(s); }},
-        });
+                             {"Verifying general settings", [&] { return VerifyGeneralSettings(s); }},
+                             {"Verifying event control", [&] { return VerifyEventControl(s); }},
+                             {"Verifying pins", [&] { return VerifyAllPins(s); }},
+                         });
         return true;
     });
     s.report.line(ok ? "Verify OK" : "Verification Stopped");

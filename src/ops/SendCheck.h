@@ -32,7 +32,8 @@ std::string unsendablePinConfig(const Configuration& config, int pin, int target
 std::string unsendableEvents(const Configuration& config, const std::vector<int>& pins);
 
 // All of Write All: general settings, every pin, every event.
-std::string unsendableConfiguration(const Configuration& config, const GeneralSettings& g, bool withPinConfig);
+std::string unsendableConfiguration(const Configuration& config, const GeneralSettings& g,
+                                    bool withPinConfig);
 
 // Pins 0..31.
 std::vector<int> allPins();

@@ -18,7 +18,7 @@ namespace kestrel {
 // missing reply; not notices with the information icon) is noted, and so is the last
 // step the job reported through its progress.
 struct JobOutcome {
-    std::string job;                   // "Read All", "Write All", ... as begun
+    std::string job; // "Read All", "Write All", ... as begun
     bool running = false;
     bool completed = false;            // every step of the job returned True
     bool cancelled = false;            // the user cancelled it
@@ -37,13 +37,13 @@ private:
     public:
         JobDialogs(UserDialogs& ui, JobOutcome& outcome) : ui(ui), outcome(outcome) {}
         void message(const std::string& text, Icon icon) override;
-        Answer ask(const std::string& text, Buttons buttons, Icon icon) override { return ui.ask(text, buttons, icon); }
-        std::string openFileName(const std::string& t, const std::string& f, const std::string& d) override
-        {
+        Answer ask(const std::string& text, Buttons buttons, Icon icon) override {
+            return ui.ask(text, buttons, icon);
+        }
+        std::string openFileName(const std::string& t, const std::string& f, const std::string& d) override {
             return ui.openFileName(t, f, d);
         }
-        std::string saveFileName(const std::string& t, const std::string& f, const std::string& d) override
-        {
+        std::string saveFileName(const std::string& t, const std::string& f, const std::string& d) override {
             return ui.saveFileName(t, f, d);
         }
 

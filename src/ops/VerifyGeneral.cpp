@@ -55,9 +55,7 @@ bool VerifyGeneralSettings(Session& session)
         report.line(line);
         return false;
     };
-    auto step = [&](int n, const char* what) {
-        session.reportStep(n, 10, what);
-    };
+    auto step = [&](int n, const char* what) { session.reportStep(n, 10, what); };
 
     session.link.setBidirectional(true);
     report.line("Start General Settings Verification");

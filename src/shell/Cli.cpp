@@ -1,12 +1,12 @@
 #include "shell/Cli.h"
 
+#include "files/ConfigurationFile.h"
 #include "link/CorvidControl.h"
 #include "link/ProgramFault.h"
-#include "files/ConfigurationFile.h"
-#include "ops/Bulk.h"
-#include "ops/GeneralCommands.h"
 #include "link/Text.h"
 #include "model/WireLimits.h"
+#include "ops/Bulk.h"
+#include "ops/GeneralCommands.h"
 #include "ops/Session.h"
 #include "shell/BuiltInSim.h"
 #include "shell/ConsoleDialogs.h"
@@ -77,8 +77,7 @@ int commandVersion(CliContext& c)
 // Loads the data file named on the command line into the session. A file that cannot be
 // read, is invalid or is cut short ends the command with its message as a usage error,
 // before anything is sent.
-int loadOperand(CliContext& c)
-{
+int loadOperand(CliContext& c) {
     const std::string& path = c.options.operands[0];
     std::string why;
     switch (loadConfigurationFile(path, c.session.config, c.session.general, c.dialogs, &why)) {
@@ -95,8 +94,7 @@ int loadOperand(CliContext& c)
 // The status of a job that has ended: 1 when it stopped or anything was reported on the
 // way, with the line saying what was incomplete last on stderr. A cancelled job is left
 // to runCli, which says "Cancelled".
-int jobStatus(CliContext& c, bool ok)
-{
+int jobStatus(CliContext& c, bool ok) {
     if (c.progress.cancelled())
         return kCancelled;
     const std::string summary = c.session.jobSummary();
@@ -180,8 +178,7 @@ const std::map<std::string, Command>& commands()
 // A bus or eXtended address as shown (with the numbering base): a whole number in
 // base..highest + base. Anything else is refused, never clamped, so that no other module
 // than the one named is written.
-bool checkAddress(const char* option, const std::string& text, int highest, int base, std::string& error)
-{
+bool checkAddress(const char* option, const std::string& text, int highest, int base, std::string& error) {
     int value = -1;
     const char* end = text.data() + text.size();
     const auto [ptr, ec] = std::from_chars(text.data(), end, value);

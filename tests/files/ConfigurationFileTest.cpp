@@ -273,10 +273,10 @@ TEST(DataFileReading, GeneralRecordsSetTheControls) {
     l.config.NumberingBase = 1;
     l.general.ComboGenBaud = 3;
     l.general.CheckLCOrange[7] = 1;
-    ASSERT_EQ(l.load(crlf({"\"KestrelConfiguration 3100\"", "\"ID$\",\"Fifteen chars!!\"",
-                           "\"XAD\",64,0,20,15,0,0,0", "\"LED\",0,127",
-                           "\"SPC\",1,\"1200\",7,3,1", "\"End\""})),
-              LoadResult::Loaded);
+    ASSERT_EQ(
+        l.load(crlf({"\"KestrelConfiguration 3100\"", "\"ID$\",\"Fifteen chars!!\"",
+                     "\"XAD\",64,0,20,15,0,0,0", "\"LED\",0,127", "\"SPC\",1,\"1200\",7,3,1", "\"End\""})),
+        LoadResult::Loaded);
     const GeneralSettings& g = l.general;
     EXPECT_EQ(g.CheckGenKestrelNative, 1);
     EXPECT_EQ(g.CheckGenLynxaddr, 0);
@@ -384,11 +384,15 @@ TEST(DataFileReading, FormatErrorsStopTheLoadAndKeepWhatWasRead) {
         {head + "\"LED\",1," + std::string(70, 'x') + "\r\n\"End\"\r\n",
          "Number expected, found \"" + std::string(60, 'x') + "...\" at line 4, item 3"},
         // Values that the module cannot be sent are file errors too, so nothing is half written.
-        {head + "\"Ins\",0,300,0,0,0,0\r\n\"End\"\r\n", "Instruction code 300 cannot be sent: 0..127 at line 4, item 3"},
+        {head + "\"Ins\",0,300,0,0,0,0\r\n\"End\"\r\n",
+         "Instruction code 300 cannot be sent: 0..127 at line 4, item 3"},
         {head + "\"Ins\",0,9,0,200,0,0\r\n\"End\"\r\n", "Par1 200 cannot be sent: 0..127 at line 4, item 5"},
-        {head + "\"DCC\",9000,0,0\r\n\"End\"\r\n", "DCC address 9000 cannot be sent: 0..8191 at line 4, item 2"},
-        {head + "\"DCC\",0,-1,0\r\n\"End\"\r\n", "eXtended DCC address -1 cannot be sent: 0..8191 at line 4, item 3"},
-        {head + "\"Eon\",1,0,201,0,0\r\n\"End\"\r\n", "Event-On entry 201 cannot be sent: 0..15 at line 4, item 4"},
+        {head + "\"DCC\",9000,0,0\r\n\"End\"\r\n",
+         "DCC address 9000 cannot be sent: 0..8191 at line 4, item 2"},
+        {head + "\"DCC\",0,-1,0\r\n\"End\"\r\n",
+         "eXtended DCC address -1 cannot be sent: 0..8191 at line 4, item 3"},
+        {head + "\"Eon\",1,0,201,0,0\r\n\"End\"\r\n",
+         "Event-On entry 201 cannot be sent: 0..15 at line 4, item 4"},
         {head + "\"PAM\",255,255,255\r\n\"End\"\r\n",
          "eXtended DCC address count 255 cannot be sent: 0..1 at line 4, item 2"},
         {head + "\"Cfg\",4,1,2,3,128\r\n\"End\"\r\n",
@@ -417,13 +421,14 @@ TEST(DataFileReading, FormatErrorsStopTheLoadAndKeepWhatWasRead) {
 // Whatever a file holds, what it lets into the model can be written whole (or a fault
 // stopped the load): no program fault, and a file that loads sends every byte.
 TEST(DataFileReading, TheFuzzCorpusLoadsThenWritesWithoutAProgramFault) {
-    const auto corpus = std::filesystem::path(__FILE__).parent_path() / ".." / ".." / "fuzz" / "corpus" / "fuzz_data_file";
+    const auto corpus =
+        std::filesystem::path(__FILE__).parent_path() / ".." / ".." / "fuzz" / "corpus" / "fuzz_data_file";
     int files = 0;
     for (const auto& entry : std::filesystem::directory_iterator(corpus)) {
         SimSession rig;
         const std::string name = entry.path().filename().string();
-        const LoadResult r = loadConfigurationFile(entry.path().string(), rig.session.config, rig.session.general,
-                                                   rig.dialogs);
+        const LoadResult r = loadConfigurationFile(entry.path().string(), rig.session.config,
+                                                   rig.session.general, rig.dialogs);
         ASSERT_NE(r, LoadResult::CannotOpen) << name;
         EXPECT_EQ(unsendableConfiguration(rig.session.config, rig.session.general, true), "") << name;
         bool written = false;
@@ -455,7 +460,8 @@ TEST(DataFileSaving, WritesBesideAndReplacesOnlyWhenComplete) {
     std::filesystem::create_directory(folder);
     std::string text;
     ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
-    for (const auto& [path, why] : {std::pair{folder, "Is a directory"}, std::pair{fifo, "Not a regular file"}}) {
+    for (const auto& [path, why] :
+         {std::pair{folder, "Is a directory"}, std::pair{fifo, "Not a regular file"}}) {
         EXPECT_FALSE(saveConfigurationFile(path, c, sampleGeneral(), SaveForm::Full, error));
         EXPECT_EQ(error, "Can not replace " + path + ": " + why);
         EXPECT_FALSE(std::filesystem::exists(temporaryPathFor(path)));
@@ -535,7 +541,8 @@ TEST(DataFileCommands, SaveAndLoadThroughTheFileDialog) {
     EXPECT_EQ(other.session.general.TextGenIDString, "Yard 3");
     CommandLoad_Click(other.session);
     ASSERT_EQ(other.dialogs.messages.size(), 1u);
-    EXPECT_EQ(other.dialogs.messages[0].text, "Can not open " + dir.file("missing.dat") + ": No such file or directory");
+    EXPECT_EQ(other.dialogs.messages[0].text,
+              "Can not open " + dir.file("missing.dat") + ": No such file or directory");
     CommandLoad_Click(other.session);
     EXPECT_EQ(refreshed, 1);
     EXPECT_EQ(other.dialogs.messages.size(), 1u);

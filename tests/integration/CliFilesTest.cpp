@@ -73,8 +73,7 @@ TEST(CliFiles, ReadFromBuiltInThenWriteVerifyAndReadBackThroughThePty)
     std::remove(back.c_str());
 }
 
-TEST(CliFiles, BadFilesAndAddressesAreUsageErrorsAndNothingIsSent)
-{
+TEST(CliFiles, BadFilesAndAddressesAreUsageErrorsAndNothingIsSent) {
     const std::string cli = binPath("kestrel-cli");
     const std::string bad = tempPath("bad.dat");
     const std::string head = "\"KestrelConfiguration 3100\"\r\n";
@@ -87,12 +86,22 @@ TEST(CliFiles, BadFilesAndAddressesAreUsageErrorsAndNothingIsSent)
     const Case cases[] = {
         {{"write", bad}, "\"KestrelConfig 3100\"\r\n\"End\"\r\n", "Invalid configuration file"},
         {{"verify", bad}, head + "\"Pin\",3,0,0,\"x\"\r\n", "The file ends before \"End\" at line 2, item 6"},
-        {{"verify", tempPath("missing.dat")}, "", "Cannot read " + tempPath("missing.dat") + ": No such file"},
-        {{"write", bad}, head + "\"DCC\",9000,0,0\r\n\"End\"\r\n", "DCC address 9000 cannot be sent: 0..8191"},
-        {{"write", bad}, head + "\"Eon\",0,200,0,0,0\r\n\"End\"\r\n", "Event-On entry 200 cannot be sent: 0..15"},
+        {{"verify", tempPath("missing.dat")},
+         "",
+         "Cannot read " + tempPath("missing.dat") + ": No such file"},
+        {{"write", bad},
+         head + "\"DCC\",9000,0,0\r\n\"End\"\r\n",
+         "DCC address 9000 cannot be sent: 0..8191"},
+        {{"write", bad},
+         head + "\"Eon\",0,200,0,0,0\r\n\"End\"\r\n",
+         "Event-On entry 200 cannot be sent: 0..15"},
         {{"write", bad}, pin0 + "\"Ins\",0,9,0,0,0,128\r\n\"End\"\r\n", "Par3 128 cannot be sent: 0..127"},
-        {{"write", bad}, head + "\"ID$\",\"Caf\xc3\xa9\"\r\n\"End\"\r\n", "ID string character 195 at position 4"},
-        {{"write", bad}, pin0 + "\"PAM\",1,255,255\r\n\"End\"\r\n", "DCC address count 255 cannot be sent: 0..7"},
+        {{"write", bad},
+         head + "\"ID$\",\"Caf\xc3\xa9\"\r\n\"End\"\r\n",
+         "ID string character 195 at position 4"},
+        {{"write", bad},
+         pin0 + "\"PAM\",1,255,255\r\n\"End\"\r\n",
+         "DCC address count 255 cannot be sent: 0..7"},
         {{"--address", "99", "erase", "--yes"}, "", "--address must be a number from 0 to 15, not \"99\""},
         {{"--address", "abc", "version"}, "", "--address must be a number from 0 to 15, not \"abc\""},
         {{"--number-from-1", "--address", "0", "version"}, "", "--address must be a number from 1 to 16"},
@@ -114,8 +123,7 @@ TEST(CliFiles, BadFilesAndAddressesAreUsageErrorsAndNothingIsSent)
     std::remove(bad.c_str());
 }
 
-TEST(CliFiles, AJobThatCannotCompleteFailsAndSaysWhatWasIncomplete)
-{
+TEST(CliFiles, AJobThatCannotCompleteFailsAndSaysWhatWasIncomplete) {
     const std::string cli = binPath("kestrel-cli");
     const std::string demo = tempPath("incomplete.dat"), fifo = tempPath("fifo.dat");
     ASSERT_EQ(runProgram(cli, {"read", demo}).status, 0);
@@ -152,10 +160,12 @@ TEST(CliFiles, AJobThatCannotCompleteFailsAndSaysWhatWasIncomplete)
     EXPECT_TRUE(stat(fifo.c_str(), &st) == 0 && S_ISFIFO(st.st_mode));
 
     // A control character of the ID reaches stdout escaped.
-    std::ofstream(demo, std::ios::binary) << "\"KestrelConfiguration 3100\"\r\n\"ID$\",\"A\x01" "B\"\r\n\"End\"\r\n";
+    std::ofstream(demo, std::ios::binary) << "\"KestrelConfiguration 3100\"\r\n\"ID$\",\"A\x01"
+                                             "B\"\r\n\"End\"\r\n";
     const auto v = runProgram(cli, {"verify", demo});
     EXPECT_EQ(v.status, 1);
-    EXPECT_NE(v.out.find("ID does not compare: KestrelConfig = <A\\x01B> Kestrel = <"), std::string::npos) << v.out;
+    EXPECT_NE(v.out.find("ID does not compare: KestrelConfig = <A\\x01B> Kestrel = <"), std::string::npos)
+        << v.out;
     std::remove(demo.c_str());
     std::remove(fifo.c_str());
 }

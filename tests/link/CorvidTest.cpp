@@ -123,7 +123,10 @@ TEST_F(Scripted, NoAnswerAndBadCheckByte)
         EXPECT_FALSE(link.CorvidExchange(0));
         ASSERT_EQ(dialogs.messages.size(), 2u) << n;
         EXPECT_EQ(dialogs.messages[0].text.rfind("Checksum Error\r\nSize = " + std::to_string(n) + "< " +
-                                                     hexUpper(n) + std::string(n, '1'), 0), 0u) << dialogs.messages[0].text;
+                                                     hexUpper(n) + std::string(n, '1'),
+                                                 0),
+                  0u)
+            << dialogs.messages[0].text;
         EXPECT_LT(clock.secondsSinceMidnight() - start, 1.0);
     }
 

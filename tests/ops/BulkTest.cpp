@@ -1,11 +1,11 @@
 // Read All, Write All and Verify All: the whole configuration against the simulated
 // module, the order of the steps and where a run stops.
-#include "support/ScriptedModule.h"
-#include "support/SimSession.h"
 #include "ops/Bulk.h"
 #include "ops/EventControl.h"
 #include "ops/GeneralCommands.h"
 #include "ops/PinTransfer.h"
+#include "support/ScriptedModule.h"
+#include "support/SimSession.h"
 
 #include <gtest/gtest.h>
 
@@ -200,8 +200,7 @@ TEST_F(BulkSim, CancelledReadAllKeepsWhatWasReadAndStopsQuietly)
 
 // Every write checks all it will send before its first byte: a value the wire cannot
 // carry is told once, naming where it is, and the module hears nothing.
-TEST_F(BulkSim, AValueThatCannotBeSentStopsTheWriteBeforeItsFirstByte)
-{
+TEST_F(BulkSim, AValueThatCannotBeSentStopsTheWriteBeforeItsFirstByte) {
     struct Case {
         std::function<void(Session&)> spoil;
         std::function<bool(Session&)> write;
@@ -209,14 +208,16 @@ TEST_F(BulkSim, AValueThatCannotBeSentStopsTheWriteBeforeItsFirstByte)
     };
     const auto writeAll = [](Session& x) { return WriteAll(x, true); };
     const Case cases[] = {
-        {[](Session& x) { x.general.TextGenDCCAddress = "9000"; }, writeAll, "DCC address 9000 cannot be sent: 0..8191"},
+        {[](Session& x) { x.general.TextGenDCCAddress = "9000"; }, writeAll,
+         "DCC address 9000 cannot be sent: 0..8191"},
         {[](Session& x) { x.general.TextGenIDString = "Caf\xc3\xa9"; }, WriteIDString,
          "ID string character 195 at position 4 cannot be sent: 0..127"},
         {[](Session& x) { x.config.Pins[31].Aspects[1].Steps[2] = {9, 0, 0, 200, 0, 0}; }, writeAll,
          "Pin 31, aspect 1, step 2: Par1 200 cannot be sent: 0..127"},
         {[](Session& x) { x.config.Pins[3].InitAspect = 16; }, [](Session& x) { return WritePin(x, 3); },
          "Pin 3: initial aspect 16 cannot be sent: 0..15"},
-        {[](Session& x) { x.config.Pins[5].ConfigMode = 1, x.config.Pins[5].P(7) = 200; }, writeAll, "Pin 5: configuration parameter 7 200 cannot be sent: 0..127"},
+        {[](Session& x) { x.config.Pins[5].ConfigMode = 1, x.config.Pins[5].P(7) = 200; }, writeAll,
+         "Pin 5: configuration parameter 7 200 cannot be sent: 0..127"},
         {[](Session& x) { x.config.EventMap[9].OffEvent[3] = 15; }, WriteAllEvents,
          "Pin 9: Event-Off(3) action 15 cannot be sent: -1..14"},
     };
