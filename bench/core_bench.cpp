@@ -3,6 +3,8 @@
 // reading the data file of a fully populated configuration.
 #include "FullConfiguration.h"
 #include "files/ConfigurationFile.h"
+#include "files/DeviceDefinitions.h"
+#include "files/TextFile.h"
 #include "link/Link.h"
 
 #include <benchmark/benchmark.h>
@@ -12,6 +14,7 @@
 #include <cstdlib>
 #include <deque>
 #include <stdexcept>
+#include <sys/resource.h>
 #include <vector>
 
 using namespace kestrel;
@@ -182,6 +185,59 @@ void BM_DataFileRead(benchmark::State& state)
     state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * text.size()));
 }
 BENCHMARK(BM_DataFileRead)->Unit(benchmark::kMicrosecond);
+
+// The largest files that are read at all (1 MB): a data file whose pin blocks repeat
+// until it is full, and a definitions file of nothing but device names, read into the
+// device list as the window does at its start. peak_rss_MiB is the process's peak.
+std::string largestDataFile() {
+    Configuration config;
+    GeneralSettings general;
+    bench::fillFullConfiguration(config, general);
+    const std::string full = writeConfigurationText(config, general, SaveForm::Full);
+    const std::size_t pins = full.find("\"Pin\",0,");
+    const std::string body = full.substr(pins, full.rfind("\"End\"") - pins);
+    std::string text = full.substr(0, pins);
+    while (text.size() + body.size() + 7 <= kTextFileLimit)
+        text += body;
+    return text + "\"End\"\r\n";
+}
+
+void reportPeak(benchmark::State& state, std::size_t bytes) {
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    state.counters["file_bytes"] = static_cast<double>(bytes);
+    state.counters["peak_rss_MiB"] = static_cast<double>(usage.ru_maxrss) / 1024.0;
+}
+
+void BM_LargestDataFileRead(benchmark::State& state) {
+    const std::string text = largestDataFile();
+    SilentDialogs dialogs;
+    for (auto _ : state) {
+        Configuration loaded;
+        GeneralSettings loadedGeneral;
+        if (readConfigurationText(text, loaded, loadedGeneral, dialogs) != LoadResult::Loaded)
+            throw std::runtime_error("largest data file did not load");
+        benchmark::DoNotOptimize(loaded.Pins.data());
+    }
+    reportPeak(state, text.size());
+}
+BENCHMARK(BM_LargestDataFileRead)->Unit(benchmark::kMillisecond);
+
+void BM_LargestDefinitionsList(benchmark::State& state) {
+    std::string text = std::string("\"") + kDeviceFileKeyword + " 1.0\"\r\n";
+    for (int i = 0; text.size() + 40 < kTextFileLimit; ++i)
+        text += "\"Dev\",\"D" + std::to_string(i) + "\"\r\n";
+    text += "\"End\"\r\n";
+    SilentDialogs dialogs;
+    const std::string path = "/usr/share/kestrel-config/KestrelDevices.def";
+    for (auto _ : state) {
+        DeviceList list;
+        readDeviceListText(list, text, path, ListMode::Replace, dialogs);
+        benchmark::DoNotOptimize(list.cboDevice.data());
+    }
+    reportPeak(state, text.size());
+}
+BENCHMARK(BM_LargestDefinitionsList)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

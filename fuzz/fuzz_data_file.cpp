@@ -1,9 +1,10 @@
 // The configuration data file reader, fed arbitrary text. Whatever the text, reading
-// ends in one of the reader's results (or the address-sum fault that loading passes on
-// by design), and what it read can be written and read back without a fault.
+// ends in one of the reader's results without a program fault, nothing it lets into the
+// model is a value that cannot be sent, and what it read can be written and read back.
 #include "FuzzSupport.h"
 #include "files/ConfigurationFile.h"
 #include "link/ProgramFault.h"
+#include "ops/SendCheck.h"
 #include "support/RecordingDialogs.h"
 
 using namespace kestrel;
@@ -32,17 +33,11 @@ bool allTextsStorable(const Configuration& c, const GeneralSettings& g)
 }
 
 LoadResult read(const std::string& text, Configuration& config, GeneralSettings& general,
-                UserDialogs& dialogs, bool& overflow)
-{
-    overflow = false;
+                UserDialogs& dialogs) {
     try {
         return readConfigurationText(text, config, general, dialogs);
     } catch (const ProgramFault& fault) {
-        // Address counts whose running sum passes 255 are a fault that the job boundary
-        // reports; any other fault is a finding.
-        if (std::string(fault.what()).rfind("Overflow: address sum above 255", 0) != 0)
-            fuzz::finding(std::string("ProgramFault while reading: ") + fault.what());
-        overflow = true;
+        fuzz::finding(std::string("ProgramFault while reading: ") + fault.what());
         return LoadResult::FormatError;
     }
 }
@@ -57,11 +52,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Configuration config;
     GeneralSettings general;
     test::RecordingDialogs dialogs;
-    bool overflow = false;
-    const LoadResult result = read(text, config, general, dialogs, overflow);
+    const LoadResult result = read(text, config, general, dialogs);
     fuzz::expect(result != LoadResult::CannotOpen, "text reader says it cannot open");
-    if (result == LoadResult::InvalidHeader || overflow)
+    if (result == LoadResult::InvalidHeader)
         return 0;
+    // Nothing that cannot be sent gets into the model from a file.
+    const std::string unsendable = unsendableConfiguration(config, general, true);
+    if (!unsendable.empty())
+        fuzz::finding("a loaded value cannot be sent: " + unsendable);
 
     // Whatever was read can be written, both ways.
     const std::string full = writeConfigurationText(config, general, SaveForm::Full);
@@ -74,8 +72,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         Configuration again;
         GeneralSettings generalAgain;
         test::RecordingDialogs quiet;
-        bool overflowAgain = false;
-        const LoadResult back = read(*written, again, generalAgain, quiet, overflowAgain);
+        const LoadResult back = read(*written, again, generalAgain, quiet);
         if (back != LoadResult::Loaded || !quiet.messages.empty()) {
             std::fprintf(stderr, "written text:\n%s\n", written->c_str());
             for (const auto& m : quiet.messages)

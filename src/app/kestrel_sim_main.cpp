@@ -242,7 +242,13 @@ int main(int argc, char** argv)
     if (!options.load.empty()) {
         for (int a : options.addresses) {
             std::string error;
-            if (!kestrel::seedModuleFromFile(bus, a, options.load, error)) {
+            bool seeded = false;
+            try {
+                seeded = kestrel::seedModuleFromFile(bus, a, options.load, error);
+            } catch (const std::exception& e) {
+                error = std::string("program fault while loading ") + options.load + ": " + e.what();
+            }
+            if (!seeded) {
                 std::fprintf(stderr, "kestrel-sim: %s\n", error.c_str());
                 return 2;
             }

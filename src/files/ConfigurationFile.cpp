@@ -9,10 +9,13 @@
 #include "model/AddressIndex.h"
 #include "model/PinTools.h"
 #include "model/StepCodec.h"
+#include "model/WireLimits.h"
 #include "ops/Session.h"
 
 #include <array>
+#include <cmath>
 #include <cstring>
+#include <vector>
 
 namespace kestrel {
 
@@ -79,6 +82,21 @@ void writeEvents(ItemWriter& w, const Configuration& config) {
 }
 
 } // namespace
+
+const char* const kConfigParameterNames[12] = {
+    "",
+    "Configuration parameter 1",
+    "Configuration parameter 2",
+    "Configuration parameter 3",
+    "Configuration parameter 4",
+    "Configuration parameter 5",
+    "Configuration parameter 6",
+    "Configuration parameter 7",
+    "Configuration parameter 8",
+    "Configuration parameter 9",
+    "Configuration parameter 10",
+    "Configuration parameter 11",
+};
 
 // Shared with the definitions file: the "Cfg" record of a pin.
 void writeCfgRecord(ItemWriter& w, int indent, PinRecord& pin) {
@@ -178,10 +196,22 @@ void checkRange(ItemReader& in, int value, int highest, const char* what) {
                 std::to_string(highest));
 }
 
+// A DCC address as the writer will send it (rounded to a whole number): 0..8191.
+std::string readDccAddress(ItemReader& in, const char* what) {
+    const double value = in.nextReal();
+    const double sent = std::round(value);
+    if (sent < 0 || sent > kDccAddressMax)
+        in.fail(cannotSendText(what, formatNumber(value), 0, kDccAddressMax));
+    return formatNumber(value);
+}
+
 class ConfigReader {
 public:
     ConfigReader(ItemReader& in, double version, Configuration& config, GeneralSettings& general)
         : in(in), version(version), config(config), g(general) {}
+
+    // What was changed on the way in and should be told ("ID string cut to 12 characters: ...").
+    std::vector<std::string> notices;
 
     // Dispatches keywords until "End".
     void run() {
@@ -196,7 +226,7 @@ public:
 private:
     void dispatch(const std::string& k) {
         if (k == "ID$")
-            g.TextGenIDString = in.next();
+            readId();
         else if (k == "DCC")
             readDcc();
         else if (k == "XAD")
@@ -226,10 +256,19 @@ private:
         // Anything else is not a keyword: passed over, and the next item is tried.
     }
 
+    void readId() {
+        const IdStringCheck id = checkIdString(in.next());
+        if (id.refused)
+            in.fail(id.message);
+        if (!id.message.empty())
+            notices.push_back(id.message);
+        g.TextGenIDString = id.text;
+    }
+
     void readDcc() {
-        g.TextGenDCCAddress = formatNumber(in.nextReal());
+        g.TextGenDCCAddress = readDccAddress(in, "DCC address");
         if (version >= 32)
-            g.TextGenXDCCAddress = formatNumber(in.nextReal());
+            g.TextGenXDCCAddress = readDccAddress(in, "eXtended DCC address");
         if (version > 22) {
             const int flags = in.nextByte();
             g.OptGenDCC_PRP = flags & 3;
@@ -239,9 +278,9 @@ private:
     }
 
     void readXad() {
-        const int a = in.nextInt16();
+        const int a = in.nextSendable(0, kDataByteMax, "Lynx flex-address");
         const int b = in.nextInt16();
-        const int c = in.nextByte();
+        const int c = in.nextSendable(0, kDataByteMax, "eXtended address");
         std::array<int, 4> masks{};
         for (int& m : masks)
             m = in.nextByte();
@@ -278,9 +317,8 @@ private:
             g.CheckLCGreen[k] = (green >> k) & 1;
             g.CheckLCOrange[k] = (orange >> k) & 1;
         }
-        // Element 7 stands for the value 0 ("Idle Flash", "All Received Datagrams").
-        g.CheckLCGreen[7] = green == 0 ? 1 : 0;
-        g.CheckLCOrange[7] = orange == 0 ? 1 : 0;
+        // Only the seven bit boxes: element 7 ("Idle Flash", "All Received Datagrams") is
+        // not part of the record and keeps its state.
     }
 
     void readSpc() {
@@ -307,11 +345,8 @@ private:
     void readEvents(bool on) {
         const int p = readPinIndex();
         std::array<int, 4> entries{};
-        for (int& e : entries) {
-            e = in.nextInt16() - 1;
-            if (e < -32768)
-                in.fail("Value -32768 out of range -32767..32767");
-        }
+        for (int& e : entries)
+            e = in.nextSendable(0, kEventActionWireMax + 1, on ? "Event-On entry" : "Event-Off entry") - 1;
         auto& target = on ? config.events(p).OnEvent : config.events(p).OffEvent;
         for (int slot = 0; slot < 4; ++slot)
             target[slot] = static_cast<std::int16_t>(entries[slot]);
@@ -319,8 +354,8 @@ private:
 
     void readPin() {
         const int p = readPinIndex();
-        const int layout = in.nextByte();
-        const int init = in.nextByte();
+        const int layout = in.nextSendable(0, kDataByteMax, "Aspect layout");
+        const int init = in.nextSendable(0, kInitAspectMax, "Initial aspect");
         std::string description = in.next();
 
         pin = p;
@@ -350,8 +385,9 @@ private:
         PinRecord& r = config.pin(pin);
         switch (mode) {
         case 1:
+            // Parameter 2 loses its top bits before it is sent; the others go as they are.
             for (int n = 1; n <= 11; ++n)
-                p[n] = in.nextByte();
+                p[n] = n == 2 ? in.nextByte() : nextParameter(n);
             r.ConfigMode = 1;
             for (int n = 1; n <= 11; ++n)
                 r.P(n) = static_cast<std::uint8_t>(p[n]);
@@ -362,10 +398,10 @@ private:
         case 2:
         case 3:
             for (int n = 1; n <= 3; ++n)
-                p[n] = in.nextByte();
+                p[n] = nextParameter(n);
             if (version >= 20) {
-                p[4] = in.nextByte();
-                p[5] = in.nextByte();
+                p[4] = nextParameter(4);
+                p[5] = nextParameter(5);
             } else {
                 p[4] = 0;
                 p[5] = 31;
@@ -377,7 +413,7 @@ private:
         case 4:
         case 5:
             for (int n = 1; n <= 4; ++n)
-                p[n] = in.nextByte();
+                p[n] = nextParameter(n);
             r.ConfigMode = static_cast<std::uint8_t>(mode);
             for (int n = 1; n <= 4; ++n)
                 r.P(n) = static_cast<std::uint8_t>(p[n]);
@@ -391,13 +427,15 @@ private:
         r.OutputValue = r.P(1);
     }
 
+    int nextParameter(int n) { return in.nextSendable(0, kDataByteMax, kConfigParameterNames[n]); }
+
     void readPam() {
         PinRecord& r = config.pin(pin);
         int xdcc = r.XDccCount;
         if (version >= 32)
-            xdcc = in.nextByte();
-        const int dcc = in.nextByte();
-        const int lynx = in.nextByte();
+            xdcc = in.nextSendable(0, kXDccCountMax, "eXtended DCC address count");
+        const int dcc = in.nextSendable(0, kDccCountMax, "DCC address count");
+        const int lynx = in.nextSendable(0, kLynxCountMax, "Serial address count");
         r.XDccCount = static_cast<std::uint8_t>(xdcc);
         r.DccCount = static_cast<std::uint8_t>(dcc);
         r.LynxCount = static_cast<std::uint8_t>(lynx);
@@ -429,16 +467,23 @@ void readInsRecord(ItemReader& in, Configuration& config, int pin, int aspect) {
     const int s = in.nextInt16();
     if (s < 0 || s > kStepRecords - 1)
         in.fail("Step index " + std::to_string(s) + " out of range 0.." + std::to_string(kStepRecords - 1));
-    const int op = in.nextInt16();
-    if (op < 0 || op > 255)
-        in.fail("Instruction " + std::to_string(op) + " out of range 0..255");
-    std::array<int, 4> par{};
-    for (int& v : par)
-        v = in.nextByte();
-    StepRecord& step = config.step(pin, aspect, s);
-    step.Instruction = static_cast<std::uint8_t>(op);
+    const int op = in.nextSendable(0, kDataByteMax, "Instruction code");
+    StepRecord read = config.step(pin, aspect, s);
+    read.Instruction = static_cast<std::uint8_t>(op);
     if (op >= 19 && op <= 63)
-        splitCodeByte(op, step);
+        splitCodeByte(op, read);
+    // Outside 19..63 the fade stays as it was, and with it the code byte could overflow.
+    if (read.Instruction + 16 * read.Fade > kDataByteMax)
+        in.fail(cannotSendText("Instruction code", read.Instruction + 16 * read.Fade, 0, kDataByteMax));
+    // SendSerial 1 and 2 carry Par1 and Par2 as 8-bit values and do not send Par0.
+    const bool packed = read.Instruction == 4 || read.Instruction == 5;
+    static const char* const kParNames[] = {"Par0", "Par1", "Par2", "Par3"};
+    std::array<int, 4> par{};
+    for (int n = 0; n < 4; ++n)
+        par[n] = packed && n < 3 ? in.nextByte() : in.nextSendable(0, kDataByteMax, kParNames[n]);
+    StepRecord& step = config.step(pin, aspect, s);
+    step.Instruction = read.Instruction;
+    step.Fade = read.Fade;
     step.Par0 = static_cast<std::uint8_t>(par[0]);
     step.Par1 = static_cast<std::uint8_t>(par[1]);
     step.Par2 = static_cast<std::uint8_t>(par[2]);
@@ -461,23 +506,30 @@ LoadResult readConfigurationText(const std::string& text, Configuration& config,
         dialogs.message("Data File Version = " + formatNumber(version), Icon::Information);
 
     LoadResult result = LoadResult::Loaded;
+    ConfigReader reader(in, version, config, general);
     try {
-        ConfigReader(in, version, config, general).run();
+        reader.run();
     } catch (const FileFormatError& e) {
         dialogs.message(std::string("Error in configuration file: ") + e.what() +
                             "\r\nLoading stopped; what was read before is kept.",
                         Icon::Warning);
         result = LoadResult::FormatError;
     }
+    for (const std::string& notice : reader.notices)
+        dialogs.message(notice, Icon::Warning);
     RecalcAddressIndex(config);
     return result;
 }
 
 LoadResult loadConfigurationFile(const std::string& path, Configuration& config, GeneralSettings& general,
-                                 UserDialogs& dialogs) {
+                                 UserDialogs& dialogs, std::string* why) {
     std::string text;
-    if (!readTextFile(path, text))
+    std::string error;
+    if (!readTextFile(path, text, error)) {
+        if (why)
+            *why = error;
         return LoadResult::CannotOpen;
+    }
     return readConfigurationText(text, config, general, dialogs);
 }
 
@@ -500,9 +552,10 @@ LoadOutcome CommandLoad_Click(Session& session) {
     const std::string path = session.dialogs().openFileName("Load Configuration", kConfigFileFilter, "");
     if (path.empty())
         return {};
-    const LoadResult result = loadConfigurationFile(path, session.config, session.general, session.dialogs());
+    std::string why;
+    const LoadResult result = loadConfigurationFile(path, session.config, session.general, session.dialogs(), &why);
     if (result == LoadResult::CannotOpen)
-        session.dialogs().message("Can not open " + path, Icon::Warning);
+        session.dialogs().message("Can not open " + path + ": " + why, Icon::Warning);
     else if (result != LoadResult::InvalidHeader && session.onConfigurationChanged)
         session.onConfigurationChanged();
     return {path, result};

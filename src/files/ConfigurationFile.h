@@ -47,9 +47,10 @@ enum class LoadResult {
 LoadResult readConfigurationText(const std::string& text, Configuration& config, GeneralSettings& general,
                                  UserDialogs& dialogs);
 
-// The same for a file; a file that cannot be read changes nothing and shows nothing.
+// The same for a file; a file that cannot be read (or is larger than 1 MB) changes
+// nothing and shows nothing; why, when given, then says why.
 LoadResult loadConfigurationFile(const std::string& path, Configuration& config, GeneralSettings& general,
-                                 UserDialogs& dialogs);
+                                 UserDialogs& dialogs, std::string* why = nullptr);
 
 // The save button: left button (1) alone saves the full file, with Shift (1) the compact
 // file; anything else does nothing. Asks for the file name through the save dialog

@@ -6,6 +6,7 @@
 #include "link/UserDialogs.h"
 #include "model/AddressIndex.h"
 #include "model/PinTools.h"
+#include "model/WireLimits.h"
 
 #include <array>
 #include <filesystem>
@@ -72,8 +73,13 @@ ListLoad readDeviceListText(DeviceList& list, const std::string& text, const std
 
 ListLoad readDeviceList(DeviceList& list, const std::string& path, ListMode mode, UserDialogs& dialogs) {
     std::string text;
-    if (!readTextFile(path, text))
+    std::string error;
+    if (!readTextFile(path, text, error)) {
+        // A file that is there but cannot be taken says why; a missing one is the caller's to report.
+        if (!path.empty() && std::filesystem::exists(path))
+            dialogs.message("Can not open " + path + ": " + error, Icon::Warning);
         return ListLoad::CannotOpen;
+    }
     return readDeviceListText(list, text, path, mode, dialogs);
 }
 
@@ -159,8 +165,8 @@ private:
         if (!r.Description.empty())
             used[t] = true;
         target = t;
-        r.AspectLayout = static_cast<std::uint8_t>(in.nextByte());
-        r.InitAspect = static_cast<std::uint8_t>(in.nextByte());
+        r.AspectLayout = static_cast<std::uint8_t>(in.nextSendable(0, kDataByteMax, "Aspect layout"));
+        r.InitAspect = static_cast<std::uint8_t>(in.nextSendable(0, kInitAspectMax, "Initial aspect"));
         r.Description = in.next();
         for (int a = 0; a < 12; ++a) {
             r.Aspects[a].Description.clear();
@@ -172,9 +178,9 @@ private:
     }
 
     void readPam() {
-        const int xdcc = in.nextByte();
-        const int dcc = in.nextByte();
-        const int lynx = in.nextByte();
+        const int xdcc = in.nextSendable(0, kXDccCountMax, "eXtended DCC address count");
+        const int dcc = in.nextSendable(0, kDccCountMax, "DCC address count");
+        const int lynx = in.nextSendable(0, kLynxCountMax, "Serial address count");
         PinRecord& r = config.pin(target);
         r.XDccCount = static_cast<std::uint8_t>(xdcc);
         r.DccCount = static_cast<std::uint8_t>(dcc);
@@ -184,16 +190,24 @@ private:
     void readCfg() {
         PinRecord& r = config.pin(target);
         r.ConfigMode = static_cast<std::uint8_t>(in.nextByte());
+        // Parameters go to the module as they are, but for a servo's parameter 2, which
+        // loses its top bits on the way.
+        auto parameter = [&](int n) {
+            return static_cast<std::uint8_t>(in.nextSendable(0, kDataByteMax, kConfigParameterNames[n]));
+        };
         if (r.ConfigMode == 1) {
             for (int n = 1; n <= 11; ++n)
-                r.P(n) = static_cast<std::uint8_t>(in.nextByte());
+                r.P(n) = n == 2 ? static_cast<std::uint8_t>(in.nextByte()) : parameter(n);
         } else if (r.ConfigMode == 2) {
             for (int n = 1; n <= 3; ++n)
-                r.P(n) = static_cast<std::uint8_t>(in.nextByte());
+                r.P(n) = parameter(n);
             std::string item = in.next();
             if (isNumberItem(item)) {
-                r.P(4) = static_cast<std::uint8_t>(checkedByte(item));
-                r.P(5) = static_cast<std::uint8_t>(in.nextByte());
+                const int p4 = checkedByte(item);
+                if (p4 > kDataByteMax)
+                    in.fail(cannotSendText("Configuration parameter 4", p4, 0, kDataByteMax));
+                r.P(4) = static_cast<std::uint8_t>(p4);
+                r.P(5) = parameter(5);
             } else {
                 // The older three-parameter form: this item is already the next keyword.
                 pending = std::move(item);
@@ -207,7 +221,7 @@ private:
         try {
             return one.nextByte();
         } catch (const FileFormatError&) {
-            in.fail("Byte value 0..255 expected, found \"" + item + "\"");
+            in.fail("Byte value 0..255 expected, found " + quoteForMessage(item));
         }
     }
 
@@ -276,8 +290,9 @@ bool CommandPAspPreLoad_Click(const DeviceList& list, Configuration& config, Use
     }
     const std::string& path = list.paths[list.selected];
     std::string text;
-    if (!readTextFile(path, text)) {
-        dialogs.message("Can not open " + path, Icon::Warning);
+    std::string error;
+    if (!readTextFile(path, text, error)) {
+        dialogs.message("Can not open " + path + ": " + error, Icon::Warning);
         return false;
     }
     return loadDeviceFromText(text, list.cboDevice[list.selected], config, dialogs);

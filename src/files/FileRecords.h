@@ -6,6 +6,9 @@
 
 namespace kestrel {
 
+// "Configuration parameter n" for n = 1..11, as the readers name a parameter that cannot be sent.
+extern const char* const kConfigParameterNames[12];
+
 // Records that the data file and the definitions file spell alike.
 
 // "Cfg",<mode>,...: all eleven parameters for a servo (whose parameter 2 first loses

@@ -1,5 +1,7 @@
 #include "files/ItemStream.h"
 
+#include "model/WireLimits.h"
+
 #include <charconv>
 #include <system_error>
 
@@ -112,15 +114,16 @@ long long wholeNumber(const ItemReader& reader, const std::string& item, long lo
         ++first;
     long long value = 0;
     const auto [ptr, ec] = std::from_chars(first, last, value);
+    const auto range = [&] { return " out of range " + std::to_string(lo) + ".." + std::to_string(hi); };
     if (ec == std::errc::result_out_of_range)
-        reader.fail("Value " + item + " out of range " + std::to_string(lo) + ".." + std::to_string(hi));
+        reader.fail("Value " + quoteForMessage(item) + range());
     if (ec != std::errc() || ptr != last || item.empty()) {
         if (isNumberItem(item))
-            reader.fail("Whole number expected, found \"" + item + "\"");
-        reader.fail("Number expected, found \"" + item + "\"");
+            reader.fail("Whole number expected, found " + quoteForMessage(item));
+        reader.fail("Number expected, found " + quoteForMessage(item));
     }
     if (value < lo || value > hi)
-        reader.fail("Value " + item + " out of range " + std::to_string(lo) + ".." + std::to_string(hi));
+        reader.fail("Value " + std::to_string(value) + range());
     return value;
 }
 
@@ -137,14 +140,21 @@ int ItemReader::nextInt16() {
 double ItemReader::nextReal() {
     const std::string item = next();
     if (!isNumberItem(item))
-        fail("Number expected, found \"" + item + "\"");
+        fail("Number expected, found " + quoteForMessage(item));
     const char* first = item.data();
     if (*first == '+')
         ++first;
     double value = 0;
     const auto [ptr, ec] = std::from_chars(first, item.data() + item.size(), value);
     if (ec != std::errc() || ptr != item.data() + item.size())
-        fail("Value " + item + " out of range");
+        fail("Value " + quoteForMessage(item) + " out of range");
+    return value;
+}
+
+int ItemReader::nextSendable(int lo, int hi, std::string_view what) {
+    const int value = nextInt16();
+    if (value < lo || value > hi)
+        fail(cannotSendText(what, value, lo, hi));
     return value;
 }
 

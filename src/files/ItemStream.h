@@ -41,6 +41,9 @@ public:
     int nextByte();  // 0..255
     int nextInt16(); // -32768..32767
     double nextReal();
+    // A whole number that the module can be sent: outside lo..hi it is a FileFormatError
+    // "<what> <value> cannot be sent: <lo>..<hi>".
+    int nextSendable(int lo, int hi, std::string_view what);
 
     // Where the item last returned stood (line and item within the line, from 1), or,
     // after next() found no item, the place just after the last one.

@@ -11,6 +11,7 @@ namespace {
 constexpr double kReplyTimeout = 2.0; // seconds
 constexpr int kWakeUp[] = {0, 0, 0, 255, 255, 255, 170, 170, 170};
 constexpr int kStalePolls = 8; // polls at most to clear what a cut-short tunnel exchange left
+constexpr int kLongestCorvidReply = 18; // data bytes; the checksum then sits at ReplyBuffer[19]
 
 std::array<int, 15> toArray15(int size, std::initializer_list<int> bytes)
 {
@@ -190,6 +191,11 @@ bool Link::SendKestrelMessage(bool expectReply, int size, const std::array<int, 
                 return false;
             ui.message("No response received, resetting bidirectional communication");
             setBidirectional(false);
+            if (missingReplyFails) {
+                state.LinkToggle = (state.LinkToggle + 64) % 128;
+                noteExchange();
+                return false;
+            }
         } else {
             const int n = state.ReplyBuffer[1] & 15;
             std::string text = "[" + hexUpper(state.ReplyBuffer[0]) + "]";
@@ -447,14 +453,14 @@ std::string Link::CorvidReceive()
             } else {
                 length = 8 + 8 * ((b >> 4) & 1) + (b & 7);
             }
-            // A frame longer than the reply buffer cannot be a Corvid reply: wait for the next header.
-            if (length > 18)
-                position = 0;
             continue;
         }
         if (position == 0)
             continue;
-        buf[position] = b & 127;
+        // A frame of 19 data bytes or more does not fit the reply buffer with its checksum:
+        // it is received to its end and then refused like a bad checksum.
+        if (position <= kLongestCorvidReply + 1)
+            buf[position] = b & 127;
         log += hexUpper(b & 127);
         if (position++ <= length)
             continue;
@@ -462,7 +468,7 @@ std::string Link::CorvidReceive()
         int total = 0;
         for (int i = 0; i <= 19; ++i)
             total += buf[i];
-        if (total % 128 == 0) {
+        if (length <= kLongestCorvidReply && total % 128 == 0) {
             state.CorvidFlagA = flagA;
             state.CorvidFlagB = flagB;
             buf[0] = length;

@@ -46,6 +46,10 @@ public:
     LinkSettings settings;
     LinkState state;
     LinkStats stats;
+    // When set, a reply that goes missing on the direct route fails the call (after the
+    // message, and CheckKestrelBD unchecked as always), so that a job stops there instead
+    // of going on one-way. The batch tool sets it when it asked for replies.
+    bool missingReplyFails = false;
 
     SerialPort& port() { return serial; }
     Clock& clock() { return time; }

@@ -1,6 +1,8 @@
 #include "link/Text.h"
 
+#include <charconv>
 #include <cmath>
+#include <system_error>
 
 namespace kestrel {
 
@@ -9,31 +11,31 @@ double val(const std::string& text)
     std::size_t i = 0;
     while (i < text.size() && (text[i] == ' ' || text[i] == '\t'))
         ++i;
-    bool negative = false;
-    if (i < text.size() && (text[i] == '+' || text[i] == '-')) {
-        negative = text[i] == '-';
+    const std::size_t signAt = i;
+    if (i < text.size() && (text[i] == '+' || text[i] == '-'))
         ++i;
-    }
-    double value = 0;
+    std::string number = signAt < i && text[signAt] == '-' ? "-" : "";
     bool any = false;
     while (i < text.size() && text[i] >= '0' && text[i] <= '9') {
-        value = value * 10 + (text[i] - '0');
+        number += text[i++];
         any = true;
-        ++i;
     }
     if (i < text.size() && text[i] == '.') {
-        ++i;
-        double scale = 0.1;
+        number += text[i++];
         while (i < text.size() && text[i] >= '0' && text[i] <= '9') {
-            value += (text[i] - '0') * scale;
-            scale /= 10;
+            number += text[i++];
             any = true;
-            ++i;
         }
     }
     if (!any)
         return 0;
-    return negative ? -value : value;
+    // Converted in one go, correctly rounded: "0.3" is the double nearest 0.3, so that
+    // it is written back as "0.3" and not with the noise of digit-by-digit sums.
+    double value = 0;
+    const auto r = std::from_chars(number.data(), number.data() + number.size(), value);
+    if (r.ec == std::errc::result_out_of_range && number.find('.') == std::string::npos)
+        return number[0] == '-' ? -HUGE_VAL : HUGE_VAL;
+    return value;
 }
 
 long valInt(const std::string& text)

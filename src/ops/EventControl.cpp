@@ -3,6 +3,7 @@
 #include "link/ProgramFault.h"
 #include "link/Text.h"
 #include "ops/GeneralCommands.h"
+#include "ops/SendCheck.h"
 
 #include <algorithm>
 #include <string>
@@ -58,8 +59,7 @@ EventRead readSlots(Session& s, EventSide side, int pin, std::array<int, kEventS
 
 void reportStep(Session& s, int done, int total, const std::string& what)
 {
-    if (auto* p = s.link.currentProgress())
-        p->step(done, total, what);
+    s.reportStep(done, total, what);
 }
 
 // Reads all 32 pins of one side; false only when a request got no valid reply.
@@ -150,6 +150,8 @@ EventRead ReadPinEvents(Session& session, EventSide side, int pin)
 
 bool WritePinEvents(Session& session, EventSide side, int pin)
 {
+    if (!sendable(session, unsendableEvents(session.config, {pin})))
+        return false;
     const auto& e = entries(session, side, pin);
     const bool ok = session.link.SendKestrelMessage(
         false, 6,
@@ -168,6 +170,8 @@ bool ReadAllEvents(Session& session)
 
 bool WriteAllEvents(Session& session)
 {
+    if (!sendable(session, unsendableEvents(session.config, allPins())))
+        return false;
     return writeSide(session, EventSide::On, 0) && writeSide(session, EventSide::Off, kPinCount);
 }
 

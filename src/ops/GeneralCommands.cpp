@@ -1,6 +1,7 @@
 #include "ops/GeneralCommands.h"
 
 #include "link/Text.h"
+#include "ops/SendCheck.h"
 
 namespace kestrel {
 
@@ -74,6 +75,8 @@ bool ReadIDString(Session& session)
 
 bool WriteIDString(Session& session)
 {
+    if (!sendable(session, unsendableIdString(session.general)))
+        return false;
     auto& text = session.general.TextGenIDString;
     if (text.size() > kIdStringLength)
         text = text.substr(0, kIdStringLength);
@@ -143,6 +146,8 @@ bool ReadDCCSettings(Session& session)
 
 bool WriteDCCSettings(Session& session)
 {
+    if (!sendable(session, unsendableDcc(session.general)))
+        return false;
     const auto& g = session.general;
     auto& link = session.link;
     // All three are sent whatever the one before did (unlike the serial addressing
@@ -229,6 +234,8 @@ bool ReadSerialAddressing(Session& session)
 
 bool WriteSerialAddressing(Session& session)
 {
+    if (!sendable(session, unsendableSerialAddressing(session.general)))
+        return false;
     const auto& g = session.general;
     auto& link = session.link;
     if (!link.SendKestrelMessage(false, 4,

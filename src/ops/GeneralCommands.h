@@ -1,4 +1,5 @@
 #pragma once
+#include "model/WireLimits.h"
 #include "ops/Session.h"
 
 #include <array>
@@ -30,7 +31,6 @@ enum GeneralItem : int {
     kItemXDccAddress = 12,
     kItemSerialPort = 13,
 };
-constexpr std::size_t kIdStringLength = 12;
 // The module's fixed confirmation sequence of an erase.
 constexpr std::array<int, 8> kEraseSequence = {61, 17, 92, 8, 33, 70, 15, 44};
 

@@ -2,6 +2,7 @@
 
 #include "model/AddressIndex.h"
 #include "model/StepCodec.h"
+#include "ops/SendCheck.h"
 #include "pins/PinConfig.h"
 
 #include <array>
@@ -147,8 +148,7 @@ bool readPinAspects(Session& session, int pin)
 
 void reportStep(Session& session, int done, const std::string& what)
 {
-    if (Progress* progress = session.link.currentProgress())
-        progress->step(done, kPinCount, what);
+    session.reportStep(done, kPinCount, what);
 }
 
 } // namespace
@@ -164,6 +164,8 @@ bool WritePin(Session& session, int pin, bool withPinConfig)
 {
     Link& link = session.link;
     const PinRecord& rec = session.config.pin(pin);
+    if (!sendable(session, unsendablePins(session.config, {pin}, withPinConfig)))
+        return false;
     if (!paced(session, link.SendKestrelMessage(false, 3, {kWriteLayout, pin, rec.AspectLayout})))
         return false;
     if (!paced(session, link.SendKestrelMessage(false, 3, {kWriteInit, pin, initEntry(rec)})))
@@ -200,6 +202,8 @@ bool ReadAllPins(Session& session)
 
 bool WriteAllPins(Session& session, bool withPinConfig)
 {
+    if (!sendable(session, unsendablePins(session.config, allPins(), withPinConfig)))
+        return false;
     for (int p = 0; p < kPinCount; ++p) {
         reportStep(session, p, "Writing pin " + shownPin(session, p));
         if (!WritePin(session, p, withPinConfig))
@@ -230,14 +234,15 @@ bool ReadDevice(Session& session)
         return false;
     if (!ReadPin(session, *head))
         return false;
-    for (int p = *head + 1; p < kPinCount; ++p) {
+    // Every other pin is asked, from the head onward and round past pin 31, so that a
+    // device that wraps or has a gap is read whole.
+    for (int i = 1; i < kPinCount; ++i) {
+        const int p = (*head + i) % kPinCount;
         bool answered = false;
         const auto memberOf = readDeviceHead(session, p, answered);
         if (!answered)
             return false;
-        if (memberOf != head)
-            break;
-        if (!ReadPin(session, p))
+        if (memberOf == head && !ReadPin(session, p))
             return false;
     }
     return true;
@@ -248,14 +253,17 @@ bool WriteDevice(Session& session)
     const auto head = deviceHeadOfCurrentPin(session);
     if (!head)
         return false;
-    if (!WritePin(session, *head))
+    std::vector<int> members{*head};
+    for (int i = 1; i < kPinCount; ++i) {
+        const int p = (*head + i) % kPinCount;
+        if (p + session.config.pin(p).DeviceOffset == *head)
+            members.push_back(p);
+    }
+    if (!sendable(session, unsendablePins(session.config, members, false)))
         return false;
-    for (int p = *head + 1; p < kPinCount; ++p) {
-        if (p + session.config.pin(p).DeviceOffset != *head)
-            break;
+    for (int p : members)
         if (!WritePin(session, p))
             return false;
-    }
     return true;
 }
 

@@ -3,8 +3,52 @@
 namespace kestrel {
 
 Session::Session(SerialPort& port, Clock& clock, UserDialogs& dialogs)
-    : link(port, clock, dialogs), linkControl(link, config.NumberingBase)
-{
+    : jobDialogs(dialogs, outcome), link(port, clock, jobDialogs), linkControl(link, config.NumberingBase) {}
+
+void Session::JobDialogs::message(const std::string& text, Icon icon) {
+    if (outcome.running && icon != Icon::Information)
+        outcome.problems.push_back(text.substr(0, text.find_first_of("\r\n")));
+    ui.message(text, icon);
+}
+
+void Session::beginJob(const std::string& name) {
+    if (jobDepth++ > 0)
+        return;
+    outcome = JobOutcome{};
+    outcome.job = name;
+    outcome.running = true;
+}
+
+void Session::endJob(bool completed) {
+    if (jobDepth == 0 || --jobDepth > 0)
+        return;
+    outcome.running = false;
+    outcome.completed = completed;
+    Progress* progress = link.currentProgress();
+    outcome.cancelled = progress && progress->cancelled();
+}
+
+void Session::reportStep(int done, int total, const std::string& what) {
+    outcome.step = what;
+    if (Progress* p = link.currentProgress())
+        p->step(done, total, what);
+}
+
+std::string Session::jobSummary() const {
+    const JobOutcome& o = outcome;
+    if (!o.incomplete() || o.job.empty())
+        return {};
+    const std::string at = o.step.empty() ? std::string() : " at " + o.step;
+    if (o.cancelled)
+        return o.job + " cancelled" + at;
+    // A job that stopped has just said why; one that stopped before its first step (a
+    // value that cannot be sent) names it here.
+    if (!o.completed)
+        return o.job + " stopped" + at +
+               (o.step.empty() && !o.problems.empty() ? ": " + o.problems.front() : "");
+    const std::size_t n = o.problems.size();
+    return o.job + " incomplete: " + std::to_string(n) + (n == 1 ? " problem" : " problems") +
+           " reported, the first: " + o.problems.front();
 }
 
 } // namespace kestrel

@@ -7,12 +7,55 @@
 #include "ops/Report.h"
 
 #include <functional>
+#include <string>
+#include <vector>
 
 namespace kestrel {
+
+// What the last job left undone, so that a front end can say so when it ends (the batch
+// tool's last line on stderr, the window's status bar). Cleared when a job begins; while
+// it runs, every message the core shows (a reader's or writer's complaint, the link's
+// missing reply; not notices with the information icon) is noted, and so is the last
+// step the job reported through its progress.
+struct JobOutcome {
+    std::string job; // "Read All", "Write All", ... as begun
+    bool running = false;
+    bool completed = false;            // every step of the job returned True
+    bool cancelled = false;            // the user cancelled it
+    std::string step;                  // the last step reported ("Reading pin 12")
+    std::vector<std::string> problems; // the first line of every message shown, in order
+    // The job stopped, was cancelled, or something was reported on the way.
+    bool incomplete() const { return !completed || cancelled || !problems.empty(); }
+};
 
 // Everything the program holds for its whole life about the one module it talks
 // to: the configuration, the link and its settings. Both front ends own one.
 class Session {
+private:
+    // Passes everything on to the front end's dialogs, noting messages for the job.
+    class JobDialogs : public UserDialogs {
+    public:
+        JobDialogs(UserDialogs& ui, JobOutcome& outcome) : ui(ui), outcome(outcome) {}
+        void message(const std::string& text, Icon icon) override;
+        Answer ask(const std::string& text, Buttons buttons, Icon icon) override {
+            return ui.ask(text, buttons, icon);
+        }
+        std::string openFileName(const std::string& t, const std::string& f, const std::string& d) override {
+            return ui.openFileName(t, f, d);
+        }
+        std::string saveFileName(const std::string& t, const std::string& f, const std::string& d) override {
+            return ui.saveFileName(t, f, d);
+        }
+
+    private:
+        UserDialogs& ui;
+        JobOutcome& outcome;
+    };
+    // Declared before the link, which is built with jobDialogs.
+    JobOutcome outcome;
+    JobDialogs jobDialogs;
+    int jobDepth = 0;
+
 public:
     Session(SerialPort& port, Clock& clock, UserDialogs& dialogs);
     Session(const Session&) = delete;
@@ -26,6 +69,21 @@ public:
     Report report;
 
     UserDialogs& dialogs() { return link.dialogs(); }
+
+    // Jobs. beginJob clears lastJob and names it; a job begun while another runs (Write
+    // All begun by the window's "WriteAll" job) is part of the outer one. endJob takes
+    // whether the job ran to its end; only the outermost call counts.
+    void beginJob(const std::string& name);
+    void endJob(bool completed);
+    const JobOutcome& lastJob() const { return outcome; }
+    // "" when the last job ran to its end and nothing was reported; otherwise one line
+    // saying what was incomplete: "Read All incomplete: 1 problem reported, the first:
+    // Read Event-Off: Function not supported by Device", "Write All stopped at Writing
+    // pin 12", "Write All stopped: DCC address 9000 cannot be sent: 0..8191", "Read All
+    // cancelled at Reading pin 3".
+    std::string jobSummary() const;
+    // A job's progress: noted for the summary and passed to the front end's Progress.
+    void reportStep(int done, int total, const std::string& what);
 
     // Observers for the window. Each is optional.
     // Read All has finished: refresh every display that shows the configuration

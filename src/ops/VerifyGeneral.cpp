@@ -55,10 +55,7 @@ bool VerifyGeneralSettings(Session& session)
         report.line(line);
         return false;
     };
-    auto step = [&](int n, const char* what) {
-        if (auto* p = session.link.currentProgress())
-            p->step(n, 10, what);
-    };
+    auto step = [&](int n, const char* what) { session.reportStep(n, 10, what); };
 
     session.link.setBidirectional(true);
     report.line("Start General Settings Verification");

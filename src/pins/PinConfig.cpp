@@ -1,5 +1,6 @@
 #include "pins/PinConfig.h"
 
+#include "ops/SendCheck.h"
 #include "ops/Session.h"
 
 #include <array>
@@ -75,6 +76,8 @@ std::vector<int> pinConfigBytes(const PinRecord& rec, int target)
 
 bool SendPinConfig(Session& session, int target, int pin)
 {
+    if (!sendable(session, unsendablePinConfig(session.config, pin, target)))
+        return false;
     PinRecord& rec = session.config.pin(pin);
     if (rec.ConfigMode == kModeServo)
         rec.P(2) &= 63;

@@ -1,11 +1,12 @@
 #include "shell/Cli.h"
 
+#include "files/ConfigurationFile.h"
 #include "link/CorvidControl.h"
 #include "link/ProgramFault.h"
-#include "files/ConfigurationFile.h"
+#include "link/Text.h"
+#include "model/WireLimits.h"
 #include "ops/Bulk.h"
 #include "ops/GeneralCommands.h"
-#include "link/Text.h"
 #include "ops/Session.h"
 #include "shell/BuiltInSim.h"
 #include "shell/ConsoleDialogs.h"
@@ -13,9 +14,11 @@
 #include "shell/PortRouter.h"
 #include "shell/QtSerialPort.h"
 
+#include <charconv>
 #include <cstdio>
 #include <functional>
 #include <map>
+#include <optional>
 
 namespace kestrel {
 
@@ -24,6 +27,7 @@ namespace {
 constexpr int kOk = 0;
 constexpr int kFailed = 1;
 constexpr int kUsage = 2;
+constexpr int kCancelled = 130; // as a shell reports a program ended by Ctrl+C
 
 const char* kUsageText =
     "usage: kestrel-cli [--port NAME|sim] [--baud 9600|19200|38400] [--address N] [--xaddress N]\n"
@@ -40,8 +44,8 @@ const char* kUsageText =
 struct CliOptions {
     std::string port = "sim";
     int baud = 19200;
-    std::string address;
-    std::string xaddress;
+    std::optional<std::string> address;
+    std::optional<std::string> xaddress;
     bool corvid = false;
     bool oneWay = false;
     bool numberFrom1 = false;
@@ -66,58 +70,77 @@ int commandVersion(CliContext& c)
 {
     if (!c.session.link.GetVersion())
         return kFailed;
-    std::printf("%s\n", c.session.link.VersionText.c_str());
+    std::printf("%s\n", printable(c.session.link.VersionText).c_str());
     return kOk;
 }
 
-// Loads the data file named on the command line into the session.
-bool loadOperand(CliContext& c)
-{
+// Loads the data file named on the command line into the session. A file that cannot be
+// read, is invalid or is cut short ends the command with its message as a usage error,
+// before anything is sent.
+int loadOperand(CliContext& c) {
     const std::string& path = c.options.operands[0];
-    switch (loadConfigurationFile(path, c.session.config, c.session.general, c.dialogs)) {
+    std::string why;
+    switch (loadConfigurationFile(path, c.session.config, c.session.general, c.dialogs, &why)) {
     case LoadResult::Loaded:
-        return true;
+        return kOk;
     case LoadResult::CannotOpen:
-        std::fprintf(stderr, "Cannot read %s\n", path.c_str());
-        return false;
+        std::fprintf(stderr, "Cannot read %s: %s\n", printable(path).c_str(), why.c_str());
+        return kUsage;
     default:
-        return false;
+        return kUsage;
     }
 }
 
-// Read All, then save the data file (full, or compact with --compact).
+// The status of a job that has ended: 1 when it stopped or anything was reported on the
+// way, with the line saying what was incomplete last on stderr. A cancelled job is left
+// to runCli, which says "Cancelled".
+int jobStatus(CliContext& c, bool ok) {
+    if (c.progress.cancelled())
+        return kCancelled;
+    const std::string summary = c.session.jobSummary();
+    if (summary.empty())
+        return ok ? kOk : kFailed;
+    c.progress.finish();
+    std::fprintf(stderr, "%s\n", printable(summary).c_str());
+    return kFailed;
+}
+
+// Read All, then save the data file (full, or compact with --compact). A read that ran
+// through is saved even when a reader reported a problem; the status then says so.
 int commandRead(CliContext& c)
 {
     if (!ReadAll(c.session))
-        return kFailed;
+        return jobStatus(c, false);
     std::string error;
     if (!saveConfigurationFile(c.options.operands[0], c.session.config, c.session.general,
                                c.options.compact ? SaveForm::Compact : SaveForm::Full, error)) {
-        std::fprintf(stderr, "Cannot save %s: %s\n", c.options.operands[0].c_str(), error.c_str());
+        std::fprintf(stderr, "Cannot save %s: %s\n", printable(c.options.operands[0]).c_str(),
+                     printable(error).c_str());
+        jobStatus(c, false);
         return kFailed;
     }
-    return kOk;
+    return jobStatus(c, true);
 }
 
 // Load the data file, then Write All (with --with-pin-config also every pin's configuration to flash).
 int commandWrite(CliContext& c)
 {
-    if (!loadOperand(c))
-        return kFailed;
-    return WriteAll(c.session, c.options.withPinConfig) ? kOk : kFailed;
+    if (const int loaded = loadOperand(c); loaded != kOk)
+        return loaded;
+    return jobStatus(c, WriteAll(c.session, c.options.withPinConfig));
 }
 
 // Load the data file, then Verify All; the report goes to stdout as the report window holds it.
 int commandVerify(CliContext& c)
 {
-    if (!loadOperand(c))
-        return kFailed;
+    if (const int loaded = loadOperand(c); loaded != kOk)
+        return loaded;
     const bool ok = VerifyAll(c.session);
-    std::fputs(c.session.report.txtVerification.c_str(), stdout);
     const std::string& text = c.session.report.txtVerification;
+    std::fputs(printable(text).c_str(), stdout);
     const std::string last = "Verify OK\r\n";
     const bool verified = text.size() >= last.size() && text.compare(text.size() - last.size(), last.size(), last) == 0;
-    return ok && verified ? kOk : kFailed;
+    return jobStatus(c, ok && verified);
 }
 
 // Erase the module's configuration memory. The second question asks whether to cancel,
@@ -152,6 +175,21 @@ const std::map<std::string, Command>& commands()
     return table;
 }
 
+// A bus or eXtended address as shown (with the numbering base): a whole number in
+// base..highest + base. Anything else is refused, never clamped, so that no other module
+// than the one named is written.
+bool checkAddress(const char* option, const std::string& text, int highest, int base, std::string& error) {
+    int value = -1;
+    const char* end = text.data() + text.size();
+    const auto [ptr, ec] = std::from_chars(text.data(), end, value);
+    if (text.empty() || ec != std::errc() || ptr != end || value < base || value > highest + base) {
+        error = std::string(option) + " must be a number from " + std::to_string(base) + " to " +
+                std::to_string(highest + base) + ", not " + quoteForMessage(text);
+        return false;
+    }
+    return true;
+}
+
 bool parse(const std::vector<std::string>& args, CliOptions& o, std::string& error)
 {
     for (std::size_t i = 0; i < args.size(); ++i) {
@@ -177,10 +215,10 @@ bool parse(const std::vector<std::string>& args, CliOptions& o, std::string& err
                 return false;
             }
         } else if (a == "--address") {
-            if (!value(o.address))
+            if (!value(o.address.emplace()))
                 return false;
         } else if (a == "--xaddress") {
-            if (!value(o.xaddress))
+            if (!value(o.xaddress.emplace()))
                 return false;
         } else if (a == "--corvid") {
             o.corvid = true;
@@ -215,6 +253,15 @@ bool parse(const std::vector<std::string>& args, CliOptions& o, std::string& err
         error = o.command + " needs one FILE";
         return false;
     }
+    if (o.port.empty()) {
+        error = "--port needs a port name (\"sim\" for the built-in module)";
+        return false;
+    }
+    const int base = o.numberFrom1 ? 1 : 0;
+    if (o.address && !checkAddress("--address", *o.address, o.corvid ? 31 : 15, base, error))
+        return false;
+    if (o.xaddress && !checkAddress("--xaddress", *o.xaddress, 95, base, error))
+        return false;
     return true;
 }
 
@@ -261,19 +308,25 @@ int runCli(const std::vector<std::string>& args)
         session.link.setProgress(&progress);
         if (options.oneWay)
             session.link.settings.CheckKestrelBD = false;
+        else
+            session.link.missingReplyFails = true; // a job never goes on blind
         CorvidControl corvid(session.link, session.linkControl);
         // The tunnel goes on before the address is taken, so that 16..31 are allowed.
         if (options.corvid && options.command != "transparent" && !corvid.CheckCorvid_Click(true))
             return kFailed;
-        if (!options.address.empty())
-            session.linkControl.TextAddress_Click(options.address);
-        if (!options.xaddress.empty()) {
+        if (options.address)
+            session.linkControl.TextAddress_Click(*options.address); // in range: taken as it is
+        if (options.xaddress) {
             session.link.settings.CheckXaddress = true; // asking on the command line is the consent
-            session.linkControl.txtXaddr_Click(options.xaddress);
+            session.linkControl.txtXaddr_Click(*options.xaddress);
         }
         CliContext context{options, session, corvid, dialogs, progress};
         const int status = found->second(context);
         progress.finish();
+        if (progress.cancelled()) {
+            std::fputs("Cancelled\n", stderr);
+            return kCancelled;
+        }
         return status;
     } catch (const ProgramFault& fault) {
         progress.finish();

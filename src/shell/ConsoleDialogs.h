@@ -2,8 +2,15 @@
 #include "link/UserDialogs.h"
 
 #include <deque>
+#include <string>
+#include <string_view>
 
 namespace kestrel {
+
+// A text for the console: line ends (LF, CR LF) as they are, every other control
+// character written as \xNN, so that nothing the module or a file holds (a NUL, an
+// escape sequence) reaches the terminal raw.
+std::string printable(std::string_view text);
 
 // The batch tool's dialogs: every message goes to stderr; questions are answered
 // from the command line (`yes` answers OK/Yes, otherwise Cancel/No) and echoed.

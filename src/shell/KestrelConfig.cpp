@@ -67,8 +67,10 @@ QString whereStopped(const std::string& step)
     const auto pin = QRegularExpression(R"(^\w+ pin (\d+)$)").match(what);
     if (pin.hasMatch())
         return QString("at pin %1 of %2").arg(pin.captured(1)).arg(kPinCount);
-    if (what.isEmpty() || what.startsWith("Request"))
+    if (what.startsWith("Request"))
         return "at the version request";
+    if (what.isEmpty())
+        return "before its first step";
     return "while " + what.left(1).toLower() + what.mid(1);
 }
 
@@ -263,10 +265,15 @@ void KestrelConfig::runJob(const QString& title, const std::function<bool()>& op
         const std::string tail = line + "\r\n";
         return text.size() >= tail.size() && text.compare(text.size() - tail.size(), tail.size(), tail) == 0;
     };
+    core->beginJob(title.toStdString()); // the whole-module jobs within count as part of it
     const bool noFault = (*guard)([&] { ok = operation(); });
+    core->endJob(noFault && ok);
     core->link.setProgress(nullptr);
     LabelAction->setVisible(false);
 
+    // What the job left undone, as the core noted it ("... incomplete: 1 problem reported,
+    // the first: ...", "... stopped: DCC address 9000 cannot be sent: 0..8191").
+    const QString summary = latin1(core->jobSummary());
     const QString partial = reads ? ": the pages show a partial read" : QString();
     QString outcome;
     if (!noFault)
@@ -275,14 +282,18 @@ void KestrelConfig::runJob(const QString& title, const std::function<bool()>& op
         outcome = title + " cancelled " + whereStopped(progress.last) + partial;
     else if (!ok && reportEndsWith("Verification Stopped"))
         outcome = title + ": the module differs, see the verification report";
+    else if (!ok && progress.last.empty() && !summary.isEmpty())
+        outcome = summary; // stopped before its first step
     else if (!ok)
         outcome = title + " stopped " + whereStopped(progress.last) + partial;
+    else if (!summary.isEmpty())
+        outcome = summary + partial;
     else if (title == "Verify All" && reportEndsWith("Verify OK"))
         outcome = "Verify OK";
     else
         outcome = QString("%1 done in %2 s").arg(title).arg(clock.elapsed() / 1000.0, 0, 'f', 1);
     LabelStatusJob->setText(outcome);
-    if (noFault && ok && clean)
+    if (noFault && ok && clean && summary.isEmpty())
         markClean();
     refreshAll();
 }

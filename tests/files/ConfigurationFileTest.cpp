@@ -1,12 +1,16 @@
 #include "files/ConfigurationFile.h"
 #include "files/FilesTestSupport.h"
 #include "files/TextFile.h"
+#include "ops/Bulk.h"
+#include "ops/SendCheck.h"
 #include "ops/Session.h"
 #include "support/ScriptedModule.h"
+#include "support/SimSession.h"
 
 #include <gtest/gtest.h>
 
 #include <locale>
+#include <sys/stat.h>
 
 using namespace kestrel;
 using namespace kestrel::test;
@@ -186,7 +190,6 @@ TEST(DataFileReading, FullFileReadsBackToTheSameText) {
 
     EXPECT_EQ(l.general.TextGenXDCCAddress, "12.5");
     EXPECT_EQ(l.general.TextGenXaddr, "17");
-    EXPECT_EQ(l.general.CheckLCOrange[7], 1);    // the value 0
     EXPECT_EQ(l.config.Pins[5].OutputValue, 64); // parameter 1
     EXPECT_EQ(l.config.Pins[6].P(6), 0);         // PWM parameters 6..11 cleared
     EXPECT_EQ(l.config.Pins[7].P(5), 0);         // not in the file, left as it was
@@ -269,9 +272,11 @@ TEST(DataFileReading, GeneralRecordsSetTheControls) {
     Loader l;
     l.config.NumberingBase = 1;
     l.general.ComboGenBaud = 3;
-    ASSERT_EQ(l.load(crlf({"\"KestrelConfiguration 3100\"", "\"XAD\",64,0,20,15,0,0,0", "\"LED\",0,127",
-                           "\"SPC\",1,\"1200\",7,3,1", "\"End\""})),
-              LoadResult::Loaded);
+    l.general.CheckLCOrange[7] = 1;
+    ASSERT_EQ(
+        l.load(crlf({"\"KestrelConfiguration 3100\"", "\"ID$\",\"Fifteen chars!!\"",
+                     "\"XAD\",64,0,20,15,0,0,0", "\"LED\",0,127", "\"SPC\",1,\"1200\",7,3,1", "\"End\""})),
+        LoadResult::Loaded);
     const GeneralSettings& g = l.general;
     EXPECT_EQ(g.CheckGenKestrelNative, 1);
     EXPECT_EQ(g.CheckGenLynxaddr, 0);
@@ -281,6 +286,10 @@ TEST(DataFileReading, GeneralRecordsSetTheControls) {
     EXPECT_EQ(g.CheckGenXGM[4], 0);
     EXPECT_EQ(g.CheckLCGreen[0], 0);
     EXPECT_EQ(g.CheckLCOrange[6], 1);
+    EXPECT_EQ(g.TextGenIDString, "Fifteen char");
+    EXPECT_EQ(l.dialogs.texts(), std::vector<std::string>{"ID string cut to 12 characters: Fifteen char"});
+    EXPECT_EQ(g.CheckLCGreen[7], 0); // the record sets only the seven bit boxes
+    EXPECT_EQ(g.CheckLCOrange[7], 1);
     EXPECT_EQ(g.ComboGenBaud, 3); // "1200" is no entry: the selection stays
     EXPECT_EQ(g.OptionGenSerialParity, 3);
     EXPECT_EQ(g.OptionGenSerialDatabits, 0);
@@ -371,9 +380,25 @@ TEST(DataFileReading, FormatErrorsStopTheLoadAndKeepWhatWasRead) {
         {head + "\"Eof\",40,0,0,0,0\r\n\"End\"\r\n", "Pin index 40 out of range 0..32 at line 4, item 2"},
         {head + "\"Asp\",13,\"x\"\r\n\"End\"\r\n", "Aspect index 13 out of range 0..12 at line 4, item 2"},
         {head + "\"Ins\",10,9,0,0,0,0\r\n\"End\"\r\n", "Step index 10 out of range 0..9 at line 4, item 2"},
-        {head + "\"Ins\",0,300,0,0,0,0\r\n\"End\"\r\n",
-         "Instruction 300 out of range 0..255 at line 4, item 3"},
         {head + "\"LED\",1,\"x\"\r\n\"End\"\r\n", "Number expected, found \"x\" at line 4, item 3"},
+        {head + "\"LED\",1," + std::string(70, 'x') + "\r\n\"End\"\r\n",
+         "Number expected, found \"" + std::string(60, 'x') + "...\" at line 4, item 3"},
+        // Values that the module cannot be sent are file errors too, so nothing is half written.
+        {head + "\"Ins\",0,300,0,0,0,0\r\n\"End\"\r\n",
+         "Instruction code 300 cannot be sent: 0..127 at line 4, item 3"},
+        {head + "\"Ins\",0,9,0,200,0,0\r\n\"End\"\r\n", "Par1 200 cannot be sent: 0..127 at line 4, item 5"},
+        {head + "\"DCC\",9000,0,0\r\n\"End\"\r\n",
+         "DCC address 9000 cannot be sent: 0..8191 at line 4, item 2"},
+        {head + "\"DCC\",0,-1,0\r\n\"End\"\r\n",
+         "eXtended DCC address -1 cannot be sent: 0..8191 at line 4, item 3"},
+        {head + "\"Eon\",1,0,201,0,0\r\n\"End\"\r\n",
+         "Event-On entry 201 cannot be sent: 0..15 at line 4, item 4"},
+        {head + "\"PAM\",255,255,255\r\n\"End\"\r\n",
+         "eXtended DCC address count 255 cannot be sent: 0..1 at line 4, item 2"},
+        {head + "\"Cfg\",4,1,2,3,128\r\n\"End\"\r\n",
+         "Configuration parameter 4 128 cannot be sent: 0..127 at line 4, item 6"},
+        {head + "\"ID$\",\"Caf\xc3\xa9\"\r\n\"End\"\r\n",
+         "ID string character 195 at position 4 cannot be sent: 0..127 at line 4, item 2"},
     };
     for (const Case& c : cases) {
         Loader l;
@@ -393,6 +418,27 @@ TEST(DataFileReading, FormatErrorsStopTheLoadAndKeepWhatWasRead) {
     EXPECT_EQ(l.config.Pins[32].Aspects[12].Steps[9].Instruction, 9);
 }
 
+// Whatever a file holds, what it lets into the model can be written whole (or a fault
+// stopped the load): no program fault, and a file that loads sends every byte.
+TEST(DataFileReading, TheFuzzCorpusLoadsThenWritesWithoutAProgramFault) {
+    const auto corpus =
+        std::filesystem::path(__FILE__).parent_path() / ".." / ".." / "fuzz" / "corpus" / "fuzz_data_file";
+    int files = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(corpus)) {
+        SimSession rig;
+        const std::string name = entry.path().filename().string();
+        const LoadResult r = loadConfigurationFile(entry.path().string(), rig.session.config,
+                                                   rig.session.general, rig.dialogs);
+        ASSERT_NE(r, LoadResult::CannotOpen) << name;
+        EXPECT_EQ(unsendableConfiguration(rig.session.config, rig.session.general, true), "") << name;
+        bool written = false;
+        EXPECT_NO_THROW(written = WriteAll(rig.session, true)) << name;
+        EXPECT_TRUE(written || r != LoadResult::Loaded) << name;
+        ++files;
+    }
+    EXPECT_GE(files, 10);
+}
+
 TEST(DataFileSaving, WritesBesideAndReplacesOnlyWhenComplete) {
     ScratchDir dir("save");
     const std::string target = dir.file("layout.dat");
@@ -408,11 +454,36 @@ TEST(DataFileSaving, WritesBesideAndReplacesOnlyWhenComplete) {
     EXPECT_EQ(c.Pins[5].P(2), 200);
     std::filesystem::remove(temporaryPathFor(target));
 
-    // A target that cannot be replaced (it is a directory) leaves no temporary file behind.
-    const std::string folder = dir.file("folder.dat");
+    // A target that exists and is not a regular file is refused, saying why, and leaves no
+    // temporary file behind.
+    const std::string folder = dir.file("folder.dat"), fifo = dir.file("fifo.dat");
     std::filesystem::create_directory(folder);
-    EXPECT_FALSE(saveConfigurationFile(folder, c, sampleGeneral(), SaveForm::Full, error));
-    EXPECT_FALSE(std::filesystem::exists(temporaryPathFor(folder)));
+    std::string text;
+    ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
+    for (const auto& [path, why] :
+         {std::pair{folder, "Is a directory"}, std::pair{fifo, "Not a regular file"}}) {
+        EXPECT_FALSE(saveConfigurationFile(path, c, sampleGeneral(), SaveForm::Full, error));
+        EXPECT_EQ(error, "Can not replace " + path + ": " + why);
+        EXPECT_FALSE(std::filesystem::exists(temporaryPathFor(path)));
+        EXPECT_FALSE(readTextFile(path, text, error)) << path;
+    }
+    EXPECT_EQ(std::filesystem::status(fifo).type(), std::filesystem::file_type::fifo);
+
+    // A symbolic link is followed: its target is replaced and keeps its permissions (0600).
+    const std::string link = dir.file("link.dat"), linked = dir.file("linked.dat");
+    spit(linked, "old");
+    chmod(linked.c_str(), 0600);
+    std::filesystem::create_symlink("linked.dat", link);
+    ASSERT_TRUE(saveConfigurationFile(link, c, sampleGeneral(), SaveForm::Full, error)) << error;
+    EXPECT_TRUE(std::filesystem::is_symlink(link));
+    EXPECT_EQ(slurp(linked), writeConfigurationText(c, sampleGeneral(), SaveForm::Full));
+    EXPECT_EQ(std::filesystem::status(linked).permissions(),
+              std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+
+    // No file above 1 MB is read.
+    spit(linked, std::string(kTextFileLimit + 1, ' '));
+    EXPECT_FALSE(readTextFile(link, text, error));
+    EXPECT_EQ(error, "File too large: " + std::to_string(kTextFileLimit + 1) + " bytes, at most 1 MB");
 
     ASSERT_TRUE(saveConfigurationFile(target, c, sampleGeneral(), SaveForm::Compact, error));
     EXPECT_EQ(c.Pins[5].P(2), 8);
@@ -425,16 +496,18 @@ TEST(DataFileSaving, DccNumbersKeepTheirPointUnderACommaDecimalLocale) {
         char do_decimal_point() const override { return ','; }
     };
     const std::locale old = std::locale::global(std::locale(std::locale::classic(), new CommaDecimal));
-    Configuration c;
-    GeneralSettings g;
-    g.TextGenDCCAddress = "12.5";
-    const std::string text = writeConfigurationText(c, g, SaveForm::Compact);
-    Loader l;
-    const LoadResult r = l.load(text);
+    // A fraction is written as typed, without the noise of its binary value.
+    for (const std::string number : {"12.5", "0.3", "1.1"}) {
+        Configuration c;
+        GeneralSettings g;
+        g.TextGenDCCAddress = number;
+        const std::string text = writeConfigurationText(c, g, SaveForm::Compact);
+        Loader l;
+        EXPECT_EQ(l.load(text), LoadResult::Loaded);
+        EXPECT_NE(text.find("\"DCC\"," + number + ",0,0\r\n"), std::string::npos) << text;
+        EXPECT_EQ(l.general.TextGenDCCAddress, number);
+    }
     std::locale::global(old);
-    EXPECT_NE(text.find("\"DCC\",12.5,0,0\r\n"), std::string::npos);
-    EXPECT_EQ(r, LoadResult::Loaded);
-    EXPECT_EQ(l.general.TextGenDCCAddress, "12.5");
 }
 
 TEST(DataFileCommands, SaveAndLoadThroughTheFileDialog) {
@@ -468,7 +541,8 @@ TEST(DataFileCommands, SaveAndLoadThroughTheFileDialog) {
     EXPECT_EQ(other.session.general.TextGenIDString, "Yard 3");
     CommandLoad_Click(other.session);
     ASSERT_EQ(other.dialogs.messages.size(), 1u);
-    EXPECT_EQ(other.dialogs.messages[0].text, "Can not open " + dir.file("missing.dat"));
+    EXPECT_EQ(other.dialogs.messages[0].text,
+              "Can not open " + dir.file("missing.dat") + ": No such file or directory");
     CommandLoad_Click(other.session);
     EXPECT_EQ(refreshed, 1);
     EXPECT_EQ(other.dialogs.messages.size(), 1u);

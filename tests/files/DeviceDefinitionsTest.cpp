@@ -303,8 +303,8 @@ TEST(DeviceSaving, AReferralToAMemberIsNoDevice) {
 }
 
 TEST(StandardDevices, EveryDeviceLoadsIntoSensibleSteps) {
-    std::string text;
-    ASSERT_TRUE(readTextFile(standardFile(), text));
+    std::string text, error;
+    ASSERT_TRUE(readTextFile(standardFile(), text, error));
     RecordingDialogs dialogs;
     DeviceList list;
     ASSERT_EQ(readDeviceListText(list, text, standardFile(), ListMode::Replace, dialogs), ListLoad::Loaded);

@@ -1,4 +1,5 @@
 #pragma once
+#include <unistd.h>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -10,7 +11,9 @@ namespace kestrel::test {
 struct ScratchDir {
     std::filesystem::path path;
     explicit ScratchDir(const std::string& name)
-        : path(std::filesystem::temp_directory_path() / ("kestrel-files-" + name)) {
+        // One per process: ctest runs tests of this executable side by side.
+        : path(std::filesystem::temp_directory_path() /
+               ("kestrel-files-" + name + "-" + std::to_string(::getpid()))) {
         std::filesystem::remove_all(path);
         std::filesystem::create_directories(path);
     }

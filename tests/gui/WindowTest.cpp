@@ -226,6 +226,14 @@ TEST(Window, PseudoTerminalsOpenAgainAtAnyRateAndAfterAnother)
     EXPECT_EQ(m.w.LabelStatusPort->text(), "Port closed");
     m.openPort(QString::fromStdString(second.pty()));
     EXPECT_EQ(version(), "2.2.2.2");
+
+    // A module that refuses one read: Read All goes on, and the status bar says what is missing.
+    test::SimProcess refusing({"--refuse", "112,1:length"});
+    m.openPort(QString::fromStdString(refusing.pty()));
+    m.dialogs.defaultAnswer = Answer::Discard;
+    m.job(m.w.CommandReadAll);
+    EXPECT_TRUE(m.status().startsWith("Read All incomplete: 1 problem reported, the first: No valid response size"))
+        << m.status().toStdString();
 }
 
 TEST(Window, AMessageDuringAJobIsAboveItsProgressDialog)

@@ -1,10 +1,12 @@
 // read / write / verify / erase through kestrel-sim on a pseudo-terminal.
 #include "support/Process.h"
 
+#include <chrono>
 #include <cstdio>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <sstream>
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace kestrel::test;
@@ -71,22 +73,101 @@ TEST(CliFiles, ReadFromBuiltInThenWriteVerifyAndReadBackThroughThePty)
     std::remove(back.c_str());
 }
 
-TEST(CliFiles, BrokenFileAndMissingFileFailWithoutTouchingTheModule)
-{
+TEST(CliFiles, BadFilesAndAddressesAreUsageErrorsAndNothingIsSent) {
     const std::string cli = binPath("kestrel-cli");
     const std::string bad = tempPath("bad.dat");
-    {
-        std::ofstream out(bad, std::ios::binary);
-        out << "\"KestrelConfig 3100\"\r\n\"End\"\r\n";
+    const std::string head = "\"KestrelConfiguration 3100\"\r\n";
+    const std::string pin0 = head + "\"Pin\",0,3,0,\"\"\r\n\"Asp\",0,\"\"\r\n";
+    struct Case {
+        std::vector<std::string> args;
+        std::string file; // written to `bad` first when not empty
+        std::string err;  // part of stderr
+    };
+    const Case cases[] = {
+        {{"write", bad}, "\"KestrelConfig 3100\"\r\n\"End\"\r\n", "Invalid configuration file"},
+        {{"verify", bad}, head + "\"Pin\",3,0,0,\"x\"\r\n", "The file ends before \"End\" at line 2, item 6"},
+        {{"verify", tempPath("missing.dat")},
+         "",
+         "Cannot read " + tempPath("missing.dat") + ": No such file"},
+        {{"write", bad},
+         head + "\"DCC\",9000,0,0\r\n\"End\"\r\n",
+         "DCC address 9000 cannot be sent: 0..8191"},
+        {{"write", bad},
+         head + "\"Eon\",0,200,0,0,0\r\n\"End\"\r\n",
+         "Event-On entry 200 cannot be sent: 0..15"},
+        {{"write", bad}, pin0 + "\"Ins\",0,9,0,0,0,128\r\n\"End\"\r\n", "Par3 128 cannot be sent: 0..127"},
+        {{"write", bad},
+         head + "\"ID$\",\"Caf\xc3\xa9\"\r\n\"End\"\r\n",
+         "ID string character 195 at position 4"},
+        {{"write", bad},
+         pin0 + "\"PAM\",1,255,255\r\n\"End\"\r\n",
+         "DCC address count 255 cannot be sent: 0..7"},
+        {{"--address", "99", "erase", "--yes"}, "", "--address must be a number from 0 to 15, not \"99\""},
+        {{"--address", "abc", "version"}, "", "--address must be a number from 0 to 15, not \"abc\""},
+        {{"--number-from-1", "--address", "0", "version"}, "", "--address must be a number from 1 to 16"},
+        {{"--xaddress", "96", "version"}, "", "--xaddress must be a number from 0 to 95"},
+        {{"--port", "", "version"}, "", "--port needs a port name"},
+    };
+    // Modules 0, 3 and 15 on one bus: none of them may hear a byte.
+    SimProcess sim({"--address", "0,3,15"});
+    for (const Case& c : cases) {
+        if (!c.file.empty())
+            std::ofstream(bad, std::ios::binary) << c.file;
+        std::vector<std::string> args{"--port", sim.pty()};
+        args.insert(args.end(), c.args.begin(), c.args.end());
+        const auto r = runProgram(cli, args);
+        EXPECT_EQ(r.status, 2) << c.err << "\n" << r.err;
+        EXPECT_NE(r.err.find(c.err), std::string::npos) << r.err;
     }
-    auto r = runProgram(cli, {"--port", "sim", "write", bad});
-    EXPECT_EQ(r.status, 1);
-    EXPECT_NE(r.err.find("Invalid configuration file"), std::string::npos) << r.err;
-    r = runProgram(cli, {"--port", "sim", "verify", tempPath("missing.dat")});
-    EXPECT_EQ(r.status, 1);
-    EXPECT_NE(r.err.find("Cannot read"), std::string::npos) << r.err;
-    EXPECT_EQ(runProgram(cli, {"read"}).status, 2);
+    EXPECT_NE(sim.stop().find("kestrel-sim-stats: exchanges=0 bytes_in=0 "), std::string::npos);
     std::remove(bad.c_str());
+}
+
+TEST(CliFiles, AJobThatCannotCompleteFailsAndSaysWhatWasIncomplete) {
+    const std::string cli = binPath("kestrel-cli");
+    const std::string demo = tempPath("incomplete.dat"), fifo = tempPath("fifo.dat");
+    ASSERT_EQ(runProgram(cli, {"read", demo}).status, 0);
+
+    // A module that never answers: the write stops at its first exchange instead of going on
+    // blind, and says where.
+    {
+        SimProcess silent({"--drop-replies", "100000"});
+        const auto start = std::chrono::steady_clock::now();
+        const auto r = runProgram(cli, {"--port", silent.pty(), "write", demo});
+        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
+        EXPECT_EQ(r.status, 1);
+        EXPECT_EQ(r.err, "No response received, resetting bidirectional communication\n"
+                         "Write All stopped at Writing ID string\n");
+    }
+    // A module that does not know one read: the read runs through and is saved, and fails.
+    {
+        SimProcess sim({"--refuse", "117:echo"});
+        std::remove(demo.c_str());
+        const auto r = runProgram(cli, {"--port", sim.pty(), "read", demo});
+        EXPECT_EQ(r.status, 1);
+        EXPECT_EQ(r.err, "Read Event-Off: Function not supported by Device\nRead All incomplete: 1 problem "
+                         "reported, the first: Read Event-Off: Function not supported by Device\n");
+        EXPECT_EQ(slurp(demo).rfind("\"KestrelConfiguration 3100\"", 0), 0u);
+    }
+    // A read is never saved over something that is not a regular file.
+    ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
+    const auto r = runProgram(cli, {"read", fifo});
+    EXPECT_EQ(r.status, 1);
+    EXPECT_NE(r.err.find("Cannot save " + fifo + ": Can not replace " + fifo + ": Not a regular file"),
+              std::string::npos)
+        << r.err;
+    struct stat st {};
+    EXPECT_TRUE(stat(fifo.c_str(), &st) == 0 && S_ISFIFO(st.st_mode));
+
+    // A control character of the ID reaches stdout escaped.
+    std::ofstream(demo, std::ios::binary) << "\"KestrelConfiguration 3100\"\r\n\"ID$\",\"A\x01"
+                                             "B\"\r\n\"End\"\r\n";
+    const auto v = runProgram(cli, {"verify", demo});
+    EXPECT_EQ(v.status, 1);
+    EXPECT_NE(v.out.find("ID does not compare: KestrelConfig = <A\\x01B> Kestrel = <"), std::string::npos)
+        << v.out;
+    std::remove(demo.c_str());
+    std::remove(fifo.c_str());
 }
 
 TEST(CliFiles, SimulatorSeededFromAFile)

@@ -2,6 +2,7 @@
 // exchanges against the simulated Corvid system.
 #include "link/CorvidControl.h"
 #include "link/Link.h"
+#include "link/Text.h"
 #include "sim/SimBus.h"
 #include "sim/SimCorvid.h"
 #include "sim/SimPort.h"
@@ -112,6 +113,22 @@ TEST_F(Scripted, NoAnswerAndBadCheckByte)
     EXPECT_EQ(dialogs.messages[0].text, "Checksum Error\r\nSize = 3< 2B1234E");
     EXPECT_EQ(dialogs.messages[1].text, "No answer from Corvid");
     EXPECT_EQ(link.state.ReplyBuffer[0], 0);
+
+    // A frame announcing more data than the reply buffer holds with its checksum is a
+    // checksum error however its bytes add up, and is not waited out.
+    for (int n : {19, 23}) {
+        dialogs.clear();
+        port.queue(corvidFrame(std::vector<int>(n, 1)));
+        const double start = clock.secondsSinceMidnight();
+        EXPECT_FALSE(link.CorvidExchange(0));
+        ASSERT_EQ(dialogs.messages.size(), 2u) << n;
+        EXPECT_EQ(dialogs.messages[0].text.rfind("Checksum Error\r\nSize = " + std::to_string(n) + "< " +
+                                                     hexUpper(n) + std::string(n, '1'),
+                                                 0),
+                  0u)
+            << dialogs.messages[0].text;
+        EXPECT_LT(clock.secondsSinceMidnight() - start, 1.0);
+    }
 
     link.state.CorvidToggle = 0;
     EXPECT_FALSE(corvid.CheckCorvid_Click(false));

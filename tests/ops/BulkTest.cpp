@@ -1,12 +1,15 @@
 // Read All, Write All and Verify All: the whole configuration against the simulated
 // module, the order of the steps and where a run stops.
-#include "support/ScriptedModule.h"
-#include "support/SimSession.h"
 #include "ops/Bulk.h"
 #include "ops/EventControl.h"
 #include "ops/GeneralCommands.h"
+#include "ops/PinTransfer.h"
+#include "support/ScriptedModule.h"
+#include "support/SimSession.h"
 
 #include <gtest/gtest.h>
+
+#include <functional>
 
 using namespace kestrel;
 using namespace kestrel::test;
@@ -192,4 +195,41 @@ TEST_F(BulkSim, CancelledReadAllKeepsWhatWasReadAndStopsQuietly)
     EXPECT_EQ(fresh->general.TextGenDCCAddress, "0");
     EXPECT_EQ(refreshed, 1);
     EXPECT_TRUE(sim.dialogs.messages.empty());
+    EXPECT_EQ(fresh->jobSummary(), "Read All cancelled at Reading DCC settings");
+}
+
+// Every write checks all it will send before its first byte: a value the wire cannot
+// carry is told once, naming where it is, and the module hears nothing.
+TEST_F(BulkSim, AValueThatCannotBeSentStopsTheWriteBeforeItsFirstByte) {
+    struct Case {
+        std::function<void(Session&)> spoil;
+        std::function<bool(Session&)> write;
+        std::string message;
+    };
+    const auto writeAll = [](Session& x) { return WriteAll(x, true); };
+    const Case cases[] = {
+        {[](Session& x) { x.general.TextGenDCCAddress = "9000"; }, writeAll,
+         "DCC address 9000 cannot be sent: 0..8191"},
+        {[](Session& x) { x.general.TextGenIDString = "Caf\xc3\xa9"; }, WriteIDString,
+         "ID string character 195 at position 4 cannot be sent: 0..127"},
+        {[](Session& x) { x.config.Pins[31].Aspects[1].Steps[2] = {9, 0, 0, 200, 0, 0}; }, writeAll,
+         "Pin 31, aspect 1, step 2: Par1 200 cannot be sent: 0..127"},
+        {[](Session& x) { x.config.Pins[3].InitAspect = 16; }, [](Session& x) { return WritePin(x, 3); },
+         "Pin 3: initial aspect 16 cannot be sent: 0..15"},
+        {[](Session& x) { x.config.Pins[5].ConfigMode = 1, x.config.Pins[5].P(7) = 200; }, writeAll,
+         "Pin 5: configuration parameter 7 200 cannot be sent: 0..127"},
+        {[](Session& x) { x.config.EventMap[9].OffEvent[3] = 15; }, WriteAllEvents,
+         "Pin 9: Event-Off(3) action 15 cannot be sent: -1..14"},
+    };
+    for (const Case& c : cases) {
+        auto fresh = sim.fresh();
+        fresh->config = s.config;
+        fresh->general = s.general;
+        c.spoil(*fresh);
+        sim.dialogs.clear();
+        const long before = sim.bus.stats().bytesIn;
+        EXPECT_FALSE(c.write(*fresh)) << c.message;
+        EXPECT_EQ(sim.dialogs.texts(), std::vector<std::string>{c.message});
+        EXPECT_EQ(sim.bus.stats().bytesIn, before) << c.message;
+    }
 }

@@ -158,6 +158,25 @@ TEST(PinTransferSim, DeviceIsItsHeadAndTheFollowingPinsThatPointAtIt)
                                 rig.modulePin(6).aspectLayout, rig.modulePin(7).aspectLayout}),
               (std::vector<int>{3, 2, 2, 3}));
 
+    // A device that wraps past pin 31 and has a gap: 30, 31 and 1, not 0.
+    for (int p : {30, 31, 0, 1})
+        rig.modulePin(p).aspectLayout = 3;
+    rig.modulePin(31).deviceOffset = 31; // head 30
+    rig.modulePin(1).deviceOffset = 29;  // head 30
+    rig.session.config.CurrentPin = 1;
+    ASSERT_TRUE(ReadDevice(rig.session));
+    EXPECT_EQ((std::vector<int>{pins[30].AspectLayout, pins[31].AspectLayout, pins[0].AspectLayout,
+                                pins[1].AspectLayout}),
+              (std::vector<int>{3, 3, 0, 3}));
+    for (int p : {30, 31, 0, 1})
+        rig.session.config.Pins[p].AspectLayout = 2;
+    rig.session.config.CurrentPin = 31;
+    ASSERT_TRUE(WriteDevice(rig.session));
+    EXPECT_EQ((std::vector<int>{rig.modulePin(30).aspectLayout, rig.modulePin(31).aspectLayout,
+                                rig.modulePin(0).aspectLayout, rig.modulePin(1).aspectLayout}),
+              (std::vector<int>{2, 2, 3, 2}));
+
+    rig.session.config.CurrentPin = 6;
     rig.module.faults.refuse(118, sim::Refusal::WrongEcho, 6);
     rig.session.config.NumberingBase = 1;
     EXPECT_FALSE(ReadDevice(rig.session));

@@ -1,0 +1,162 @@
+#include "ops/SendCheck.h"
+
+#include "link/Text.h"
+#include "model/StepCodec.h"
+#include "model/WireLimits.h"
+#include "ops/EventControl.h"
+#include "ops/GeneralCommands.h"
+#include "ops/Session.h"
+#include "pins/PinConfig.h"
+
+#include <numeric>
+
+namespace kestrel {
+
+namespace {
+
+std::string outside(std::string_view what, long value, long lo, long hi) {
+    return value < lo || value > hi ? cannotSendText(what, value, lo, hi) : std::string();
+}
+
+std::string dataByte(std::string_view what, long value) {
+    return outside(what, value, 0, kDataByteMax);
+}
+
+// The first problem of a list, or "".
+std::string first(std::initializer_list<std::string> problems) {
+    for (const auto& p : problems)
+        if (!p.empty())
+            return p;
+    return {};
+}
+
+std::string shownPin(const Configuration& config, int pin) {
+    return "Pin " + std::to_string(pin + config.NumberingBase);
+}
+
+std::string withPlace(const std::string& place, const std::string& problem) {
+    return problem.empty() ? problem : place + ": " + problem;
+}
+
+std::string unsendableStep(const StepRecord& step) {
+    const auto b = encodeStep(step);
+    if (b[0] > kDataByteMax)
+        return cannotSendText("instruction code", b[0], 0, kDataByteMax);
+    // SendSerial 1 and 2 carry Par1 and Par2 as 8-bit values; Par0 is not sent.
+    const bool packed = step.Instruction == 4 || step.Instruction == 5;
+    return first({packed ? "" : dataByte("Par0", step.Par0),
+                  packed ? outside("Par1", step.Par1, 0, 255) : dataByte("Par1", step.Par1),
+                  packed ? outside("Par2", step.Par2, 0, 255) : dataByte("Par2", step.Par2),
+                  dataByte("Par3", step.Par3)});
+}
+
+std::string unsendablePin(const Configuration& config, int p, bool withPinConfig) {
+    const PinRecord& r = config.pin(p);
+    const std::string place = shownPin(config, p);
+    std::string problem = first({dataByte("aspect layout", r.AspectLayout),
+                                 outside("initial aspect", r.InitAspect, 0, kInitAspectMax),
+                                 outside("DCC address count", r.DccCount, 0, kDccCountMax),
+                                 outside("eXtended DCC address count", r.XDccCount, 0, kXDccCountMax),
+                                 outside("serial address count", r.LynxCount, 0, kLynxCountMax)});
+    if (!problem.empty())
+        return withPlace(place, problem);
+    const LayoutSlots slots = layoutSlots(r.AspectLayout);
+    for (int a = 0; a < slots.aspects; ++a)
+        for (int s = 0; s < slots.steps; ++s) {
+            problem = unsendableStep(config.step(p, a, s));
+            if (!problem.empty())
+                return withPlace(place + ", aspect " + std::to_string(a) + ", step " + std::to_string(s),
+                                 problem);
+        }
+    return withPinConfig ? unsendablePinConfig(config, p, 1) : std::string();
+}
+
+} // namespace
+
+std::vector<int> allPins() {
+    std::vector<int> pins(kPinCount);
+    std::iota(pins.begin(), pins.end(), 0);
+    return pins;
+}
+
+std::string unsendableIdString(const GeneralSettings& g) {
+    const IdStringCheck id = checkIdString(g.TextGenIDString);
+    return id.refused ? id.message : std::string();
+}
+
+std::string unsendableDcc(const GeneralSettings& g) {
+    return first({dataByte("DCC options", dccOptionsByte(g)),
+                  outside("DCC address", valInt(g.TextGenDCCAddress), 0, kDccAddressMax),
+                  outside("eXtended DCC address", valInt(g.TextGenXDCCAddress), 0, kDccAddressMax)});
+}
+
+std::string unsendableSerialAddressing(const GeneralSettings& g) {
+    const auto m = groupMaskBytes(g);
+    return first({dataByte("Lynx flex-address", serialAddressModeByte(g)),
+                  dataByte("eXtended group mask", m[0]), dataByte("eXtended group mask", m[1]),
+                  dataByte("eXtended group mask", m[2]), dataByte("eXtended group mask", m[3]),
+                  dataByte("eXtended address", g.ExtendedAddress)});
+}
+
+std::string unsendableGeneral(const GeneralSettings& g) {
+    const auto h = hardwareConfigBytes(g);
+    return first({unsendableIdString(g), unsendableDcc(g), unsendableSerialAddressing(g),
+                  dataByte("hardware configuration", std::max({h[0], h[1], h[2], h[3]})),
+                  dataByte("green LED function", ledByte(g.CheckLCGreen)),
+                  dataByte("orange LED function", ledByte(g.CheckLCOrange)),
+                  dataByte("serial port enable", g.CheckGenSerialEnable),
+                  dataByte("serial port settings", serialPortByte(g)),
+                  dataByte("event enable map", enableMapOn(g)),
+                  dataByte("event enable map", enableMapOff(g))});
+}
+
+std::string unsendablePins(const Configuration& config, const std::vector<int>& pins, bool withPinConfig) {
+    for (int p : pins) {
+        std::string problem = unsendablePin(config, p, withPinConfig);
+        if (!problem.empty())
+            return problem;
+    }
+    return {};
+}
+
+std::string unsendablePinConfig(const Configuration& config, int pin, int target) {
+    const std::vector<int> bytes = pinConfigBytes(config.pin(pin), target);
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        const std::string what =
+            i == 0 ? std::string("configuration mode") : "configuration parameter " + std::to_string(i);
+        const std::string problem = dataByte(what, bytes[i]);
+        if (!problem.empty())
+            return withPlace(shownPin(config, pin), problem);
+    }
+    return {};
+}
+
+std::string unsendableEvents(const Configuration& config, const std::vector<int>& pins) {
+    for (int p : pins)
+        for (const EventSide side : {EventSide::On, EventSide::Off}) {
+            const auto& e = side == EventSide::On ? config.events(p).OnEvent : config.events(p).OffEvent;
+            for (int slot = 0; slot < kEventSlots; ++slot) {
+                const std::string what = std::string(side == EventSide::On ? "Event-On(" : "Event-Off(") +
+                                         std::to_string(slot) + ") action";
+                const std::string problem = outside(what, e[slot], kEventActionMin, kEventActionWireMax);
+                if (!problem.empty())
+                    return withPlace(shownPin(config, p), problem);
+            }
+        }
+    return {};
+}
+
+std::string unsendableConfiguration(const Configuration& config, const GeneralSettings& g,
+                                    bool withPinConfig) {
+    return first({unsendableGeneral(g), unsendablePins(config, allPins(), withPinConfig),
+                  unsendableEvents(config, allPins())});
+}
+
+bool sendable(Session& session, const std::string& problem) {
+    if (problem.empty())
+        return true;
+    session.dialogs().message(problem, Icon::Warning);
+    return false;
+}
+
+} // namespace kestrel
