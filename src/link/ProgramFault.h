@@ -12,6 +12,12 @@ public:
     explicit ProgramFault(const std::string& what) : std::runtime_error(what) {}
 };
 
+// How every front end tells a program fault that stopped an operation, once.
+inline std::string programFaultMessage(const std::string& what)
+{
+    return "Program error, the operation was stopped: " + (what.empty() ? std::string("unknown fault") : what);
+}
+
 // Throws ProgramFault unless 0 <= index < size.
 inline void checkIndex(long index, long size, const char* what)
 {

@@ -2,9 +2,9 @@
 
 namespace kestrel {
 
-void JobDispatcher::add(std::string name, std::function<void()> operation)
+void JobDispatcher::add(JobName name, std::function<void()> operation)
 {
-    table.emplace_back(std::move(name), std::move(operation));
+    table.emplace_back(name.text(), std::move(operation));
 }
 
 bool JobDispatcher::Timer1_Timer()

@@ -328,9 +328,9 @@ int runCli(const std::vector<std::string>& args)
             return kCancelled;
         }
         return status;
-    } catch (const ProgramFault& fault) {
+    } catch (const std::exception& fault) {
         progress.finish();
-        std::fprintf(stderr, "Program fault: %s\n", fault.what());
+        std::fprintf(stderr, "%s\n", printable(programFaultMessage(fault.what())).c_str());
         return kFailed;
     }
 }

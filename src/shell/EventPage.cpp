@@ -52,7 +52,7 @@ QHBoxLayout* boxWithSpinner(QLineEdit* box, QSpinBox* spinner)
 }
 } // namespace
 
-EventPage::EventPage(Session& s, std::function<void(const char* job)> start, Guard* sharedGuard, QWidget* parent)
+EventPage::EventPage(Session& s, std::function<void(JobName job)> start, Guard* sharedGuard, QWidget* parent)
     : QWidget(parent), session(s), startJob(std::move(start)), ownGuard(sharedGuard ? nullptr : new Guard(s)),
       guard(sharedGuard ? *sharedGuard : *ownGuard), bindings(guard, [this] { refresh(); })
 {
@@ -226,21 +226,21 @@ void EventPage::CommandECRead_Click()
 {
     commitPending();
     if (startJob)
-        startJob("ECReadAll");
+        startJob(Jobs::ECReadAll);
 }
 
 void EventPage::CommandECWrite_Click()
 {
     commitPending();
     if (startJob)
-        startJob("ECWriteAll");
+        startJob(Jobs::ECWriteAll);
 }
 
 void EventPage::CommandECVerify_Click()
 {
     commitPending();
     if (startJob)
-        startJob("ECVerify");
+        startJob(Jobs::ECVerify);
 }
 
 } // namespace kestrel

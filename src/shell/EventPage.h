@@ -1,5 +1,6 @@
 #pragma once
 #include "ops/EventControl.h"
+#include "ops/JobDispatcher.h"
 #include "ops/Session.h"
 #include "shell/Bindings.h"
 #include "shell/Guard.h"
@@ -24,7 +25,7 @@ class EventPage : public QWidget {
     Q_OBJECT
 public:
     // `guard` is the window's; a page on its own keeps one of its own.
-    EventPage(Session& session, std::function<void(const char* job)> startJob, Guard* guard = nullptr,
+    EventPage(Session& session, std::function<void(JobName job)> startJob, Guard* guard = nullptr,
               QWidget* parent = nullptr);
 
     // Shows CurrentPin in TextECpin, its entries and the enable boxes from the session
@@ -71,7 +72,7 @@ private:
     void run(const std::function<void()>& handler); // a button: pending entries first, guarded
 
     Session& session;
-    std::function<void(const char*)> startJob;
+    std::function<void(JobName)> startJob;
     std::unique_ptr<Guard> ownGuard;
     Guard& guard;
     Bindings bindings;

@@ -1,5 +1,7 @@
 #include "shell/Guard.h"
 
+#include "link/ProgramFault.h"
+
 #include <exception>
 
 namespace kestrel {
@@ -18,16 +20,16 @@ bool Guard::operator()(const std::function<void()>& handler)
     try {
         handler();
     } catch (const std::exception& e) {
-        fault = *e.what() ? e.what() : "unknown fault";
+        fault = programFaultMessage(e.what());
     } catch (...) {
-        fault = "unknown fault";
+        fault = programFaultMessage("");
     }
     --depth;
     if (!fault.empty()) {
         session.config = config;
         session.general = general;
         session.eventControl = eventControl;
-        session.dialogs().message(kFaultText + fault, Icon::Warning);
+        session.dialogs().message(fault, Icon::Warning);
         if (afterFault)
             afterFault();
     }

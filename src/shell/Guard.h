@@ -24,7 +24,6 @@ public:
     // Called after a fault has been shown and the model restored (the pages show it again).
     std::function<void()> afterFault;
 
-    static constexpr const char* kFaultText = "Program error, the operation was stopped: ";
 
 private:
     Session& session;

@@ -130,7 +130,7 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
 
     tabs = named(new QTabWidget, "SSTab1");
     tabs->addTab(buildGeneralPage(), "General");
-    eventPage = new EventPage(*core, [this](const char* job) { startJob(job); }, guard.get());
+    eventPage = new EventPage(*core, [this](JobName job) { startJob(job); }, guard.get());
     tabs->addTab(eventPage, "Event Control");
     pinConfigPage = new PinConfigPage(*core, guard.get());
     tabs->addTab(pinConfigPage, "Pin Configuration");
@@ -213,34 +213,34 @@ void KestrelConfig::addJobs()
             return ok;
         };
     };
-    jobs.add("ReadAll", [this, &s] { runJob("Read All", [&s] { return ReadAll(s); }, true, true); });
-    jobs.add("WriteAll", [this, &s, pinConfigToo] {
+    jobs.add(Jobs::ReadAll, [this, &s] { runJob("Read All", [&s] { return ReadAll(s); }, true, true); });
+    jobs.add(Jobs::WriteAll, [this, &s, pinConfigToo] {
         const bool withConfig = pinConfigToo();
         runJob("Write All", [&s, withConfig] { return WriteAll(s, withConfig); }, false, true);
     });
-    jobs.add("VerifyAll", [this, &s] { runJob("Verify All", [&s] { return VerifyAll(s); }); });
-    jobs.add("ReadPin", [this, &s] { runJob("Read Pin", [&s] { return ReadPin(s, s.config.CurrentPin); }, true); });
-    jobs.add("WritePin", [this, &s, pinConfigToo] {
+    jobs.add(Jobs::VerifyAll, [this, &s] { runJob("Verify All", [&s] { return VerifyAll(s); }); });
+    jobs.add(Jobs::ReadPin, [this, &s] { runJob("Read Pin", [&s] { return ReadPin(s, s.config.CurrentPin); }, true); });
+    jobs.add(Jobs::WritePin, [this, &s, pinConfigToo] {
         const bool withConfig = pinConfigToo();
         runJob("Write Pin", [&s, withConfig] { return WritePin(s, s.config.CurrentPin, withConfig); });
     });
-    jobs.add("ReadDevice", [this, &s] { runJob("Read Device", [&s] { return ReadDevice(s); }, true); });
-    jobs.add("WriteDevice", [this, &s] { runJob("Write Device", [&s] { return WriteDevice(s); }); });
-    jobs.add("ReadAllPins", [this, &s] { runJob("Read All Pins", [&s] { return ReadAllPins(s); }, true); });
-    jobs.add("WriteAllPins", [this, &s, pinConfigToo] {
+    jobs.add(Jobs::ReadDevice, [this, &s] { runJob("Read Device", [&s] { return ReadDevice(s); }, true); });
+    jobs.add(Jobs::WriteDevice, [this, &s] { runJob("Write Device", [&s] { return WriteDevice(s); }); });
+    jobs.add(Jobs::ReadAllPins, [this, &s] { runJob("Read All Pins", [&s] { return ReadAllPins(s); }, true); });
+    jobs.add(Jobs::WriteAllPins, [this, &s, pinConfigToo] {
         const bool withConfig = pinConfigToo();
         runJob("Write All Pins", [&s, withConfig] { return WriteAllPins(s, withConfig); });
     });
-    jobs.add("PAspReadPin",
+    jobs.add(Jobs::PAspReadPin,
              [this, &s] { runJob("Read Pin", [&s] { return PAspReadPin(s, s.config.CurrentPin); }, true); });
-    jobs.add("PAspWritePin", [this, &s] { runJob("Write Pin", [&s] { return WritePin(s, s.config.CurrentPin); }); });
-    jobs.add("VerifyAllPins", [this, verify] { runJob("Verify All Pins", verify(&VerifyAllPins)); });
-    jobs.add("ECWriteAll", [this, &s] { runJob("Write All Events", [&s] { return WriteAllEvents(s); }); });
-    jobs.add("ECReadAll", [this, &s] { runJob("Read All Events", [&s] { return ReadAllEvents(s); }, true); });
-    jobs.add("ECVerify", [this, verify] { runJob("Verify Event Control", verify(&VerifyEventControl)); });
+    jobs.add(Jobs::PAspWritePin, [this, &s] { runJob("Write Pin", [&s] { return WritePin(s, s.config.CurrentPin); }); });
+    jobs.add(Jobs::VerifyAllPins, [this, verify] { runJob("Verify All Pins", verify(&VerifyAllPins)); });
+    jobs.add(Jobs::ECWriteAll, [this, &s] { runJob("Write All Events", [&s] { return WriteAllEvents(s); }); });
+    jobs.add(Jobs::ECReadAll, [this, &s] { runJob("Read All Events", [&s] { return ReadAllEvents(s); }, true); });
+    jobs.add(Jobs::ECVerify, [this, verify] { runJob("Verify Event Control", verify(&VerifyEventControl)); });
 }
 
-void KestrelConfig::startJob(const char* name)
+void KestrelConfig::startJob(JobName name)
 {
     commitAll();
     LabelAction->setVisible(true);
@@ -472,17 +472,17 @@ void KestrelConfig::CommandLoad_Click()
 void KestrelConfig::CommandReadAll_Click()
 {
     if (keepChangesSafe("Reading the module"))
-        startJob("ReadAll");
+        startJob(Jobs::ReadAll);
 }
 
 void KestrelConfig::CommandWriteAll_Click()
 {
-    startJob("WriteAll");
+    startJob(Jobs::WriteAll);
 }
 
 void KestrelConfig::CommandVerifyAll_Click()
 {
-    startJob("VerifyAll");
+    startJob(Jobs::VerifyAll);
 }
 
 KestrelConfig::~KestrelConfig()

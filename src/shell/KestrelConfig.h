@@ -166,7 +166,7 @@ private:
     void markClean();
     // Over unsaved changes: Save / Discard / Cancel. True when the caller may go on.
     bool keepChangesSafe(const char* doing);
-    void startJob(const char* name);
+    void startJob(JobName name);
     void ensureVerificationWindow();
     void ensureCorvidWindow();
 

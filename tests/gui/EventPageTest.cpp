@@ -33,7 +33,7 @@ struct EventPageRig {
         port->select("sim");
         port->open();
         session = std::make_unique<Session>(*port, clock, dialogs);
-        page = std::make_unique<EventPage>(*session, [this](const char* job) { jobs.emplace_back(job); });
+        page = std::make_unique<EventPage>(*session, [this](JobName job) { jobs.emplace_back(job.text()); });
         page->show();
     }
 

@@ -8,17 +8,17 @@ TEST(JobDispatcher, RunsTheLastRequestOnceAndDropsUnknownNames)
 {
     JobDispatcher d;
     std::vector<std::string> ran;
-    d.add("ReadAll", [&] { ran.push_back("ReadAll"); });
-    d.add("WriteAll", [&] { ran.push_back("WriteAll"); });
+    d.add(Jobs::ReadAll, [&] { ran.push_back("ReadAll"); });
+    d.add(Jobs::WriteAll, [&] { ran.push_back("WriteAll"); });
 
     EXPECT_FALSE(d.Timer1_Timer()); // nothing pending
-    d.request("ReadAll");
-    d.request("WriteAll"); // two clicks within one interval: only the later runs
+    d.request(Jobs::ReadAll);
+    d.request(Jobs::WriteAll); // two clicks within one interval: only the later runs
     EXPECT_TRUE(d.Timer1_Timer());
     EXPECT_FALSE(d.Timer1_Timer());
     EXPECT_EQ(ran, std::vector<std::string>{"WriteAll"});
 
-    d.request("readall"); // compared exactly, case included
+    d.PendingJob = "readall"; // compared exactly, case included
     EXPECT_FALSE(d.Timer1_Timer());
     EXPECT_TRUE(d.PendingJob.empty());
     EXPECT_EQ(ran.size(), 1u);
@@ -28,17 +28,17 @@ TEST(JobDispatcher, TickDuringAJobDoesNothingAndAFailingJobStillClears)
 {
     JobDispatcher d;
     int inner = 0;
-    d.add("VerifyAll", [&] {
-        d.request("VerifyAll");
+    d.add(Jobs::VerifyAll, [&] {
+        d.request(Jobs::VerifyAll);
         inner += d.Timer1_Timer() ? 1 : 0; // the window's events keep ticking meanwhile
     });
-    d.add("Boom", [] { throw std::runtime_error("fault"); });
-    d.request("VerifyAll");
+    d.add(Jobs::ECVerify, [] { throw std::runtime_error("fault"); });
+    d.request(Jobs::VerifyAll);
     EXPECT_TRUE(d.Timer1_Timer());
     EXPECT_EQ(inner, 0);
     EXPECT_EQ(d.PendingJob, "VerifyAll"); // asked for again while running: runs on a later tick
 
-    d.request("Boom");
+    d.request(Jobs::ECVerify);
     EXPECT_THROW(d.Timer1_Timer(), std::runtime_error);
     EXPECT_FALSE(d.running());
     EXPECT_TRUE(d.PendingJob.empty());
