@@ -5,7 +5,7 @@
 // real instruction with its parameters and every aspect with a description.
 #include "model/Configuration.h"
 #include "model/InstructionSet.h"
-#include "ops/GeneralSettings.h"
+#include "session/GeneralSettings.h"
 
 #include <string>
 #include <vector>

@@ -9,7 +9,7 @@
 // Rounds go on until every chunk has been taken.
 #include "FuzzSupport.h"
 #include "link/Link.h"
-#include "link/ProgramFault.h"
+#include "base/ProgramFault.h"
 #include "support/FakeClock.h"
 #include "support/RecordingDialogs.h"
 #include "support/ScriptedPort.h"

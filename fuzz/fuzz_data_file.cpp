@@ -3,7 +3,7 @@
 // model is a value that cannot be sent, and what it read can be written and read back.
 #include "FuzzSupport.h"
 #include "files/ConfigurationFile.h"
-#include "link/ProgramFault.h"
+#include "base/ProgramFault.h"
 #include "ops/SendCheck.h"
 #include "support/RecordingDialogs.h"
 

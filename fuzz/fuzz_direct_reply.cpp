@@ -9,7 +9,7 @@
 // the link in a consistent state whatever arrived.
 #include "FuzzSupport.h"
 #include "link/Link.h"
-#include "link/ProgramFault.h"
+#include "base/ProgramFault.h"
 #include "support/FakeClock.h"
 #include "support/RecordingDialogs.h"
 #include "support/ScriptedPort.h"

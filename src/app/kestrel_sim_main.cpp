@@ -3,7 +3,7 @@
 // a one-line statistics summary goes to stderr on exit (SIGINT or SIGTERM), followed by
 // the same numbers as a "kestrel-sim-stats:" line of key=value pairs.
 
-#include "app/SimSeed.h"
+#include "seed/SimSeed.h"
 #include "sim/SimBus.h"
 #include "sim/SimCorvid.h"
 

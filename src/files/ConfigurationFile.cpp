@@ -3,14 +3,14 @@
 #include "files/FileRecords.h"
 #include "files/ItemStream.h"
 #include "files/TextFile.h"
-#include "link/ProgramFault.h"
-#include "link/Text.h"
-#include "link/UserDialogs.h"
+#include "base/ProgramFault.h"
+#include "base/Text.h"
+#include "base/UserDialogs.h"
 #include "model/AddressIndex.h"
 #include "model/PinTools.h"
 #include "model/StepCodec.h"
 #include "model/WireLimits.h"
-#include "ops/Session.h"
+#include "session/Session.h"
 
 #include <array>
 #include <cmath>

@@ -1,6 +1,6 @@
 #pragma once
 #include "model/Configuration.h"
-#include "ops/GeneralSettings.h"
+#include "session/GeneralSettings.h"
 
 #include <string>
 

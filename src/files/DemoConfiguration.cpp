@@ -1,8 +1,8 @@
 #include "files/DemoConfiguration.h"
 
 #include "files/ConfigurationFile.h"
-#include "link/ProgramFault.h"
-#include "link/UserDialogs.h"
+#include "base/ProgramFault.h"
+#include "base/UserDialogs.h"
 
 namespace kestrel {
 

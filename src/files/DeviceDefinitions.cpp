@@ -3,7 +3,7 @@
 #include "files/FileRecords.h"
 #include "files/ItemStream.h"
 #include "files/TextFile.h"
-#include "link/UserDialogs.h"
+#include "base/UserDialogs.h"
 #include "model/AddressIndex.h"
 #include "model/PinTools.h"
 #include "model/WireLimits.h"

@@ -1,7 +1,7 @@
 #include "link/Link.h"
 
-#include "link/ProgramFault.h"
-#include "link/Text.h"
+#include "base/ProgramFault.h"
+#include "base/Text.h"
 
 #include <cmath>
 

@@ -1,8 +1,8 @@
 #pragma once
 #include "link/Clock.h"
 #include "link/Progress.h"
-#include "link/SerialPort.h"
-#include "link/UserDialogs.h"
+#include "base/SerialPort.h"
+#include "base/UserDialogs.h"
 
 #include <array>
 #include <functional>

@@ -1,6 +1,6 @@
 #include "link/LinkControl.h"
 
-#include "link/Text.h"
+#include "base/Text.h"
 
 namespace kestrel {
 

@@ -1,8 +1,8 @@
 #include "model/AspectEditor.h"
 
-#include "link/ProgramFault.h"
-#include "link/Text.h"
-#include "link/UserDialogs.h"
+#include "base/ProgramFault.h"
+#include "base/Text.h"
+#include "base/UserDialogs.h"
 #include "model/InstructionSet.h"
 #include "model/PinTools.h"
 

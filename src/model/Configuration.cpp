@@ -1,6 +1,6 @@
 #include "model/Configuration.h"
 
-#include "link/ProgramFault.h"
+#include "base/ProgramFault.h"
 
 namespace kestrel {
 

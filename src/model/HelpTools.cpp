@@ -1,7 +1,7 @@
 #include "model/HelpTools.h"
 
-#include "link/ProgramFault.h"
-#include "link/Text.h"
+#include "base/ProgramFault.h"
+#include "base/Text.h"
 #include "model/InstructionSet.h"
 #include "model/StepDisplay.h"
 

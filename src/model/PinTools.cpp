@@ -1,7 +1,7 @@
 #include "model/PinTools.h"
 
-#include "link/ProgramFault.h"
-#include "link/UserDialogs.h"
+#include "base/ProgramFault.h"
+#include "base/UserDialogs.h"
 
 namespace kestrel {
 

@@ -1,7 +1,7 @@
 #include "ops/EventControl.h"
 
-#include "link/ProgramFault.h"
-#include "link/Text.h"
+#include "base/ProgramFault.h"
+#include "base/Text.h"
 #include "ops/GeneralCommands.h"
 #include "ops/SendCheck.h"
 

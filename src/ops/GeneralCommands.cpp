@@ -1,6 +1,6 @@
 #include "ops/GeneralCommands.h"
 
-#include "link/Text.h"
+#include "base/Text.h"
 #include "ops/SendCheck.h"
 
 namespace kestrel {

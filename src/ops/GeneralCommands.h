@@ -1,6 +1,6 @@
 #pragma once
 #include "model/WireLimits.h"
-#include "ops/Session.h"
+#include "session/Session.h"
 
 #include <array>
 #include <string>

@@ -3,7 +3,7 @@
 #include "model/AddressIndex.h"
 #include "model/StepCodec.h"
 #include "ops/SendCheck.h"
-#include "pins/PinConfig.h"
+#include "ops/PinConfigTransfer.h"
 
 #include <array>
 #include <optional>

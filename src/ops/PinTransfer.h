@@ -1,5 +1,5 @@
 #pragma once
-#include "ops/Session.h"
+#include "session/Session.h"
 
 namespace kestrel {
 

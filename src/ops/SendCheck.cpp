@@ -1,11 +1,11 @@
 #include "ops/SendCheck.h"
 
-#include "link/Text.h"
+#include "base/Text.h"
 #include "model/StepCodec.h"
 #include "model/WireLimits.h"
 #include "ops/EventControl.h"
 #include "ops/GeneralCommands.h"
-#include "ops/Session.h"
+#include "session/Session.h"
 #include "pins/PinConfig.h"
 
 #include <numeric>

@@ -1,6 +1,6 @@
 #include "shell/BuiltInSim.h"
 
-#include "app/SimSeed.h"
+#include "seed/SimSeed.h"
 #include "files/DemoConfiguration.h"
 #include "sim/SimBus.h"
 #include "sim/SimPort.h"

@@ -1,5 +1,5 @@
 #pragma once
-#include "link/SerialPort.h"
+#include "base/SerialPort.h"
 
 #include <memory>
 

@@ -1,6 +1,6 @@
 #include "shell/EventPage.h"
 
-#include "link/Text.h"
+#include "base/Text.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 #include "ops/EventControl.h"
 #include "ops/JobDispatcher.h"
-#include "ops/Session.h"
+#include "session/Session.h"
 #include "shell/Bindings.h"
 #include "shell/Guard.h"
 

@@ -1,6 +1,6 @@
 #include "shell/GeneralPage.h"
 
-#include "link/Text.h"
+#include "base/Text.h"
 #include "model/AspectEditor.h"
 #include "ops/GeneralCommands.h"
 #include "shell/Bindings.h"

@@ -1,6 +1,6 @@
 #include "shell/Guard.h"
 
-#include "link/ProgramFault.h"
+#include "base/ProgramFault.h"
 
 #include <exception>
 

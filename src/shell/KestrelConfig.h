@@ -2,7 +2,7 @@
 #include "files/DeviceDefinitions.h"
 #include "link/CorvidControl.h"
 #include "ops/JobDispatcher.h"
-#include "ops/Session.h"
+#include "session/Session.h"
 #include "shell/PortRouter.h"
 #include "shell/Guard.h"
 #include "shell/QtDialogs.h"

@@ -1,9 +1,9 @@
 #include "shell/PinConfigPage.h"
 
-#include "link/Text.h"
+#include "base/Text.h"
 #include "model/AspectEditor.h"
-#include "pins/LiveOutput.h"
-#include "pins/PinConfig.h"
+#include "ops/LiveOutput.h"
+#include "ops/PinConfigTransfer.h"
 #include "pins/PinConfigView.h"
 
 #include <QButtonGroup>

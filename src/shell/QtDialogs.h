@@ -1,5 +1,5 @@
 #pragma once
-#include "link/UserDialogs.h"
+#include "base/UserDialogs.h"
 
 #include <QString>
 

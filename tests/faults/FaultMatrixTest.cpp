@@ -40,7 +40,7 @@
 //   else; the job ends False at once, without waiting out a time-out; what was transferred
 //   before stays. Once the port is back and chosen again, the same session works.
 #include "FaultRig.h"
-#include "link/Text.h"
+#include "base/Text.h"
 #include "ops/EventControl.h"
 #include "ops/GeneralCommands.h"
 #include "ops/PinTransfer.h"

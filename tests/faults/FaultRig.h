@@ -7,7 +7,7 @@
 #include "FaultWire.h"
 #include "link/CorvidControl.h"
 #include "ops/Bulk.h"
-#include "ops/Session.h"
+#include "session/Session.h"
 #include "support/SimSession.h"
 
 #include <gtest/gtest.h>

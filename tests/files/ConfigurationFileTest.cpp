@@ -3,7 +3,7 @@
 #include "files/TextFile.h"
 #include "ops/Bulk.h"
 #include "ops/SendCheck.h"
-#include "ops/Session.h"
+#include "session/Session.h"
 #include "support/ScriptedModule.h"
 #include "support/SimSession.h"
 

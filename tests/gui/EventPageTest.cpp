@@ -1,6 +1,6 @@
 // The Event Control page bound to a session on the built-in simulated module.
 #include "link/Clock.h"
-#include "ops/Session.h"
+#include "session/Session.h"
 #include "shell/BuiltInSim.h"
 #include "shell/EventPage.h"
 #include "support/RecordingDialogs.h"

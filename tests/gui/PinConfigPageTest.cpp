@@ -1,7 +1,7 @@
 // The pin-configuration page bound to a session on the built-in simulated module.
 #include "link/Clock.h"
-#include "ops/Session.h"
-#include "pins/PinConfig.h"
+#include "session/Session.h"
+#include "ops/PinConfigTransfer.h"
 #include "shell/BuiltInSim.h"
 #include "shell/PinConfigPage.h"
 #include "support/RecordingDialogs.h"

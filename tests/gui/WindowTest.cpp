@@ -2,7 +2,7 @@
 // and Save; nothing typed or pressed ends the program; the port opens again and again;
 // a message raised during a job is above its progress dialog.
 #include "files/ConfigurationFile.h"
-#include "link/ProgramFault.h"
+#include "base/ProgramFault.h"
 #include "shell/GeneralPage.h"
 #include "shell/Guard.h"
 #include "shell/KestrelConfig.h"

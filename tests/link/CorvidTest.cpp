@@ -2,7 +2,7 @@
 // exchanges against the simulated Corvid system.
 #include "link/CorvidControl.h"
 #include "link/Link.h"
-#include "link/Text.h"
+#include "base/Text.h"
 #include "sim/SimBus.h"
 #include "sim/SimCorvid.h"
 #include "sim/SimPort.h"

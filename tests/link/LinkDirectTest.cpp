@@ -1,6 +1,6 @@
 // The direct route, byte for byte, against a scripted port and a fake clock.
 #include "link/Link.h"
-#include "link/ProgramFault.h"
+#include "base/ProgramFault.h"
 #include "support/RecordingDialogs.h"
 #include "support/ScriptedPort.h"
 

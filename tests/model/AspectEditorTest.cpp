@@ -1,5 +1,5 @@
 #include "model/AspectEditor.h"
-#include "link/ProgramFault.h"
+#include "base/ProgramFault.h"
 #include "model/InstructionSet.h"
 #include "support/RecordingDialogs.h"
 

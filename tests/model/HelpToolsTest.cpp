@@ -1,5 +1,5 @@
 #include "model/HelpTools.h"
-#include "link/ProgramFault.h"
+#include "base/ProgramFault.h"
 
 #include <gtest/gtest.h>
 #include <set>

@@ -1,5 +1,5 @@
 #include "model/InstructionSet.h"
-#include "link/ProgramFault.h"
+#include "base/ProgramFault.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "model/PinTools.h"
-#include "link/ProgramFault.h"
+#include "base/ProgramFault.h"
 #include "support/RecordingDialogs.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 #include "model/StepDisplay.h"
-#include "link/ProgramFault.h"
+#include "base/ProgramFault.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "support/ScriptedModule.h"
-#include "pins/LiveOutput.h"
-#include "pins/PinConfig.h"
+#include "ops/LiveOutput.h"
+#include "ops/PinConfigTransfer.h"
 #include "pins/PinConfigView.h"
 #include "pins/PinEdits.h"
 

@@ -3,7 +3,7 @@
 // decoded into its data bytes (command, item or pin, values); a frame that asks for a
 // reply gets the next scripted reply, or silence; with nothing scripted it is
 // acknowledged with its first two bytes, as a module acknowledges a write.
-#include "ops/Session.h"
+#include "session/Session.h"
 #include "FakeClock.h"
 #include "RecordingDialogs.h"
 #include "ScriptedPort.h"

@@ -1,6 +1,6 @@
 #pragma once
 #include "FakeClock.h"
-#include "link/SerialPort.h"
+#include "base/SerialPort.h"
 
 #include <deque>
 #include <functional>

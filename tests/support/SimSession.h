@@ -5,8 +5,8 @@
 #include "FakeClock.h"
 #include "RecordingDialogs.h"
 #include "model/Configuration.h"
-#include "ops/GeneralSettings.h"
-#include "ops/Session.h"
+#include "session/GeneralSettings.h"
+#include "session/Session.h"
 #include "sim/SimBus.h"
 #include "sim/SimPort.h"
 

@@ -1,6 +1,6 @@
-#include "pins/LiveOutput.h"
+#include "ops/LiveOutput.h"
 
-#include "ops/Session.h"
+#include "session/Session.h"
 
 #include <cstdint>
 

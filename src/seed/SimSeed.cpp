@@ -1,8 +1,8 @@
-#include "app/SimSeed.h"
+#include "seed/SimSeed.h"
 
 #include "files/ConfigurationFile.h"
 #include "ops/Bulk.h"
-#include "ops/Session.h"
+#include "session/Session.h"
 #include "sim/SimPort.h"
 
 namespace kestrel {

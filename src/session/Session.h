@@ -2,9 +2,9 @@
 #include "link/Link.h"
 #include "link/LinkControl.h"
 #include "model/Configuration.h"
-#include "ops/EventControlPage.h"
-#include "ops/GeneralSettings.h"
-#include "ops/Report.h"
+#include "session/EventControlPage.h"
+#include "session/GeneralSettings.h"
+#include "session/Report.h"
 
 #include <functional>
 #include <string>

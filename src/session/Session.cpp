@@ -1,4 +1,4 @@
-#include "ops/Session.h"
+#include "session/Session.h"
 
 namespace kestrel {
 
