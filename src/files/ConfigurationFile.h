@@ -52,18 +52,5 @@ LoadResult readConfigurationText(const std::string& text, Configuration& config,
 LoadResult loadConfigurationFile(const std::string& path, Configuration& config, GeneralSettings& general,
                                  UserDialogs& dialogs, std::string* why = nullptr);
 
-// The save button: left button (1) alone saves the full file, with Shift (1) the compact
-// file; anything else does nothing. Asks for the file name through the save dialog
-// (filter "Kestrel Config Data|*.dat", no name proposed); no name ends silently.
-std::string CommandSave_MouseDown(Session& session, int button, int shift); // the path written, "" for none
-
-// The load button: asks for the file name through the open dialog, loads it into the
-// session and then calls session.onConfigurationChanged so that every display follows.
-// Returns the path and how far it was read; a cancelled dialog gives an empty path.
-struct LoadOutcome {
-    std::string path;
-    LoadResult result = LoadResult::CannotOpen;
-};
-LoadOutcome CommandLoad_Click(Session& session);
 
 } // namespace kestrel

@@ -83,26 +83,6 @@ ListLoad readDeviceList(DeviceList& list, const std::string& path, ListMode mode
     return readDeviceListText(list, text, path, mode, dialogs);
 }
 
-void loadStandardDeviceList(DeviceList& list, const std::string& programFolder, UserDialogs& dialogs) {
-    const std::string standard = (std::filesystem::path(programFolder) / kStandardDeviceFile).string();
-    if (readDeviceList(list, standard, ListMode::Replace, dialogs) != ListLoad::CannotOpen)
-        return;
-    dialogs.message("Can not find Device Configuration file at standard location", Icon::Warning);
-    const std::string chosen =
-        dialogs.openFileName("Load Device Definitions", kDeviceFileFilter, kStandardDeviceFile);
-    if (chosen.empty() || readDeviceList(list, chosen, ListMode::Replace, dialogs) == ListLoad::CannotOpen)
-        dialogs.message("No Device Configuration available", Icon::Warning);
-}
-
-void CommandReloadDD_MouseDown(DeviceList& list, UserDialogs& dialogs, int button, int shift) {
-    if (button != 1)
-        return;
-    const ListMode mode = shift == 1 ? ListMode::Append : ListMode::Replace;
-    const std::string path = dialogs.openFileName("Load Device Definitions", kDeviceFileFilter, "");
-    if (readDeviceList(list, path, mode, dialogs) == ListLoad::CannotOpen)
-        dialogs.message("No Device Configuration file selected", Icon::Warning);
-}
-
 // ---- Placing a device ----
 
 void dissolveDevice(Configuration& config, int p) {
@@ -283,21 +263,6 @@ bool loadDeviceFromText(const std::string& text, const std::string& name, Config
     return true;
 }
 
-bool CommandPAspPreLoad_Click(const DeviceList& list, Configuration& config, UserDialogs& dialogs) {
-    if (list.selected < 0 || list.selected >= static_cast<int>(list.cboDevice.size())) {
-        dialogs.message("Select Devicename to load", Icon::Warning);
-        return false;
-    }
-    const std::string& path = list.paths[list.selected];
-    std::string text;
-    std::string error;
-    if (!readTextFile(path, text, error)) {
-        dialogs.message("Can not open " + path + ": " + error, Icon::Warning);
-        return false;
-    }
-    return loadDeviceFromText(text, list.cboDevice[list.selected], config, dialogs);
-}
-
 // ---- Saving a device ----
 
 std::string writeDeviceText(Configuration& config, int head) {
@@ -343,23 +308,6 @@ bool saveDeviceFile(const std::string& path, Configuration& config, int head, st
     if (!replaceFile(path, text, error))
         return false;
     config = std::move(copy);
-    return true;
-}
-
-bool CommandSaveDevice_Click(Configuration& config, UserDialogs& dialogs) {
-    const int head = deviceHead(config, config.CurrentPin);
-    if (config.pin(head).DeviceOffset != 0) {
-        dialogs.message("Referral is not a device", Icon::Warning);
-        return false;
-    }
-    const std::string path = dialogs.saveFileName("Save Device", kDeviceFileFilter, "");
-    if (path.empty())
-        return false;
-    std::string error;
-    if (!saveDeviceFile(path, config, head, error)) {
-        dialogs.message("The device was not saved: " + error, Icon::Warning);
-        return false;
-    }
     return true;
 }
 

@@ -42,16 +42,7 @@ ListLoad readDeviceListText(DeviceList& list, const std::string& text, const std
                             UserDialogs& dialogs);
 ListLoad readDeviceList(DeviceList& list, const std::string& path, ListMode mode, UserDialogs& dialogs);
 
-// Start-up: "KestrelDevices.def" in programFolder. When it cannot be opened: "Can not
-// find Device Configuration file at standard location", then the open dialog proposes
-// "KestrelDevices.def"; when that fails too or is cancelled: "No Device Configuration
-// available" and the list stays empty. All warnings.
-void loadStandardDeviceList(DeviceList& list, const std::string& programFolder, UserDialogs& dialogs);
 
-// Reload DD: left button (1) only; Shift (1) appends, anything else replaces. A file
-// that cannot be opened (or no file chosen) shows "No Device Configuration file
-// selected" and changes nothing.
-void CommandReloadDD_MouseDown(DeviceList& list, UserDialogs& dialogs, int button, int shift);
 
 // Dissolves the device headed at pin: nothing when pin is a member (non-zero offset);
 // otherwise every pin 0..31 that refers to it, itself included, gets offset 0 and an
@@ -68,9 +59,6 @@ void dissolveDevice(Configuration& config, int pin);
 bool loadDeviceFromText(const std::string& text, const std::string& name, Configuration& config,
                         UserDialogs& dialogs);
 
-// Load Device: the device selected in the list, read from its own file. "Select
-// Devicename to load" when no name is selected.
-bool CommandPAspPreLoad_Click(const DeviceList& list, Configuration& config, UserDialogs& dialogs);
 
 // The definitions text of the device headed at head: header, "Dev", the head's block,
 // then every member in rising pin order. Servo pins lose the top two bits of parameter
@@ -80,9 +68,5 @@ std::string writeDeviceText(Configuration& config, int head);
 // Writes that text to path, replacing a file only once the new one is complete.
 bool saveDeviceFile(const std::string& path, Configuration& config, int head, std::string& error);
 
-// Save Device: the device that config.CurrentPin belongs to. "Referral is not a device"
-// (warning) when the pin's head is itself a member; asks for the file through the save
-// dialog (no name proposed); no name ends silently.
-bool CommandSaveDevice_Click(Configuration& config, UserDialogs& dialogs);
 
 } // namespace kestrel

@@ -256,30 +256,6 @@ bool CommandGenAddrRead_Click(Session& session)
     return ok;
 }
 
-void CheckGenLynxaddr_Click(Session& session)
-{
-    auto& g = session.general;
-    if (g.CheckGenLynxaddr == 1 && !g.SuppressAddrWarning) {
-        const Answer a = session.dialogs().ask("Lynx Flexible Addressing is a complex concept !!\r\n"
-                                               "It should only be activated by experienced users\r\n"
-                                               "that understand the details very well !",
-                                               Buttons::OkCancel, Icon::Warning);
-        if (a != Answer::Ok)
-            g.CheckGenLynxaddr = 0;
-    }
-    applyAddressingVisibility(g);
-    pinAddressDisplayChanged(session);
-}
-
-void CheckGenKestrelNative_Click(Session& session)
-{
-    auto& g = session.general;
-    g.CheckGenLynxaddrVisible = g.CheckGenKestrelNative != 1;
-    pinAddressDisplayChanged(session);
-}
-
-void ChkGenDCCAllow0_Click(Session& session) { dccAddressChanged(session); }
-
 // ---- Hardware configuration ----
 
 std::array<int, 4> hardwareConfigBytes(const GeneralSettings& g)

@@ -79,11 +79,5 @@ int serialPortByte(const GeneralSettings& g);
 void applyAddressingVisibility(GeneralSettings& g);
 // The CommandGenAddrRead button: the read with the flex-addressing warning suppressed.
 bool CommandGenAddrRead_Click(Session& session);
-// CheckGenLynxaddr was clicked (its new value is already in general.CheckGenLynxaddr).
-void CheckGenLynxaddr_Click(Session& session);
-// CheckGenKestrelNative was clicked (its new value is already in the field).
-void CheckGenKestrelNative_Click(Session& session);
-// ChkGenDCCAllow0 was clicked: the address boxes show ranges that depend on it.
-void ChkGenDCCAllow0_Click(Session& session);
 
 } // namespace kestrel

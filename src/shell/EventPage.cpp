@@ -1,4 +1,5 @@
 #include "shell/EventPage.h"
+#include "forms/EventControlForm.h"
 
 #include "base/Text.h"
 

@@ -1,7 +1,8 @@
 #include "shell/GeneralPage.h"
+#include "forms/GeneralForm.h"
 
 #include "base/Text.h"
-#include "model/AspectEditor.h"
+#include "forms/AspectEditor.h"
 #include "ops/GeneralCommands.h"
 #include "shell/Bindings.h"
 

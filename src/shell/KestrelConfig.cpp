@@ -1,7 +1,9 @@
 #include "shell/KestrelConfig.h"
+#include "forms/MainWindowForm.h"
+#include "forms/DevicesForm.h"
 
 #include "files/ConfigurationFile.h"
-#include "model/AspectEditor.h"
+#include "forms/AspectEditor.h"
 #include "model/PinTools.h"
 #include "ops/Bulk.h"
 #include "ops/EventControl.h"

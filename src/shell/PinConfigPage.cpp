@@ -1,10 +1,10 @@
 #include "shell/PinConfigPage.h"
 
 #include "base/Text.h"
-#include "model/AspectEditor.h"
+#include "forms/AspectEditor.h"
 #include "ops/LiveOutput.h"
 #include "ops/PinConfigTransfer.h"
-#include "pins/PinConfigView.h"
+#include "forms/PinConfigView.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>

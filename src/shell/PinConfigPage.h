@@ -1,6 +1,6 @@
 #pragma once
 #include "session/Session.h"
-#include "pins/PinEdits.h"
+#include "forms/PinEdits.h"
 #include "shell/Bindings.h"
 #include "shell/Guard.h"
 

@@ -1,4 +1,5 @@
 #include "files/ConfigurationFile.h"
+#include "forms/MainWindowForm.h"
 #include "files/FilesTestSupport.h"
 #include "files/TextFile.h"
 #include "ops/Bulk.h"

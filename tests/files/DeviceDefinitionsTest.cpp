@@ -1,4 +1,5 @@
 #include "files/DeviceDefinitions.h"
+#include "forms/DevicesForm.h"
 #include "files/FilesTestSupport.h"
 #include "files/TextFile.h"
 #include "model/AddressIndex.h"

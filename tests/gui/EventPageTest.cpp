@@ -1,5 +1,6 @@
 // The Event Control page bound to a session on the built-in simulated module.
 #include "link/Clock.h"
+#include "forms/EventControlForm.h"
 #include "session/Session.h"
 #include "shell/BuiltInSim.h"
 #include "shell/EventPage.h"

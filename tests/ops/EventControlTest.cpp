@@ -1,6 +1,7 @@
 // Event control: slot bytes, single and bulk transfer, the entry boxes, the enable
 // maps and the verification lines.
 #include "support/ScriptedModule.h"
+#include "forms/EventControlForm.h"
 #include "support/SimSession.h"
 #include "ops/EventControl.h"
 

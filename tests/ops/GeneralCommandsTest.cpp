@@ -1,6 +1,7 @@
 // General page readers and writers against a scripted module: the requests byte for
 // byte, the reply checks and every message text.
 #include "support/ScriptedModule.h"
+#include "forms/GeneralForm.h"
 #include "ops/GeneralCommands.h"
 
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 #include "support/ScriptedModule.h"
 #include "ops/LiveOutput.h"
 #include "ops/PinConfigTransfer.h"
-#include "pins/PinConfigView.h"
-#include "pins/PinEdits.h"
+#include "forms/PinConfigView.h"
+#include "forms/PinEdits.h"
 
 #include <gtest/gtest.h>
 

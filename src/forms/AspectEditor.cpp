@@ -1,4 +1,4 @@
-#include "model/AspectEditor.h"
+#include "forms/AspectEditor.h"
 
 #include "base/ProgramFault.h"
 #include "base/Text.h"

@@ -1,4 +1,4 @@
-#include "pins/PinConfigView.h"
+#include "forms/PinConfigView.h"
 
 #include "pins/PinConfig.h"
 

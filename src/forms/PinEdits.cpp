@@ -1,4 +1,4 @@
-#include "pins/PinEdits.h"
+#include "forms/PinEdits.h"
 
 #include "base/ProgramFault.h"
 #include "base/Text.h"

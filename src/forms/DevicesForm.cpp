@@ -1,0 +1,63 @@
+#include "forms/DevicesForm.h"
+
+#include "base/UserDialogs.h"
+#include "files/TextFile.h"
+#include "model/PinTools.h"
+
+#include <filesystem>
+
+namespace kestrel {
+
+void loadStandardDeviceList(DeviceList& list, const std::string& programFolder, UserDialogs& dialogs) {
+    const std::string standard = (std::filesystem::path(programFolder) / kStandardDeviceFile).string();
+    if (readDeviceList(list, standard, ListMode::Replace, dialogs) != ListLoad::CannotOpen)
+        return;
+    dialogs.message("Can not find Device Configuration file at standard location", Icon::Warning);
+    const std::string chosen =
+        dialogs.openFileName("Load Device Definitions", kDeviceFileFilter, kStandardDeviceFile);
+    if (chosen.empty() || readDeviceList(list, chosen, ListMode::Replace, dialogs) == ListLoad::CannotOpen)
+        dialogs.message("No Device Configuration available", Icon::Warning);
+}
+
+void CommandReloadDD_MouseDown(DeviceList& list, UserDialogs& dialogs, int button, int shift) {
+    if (button != 1)
+        return;
+    const ListMode mode = shift == 1 ? ListMode::Append : ListMode::Replace;
+    const std::string path = dialogs.openFileName("Load Device Definitions", kDeviceFileFilter, "");
+    if (readDeviceList(list, path, mode, dialogs) == ListLoad::CannotOpen)
+        dialogs.message("No Device Configuration file selected", Icon::Warning);
+}
+
+bool CommandPAspPreLoad_Click(const DeviceList& list, Configuration& config, UserDialogs& dialogs) {
+    if (list.selected < 0 || list.selected >= static_cast<int>(list.cboDevice.size())) {
+        dialogs.message("Select Devicename to load", Icon::Warning);
+        return false;
+    }
+    const std::string& path = list.paths[list.selected];
+    std::string text;
+    std::string error;
+    if (!readTextFile(path, text, error)) {
+        dialogs.message("Can not open " + path + ": " + error, Icon::Warning);
+        return false;
+    }
+    return loadDeviceFromText(text, list.cboDevice[list.selected], config, dialogs);
+}
+
+bool CommandSaveDevice_Click(Configuration& config, UserDialogs& dialogs) {
+    const int head = deviceHead(config, config.CurrentPin);
+    if (config.pin(head).DeviceOffset != 0) {
+        dialogs.message("Referral is not a device", Icon::Warning);
+        return false;
+    }
+    const std::string path = dialogs.saveFileName("Save Device", kDeviceFileFilter, "");
+    if (path.empty())
+        return false;
+    std::string error;
+    if (!saveDeviceFile(path, config, head, error)) {
+        dialogs.message("The device was not saved: " + error, Icon::Warning);
+        return false;
+    }
+    return true;
+}
+
+} // namespace kestrel

@@ -1,0 +1,49 @@
+#include "forms/GeneralForm.h"
+
+#include "session/Session.h"
+
+namespace kestrel {
+namespace {
+// The module has new addresses to show, or a new serial addressing mode: the window
+// refreshes what shows them.
+void dccAddressChanged(Session& s)
+{
+    if (s.onDccAddressChanged)
+        s.onDccAddressChanged();
+}
+
+void pinAddressDisplayChanged(Session& s)
+{
+    if (s.onPinAddressDisplayChanged)
+        s.onPinAddressDisplayChanged();
+}
+} // namespace
+} // namespace kestrel
+
+namespace kestrel {
+
+void CheckGenLynxaddr_Click(Session& session)
+{
+    auto& g = session.general;
+    if (g.CheckGenLynxaddr == 1 && !g.SuppressAddrWarning) {
+        const Answer a = session.dialogs().ask("Lynx Flexible Addressing is a complex concept !!\r\n"
+                                               "It should only be activated by experienced users\r\n"
+                                               "that understand the details very well !",
+                                               Buttons::OkCancel, Icon::Warning);
+        if (a != Answer::Ok)
+            g.CheckGenLynxaddr = 0;
+    }
+    applyAddressingVisibility(g);
+    pinAddressDisplayChanged(session);
+}
+
+void CheckGenKestrelNative_Click(Session& session)
+{
+    auto& g = session.general;
+    g.CheckGenLynxaddrVisible = g.CheckGenKestrelNative != 1;
+    pinAddressDisplayChanged(session);
+}
+
+void ChkGenDCCAllow0_Click(Session& session) { dccAddressChanged(session); }
+
+} // namespace kestrel
