@@ -12,6 +12,7 @@
 #include "shell/ConsoleDialogs.h"
 #include "shell/ConsoleProgress.h"
 #include "shell/PortRouter.h"
+#include "shell/ProgramSession.h"
 #include "shell/QtSerialPort.h"
 
 #include <charconv>
@@ -281,10 +282,8 @@ int runCli(const std::vector<std::string>& args)
     ConsoleDialogs dialogs;
     dialogs.yes = options.yes;
     ConsoleProgress progress;
-    SystemClock clock;
-    PortRouter port(std::make_unique<QtSerialPort>(), makeBuiltInSimPort());
-    Session session(port, clock, dialogs);
-    session.linkControl.systemPorts = &QtSerialPort::systemPorts;
+    ProgramSession program(dialogs);
+    Session& session = *program.session;
 
     if (options.command == "ports") {
         session.linkControl.ScanPorts();
@@ -310,7 +309,7 @@ int runCli(const std::vector<std::string>& args)
             session.link.settings.CheckKestrelBD = false;
         else
             session.link.missingReplyFails = true; // a job never goes on blind
-        CorvidControl corvid(session.link, session.linkControl);
+        CorvidControl& corvid = *program.corvid;
         // The tunnel goes on before the address is taken, so that 16..31 are allowed.
         if (options.corvid && options.command != "transparent" && !corvid.CheckCorvid_Click(true))
             return kFailed;

@@ -13,6 +13,7 @@
 #include "shell/GeneralPage.h"
 #include "shell/PinConfigPage.h"
 #include "shell/QtProgress.h"
+#include "shell/ProgramSession.h"
 #include "shell/QtSerialPort.h"
 #include "shell/Bindings.h"
 
@@ -98,10 +99,9 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
 {
     setObjectName("KestrelConfig");
     setWindowTitle("Kestrel Config");
-    port = std::make_unique<PortRouter>(std::make_unique<QtSerialPort>(), makeBuiltInSimPort());
-    core = std::make_unique<Session>(*port, clock, dialogs ? *dialogs : static_cast<UserDialogs&>(boxes));
-    core->linkControl.systemPorts = &QtSerialPort::systemPorts;
-    corvid = std::make_unique<CorvidControl>(core->link, core->linkControl);
+    program = std::make_unique<ProgramSession>(dialogs ? *dialogs : static_cast<UserDialogs&>(boxes));
+    core = program->session.get();
+    corvid = program->corvid.get();
     guard = std::make_unique<Guard>(*core);
 
     auto* central = new QWidget;
@@ -489,8 +489,9 @@ void KestrelConfig::CommandVerifyAll_Click()
 
 KestrelConfig::~KestrelConfig()
 {
-    // The session's link refers to the port and the dialogs: let it go first.
-    core.reset();
+    // The session refers to the dialogs of the window: it goes first.
+    guard.reset();
+    program.reset();
 }
 
 void KestrelConfig::buildLinkArea(QWidget* host)

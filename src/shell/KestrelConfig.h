@@ -25,6 +25,7 @@ class QTimer;
 class QCloseEvent;
 
 namespace kestrel {
+struct ProgramSession;
 class GeneralPage;
 class EventPage;
 class PinConfigPage;
@@ -171,10 +172,9 @@ private:
     void ensureCorvidWindow();
 
     QtDialogs boxes;
-    std::unique_ptr<PortRouter> port;
-    SystemClock clock;
-    std::unique_ptr<Session> core;
-    std::unique_ptr<CorvidControl> corvid;
+    std::unique_ptr<ProgramSession> program;
+    Session* core = nullptr;         // program's session
+    CorvidControl* corvid = nullptr; // program's Corvid controls
     std::unique_ptr<Guard> guard;
     QGroupBox* linkFrame = nullptr; // the frame LabelPort's double-click shows and hides
     QString fileName;
