@@ -1,5 +1,7 @@
 #include "link/Link.h"
 
+#include <algorithm>
+
 #include "base/ProgramFault.h"
 #include "base/Text.h"
 
@@ -120,6 +122,28 @@ bool Link::wakeUp()
 bool Link::SendKestrelMessage(bool expectReply, int size, std::initializer_list<int> bytes)
 {
     return SendKestrelMessage(expectReply, size, toArray15(size, bytes));
+}
+
+namespace {
+std::array<int, 15> fromVector(const std::vector<int>& bytes)
+{
+    if (bytes.size() > 15)
+        throw ProgramFault("SendKestrelMessage: more than 15 data bytes given");
+    std::array<int, 15> out{};
+    std::copy(bytes.begin(), bytes.end(), out.begin());
+    return out;
+}
+} // namespace
+
+KestrelReply Link::request(const std::vector<int>& bytes)
+{
+    lastSent = SendKestrelMessage(true, static_cast<int>(bytes.size()), fromVector(bytes));
+    return lastReply();
+}
+
+bool Link::send(const std::vector<int>& bytes)
+{
+    return SendKestrelMessage(false, static_cast<int>(bytes.size()), fromVector(bytes));
 }
 
 bool Link::SendKestrelMessage(bool expectReply, int size, const std::array<int, 15>& b)

@@ -8,6 +8,7 @@
 #include <functional>
 #include <initializer_list>
 #include <string>
+#include <vector>
 
 namespace kestrel {
 
@@ -28,6 +29,25 @@ struct LinkState {
     bool CorvidFlagB = false;
     std::array<int, 21> ReplyBuffer{};
     bool ReplyValid = false;
+};
+
+// A reply as the module sent it, read from ReplyBuffer (which keeps its meaning for what
+// shows it): the address byte, the header, and the data from the echoed command on.
+struct KestrelReply {
+    bool valid = false; // a reply arrived and passed the transport's checks
+    bool sent = false;  // the request went out (false: no port, cancelled, a failed tunnel)
+    std::array<int, 21> bytes{};
+
+    int address() const { return bytes[0]; }
+    int header() const { return bytes[1]; }
+    int length() const { return bytes[1] & 15; } // bytes from the echoed command on
+    int command() const { return bytes[2]; }
+    int item() const { return bytes[3]; }
+    // Data byte i after the echoed command and item (ReplyBuffer[4 + i]).
+    int data(int i) const { return bytes[static_cast<std::size_t>(4 + i)]; }
+    // The one check of a reply: `n` bytes from the command on, echoing command c and item i.
+    bool echoes(int c, int i) const { return command() == c && item() == i; }
+    bool is(int n, int c, int i) const { return valid && length() == n && echoes(c, i); }
 };
 
 // Counters for benchmarks and the curious.
@@ -72,6 +92,14 @@ public:
     bool SendKestrelMessage(bool expectReply, int size, std::initializer_list<int> bytes);
     bool SendKestrelMessage(bool expectReply, int size, const std::array<int, 15>& bytes);
 
+    // Every request of the operations goes through these two, the size taken from the
+    // bytes given. request() waits for the reply and returns it (not valid when none came);
+    // send() awaits nothing and returns false when nothing could be sent.
+    KestrelReply request(const std::vector<int>& bytes);
+    bool send(const std::vector<int>& bytes);
+    // The last reply, as request() returned it.
+    KestrelReply lastReply() const { return {state.ReplyValid, lastSent, state.ReplyBuffer}; }
+
     // The older fixed four-byte message; no reply is awaited.
     void SendLynxMessage(int first, int d1, int d2, int d3);
 
@@ -109,6 +137,7 @@ private:
     UserDialogs& ui;
     Progress* progress = nullptr;
     bool lostReported = false;
+    bool lastSent = false;
     int unsentOnWire = 0;
     bool tunnelStale = false; // a tunnelled exchange was cut short; poll before the next
 };

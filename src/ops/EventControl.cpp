@@ -46,14 +46,13 @@ std::string notSupported(EventSide side)
 EventRead readSlots(Session& s, EventSide side, int pin, std::array<int, kEventSlots>& slots)
 {
     const auto& si = info(side);
-    s.link.SendKestrelMessage(true, 2, {si.readCommand, pin});
-    if (!s.link.state.ReplyValid)
+    const KestrelReply r = s.link.request({si.readCommand, pin});
+    if (!r.valid)
         return EventRead::NoReply;
-    const auto& r = s.link.state.ReplyBuffer;
-    if ((r[1] & 15) != si.replyLength || r[2] != si.readCommand || r[3] != pin)
+    if (!r.is(si.replyLength, si.readCommand, pin))
         return EventRead::WrongReply;
     for (int i = 0; i < kEventSlots; ++i)
-        slots[i] = decodeEventSlot(i, r[si.firstSlot + i]);
+        slots[i] = decodeEventSlot(i, r.bytes[si.firstSlot + i]);
     return EventRead::Ok;
 }
 
@@ -153,9 +152,7 @@ bool WritePinEvents(Session& session, EventSide side, int pin)
     if (!sendable(session, unsendableEvents(session.config, {pin})))
         return false;
     const auto& e = entries(session, side, pin);
-    const bool ok = session.link.SendKestrelMessage(
-        false, 6,
-        {info(side).writeCommand, pin, encodeEventSlot(0, e[0]), encodeEventSlot(1, e[1]), encodeEventSlot(2, e[2]),
+    const bool ok = session.link.send({info(side).writeCommand, pin, encodeEventSlot(0, e[0]), encodeEventSlot(1, e[1]), encodeEventSlot(2, e[2]),
          encodeEventSlot(3, e[3])});
     if (ok)
         pace(session);
@@ -194,11 +191,11 @@ int enableMapOff(const GeneralSettings& g)
 bool ReadEnableMaps(Session& session)
 {
     session.link.setBidirectional(true);
-    session.link.SendKestrelMessage(true, 2, {kGeneralRead, kItemEventEnable});
-    if (!session.link.state.ReplyValid)
+    const KestrelReply reply = session.link.request({kGeneralRead, kItemEventEnable});
+    if (!reply.valid)
         return false;
-    const auto& r = session.link.state.ReplyBuffer;
-    if ((r[1] & 15) != 4) {
+    const auto& r = reply.bytes;
+    if (reply.length() != 4) {
         session.dialogs().message("No valid response size", Icon::None);
         return false;
     }
@@ -216,8 +213,7 @@ bool ReadEnableMaps(Session& session)
 bool WriteEnableMaps(Session& session)
 {
     const auto& g = session.general;
-    return session.link.SendKestrelMessage(false, 4,
-                                           {kGeneralWrite, kItemEventEnable, enableMapOn(g), enableMapOff(g)});
+    return session.link.send({kGeneralWrite, kItemEventEnable, enableMapOn(g), enableMapOff(g)});
 }
 
 bool VerifyEventControl(Session& session)
@@ -237,11 +233,11 @@ bool VerifyEventControl(Session& session)
             return false;
     }
 
-    session.link.SendKestrelMessage(true, 2, {kGeneralRead, kItemEventEnable});
-    if (!session.link.state.ReplyValid)
+    const KestrelReply reply = session.link.request({kGeneralRead, kItemEventEnable});
+    if (!reply.valid)
         return false;
-    const auto& r = session.link.state.ReplyBuffer;
-    if ((r[1] & 15) != 4) {
+    const auto& r = reply.bytes;
+    if (reply.length() != 4) {
         report.line("ECInit: No valid response size");
         return false;
     }

@@ -8,13 +8,13 @@ namespace kestrel {
 namespace {
 
 const std::array<int, 21>& reply(Session& s) { return s.link.state.ReplyBuffer; }
-int replyLength(Session& s) { return reply(s)[1] & 15; }
-bool echoes(Session& s, int command, int item) { return reply(s)[2] == command && reply(s)[3] == item; }
+int replyLength(Session& s) { return s.link.lastReply().length(); }
+bool echoes(Session& s, int command, int item) { return s.link.lastReply().echoes(command, item); }
 
 // One read request (True, 2, 112, item); True when a valid reply came back.
 bool requestItem(Session& s, int item)
 {
-    s.link.SendKestrelMessage(true, 2, {kGeneralRead, item});
+    s.link.request({kGeneralRead, item});
     return s.link.state.ReplyValid;
 }
 
@@ -80,10 +80,10 @@ bool WriteIDString(Session& session)
     auto& text = session.general.TextGenIDString;
     if (text.size() > kIdStringLength)
         text = text.substr(0, kIdStringLength);
-    std::array<int, 15> bytes{kGeneralWrite, kItemIdString};
-    for (std::size_t i = 0; i < text.size(); ++i)
-        bytes[2 + i] = static_cast<unsigned char>(text[i]);
-    return session.link.SendKestrelMessage(false, static_cast<int>(text.size()) + 2, bytes);
+    std::vector<int> bytes{kGeneralWrite, kItemIdString};
+    for (char c : text)
+        bytes.push_back(static_cast<unsigned char>(c));
+    return session.link.send(bytes);
 }
 
 // ---- DCC settings ----
@@ -152,11 +152,11 @@ bool WriteDCCSettings(Session& session)
     auto& link = session.link;
     // All three are sent whatever the one before did (unlike the serial addressing
     // writes); the result is True only when the transport took every one of them.
-    bool ok = link.SendKestrelMessage(false, 3, {kGeneralWrite, kItemDccOptions, dccOptionsByte(g)});
+    bool ok = link.send({kGeneralWrite, kItemDccOptions, dccOptionsByte(g)});
     const auto dcc = dccAddressBytes(g.TextGenDCCAddress);
-    ok = link.SendKestrelMessage(false, 4, {kGeneralWrite, kItemDccAddress, dcc[0], dcc[1]}) && ok;
+    ok = link.send({kGeneralWrite, kItemDccAddress, dcc[0], dcc[1]}) && ok;
     const auto xdcc = dccAddressBytes(g.TextGenXDCCAddress);
-    ok = link.SendKestrelMessage(false, 4, {kGeneralWrite, kItemXDccAddress, xdcc[0], xdcc[1]}) && ok;
+    ok = link.send({kGeneralWrite, kItemXDccAddress, xdcc[0], xdcc[1]}) && ok;
     return ok;
 }
 
@@ -238,14 +238,13 @@ bool WriteSerialAddressing(Session& session)
         return false;
     const auto& g = session.general;
     auto& link = session.link;
-    if (!link.SendKestrelMessage(false, 4,
-                                 {kGeneralWrite, kItemSerialAddressing, g.CheckGenLynxaddr == 1 ? 1 : 0,
+    if (!link.send({kGeneralWrite, kItemSerialAddressing, g.CheckGenLynxaddr == 1 ? 1 : 0,
                                   serialAddressModeByte(g)}))
         return false;
     const auto m = groupMaskBytes(g);
-    if (!link.SendKestrelMessage(false, 6, {kGeneralWrite, kItemGroupMask, m[0], m[1], m[2], m[3]}))
+    if (!link.send({kGeneralWrite, kItemGroupMask, m[0], m[1], m[2], m[3]}))
         return false;
-    return link.SendKestrelMessage(false, 3, {kGeneralWrite, kItemExtendedAddress, g.ExtendedAddress});
+    return link.send({kGeneralWrite, kItemExtendedAddress, g.ExtendedAddress});
 }
 
 bool CommandGenAddrRead_Click(Session& session)
@@ -296,7 +295,7 @@ bool ReadHardwareConfig(Session& session)
 bool WriteHardwareConfig(Session& session)
 {
     const auto b = hardwareConfigBytes(session.general);
-    return session.link.SendKestrelMessage(false, 6, {kGeneralWrite, kItemHardwareConfig, b[0], b[1], b[2], b[3]});
+    return session.link.send({kGeneralWrite, kItemHardwareConfig, b[0], b[1], b[2], b[3]});
 }
 
 // ---- LED control ----
@@ -343,9 +342,9 @@ bool WriteLEDControl(Session& session)
     auto& link = session.link;
     // Orange is sent also when green was not taken; True only when both were.
     const bool green =
-        link.SendKestrelMessage(false, 3, {kGeneralWrite, kItemGreenLed, ledByte(session.general.CheckLCGreen)});
+        link.send({kGeneralWrite, kItemGreenLed, ledByte(session.general.CheckLCGreen)});
     const bool orange =
-        link.SendKestrelMessage(false, 3, {kGeneralWrite, kItemOrangeLed, ledByte(session.general.CheckLCOrange)});
+        link.send({kGeneralWrite, kItemOrangeLed, ledByte(session.general.CheckLCOrange)});
     return green && orange;
 }
 
@@ -391,7 +390,7 @@ bool ReadSerialPortSettings(Session& session)
 bool WriteSerialPortSettings(Session& session)
 {
     const auto& g = session.general;
-    return session.link.SendKestrelMessage(false, 4, {kGeneralWrite, kItemSerialPort, g.CheckGenSerialEnable,
+    return session.link.send({kGeneralWrite, kItemSerialPort, g.CheckGenSerialEnable,
                                                       serialPortByte(g)});
 }
 
@@ -419,7 +418,7 @@ bool EraseFlash(Session& session)
     link.setBidirectional(false); // nothing answers an erase
     const auto& k = kEraseSequence;
     const bool sent =
-        link.SendKestrelMessage(false, 10, {kGeneralWrite, kItemVersionErase, k[0], k[1], k[2], k[3], k[4], k[5], k[6], k[7]});
+        link.send({kGeneralWrite, kItemVersionErase, k[0], k[1], k[2], k[3], k[4], k[5], k[6], k[7]});
     link.setBidirectional(bidirectional);
     return sent;
 }

@@ -15,7 +15,7 @@ constexpr int kPwmSlow = 54;
 
 bool sendLive(Session& session, int subCommand, int value)
 {
-    return session.link.SendKestrelMessage(false, 4, {0, subCommand, session.config.CurrentPin, value});
+    return session.link.send({0, subCommand, session.config.CurrentPin, value});
 }
 
 } // namespace

@@ -11,11 +11,11 @@ bool ReadPinConfig(Session& session, int source, int pin)
 {
     Link& link = session.link;
     link.setBidirectional(true);
-    link.SendKestrelMessage(true, 2, {kReadActiveConfig + 32 * source, pin});
-    if (!link.state.ReplyValid)
+    const KestrelReply reply = link.request({kReadActiveConfig + 32 * source, pin});
+    if (!reply.valid)
         return false;
-    const auto& r = link.state.ReplyBuffer;
-    const int lengthField = r[1] & 15;
+    const auto& r = reply.bytes;
+    const int lengthField = reply.length();
     const int n = lengthField - 2;
     if (n < 1 || (r[2] != kReadFlashConfig && r[2] != kReadActiveConfig) || r[3] != pin || pin > 32) {
         link.dialogs().message("No valid response");
@@ -34,12 +34,9 @@ bool SendPinConfig(Session& session, int target, int pin)
     if (rec.ConfigMode == kModeServo)
         rec.P(2) &= 63;
     const std::vector<int> data = pinConfigBytes(rec, target);
-    std::array<int, 15> message{};
-    message[0] = kSendActiveConfig + 32 * target;
-    message[1] = pin;
-    for (std::size_t i = 0; i < data.size(); ++i)
-        message[2 + i] = data[i];
-    return session.link.SendKestrelMessage(false, static_cast<int>(data.size()) + 2, message);
+    std::vector<int> message{kSendActiveConfig + 32 * target, pin};
+    message.insert(message.end(), data.begin(), data.end());
+    return session.link.send(message);
 }
 
 } // namespace kestrel

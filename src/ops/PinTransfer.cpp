@@ -26,13 +26,9 @@ constexpr int kPacingMs = 100;
 const char* const kNoValidResponse = "No valid response";
 const char* const kAddrConfigInvalid = "Read Pin Address Configuration: Invalid Response";
 
-int replyLength(const Link& link) { return link.state.ReplyBuffer[1] & 15; }
+int replyLength(const Link& link) { return link.lastReply().length(); }
 
-bool replyIs(const Link& link, int length, int command, int pin)
-{
-    const auto& r = link.state.ReplyBuffer;
-    return replyLength(link) == length && r[2] == command && r[3] == pin;
-}
+bool replyIs(const Link& link, int length, int command, int pin) { return link.lastReply().is(length, command, pin); }
 
 // The five step bytes of a 115 reply.
 std::array<int, 5> replyStepBytes(const Link& link)
@@ -71,7 +67,7 @@ std::optional<int> readDeviceHead(Session& session, int pin, bool& answered)
 {
     Link& link = session.link;
     link.setBidirectional(true);
-    link.SendKestrelMessage(true, 2, {kReadAddrConfig, pin});
+    link.request({kReadAddrConfig, pin});
     answered = link.state.ReplyValid;
     if (!answered || !replyIs(link, 5, kReadAddrConfig, pin))
         return std::nullopt;
@@ -92,7 +88,7 @@ bool readPinAspects(Session& session, int pin)
     const auto& r = link.state.ReplyBuffer;
 
     link.setBidirectional(true);
-    link.SendKestrelMessage(true, 2, {kReadLayout, pin});
+    link.request({kReadLayout, pin});
     if (!link.state.ReplyValid)
         return false;
     if (!replyIs(link, 3, kReadLayout, pin)) {
@@ -104,7 +100,7 @@ bool readPinAspects(Session& session, int pin)
     const LayoutSlots slots = layoutSlots(rec.AspectLayout);
     for (int a = 0; a < slots.aspects; ++a) {
         for (int s = 0; s < slots.steps; ++s) {
-            link.SendKestrelMessage(true, 4, {kReadStep, pin, a, s});
+            link.request({kReadStep, pin, a, s});
             if (!link.state.ReplyValid)
                 return false;
             if (!replyIs(link, 9, kReadStep, pin) || r[4] != a || r[5] != s) {
@@ -115,12 +111,12 @@ bool readPinAspects(Session& session, int pin)
         }
     }
 
-    if (!link.SendKestrelMessage(true, 2, {kReadEventOn, pin}))
+    if (!link.request({kReadEventOn, pin}).sent)
         return false;
     const bool initOk = link.state.ReplyValid && replyIs(link, 7, kReadEventOn, pin);
     rec.InitAspect = static_cast<std::uint8_t>(initOk ? decodeInitEntry(r[4]) : 0);
 
-    link.SendKestrelMessage(true, 2, {kReadAddrConfig, pin});
+    link.request({kReadAddrConfig, pin});
     if (!link.state.ReplyValid)
         return false;
     if (!replyIs(link, 5, kReadAddrConfig, pin)) {
@@ -166,13 +162,12 @@ bool WritePin(Session& session, int pin, bool withPinConfig)
     const PinRecord& rec = session.config.pin(pin);
     if (!sendable(session, unsendablePins(session.config, {pin}, withPinConfig)))
         return false;
-    if (!paced(session, link.SendKestrelMessage(false, 3, {kWriteLayout, pin, rec.AspectLayout})))
+    if (!paced(session, link.send({kWriteLayout, pin, rec.AspectLayout})))
         return false;
-    if (!paced(session, link.SendKestrelMessage(false, 3, {kWriteInit, pin, initEntry(rec)})))
+    if (!paced(session, link.send({kWriteInit, pin, initEntry(rec)})))
         return false;
     const int counts = 8 * rec.XDccCount + rec.DccCount;
-    if (!paced(session, link.SendKestrelMessage(false, 5,
-                                                {kWriteAddrConfig, pin, counts, 16 + rec.LynxCount,
+    if (!paced(session, link.send({kWriteAddrConfig, pin, counts, 16 + rec.LynxCount,
                                                  64 + (rec.DeviceOffset & 31)})))
         return false;
     const LayoutSlots slots = layoutSlots(rec.AspectLayout);
@@ -180,7 +175,7 @@ bool WritePin(Session& session, int pin, bool withPinConfig)
         for (int s = 0; s < slots.steps; ++s) {
             const auto b = encodeStep(session.config.step(pin, a, s));
             if (!paced(session,
-                       link.SendKestrelMessage(false, 9, {kWriteStep, pin, a, s, b[0], b[1], b[2], b[3], b[4]})))
+                       link.send({kWriteStep, pin, a, s, b[0], b[1], b[2], b[3], b[4]})))
                 return false;
         }
     }
@@ -290,7 +285,7 @@ bool verifyPin(Session& session, int pin, bool& stopped)
     };
 
     // The pin configuration comes first, then what ReadPin reads, in its order.
-    link.SendKestrelMessage(true, 2, {kReadFlashConfig, pin});
+    link.request({kReadFlashConfig, pin});
     if (!link.state.ReplyValid)
         return stop();
     const int lengthField = replyLength(link);
@@ -301,7 +296,7 @@ bool verifyPin(Session& session, int pin, bool& stopped)
     if (pinConfigBytes(flash, 1) != pinConfigBytes(rec, 1))
         mismatch(": Pinconfig does not compare");
 
-    link.SendKestrelMessage(true, 2, {kReadLayout, pin});
+    link.request({kReadLayout, pin});
     if (!link.state.ReplyValid || !replyIs(link, 3, kReadLayout, pin))
         return stop();
     if (r[4] != rec.AspectLayout) {
@@ -311,7 +306,7 @@ bool verifyPin(Session& session, int pin, bool& stopped)
         for (int a = 0; a < slots.aspects; ++a) {
             bool aspectSame = true;
             for (int s = 0; s < slots.steps; ++s) {
-                link.SendKestrelMessage(true, 4, {kReadStep, pin, a, s});
+                link.request({kReadStep, pin, a, s});
                 if (!link.state.ReplyValid || !replyIs(link, 9, kReadStep, pin) || r[4] != a || r[5] != s)
                     return stop();
                 if (replyStepBytes(link) != encodeStep(session.config.step(pin, a, s)))
@@ -322,14 +317,14 @@ bool verifyPin(Session& session, int pin, bool& stopped)
         }
     }
 
-    link.SendKestrelMessage(true, 2, {kReadEventOn, pin});
+    link.request({kReadEventOn, pin});
     if (!link.state.ReplyValid)
         return stop();
     const int init = replyIs(link, 7, kReadEventOn, pin) ? decodeInitEntry(r[4]) : 0;
     if (init != rec.InitAspect)
         mismatch(": Init does not compare");
 
-    link.SendKestrelMessage(true, 2, {kReadAddrConfig, pin});
+    link.request({kReadAddrConfig, pin});
     if (!link.state.ReplyValid)
         return stop();
     if (!replyIs(link, 5, kReadAddrConfig, pin)) {

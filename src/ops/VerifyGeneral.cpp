@@ -16,12 +16,12 @@ public:
     // Sends the read request; false when no valid reply came back.
     bool request(int item)
     {
-        s.link.SendKestrelMessage(true, 2, {kGeneralRead, item});
-        return s.link.state.ReplyValid;
+        reply = s.link.request({kGeneralRead, item});
+        return reply.valid;
     }
-    int length() const { return s.link.state.ReplyBuffer[1] & 15; }
-    bool echoes(int item) const { return data(2) == kGeneralRead && data(3) == item; }
-    int data(int i) const { return s.link.state.ReplyBuffer[i]; }
+    int length() const { return reply.length(); }
+    bool echoes(int item) const { return reply.echoes(kGeneralRead, item); }
+    int data(int i) const { return reply.bytes[static_cast<std::size_t>(i)]; }
 
     std::string sizeLine(const std::string& what, int expected) const
     {
@@ -36,6 +36,7 @@ public:
 
 private:
     Session& s;
+    KestrelReply reply;
 };
 
 } // namespace
