@@ -1,5 +1,7 @@
 #include "files/ConfigurationFile.h"
 
+#include "session/GeneralCodec.h"
+
 #include "files/FileRecords.h"
 #include "files/ItemStream.h"
 #include "files/TextFile.h"
@@ -30,31 +32,25 @@ int checked(int box) {
 void writeGeneral(ItemWriter& w, const GeneralSettings& g) {
     w.line().text("ID$").text(g.TextGenIDString).end();
 
-    const int flags = (g.OptGenDCC_PRP & 3) + 4 * checked(g.ChkGenDCC_BPSI) + 8 * checked(g.ChkGenDCCAllow0);
-    w.line().text("DCC").real(val(g.TextGenDCCAddress)).real(val(g.TextGenXDCCAddress)).number(flags).end();
+    // The same bytes as the module's requests (one codec), but for the address mode.
+    w.line()
+        .text("DCC")
+        .real(val(g.TextGenDCCAddress))
+        .real(val(g.TextGenXDCCAddress))
+        .number(dccOptionsByte(g))
+        .end();
 
-    const int a = g.CheckGenLynxaddr == 1 ? g.LynxFlexAddress : (g.CheckGenKestrelNative == 1 ? 64 : 0);
-    w.line().text("XAD").number(a).number(checked(g.CheckGenLynxaddr)).number(g.ExtendedAddress);
-    for (int i = 0; i < 4; ++i) {
-        int mask = 0;
-        for (int j = 0; j < 4; ++j)
-            mask |= checked(g.CheckGenXGM[4 * i + j]) << j;
+    w.line().text("XAD").number(fileAddressModeByte(g)).number(checked(g.CheckGenLynxaddr)).number(g.ExtendedAddress);
+    for (int mask : groupMaskBytes(g))
         w.number(mask);
-    }
     w.end();
 
     w.line().text("HWC");
-    for (int i = 0; i < 4; ++i)
-        w.number(2 * checked(g.ChkGenHWCSource[i]) + checked(g.ChkGenHWCSink[i]));
+    for (int b : hardwareConfigBytes(g))
+        w.number(b);
     w.end();
 
-    int green = 0;
-    int orange = 0;
-    for (int k = 0; k < 7; ++k) {
-        green |= checked(g.CheckLCGreen[k]) << k;
-        orange |= checked(g.CheckLCOrange[k]) << k;
-    }
-    w.line().text("LED").number(green).number(orange).end();
+    w.line().text("LED").number(ledByte(g.CheckLCGreen)).number(ledByte(g.CheckLCOrange)).end();
 
     checkIndex(g.ComboGenBaud, static_cast<long>(kGenBaudList.size()), "baud list entry");
     const int parity = g.OptionGenSerialParity == 2 ? 2 : (g.OptionGenSerialParity == 3 ? 3 : 0);

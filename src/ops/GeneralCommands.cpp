@@ -88,21 +88,7 @@ bool WriteIDString(Session& session)
 
 // ---- DCC settings ----
 
-int dccOptionsByte(const GeneralSettings& g) { return g.OptGenDCC_PRP + 4 * g.ChkGenDCC_BPSI + 8 * g.ChkGenDCCAllow0; }
 
-std::array<int, 2> dccAddressBytes(const std::string& text)
-{
-    const long a = valInt(text);
-    // Floor division, so that low stays 0..63 whatever the sign (a negative address
-    // gives a negative high byte, which the link refuses as a data byte).
-    long high = a / 64;
-    long low = a % 64;
-    if (low < 0) {
-        low += 64;
-        --high;
-    }
-    return {static_cast<int>(low), static_cast<int>(high)};
-}
 
 bool ReadDCCSettings(Session& session)
 {
@@ -169,16 +155,7 @@ void applyAddressingVisibility(GeneralSettings& g)
     g.CheckGenLynxaddrVisible = g.CheckGenKestrelNative != 1;
 }
 
-int serialAddressModeByte(const GeneralSettings& g) { return g.CheckGenKestrelNative == 1 ? 64 : g.LynxFlexAddress; }
 
-std::array<int, 4> groupMaskBytes(const GeneralSettings& g)
-{
-    std::array<int, 4> m{};
-    for (int grp = 0; grp < 4; ++grp)
-        m[grp] = g.CheckGenXGM[4 * grp] + 2 * g.CheckGenXGM[4 * grp + 1] + 4 * g.CheckGenXGM[4 * grp + 2] +
-                 8 * g.CheckGenXGM[4 * grp + 3];
-    return m;
-}
 
 bool ReadSerialAddressing(Session& session)
 {
@@ -257,13 +234,6 @@ bool CommandGenAddrRead_Click(Session& session)
 
 // ---- Hardware configuration ----
 
-std::array<int, 4> hardwareConfigBytes(const GeneralSettings& g)
-{
-    std::array<int, 4> b{};
-    for (int grp = 0; grp < 4; ++grp)
-        b[grp] = g.ChkGenHWCSink[grp] + 2 * g.ChkGenHWCSource[grp];
-    return b;
-}
 
 bool ReadHardwareConfig(Session& session)
 {
@@ -300,25 +270,7 @@ bool WriteHardwareConfig(Session& session)
 
 // ---- LED control ----
 
-int ledByte(const std::array<int, 8>& boxes)
-{
-    int b = 0;
-    for (int i = 6; i >= 0; --i)
-        b = b * 2 + boxes[i];
-    return b;
-}
 
-void setLedBoxes(std::array<int, 8>& boxes, int b)
-{
-    if (b == 0) {
-        boxes.fill(0);
-        boxes[7] = 1;
-        return;
-    }
-    for (int i = 0; i < 7; ++i)
-        boxes[i] = bit(b, i);
-    boxes[7] = 0;
-}
 
 bool ReadLEDControl(Session& session)
 {
@@ -350,19 +302,6 @@ bool WriteLEDControl(Session& session)
 
 // ---- The module's serial port ----
 
-int serialPortByte(const GeneralSettings& g)
-{
-    int s = g.ComboGenBaud;
-    if (g.OptionGenSerialDatabits == 1)
-        s += 8;
-    if (g.OptionGenSerialStop == 1)
-        s += 64;
-    if (g.OptionGenSerialParity == 2)
-        s += 32;
-    if (g.OptionGenSerialParity == 3)
-        s += 48;
-    return s;
-}
 
 bool ReadSerialPortSettings(Session& session)
 {

@@ -1,5 +1,6 @@
 #pragma once
 #include "model/WireLimits.h"
+#include "session/GeneralCodec.h"
 #include "session/Session.h"
 
 #include <array>
@@ -61,18 +62,6 @@ bool WriteSerialPortSettings(Session& session);
 // True when the erase was sent.
 bool EraseFlash(Session& session);
 
-// What the writers send, from the current values of the page.
-int dccOptionsByte(const GeneralSettings& g);
-// An address text split as the module stores it: low 6 bits, then the rest.
-std::array<int, 2> dccAddressBytes(const std::string& text);
-int serialAddressModeByte(const GeneralSettings& g);
-std::array<int, 4> groupMaskBytes(const GeneralSettings& g);
-std::array<int, 4> hardwareConfigBytes(const GeneralSettings& g);
-int ledByte(const std::array<int, 8>& boxes);
-// How a reader shows an LED byte: 0 checks element 7 alone, anything else sets
-// elements 0..6 from bits 0..6 (bit 7 ignored) and unchecks element 7.
-void setLedBoxes(std::array<int, 8>& boxes, int b);
-int serialPortByte(const GeneralSettings& g);
 
 // Companion handlers of the General page.
 // Shows the serial addressing controls that the current modes allow.
