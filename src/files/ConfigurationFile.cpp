@@ -100,7 +100,7 @@ void writeCfgRecord(ItemWriter& w, int indent, PinRecord& pin) {
     int count = 0;
     switch (pin.ConfigMode) {
     case 1:
-        pin.P(2) &= 63;
+        pin.P(2) = servoModeToStore(pin.P(2));
         count = 11;
         break;
     case 2:
@@ -387,9 +387,7 @@ private:
             r.ConfigMode = 1;
             for (int n = 1; n <= 11; ++n)
                 r.P(n) = static_cast<std::uint8_t>(p[n]);
-            // Servo parameter 2 of the older layout: range index in the high nibble.
-            if (r.P(2) >= 16 && (r.P(2) & 8) == 0)
-                r.P(2) = static_cast<std::uint8_t>(r.P(2) / 16 + 40);
+            r.P(2) = currentServoMode(r.P(2));
             break;
         case 2:
         case 3:

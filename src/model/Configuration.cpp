@@ -4,6 +4,11 @@
 
 namespace kestrel {
 
+std::uint8_t currentServoMode(std::uint8_t p2)
+{
+    return p2 >= 16 && (p2 & 8) == 0 ? static_cast<std::uint8_t>(p2 / 16 + 40) : p2;
+}
+
 std::uint8_t& PinRecord::P(int n)
 {
     checkIndex(n - 1, 12, "configuration parameter");

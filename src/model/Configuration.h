@@ -54,6 +54,13 @@ struct PinRecord {
     std::uint8_t P(int n) const;
 };
 
+// A servo's parameter 2 (its mode byte) as the module and the files hold it: one of the
+// older layout (range index in the high nibble, bit 3 clear) becomes today's (index + 40);
+// today's is kept. Bits 6 and 7 are status the module sets itself: they are never sent or
+// saved.
+std::uint8_t currentServoMode(std::uint8_t p2);
+constexpr std::uint8_t servoModeToStore(std::uint8_t p2) { return p2 & 63; }
+
 // Event-On and Event-Off actions of one pin: entries for input slots 0..3 (a fifth is
 // never used); -1 = no action. All entries start at 0.
 struct EventRecord {

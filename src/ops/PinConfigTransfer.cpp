@@ -32,7 +32,7 @@ bool SendPinConfig(Session& session, int target, int pin)
         return false;
     PinRecord& rec = session.config.pin(pin);
     if (rec.ConfigMode == kModeServo)
-        rec.P(2) &= 63;
+        rec.P(2) = servoModeToStore(rec.P(2));
     const std::vector<int> data = pinConfigBytes(rec, target);
     std::vector<int> message{kSendActiveConfig + 32 * target, pin};
     message.insert(message.end(), data.begin(), data.end());

@@ -30,8 +30,8 @@ void storePinConfigReply(PinRecord& rec, int source, const std::vector<int>& byt
         rec.P(4) = 0;
         rec.P(5) = 31;
     }
-    if (rec.ConfigMode == kModeServo && (rec.P(2) & 8) == 0 && rec.P(2) >= 16)
-        rec.P(2) = static_cast<std::uint8_t>(rec.P(2) / 16 + 40);
+    if (rec.ConfigMode == kModeServo)
+        rec.P(2) = currentServoMode(rec.P(2));
 }
 
 std::vector<int> pinConfigBytes(const PinRecord& rec, int target)
@@ -39,7 +39,7 @@ std::vector<int> pinConfigBytes(const PinRecord& rec, int target)
     const int value = target == 0 ? rec.OutputValue : rec.P(1);
     const int mode = rec.ConfigMode;
     if (mode == kModeServo) {
-        std::vector<int> out{kModeServo, value, rec.P(2) & 63};
+        std::vector<int> out{kModeServo, value, servoModeToStore(rec.P(2))};
         for (int n = 3; n <= 11; ++n)
             out.push_back(rec.P(n));
         return out;
