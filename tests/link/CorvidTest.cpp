@@ -7,8 +7,7 @@
 #include "sim/SimCorvid.h"
 #include "sim/SimPort.h"
 #include "support/Frames.h"
-#include "support/RecordingDialogs.h"
-#include "support/ScriptedPort.h"
+#include "support/ScriptedLink.h"
 
 #include <gtest/gtest.h>
 
@@ -17,15 +16,7 @@ using namespace kestrel::test;
 
 namespace {
 
-struct Scripted : ::testing::Test {
-    FakeClock clock;
-    ScriptedPort port{clock};
-    RecordingDialogs dialogs;
-    Link link{port, clock, dialogs};
-    int base = 0;
-    LinkControl control{link, base};
-    CorvidControl corvid{link, control};
-};
+using Scripted = ScriptedLink;
 
 struct Simulated : ::testing::Test {
     FakeClock clock;

@@ -1,21 +1,11 @@
 // Port, bit-rate and address handling of the link area.
-#include "link/LinkControl.h"
-#include "support/RecordingDialogs.h"
-#include "support/ScriptedPort.h"
-
-#include <gtest/gtest.h>
+#include "support/ScriptedLink.h"
 
 using namespace kestrel;
 using namespace kestrel::test;
 
 namespace {
-struct LinkControlFixture : ::testing::Test {
-    FakeClock clock;
-    ScriptedPort port{clock};
-    RecordingDialogs dialogs;
-    Link link{port, clock, dialogs};
-    int base = 0;
-    LinkControl control{link, base};
+struct LinkControlFixture : ScriptedLink {
     LinkControlFixture() { port.opened = false; }
 };
 } // namespace

@@ -2,8 +2,7 @@
 #include "link/Link.h"
 #include "link/ProgramFault.h"
 #include "support/Frames.h"
-#include "support/RecordingDialogs.h"
-#include "support/ScriptedPort.h"
+#include "support/ScriptedLink.h"
 
 #include <gtest/gtest.h>
 
@@ -25,12 +24,7 @@ std::vector<int> reply(int addressByte, std::vector<int> data, int header = -1) 
     return moduleReply(addressByte, data, header);
 }
 
-struct DirectRoute : ::testing::Test {
-    FakeClock clock;
-    ScriptedPort port{clock};
-    RecordingDialogs dialogs;
-    Link link{port, clock, dialogs};
-};
+using DirectRoute = ScriptedLink;
 
 } // namespace
 

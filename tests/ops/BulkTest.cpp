@@ -68,44 +68,32 @@ TEST_F(BulkSim, GeneralMismatchesAreAllListedInOrder) {
 }
 
 TEST_F(BulkSim, ReplyErrorsStopTheGeneralStageExceptAWrongDccAddressLength) {
-    sim.module.faults.refuse(112, sim::Refusal::WrongLength, 13);
-    EXPECT_FALSE(VerifyAll(s));
-    EXPECT_EQ(s.report.txtVerification, "Start General Settings Verification\r\n"
-                                        "Serial Port Config: No valid response, size = 5 expected = 4\r\n"
-                                        "Verification Stopped\r\n");
-
-    sim.module.faults.refused.clear();
-    sim.module.faults.refuse(112, sim::Refusal::WrongEcho, 8);
-    VerifyAll(s);
-    EXPECT_EQ(s.report.txtVerification,
-              "Start General Settings Verification\r\n"
-              "Serial Address Settings: No valid response, msg = 113,8 expected = 112,8\r\n"
-              "Verification Stopped\r\n");
-
-    // A wrong length of the DCC address is reported and the stage goes on to the end.
-    sim.module.faults.refused.clear();
-    sim.module.faults.refuse(112, sim::Refusal::WrongLength, 4);
-    s.general.ComboGenBaud = 0;
-    VerifyAll(s);
-    EXPECT_EQ(s.report.txtVerification, "Start General Settings Verification\r\n"
-                                        "DCC Address: No valid response\r\n"
-                                        "Serial Port Configuration does not compare\r\n"
-                                        "Verification Stopped\r\n");
-
-    // A wrong echo of the eXtended DCC address ends it there.
-    sim.module.faults.refused.clear();
-    sim.module.faults.refuse(112, sim::Refusal::WrongEcho, 12);
-    VerifyAll(s);
-    EXPECT_EQ(s.report.txtVerification, "Start General Settings Verification\r\n"
-                                        "eXtended DCC Address: No valid response\r\n"
-                                        "Verification Stopped\r\n");
-
-    // No reply at all: the stage ends without a line of its own.
-    sim.module.faults.refused.clear();
-    sim.module.faults.refuse(112, sim::Refusal::NoReply, 6);
-    VerifyAll(s);
-    EXPECT_EQ(s.report.txtVerification, "Start General Settings Verification\r\n"
-                                        "Verification Stopped\r\n");
+    struct Case {
+        sim::Refusal refusal;
+        int item;
+        std::string lines; // between the first line and "Verification Stopped"
+    };
+    const Case cases[] = {
+        {sim::Refusal::WrongLength, 13, "Serial Port Config: No valid response, size = 5 expected = 4\r\n"},
+        {sim::Refusal::WrongEcho, 8,
+         "Serial Address Settings: No valid response, msg = 113,8 expected = 112,8\r\n"},
+        // A wrong length of the DCC address is reported and the stage goes on to the end.
+        {sim::Refusal::WrongLength, 4,
+         "DCC Address: No valid response\r\nSerial Port Configuration does not compare\r\n"},
+        // A wrong echo of the eXtended DCC address ends it there.
+        {sim::Refusal::WrongEcho, 12, "eXtended DCC Address: No valid response\r\n"},
+        // No reply at all: the stage ends without a line of its own.
+        {sim::Refusal::NoReply, 6, ""},
+    };
+    s.general.ComboGenBaud = 0; // differs from the module: seen only by a stage that goes on
+    for (const Case& c : cases) {
+        sim.module.faults.refused.clear();
+        sim.module.faults.refuse(112, c.refusal, c.item);
+        EXPECT_FALSE(VerifyAll(s));
+        EXPECT_EQ(s.report.txtVerification,
+                  "Start General Settings Verification\r\n" + c.lines + "Verification Stopped\r\n")
+            << c.item;
+    }
 }
 
 TEST_F(BulkSim, EventMismatchStopsBeforeThePins) {

@@ -76,13 +76,12 @@ TEST(SendPinConfig, EveryModeWithItsSizeAndValue) {
     pin.ConfigMode = 7;
     SendPinConfig(rig.session, 0, 2);
 
-    const auto f = rig.take();
-    ASSERT_EQ(f.size(), 5u);
-    EXPECT_EQ(f[0], (std::vector<int>{'a', 2, 1, 70, 0x0B, 60, 4, 5, 6, 7, 68, 9, 50, 11}));
-    EXPECT_EQ(f[1], (std::vector<int>{'A', 2, 1, 80, 0x0B, 60, 4, 5, 6, 7, 68, 9, 50, 11}));
-    EXPECT_EQ(f[2], (std::vector<int>{'A', 2, 3, 80, 0x0B, 60, 4, 5}));
-    EXPECT_EQ(f[3], (std::vector<int>{'a', 2, 5, 70, 0x0B, 60, 4}));
-    EXPECT_EQ(f[4], (std::vector<int>{'A', 2, 0})); // unknown mode 7 unconfigures the pin
+    // An unknown mode 7 unconfigures the pin.
+    EXPECT_EQ(rig.take(), (std::vector<Data>{{'a', 2, 1, 70, 0x0B, 60, 4, 5, 6, 7, 68, 9, 50, 11},
+                                             {'A', 2, 1, 80, 0x0B, 60, 4, 5, 6, 7, 68, 9, 50, 11},
+                                             {'A', 2, 3, 80, 0x0B, 60, 4, 5},
+                                             {'a', 2, 5, 70, 0x0B, 60, 4},
+                                             {'A', 2, 0}}));
 }
 
 TEST(LiveOutput, ServoAndPwmSubCommands) {
