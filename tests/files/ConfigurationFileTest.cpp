@@ -169,13 +169,11 @@ TEST(DataFileWriting, CompactWithoutDescriptionsIsHeaderGeneralEventsAndEnd) {
     EXPECT_EQ(l.load(text), LoadResult::Loaded);
     EXPECT_EQ(l.config.Pins[3].Description, "Keep me");
     EXPECT_EQ(l.config.Pins[3].Aspects[1].Steps[0].Instruction, 9);
-}
 
-TEST(DataFileWriting, NativeModeIsWrittenAsModeByte64) {
-    Configuration c;
+    // Native mode is mode byte 64; the flex-address is not written while flex-addressing is off.
     GeneralSettings g;
     g.CheckGenKestrelNative = 1;
-    g.LynxFlexAddress = 9; // not written while flex-addressing is off
+    g.LynxFlexAddress = 9;
     EXPECT_NE(writeConfigurationText(c, g, SaveForm::Compact).find("\"XAD\",64,0,0,"), std::string::npos);
 }
 

@@ -21,7 +21,7 @@ struct GeneralCommands : ::testing::Test {
 
 // ---- ID string ----
 
-TEST_F(GeneralCommands, IdStringOfFifteenCharactersIsCutToTwelveAndSentWithLengthFourteen) {
+TEST_F(GeneralCommands, IdStringIsCutToTwelveSentWithItsLengthAndReadAsLengthMinusTwo) {
     g.TextGenIDString = "Signalbox East1"; // 15 characters
     EXPECT_TRUE(WriteIDString(s));
     EXPECT_EQ(g.TextGenIDString, "Signalbox Ea");
@@ -31,9 +31,10 @@ TEST_F(GeneralCommands, IdStringOfFifteenCharactersIsCutToTwelveAndSentWithLengt
     g.TextGenIDString.clear();
     WriteIDString(s);
     EXPECT_EQ(m.requests[1], (Data{96, 10}));
-}
 
-TEST_F(GeneralCommands, ReadIdStringTakesLengthMinusTwoCharacters) {
+    // Read: length minus two characters.
+    m.take();
+    m.dialogs.clear();
     s.link.settings.CheckKestrelBD = false; // every reader switches replies on
     m.answer({112, 10, 'Y', 'a', 'r', 'd'});
     EXPECT_TRUE(ReadIDString(s));
@@ -194,7 +195,7 @@ TEST_F(GeneralCommands, FlexAddressingWarningUnlessSuppressed) {
 
 // ---- Hardware configuration ----
 
-TEST_F(GeneralCommands, HardwareConfigurationBadByteStopsAndKeepsEarlierGroups) {
+TEST_F(GeneralCommands, HardwareConfigurationBadByteStopsAndKeepsEarlierGroupsOtherErrorsAreOnlyTold) {
     g.ChkGenHWCSink = {0, 1, 0, 1};
     g.ChkGenHWCSource = {0, 0, 0, 1};
     m.answer({112, 1, 1, 2, 4, 0}); // group 2 carries 4
@@ -211,9 +212,9 @@ TEST_F(GeneralCommands, HardwareConfigurationBadByteStopsAndKeepsEarlierGroups) 
     m.requests.clear();
     EXPECT_TRUE(WriteHardwareConfig(s));
     EXPECT_EQ(m.requests, (std::vector<Data>{{96, 1, 0, 1, 2, 3}}));
-}
 
-TEST_F(GeneralCommands, HardwareConfigurationSizeAndTypeMessagesStillReturnTrue) {
+    // A wrong size or type is told, and the read still counts as done.
+    m.dialogs.clear();
     m.answer({112, 1, 0, 0, 0});
     EXPECT_TRUE(ReadHardwareConfig(s));
     m.answer({112, 2, 0, 0, 0, 0});
