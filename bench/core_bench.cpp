@@ -6,6 +6,8 @@
 #include "files/DeviceDefinitions.h"
 #include "files/TextFile.h"
 #include "link/Link.h"
+#include "support/FakeClock.h"
+#include "support/Frames.h"
 
 #include <benchmark/benchmark.h>
 
@@ -20,12 +22,6 @@
 using namespace kestrel;
 
 namespace {
-
-class SteadyFakeClock : public Clock {
-public:
-    double secondsSinceMidnight() override { return 43200.0; }
-    void sleepMs(int) override {}
-};
 
 class SilentDialogs : public UserDialogs {
 public:
@@ -44,7 +40,7 @@ public:
     explicit MemoryPort(bool answer) : answer(answer)
     {
         for (int toggle : {0, 64})
-            replies[toggle / 64] = makeReply(3 + toggle);
+            replies[toggle / 64] = test::moduleReply(3 + toggle, {112, 0, 1, 2, 3, 4});
     }
     void select(const std::string&) override {}
     std::string selected() const override { return "memory"; }
@@ -90,15 +86,6 @@ public:
     std::string errorString() const override { return {}; }
 
 private:
-    static std::vector<int> makeReply(int addressByte)
-    {
-        std::vector<int> f{addressByte, 128 + 96 + 6, 128 + 112, 128 + 0, 128 + 1, 128 + 2, 128 + 3, 128 + 4};
-        int sum = 0;
-        for (std::size_t i = 0; i < f.size(); ++i)
-            sum += i == 0 ? f[i] : (f[i] & 127);
-        f.push_back(128 + (128 - sum % 128) % 128);
-        return f;
-    }
     bool answer;
     std::array<std::vector<int>, 2> replies;
     std::deque<int> input;
@@ -124,7 +111,7 @@ BENCHMARK(BM_FrameChecksum);
 void BM_FrameRequest(benchmark::State& state)
 {
     MemoryPort port(false);
-    SteadyFakeClock clock;
+    test::FakeClock clock; // stands still: every reply is already there
     SilentDialogs dialogs;
     Link link(port, clock, dialogs);
     link.settings.CheckKestrelBD = false;
@@ -138,7 +125,7 @@ BENCHMARK(BM_FrameRequest);
 void BM_RequestReply(benchmark::State& state)
 {
     MemoryPort port(true);
-    SteadyFakeClock clock;
+    test::FakeClock clock; // stands still: every reply is already there
     SilentDialogs dialogs;
     Link link(port, clock, dialogs);
     for (auto _ : state) {

@@ -1,6 +1,8 @@
 #pragma once
 // Helpers shared by the fuzz targets: reading settings from the front of an input, and
 // the checks that turn a wrong result into a finding (a crash that libFuzzer records).
+#include "support/Frames.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
@@ -49,17 +51,8 @@ inline void expect(bool condition, const char* what)
         finding(what);
 }
 
-// The receiver's rule for both kinds of frame: first byte plus the low 7 bits of every
-// later byte (check byte included) is a multiple of 128.
-inline bool sumsToZero(const std::vector<int>& frame)
-{
-    if (frame.empty())
-        return false;
-    unsigned sum = static_cast<unsigned>(frame[0]);
-    for (std::size_t i = 1; i < frame.size(); ++i)
-        sum += static_cast<unsigned>(frame[i]) & 127u;
-    return sum % 128 == 0;
-}
+// The receiver's rule for both kinds of frame, as the tests check it.
+using kestrel::test::sumsToZero;
 
 // Splits bytes sent on the module bus into frames and checks that every one of them is
 // whole and well formed: address byte (bit 7 clear), header with bit 7 set and the

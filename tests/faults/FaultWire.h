@@ -31,11 +31,10 @@ enum class Fault {
     PortGoneWriting,   // the port disappears while the request is being written
 };
 
-inline const char* faultName(Fault f)
-{
-    static const char* const names[] = {"None",         "NoReply",    "CorruptNoGoodCopy", "CorruptThenGood",
-                                        "Garbage",      "WrongEcho",  "WrongLength",       "OtherAddress",
-                                        "CorvidSilent", "PortGoneWaiting", "PortGoneWriting"};
+inline const char* faultName(Fault f) {
+    static const char* const names[] = {
+        "None",        "NoReply",      "CorruptNoGoodCopy", "CorruptThenGood", "Garbage",        "WrongEcho",
+        "WrongLength", "OtherAddress", "CorvidSilent",      "PortGoneWaiting", "PortGoneWriting"};
     return names[static_cast<int>(f)];
 }
 
@@ -45,15 +44,12 @@ constexpr int kOtherAddress = 5;
 class FaultWire : public sim::SimEndpoint {
 public:
     FaultWire(sim::SimBus& bus, sim::SimCorvid& corvid, sim::SimModule& module)
-        : bus(bus), corvid(corvid), module(module)
-    {
-    }
+        : bus(bus), corvid(corvid), module(module) {}
 
-    bool tunnel = false;             // bytes go to the Corvid system instead of the bus
-    sim::SimPort* port = nullptr;    // the port that vanishes under the PortGone faults
+    bool tunnel = false;          // bytes go to the Corvid system instead of the bus
+    sim::SimPort* port = nullptr; // the port that vanishes under the PortGone faults
 
-    void arm(Fault f, std::vector<int> requestPrefix, int occurrence = 1)
-    {
+    void arm(Fault f, std::vector<int> requestPrefix, int occurrence = 1) {
         fault = f;
         prefix = std::move(requestPrefix);
         wanted = occurrence;
@@ -62,12 +58,11 @@ public:
     }
     void disarm() { fault = Fault::None; }
 
-    int hits = 0;       // requests the fault was let loose on (0 or 1)
-    int hitFirst = -1;  // first byte of that request frame (direct: address byte with toggle;
-                        // tunnel: the Corvid header)
+    int hits = 0;      // requests the fault was let loose on (0 or 1)
+    int hitFirst = -1; // first byte of that request frame (direct: address byte with toggle;
+                       // tunnel: the Corvid header)
 
-    void write(std::uint8_t b) override
-    {
+    void write(std::uint8_t b) override {
         const bool ends = parse(b);
         const std::size_t before = out.size();
         if (tunnel)
@@ -79,8 +74,7 @@ public:
             frameHit(before);
     }
     std::size_t available() const override { return out.size(); }
-    int read() override
-    {
+    int read() override {
         if (out.empty())
             return -1;
         const int b = out.front();
@@ -91,8 +85,7 @@ public:
 
 private:
     // Follows the client's frames; true when b ends one (its check byte).
-    bool parse(std::uint8_t b)
-    {
+    bool parse(std::uint8_t b) {
         if (b < 128) {
             first = b;
             data.clear();
@@ -110,23 +103,27 @@ private:
             size = b & 15;
             stage = (b & 16) ? Stage::XAddress : (size ? Stage::Data : Stage::Check);
             return false;
-        case Stage::XAddress: stage = size ? Stage::Data : Stage::Check; return false;
+        case Stage::XAddress:
+            stage = size ? Stage::Data : Stage::Check;
+            return false;
         case Stage::Data:
             data.push_back(b & 127);
             if (static_cast<int>(data.size()) == size)
                 stage = Stage::Check;
             matchRequest();
             return false;
-        case Stage::Check: stage = Stage::Idle; return true;
-        case Stage::Idle: return false;
+        case Stage::Check:
+            stage = Stage::Idle;
+            return true;
+        case Stage::Idle:
+            return false;
         }
         return false;
     }
 
     // The module's request inside the frame so far (the tunnel wraps it as 0, T, inner
     // header, [eXtended address], request).
-    std::vector<int> request() const
-    {
+    std::vector<int> request() const {
         if (!tunnel)
             return data;
         if (data.size() < 3 || data[0] != 0)
@@ -137,8 +134,7 @@ private:
         return std::vector<int>(data.begin() + static_cast<std::ptrdiff_t>(from), data.end());
     }
 
-    void matchRequest()
-    {
+    void matchRequest() {
         if (fault == Fault::None || hits > 0 || prefix.empty())
             return;
         const auto r = request();
@@ -151,35 +147,45 @@ private:
         hitFirst = first;
         auto& mf = module.faults;
         switch (fault) {
-        case Fault::NoReply: mf.dropReplies = 1; break;
+        case Fault::NoReply:
+            mf.dropReplies = 1;
+            break;
         case Fault::CorruptNoGoodCopy:
             if (tunnel)
                 corvid.faults.corruptReplies = 1;
             break;
-        case Fault::CorruptThenGood: mf.corruptCopies = 1; break;
+        case Fault::CorruptThenGood:
+            mf.corruptCopies = 1;
+            break;
         case Fault::Garbage:
             if (!tunnel)
                 mf.garbage = {0x80, 0xFF, 0x55, 0xAA};
             break;
-        case Fault::WrongEcho: mf.refuse(prefix[0], sim::Refusal::WrongEcho, prefix.size() > 1 ? prefix[1] : -1); break;
+        case Fault::WrongEcho:
+            mf.refuse(prefix[0], sim::Refusal::WrongEcho, prefix.size() > 1 ? prefix[1] : -1);
+            break;
         case Fault::WrongLength:
             mf.refuse(prefix[0], sim::Refusal::WrongLength, prefix.size() > 1 ? prefix[1] : -1);
             break;
-        case Fault::OtherAddress: mf.answerAs = kOtherAddress; break;
-        case Fault::CorvidSilent: corvid.faults.ignoreFrames = 1; break;
+        case Fault::OtherAddress:
+            mf.answerAs = kOtherAddress;
+            break;
+        case Fault::CorvidSilent:
+            corvid.faults.ignoreFrames = 1;
+            break;
         case Fault::PortGoneWriting: // the rest of this frame never reaches the wire
             port->setVanished(true);
             hitInThisFrame = false;
             fault = Fault::None;
             break;
         case Fault::PortGoneWaiting:
-        case Fault::None: break;
+        case Fault::None:
+            break;
         }
     }
 
     // The request that the fault hit is complete and whatever it caused has been sent.
-    void frameHit(std::size_t before)
-    {
+    void frameHit(std::size_t before) {
         hitInThisFrame = false;
         if (fault == Fault::CorruptNoGoodCopy && !tunnel && out.size() > before)
             out.back() ^= 1; // the check byte keeps bit 7, the sum no longer fits
@@ -192,8 +198,7 @@ private:
         fault = Fault::None;
     }
 
-    void drain()
-    {
+    void drain() {
         sim::SimEndpoint& inner = tunnel ? static_cast<sim::SimEndpoint&>(corvid) : bus;
         while (inner.available())
             out.push_back(static_cast<std::uint8_t>(inner.read()));

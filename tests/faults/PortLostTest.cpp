@@ -16,15 +16,13 @@ namespace {
 
 const std::string kPortLost = "Communications port lost: sim (Port sim: the simulated port has gone away)";
 
-void bringBack(FaultRig& rig)
-{
+void bringBack(FaultRig& rig) {
     rig.port.setVanished(false);
     ASSERT_TRUE(rig.session.linkControl.ComboPort_Click("sim"));
     rig.dialogs.clear();
 }
 
-TEST(PortLost, DuringATimeOutIsTheOnlyMessage)
-{
+TEST(PortLost, DuringATimeOutIsTheOnlyMessage) {
     FaultRig rig(false);
     ASSERT_TRUE(rig.ready);
     rig.forgetModel();
@@ -37,7 +35,7 @@ TEST(PortLost, DuringATimeOutIsTheOnlyMessage)
     const double start = rig.clock.now;
     EXPECT_FALSE(ReadAll(rig.session));
     EXPECT_EQ(rig.dialogs.texts(), std::vector<std::string>{kPortLost});
-    EXPECT_NEAR(rig.clock.now - start, 0.5, 1e-6); // not the rest of the 2 s
+    EXPECT_NEAR(rig.clock.now - start, 0.5, 1e-6);         // not the rest of the 2 s
     EXPECT_TRUE(rig.session.link.settings.CheckKestrelBD); // no time-out: nothing reset
     EXPECT_EQ(rig.session.general.LabelGenVersionString, "Unknown");
 
@@ -48,8 +46,7 @@ TEST(PortLost, DuringATimeOutIsTheOnlyMessage)
     EXPECT_EQ(rig.session.general, rig.sourceGeneral);
 }
 
-TEST(PortLost, OneWayWriteAllStopsAtTheFirstFailedWrite)
-{
+TEST(PortLost, OneWayWriteAllStopsAtTheFirstFailedWrite) {
     FaultRig rig(false);
     ASSERT_TRUE(rig.ready);
     rig.eraseModule();
@@ -77,8 +74,7 @@ TEST(PortLost, OneWayWriteAllStopsAtTheFirstFailedWrite)
     EXPECT_TRUE(rig.module.memory() == rig.seeded);
 }
 
-TEST(PortLost, AJobStartedWhileItIsStillGoneSaysSoOnce)
-{
+TEST(PortLost, AJobStartedWhileItIsStillGoneSaysSoOnce) {
     FaultRig rig(false);
     ASSERT_TRUE(rig.ready);
     rig.wire.arm(Fault::PortGoneWaiting, {112, 0});
@@ -93,7 +89,8 @@ TEST(PortLost, AJobStartedWhileItIsStillGoneSaysSoOnce)
     rig.dialogs.clear();
     EXPECT_FALSE(VerifyAll(rig.session));
     EXPECT_EQ(rig.dialogs.texts(), std::vector<std::string>{"Select communications port"});
-    EXPECT_EQ(rig.session.report.txtVerification, "Start General Settings Verification\r\nVerification Stopped\r\n");
+    EXPECT_EQ(rig.session.report.txtVerification,
+              "Start General Settings Verification\r\nVerification Stopped\r\n");
     rig.dialogs.clear();
 
     // Choosing the port while it is still gone fails with its own message.
@@ -106,8 +103,7 @@ TEST(PortLost, AJobStartedWhileItIsStillGoneSaysSoOnce)
     EXPECT_EQ(rig.dialogs.texts(), std::vector<std::string>{});
 }
 
-TEST(PortLost, TunnelledReadAllAndTheNextJob)
-{
+TEST(PortLost, TunnelledReadAllAndTheNextJob) {
     FaultRig rig(true);
     ASSERT_TRUE(rig.ready);
     rig.forgetModel();
@@ -116,9 +112,9 @@ TEST(PortLost, TunnelledReadAllAndTheNextJob)
     EXPECT_FALSE(ReadAll(rig.session));
     EXPECT_EQ(rig.wire.hits, 1);
     EXPECT_EQ(rig.dialogs.texts(), std::vector<std::string>{kPortLost});
-    EXPECT_EQ(rig.session.general.TextGenIDString, rig.sourceGeneral.TextGenIDString);
-    EXPECT_EQ(rig.session.config.pin(8), rig.source.pin(8));
-    EXPECT_EQ(rig.session.config.pin(10), Configuration{}.pin(10));
+    EXPECT_EQ(std::tuple(rig.session.general.TextGenIDString, rig.session.config.pin(8),
+                         rig.session.config.pin(10)),
+              std::tuple(rig.sourceGeneral.TextGenIDString, rig.source.pin(8), Configuration{}.pin(10)));
 
     // The module's reply to that step read still waits in the Corvid system; it must not
     // be taken for the reply to the next job's first request.
@@ -133,8 +129,7 @@ TEST(PortLost, TunnelledReadAllAndTheNextJob)
     }
 }
 
-TEST(TunnelResync, AFailedCorvidFrameLeavesNoStaleReplyForTheNextRequest)
-{
+TEST(TunnelResync, AFailedCorvidFrameLeavesNoStaleReplyForTheNextRequest) {
     FaultRig rig(true);
     ASSERT_TRUE(rig.ready);
     rig.forgetModel();

@@ -170,13 +170,11 @@ TEST(DataFileWriting, CompactWithoutDescriptionsIsHeaderGeneralEventsAndEnd) {
     EXPECT_EQ(l.load(text), LoadResult::Loaded);
     EXPECT_EQ(l.config.Pins[3].Description, "Keep me");
     EXPECT_EQ(l.config.Pins[3].Aspects[1].Steps[0].Instruction, 9);
-}
 
-TEST(DataFileWriting, NativeModeIsWrittenAsModeByte64) {
-    Configuration c;
+    // Native mode is mode byte 64; the flex-address is not written while flex-addressing is off.
     GeneralSettings g;
     g.CheckGenKestrelNative = 1;
-    g.LynxFlexAddress = 9; // not written while flex-addressing is off
+    g.LynxFlexAddress = 9;
     EXPECT_NE(writeConfigurationText(c, g, SaveForm::Compact).find("\"XAD\",64,0,0,"), std::string::npos);
 }
 
@@ -189,13 +187,12 @@ TEST(DataFileReading, FullFileReadsBackToTheSameText) {
     EXPECT_TRUE(l.dialogs.messages.empty());
     EXPECT_EQ(writeConfigurationText(l.config, l.general, SaveForm::Full), first);
 
-    EXPECT_EQ(l.general.TextGenXDCCAddress, "12.5");
-    EXPECT_EQ(l.general.TextGenXaddr, "17");
-    EXPECT_EQ(l.config.Pins[5].OutputValue, 64); // parameter 1
-    EXPECT_EQ(l.config.Pins[6].P(6), 0);         // PWM parameters 6..11 cleared
-    EXPECT_EQ(l.config.Pins[7].P(5), 0);         // not in the file, left as it was
-    EXPECT_EQ(l.config.EventMap[0].OnEvent[0], -1);
-    EXPECT_EQ(l.config.DccFirstIndex[6], 2 + 5 * 0); // address index rebuilt: pin 5 has 2
+    // Output value from parameter 1; PWM parameters 6..11 cleared; input parameter 5 not in
+    // the file, left as it was; the address index rebuilt (pin 5 has 2).
+    EXPECT_EQ(std::tuple(l.general.TextGenXDCCAddress, l.general.TextGenXaddr, l.config.Pins[5].OutputValue,
+                         l.config.Pins[6].P(6), l.config.Pins[7].P(5), l.config.EventMap[0].OnEvent[0],
+                         l.config.DccFirstIndex[6]),
+              std::tuple("12.5", "17", 64, 0, 0, -1, 2));
 }
 
 TEST(DataFileReading, CompactFileLeavesWhatItDoesNotNameEmpty) {
@@ -208,14 +205,11 @@ TEST(DataFileReading, CompactFileLeavesWhatItDoesNotNameEmpty) {
     l.config.Pins[5].Aspects[11].Steps[9].Instruction = 7; // step 9 is not touched
     ASSERT_EQ(l.load(compact), LoadResult::Loaded);
     const PinRecord& p = l.config.Pins[5];
-    EXPECT_EQ(p.Aspects[1].Description, "");
-    EXPECT_EQ(p.Aspects[3].Steps[4], StepRecord{});
-    EXPECT_EQ(p.Aspects[11].Steps[8], StepRecord{});
-    EXPECT_EQ(p.Aspects[11].Steps[9].Instruction, 7);
-    EXPECT_EQ(p.Aspects[0].Steps[0], (StepRecord{39, 1, 0, 24, 0, 0}));
-    // "Pin" sets the three counts to 1 before "PAM".
-    EXPECT_EQ(l.config.Pins[7].DccCount, 0);
-    EXPECT_EQ(l.config.Pins[8].DccCount, 0); // no record for pin 8
+    // Step 9 is untouched; "Pin" sets the counts before "PAM"; pin 8 has no record.
+    EXPECT_EQ(std::tuple(p.Aspects[1].Description, p.Aspects[3].Steps[4], p.Aspects[11].Steps[8],
+                         p.Aspects[11].Steps[9].Instruction, p.Aspects[0].Steps[0], l.config.Pins[7].DccCount,
+                         l.config.Pins[8].DccCount),
+              std::tuple("", StepRecord{}, StepRecord{}, 7, StepRecord{39, 1, 0, 24, 0, 0}, 0, 0));
 }
 
 TEST(DataFileReading, InsOpSplitsOnlyFrom19To63) {
@@ -226,19 +220,15 @@ TEST(DataFileReading, InsOpSplitsOnlyFrom19To63) {
                            "\"Ins\",3,16,0,0,0,0", "\"Ins\",4,38,0,1,0,0", "\"Ins\",5,51,0,5,0,0",
                            "\"Ins\",6,26,0,9,0,0", "\"End\""})),
               LoadResult::Loaded);
-    const auto& s = l.config.Pins[2].Aspects[0].Steps;
-    EXPECT_EQ(s[0].Instruction, 17); // "Feedback", never a faded "Jump"
-    EXPECT_EQ(s[0].Fade, 0);
-    EXPECT_EQ(s[1].Instruction, 35); // 35 has bit 4 clear: "Multibit 7 AD" without fade
-    EXPECT_EQ(s[1].Fade, 0);
-    EXPECT_EQ(s[5].Instruction, 35); // 51 = 16 + 35
-    EXPECT_EQ(s[5].Fade, 1);
-    EXPECT_EQ(s[6].Instruction, 10); // 26 = 16 + 10, "Invert" with fade
-    EXPECT_EQ(s[6].Fade, 1);
-    EXPECT_EQ(s[2].Instruction, 112);
-    EXPECT_EQ(s[3].Instruction, 16);
-    EXPECT_EQ(s[4].Instruction, 38); // bit 4 clear
-    EXPECT_EQ(s[4].Fade, 0);
+    // 17 is "Feedback", never a faded "Jump"; 35 and 38 have bit 4 clear; 51 = 16 + 35 and
+    // 26 = 16 + 10 ("Invert") fade.
+    const int want[][2] = {{17, 0}, {35, 0}, {112, 1}, {16, 0}, {38, 0}, {35, 1}, {10, 1}};
+    for (int i = 0; i < 7; ++i) {
+        const StepRecord& st = l.config.Pins[2].Aspects[0].Steps[i];
+        EXPECT_EQ(st.Instruction, want[i][0]) << i;
+        if (i != 2 && i != 3)
+            EXPECT_EQ(st.Fade, want[i][1]) << i;
+    }
 }
 
 TEST(DataFileReading, FadeOutside19To63StaysAsItWas) {
@@ -247,8 +237,7 @@ TEST(DataFileReading, FadeOutside19To63StaysAsItWas) {
     l.config.Pins[0].Aspects[0].Steps[0].Fade = 1;
     ASSERT_EQ(l.load(crlf({"\"KestrelConfiguration 3100\"", "\"Ins\",0,17,0,1,0,0", "\"End\""})),
               LoadResult::Loaded);
-    EXPECT_EQ(l.config.Pins[0].Aspects[0].Steps[0].Instruction, 17);
-    EXPECT_EQ(l.config.Pins[0].Aspects[0].Steps[0].Fade, 1);
+    EXPECT_EQ((StepRecord{17, 1, 0, 1, 0, 0}), l.config.Pins[0].Aspects[0].Steps[0]);
 }
 
 TEST(DataFileReading, CfgRulesOutputValueAndServoConversion) {
@@ -259,14 +248,12 @@ TEST(DataFileReading, CfgRulesOutputValueAndServoConversion) {
                            "\"Cfg\",1,70,56,64,1,1,1,1,64,0,64,0", "\"Pin\",3,0,0,\"c\"", "\"Cfg\",9",
                            "\"Pin\",4,0,0,\"d\"", "\"Cfg\",5,10,11,12,13", "\"End\""})),
               LoadResult::Loaded);
-    EXPECT_EQ(l.config.Pins[1].P(2), 43); // 48: range 3 in the high nibble, bit 3 clear -> 3 + 40
-    EXPECT_EQ(l.config.Pins[2].P(2), 56); // bit 3 set: kept
-    EXPECT_EQ(l.config.Pins[1].OutputValue, 70);
-    EXPECT_EQ(l.config.Pins[3].ConfigMode, 0);
-    EXPECT_EQ(l.config.Pins[4].ConfigMode, 5);
-    EXPECT_EQ(l.config.Pins[4].P(4), 13);
-    EXPECT_EQ(l.config.Pins[4].P(5), 9); // input: the others are left as they were
-    EXPECT_EQ(l.config.Pins[4].OutputValue, 10);
+    // 48: range 3 in the high nibble, bit 3 clear -> 3 + 40; 56 has bit 3 set: kept. Mode 9
+    // is no mode; an input leaves the parameters it does not name as they were.
+    const auto& pins = l.config.Pins;
+    EXPECT_EQ(std::tuple(pins[1].P(2), pins[2].P(2), pins[1].OutputValue, pins[3].ConfigMode,
+                         pins[4].ConfigMode, pins[4].P(4), pins[4].P(5), pins[4].OutputValue),
+              std::tuple(43, 56, 70, 0, 5, 13, 9, 10));
 }
 
 TEST(DataFileReading, GeneralRecordsSetTheControls) {
@@ -279,21 +266,14 @@ TEST(DataFileReading, GeneralRecordsSetTheControls) {
                      "\"XAD\",64,0,20,15,0,0,0", "\"LED\",0,127", "\"SPC\",1,\"1200\",7,3,1", "\"End\""})),
         LoadResult::Loaded);
     const GeneralSettings& g = l.general;
-    EXPECT_EQ(g.CheckGenKestrelNative, 1);
-    EXPECT_EQ(g.CheckGenLynxaddr, 0);
-    EXPECT_EQ(g.ExtendedAddress, 20);
-    EXPECT_EQ(g.TextGenXaddr, "21"); // shown with the numbering base
-    EXPECT_EQ(g.CheckGenXGM[3], 1);
-    EXPECT_EQ(g.CheckGenXGM[4], 0);
-    EXPECT_EQ(g.CheckLCGreen[0], 0);
-    EXPECT_EQ(g.CheckLCOrange[6], 1);
-    EXPECT_EQ(g.TextGenIDString, "Fifteen char");
+    // The eXtended address is shown with the numbering base; "LED" sets only the seven bit
+    // boxes; "1200" is no entry of the list, so the selection stays.
+    EXPECT_EQ(std::tuple(g.CheckGenKestrelNative, g.CheckGenLynxaddr, g.ExtendedAddress, g.TextGenXaddr,
+                         g.CheckGenXGM[3], g.CheckGenXGM[4], g.CheckLCGreen[0], g.CheckLCOrange[6],
+                         g.TextGenIDString, g.CheckLCGreen[7], g.CheckLCOrange[7], g.ComboGenBaud,
+                         g.OptionGenSerialParity, g.OptionGenSerialDatabits),
+              std::tuple(1, 0, 20, "21", 1, 0, 0, 1, "Fifteen char", 0, 1, 3, 3, 0));
     EXPECT_EQ(l.dialogs.texts(), std::vector<std::string>{"ID string cut to 12 characters: Fifteen char"});
-    EXPECT_EQ(g.CheckLCGreen[7], 0); // the record sets only the seven bit boxes
-    EXPECT_EQ(g.CheckLCOrange[7], 1);
-    EXPECT_EQ(g.ComboGenBaud, 3); // "1200" is no entry: the selection stays
-    EXPECT_EQ(g.OptionGenSerialParity, 3);
-    EXPECT_EQ(g.OptionGenSerialDatabits, 0);
 }
 
 TEST(DataFileReading, OlderVersionsReadWhatTheyHeld) {
@@ -303,24 +283,20 @@ TEST(DataFileReading, OlderVersionsReadWhatTheyHeld) {
                                "\"PAM\",4,2", "\"End\""})),
                   LoadResult::Loaded);
         ASSERT_EQ(l.dialogs.messages.size(), 1u);
-        EXPECT_EQ(l.dialogs.messages[0].text, "Data File Version = 31");
-        EXPECT_EQ(l.dialogs.messages[0].icon, Icon::Information);
-        EXPECT_EQ(l.general.TextGenDCCAddress, "202");
-        EXPECT_EQ(l.general.TextGenXDCCAddress, "0");
-        EXPECT_EQ(l.general.OptGenDCC_PRP, 2);
-        EXPECT_EQ(l.general.ChkGenDCC_BPSI, 1);
-        EXPECT_EQ(l.config.Pins[1].DccCount, 4);
-        EXPECT_EQ(l.config.Pins[1].LynxCount, 2);
-        EXPECT_EQ(l.config.Pins[1].XDccCount, 1);
+        EXPECT_EQ(std::tuple(l.dialogs.messages[0].text, l.dialogs.messages[0].icon),
+                  std::tuple("Data File Version = 31", Icon::Information));
+        const auto& [g, p] = std::tie(l.general, l.config.Pins[1]);
+        EXPECT_EQ(std::tuple(g.TextGenDCCAddress, g.TextGenXDCCAddress, g.OptGenDCC_PRP, g.ChkGenDCC_BPSI,
+                             p.DccCount, p.LynxCount, p.XDccCount),
+                  std::tuple("202", "0", 2, 1, 4, 2, 1));
     }
     { // Version 22: no DCC flags either.
         Loader l;
         l.general.OptGenDCC_PRP = 1;
         ASSERT_EQ(l.load(crlf({"\"KestrelConfiguration 0022\"", "\"DCC\",7", "\"LED\",3,0", "\"End\""})),
                   LoadResult::Loaded);
-        EXPECT_EQ(l.general.TextGenDCCAddress, "7");
-        EXPECT_EQ(l.general.OptGenDCC_PRP, 1);
-        EXPECT_EQ(l.general.CheckLCGreen[1], 1);
+        EXPECT_EQ(std::tuple(l.general.TextGenDCCAddress, l.general.OptGenDCC_PRP, l.general.CheckLCGreen[1]),
+                  std::tuple("7", 1, 1));
     }
     { // Version 19: PWM with three parameters, off-level 0 and on-level 31.
         Loader l;
@@ -329,13 +305,8 @@ TEST(DataFileReading, OlderVersionsReadWhatTheyHeld) {
                                "\"PAM\",1,1", "\"End\""})),
                   LoadResult::Loaded);
         const PinRecord& p = l.config.Pins[2];
-        EXPECT_EQ(p.ConfigMode, 3);
-        EXPECT_EQ(p.P(3), 8);
-        EXPECT_EQ(p.P(4), 0);
-        EXPECT_EQ(p.P(5), 31);
-        EXPECT_EQ(p.P(6), 0);
-        EXPECT_EQ(p.P(11), 0);
-        EXPECT_EQ(p.DccCount, 1);
+        EXPECT_EQ(std::tuple(p.ConfigMode, p.P(3), p.P(4), p.P(5), p.P(6), p.P(11), p.DccCount),
+                  std::tuple(3, 8, 0, 31, 0, 0, 1));
     }
 }
 
@@ -346,10 +317,9 @@ TEST(DataFileReading, UnknownKeywordsAndEvtArePassedOverOrAccepted) {
                      "\"Extra\"", "\"Eof\",4,13,0,0,0", "\"End\"", "\"ID$\",\"after End\""})),
         LoadResult::Loaded);
     EXPECT_TRUE(l.dialogs.messages.empty());
-    EXPECT_EQ(l.config.EventMap[4].OnEvent[0], -1);
-    EXPECT_EQ(l.config.EventMap[4].OnEvent[3], 2);
-    EXPECT_EQ(l.config.EventMap[4].OffEvent[0], 12);
-    EXPECT_EQ(l.general.TextGenIDString, "");
+    const EventRecord& e = l.config.EventMap[4];
+    EXPECT_EQ(std::tuple(e.OnEvent[0], e.OnEvent[3], e.OffEvent[0], l.general.TextGenIDString),
+              std::tuple(-1, 2, 12, ""));
 }
 
 TEST(DataFileReading, BadHeaderChangesNothing) {
@@ -358,9 +328,9 @@ TEST(DataFileReading, BadHeaderChangesNothing) {
         Loader l;
         EXPECT_EQ(l.load(text), LoadResult::InvalidHeader);
         ASSERT_EQ(l.dialogs.messages.size(), 1u);
-        EXPECT_EQ(l.dialogs.messages[0].text, "Invalid configuration file");
-        EXPECT_EQ(l.dialogs.messages[0].icon, Icon::Warning);
-        EXPECT_EQ(l.general.TextGenIDString, "");
+        EXPECT_EQ(
+            std::tuple(l.dialogs.messages[0].text, l.dialogs.messages[0].icon, l.general.TextGenIDString),
+            std::tuple("Invalid configuration file", Icon::Warning, ""));
     }
 }
 
@@ -405,11 +375,11 @@ TEST(DataFileReading, FormatErrorsStopTheLoadAndKeepWhatWasRead) {
         Loader l;
         EXPECT_EQ(l.load(c.text), LoadResult::FormatError) << c.message;
         ASSERT_EQ(l.dialogs.messages.size(), 1u);
-        EXPECT_EQ(l.dialogs.messages[0].text, "Error in configuration file: " + c.message + tail);
-        EXPECT_EQ(l.dialogs.messages[0].icon, Icon::Warning);
-        EXPECT_EQ(l.general.TextGenIDString, "Kept");
-        EXPECT_EQ(l.config.Pins[3].Description, "Lamp");
-        EXPECT_EQ(l.config.DccFirstIndex[4], 1); // address index rebuilt from what was read
+        // What was read stays, and the address index is rebuilt from it.
+        EXPECT_EQ(
+            std::tuple(l.dialogs.messages[0].text, l.dialogs.messages[0].icon, l.general.TextGenIDString,
+                       l.config.Pins[3].Description, l.config.DccFirstIndex[4]),
+            std::tuple("Error in configuration file: " + c.message + tail, Icon::Warning, "Kept", "Lamp", 1));
     }
 
     // Index 32 (the spare record), aspect 12 and step 9 are within the bounds.
@@ -537,9 +507,9 @@ TEST(DataFileCommands, SaveAndLoadThroughTheFileDialog) {
     other.session.onConfigurationChanged = [&] { ++refreshed; };
     other.dialogs.fileNames = {dir.file("compact.dat"), dir.file("missing.dat"), ""};
     CommandLoad_Click(other.session);
-    EXPECT_EQ(refreshed, 1);
-    EXPECT_EQ(other.session.config.Pins[5].DeviceDescription, "Home signal");
-    EXPECT_EQ(other.session.general.TextGenIDString, "Yard 3");
+    EXPECT_EQ(std::tuple(refreshed, other.session.config.Pins[5].DeviceDescription,
+                         other.session.general.TextGenIDString),
+              std::tuple(1, "Home signal", "Yard 3"));
     CommandLoad_Click(other.session);
     ASSERT_EQ(other.dialogs.messages.size(), 1u);
     EXPECT_EQ(other.dialogs.messages[0].text,

@@ -59,17 +59,15 @@ TEST(DeviceLoading, ThreePinDeviceOnPin31WrapsToPins0And1) {
     Rig r;
     ASSERT_TRUE(r.load(kTwoDevices, "Signal", 31));
     EXPECT_TRUE(r.dialogs.messages.empty());
-    EXPECT_EQ(r.config.Pins[31].DeviceOffset, 0);
-    EXPECT_EQ(r.config.Pins[0].DeviceOffset, 31);
-    EXPECT_EQ(r.config.Pins[1].DeviceOffset, 30);
-    EXPECT_EQ(r.config.Pins[31].DeviceDescription, "Signal");
-    EXPECT_EQ(r.config.Pins[0].Description, "yellow");
-    EXPECT_EQ(r.config.Pins[1].Description, "green");
-    EXPECT_EQ(r.config.Pins[31].InitAspect, 1);
+    EXPECT_EQ(std::tuple(r.config.Pins[31].DeviceOffset, r.config.Pins[0].DeviceOffset,
+                         r.config.Pins[1].DeviceOffset, r.config.Pins[31].DeviceDescription,
+                         r.config.Pins[0].Description, r.config.Pins[1].Description,
+                         r.config.Pins[31].InitAspect),
+              std::tuple(0, 31, 30, "Signal", "yellow", "green", 1));
     EXPECT_EQ(r.config.Pins[31].Aspects[1].Steps[0], (StepRecord{13, 1, 0, 4, 0, 0})); // 29 = 16 + 13
-    EXPECT_EQ(r.config.Pins[31].Aspects[1].Steps[1].Instruction, 17);
-    EXPECT_EQ(r.config.Pins[31].DccCount, 2);
-    EXPECT_EQ(r.config.Pins[0].DccCount, 0);
+    EXPECT_EQ(std::tuple(r.config.Pins[31].Aspects[1].Steps[1].Instruction, r.config.Pins[31].DccCount,
+                         r.config.Pins[0].DccCount),
+              std::tuple(17, 2, 0));
     EXPECT_EQ(r.config.DccTotal, 2); // address index rebuilt
 }
 
@@ -105,9 +103,9 @@ TEST(DeviceLoading, DissolvesTheOldDeviceAtTheHeadAndAtEachTarget) {
         EXPECT_EQ(r.config.Pins[p].DeviceOffset, 0) << p;
         EXPECT_EQ(r.config.Pins[p].DeviceDescription, "") << p;
     }
-    EXPECT_EQ(r.config.Pins[4].DeviceDescription, "Pair");
-    EXPECT_EQ(r.config.Pins[10].DeviceOffset, -6);
-    EXPECT_EQ(r.config.Pins[10].DeviceDescription, "");
+    EXPECT_EQ(std::tuple(r.config.Pins[4].DeviceDescription, r.config.Pins[10].DeviceOffset,
+                         r.config.Pins[10].DeviceDescription),
+              std::tuple("Pair", -6, ""));
     EXPECT_EQ(r.config.Pins[11].DeviceOffset, 0); // released with "Other"
 
     // A member is not dissolved on its own.

@@ -1,9 +1,9 @@
 #pragma once
-#include <unistd.h>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <unistd.h>
 
 namespace kestrel::test {
 

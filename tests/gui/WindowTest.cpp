@@ -3,61 +3,30 @@
 // a message raised during a job is above its progress dialog.
 #include "files/ConfigurationFile.h"
 #include "base/ProgramFault.h"
+#include "gui/GuiRig.h"
+#include "shell/EventPage.h"
 #include "shell/GeneralPage.h"
 #include "shell/Guard.h"
-#include "shell/KestrelConfig.h"
 #include "shell/QtDialogs.h"
 #include "support/Process.h"
-#include "support/RecordingDialogs.h"
 
 #include <QCheckBox>
-#include <QComboBox>
-#include <QDir>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMessageBox>
-#include <QPlainTextEdit>
 #include <QProgressDialog>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
-#include <gtest/gtest.h>
 
 #include <set>
 
 using namespace kestrel;
+using namespace kestrel::test;
 
 namespace {
 
-struct Window {
-    test::RecordingDialogs dialogs;
-    KestrelConfig w{nullptr, &dialogs};
-    Window()
-    {
-        w.show();
-        openPort("sim");
-    }
-    void openPort(const QString& name)
-    {
-        w.ComboPort->setEditText(name);
-        QTest::keyClick(w.ComboPort, Qt::Key_Return);
-    }
-    // Runs a whole-module job from its button and waits for it to end.
-    void job(QPushButton* button)
-    {
-        QTest::mouseClick(button, Qt::LeftButton);
-        ASSERT_TRUE(QTest::qWaitFor([&] { return !w.LabelAction->isVisible() && w.jobs.PendingJob.empty(); }, 60000));
-    }
-    QString report() const { return w.txtVerification ? w.txtVerification->toPlainText() : QString(); }
-    QString status() const { return w.LabelStatusJob->text(); }
-};
-
 // Types into a box as a user does: everything selected, the new text typed, Return.
-void type(QLineEdit* box, const QString& text)
-{
+void type(QLineEdit* box, const QString& text) {
     box->setFocus();
     box->selectAll();
     QTest::keyClick(box, Qt::Key_Backspace);
@@ -68,10 +37,11 @@ void type(QLineEdit* box, const QString& text)
 
 } // namespace
 
-TEST(Window, GeneralPageEditsReachWriteAllVerifyAllAndTheDataFile)
-{
+TEST(Window, GeneralPageEditsReachWriteAllVerifyAllAndTheDataFile) {
     Window m;
-    m.job(m.w.CommandReadAll);
+    QTest::mouseClick(m.w.CommandReadAll, Qt::LeftButton); // the job waits for the timer
+    EXPECT_EQ(std::tuple(m.w.LabelAction->isVisible(), m.w.jobs.PendingJob), std::tuple(true, "ReadAll"));
+    m.waitIdle();
     EXPECT_EQ(m.w.windowTitle(), "Kestrel Config");
     GeneralPage& page = *m.w.generalPage;
 
@@ -91,16 +61,15 @@ TEST(Window, GeneralPageEditsReachWriteAllVerifyAllAndTheDataFile)
     page.ComboGenBaud->setFocus();
     QTest::keyClick(page.ComboGenBaud, Qt::Key_Down);
     const GeneralSettings edited = m.w.session().general;
-    EXPECT_EQ(edited.TextGenIDString, "Yard  9");
-    EXPECT_EQ(edited.TextGenDCCAddress, "8191");
-    EXPECT_EQ(edited.CheckGenXGM[15], 1);
-    EXPECT_EQ(edited.ChkGenHWCSource[3], 1);
-    EXPECT_EQ(edited.CheckLCOrange[6], 1);
-    EXPECT_EQ(edited.CheckGenSerialEnable, 1);
+    EXPECT_EQ(std::tuple(edited.TextGenIDString, edited.TextGenDCCAddress, edited.CheckGenXGM[15],
+                         edited.ChkGenHWCSource[3], edited.CheckLCOrange[6], edited.CheckGenSerialEnable),
+              std::tuple("Yard  9", "8191", 1, 1, 1, 1));
     EXPECT_TRUE(m.w.windowTitle().startsWith("untitled*")) << m.w.windowTitle().toStdString();
 
     // Verify All compares what the user sees, so the module differs before the write ...
     m.job(m.w.CommandVerifyAll);
+    EXPECT_TRUE(m.w.frmKestrelVerification->isVisible());
+    EXPECT_TRUE(m.report().startsWith("Start General Settings Verification")) << m.report().toStdString();
     EXPECT_FALSE(m.report().endsWith("Verify OK")) << m.report().toStdString();
     EXPECT_TRUE(m.status().contains("the module differs")) << m.status().toStdString();
     // ... and holds every edit after it. The next job keeps them on screen.
@@ -125,10 +94,9 @@ TEST(Window, GeneralPageEditsReachWriteAllVerifyAllAndTheDataFile)
     GeneralSettings filed;
     test::RecordingDialogs quiet;
     ASSERT_EQ(loadConfigurationFile(path.toStdString(), config, filed, quiet), LoadResult::Loaded);
-    EXPECT_EQ(filed.TextGenIDString, "Yard  9X");
-    EXPECT_EQ(filed.TextGenDCCAddress, "8191");
-    EXPECT_EQ(filed.CheckGenXGM, edited.CheckGenXGM);
-    EXPECT_EQ(filed.ComboGenBaud, edited.ComboGenBaud);
+    EXPECT_EQ(
+        std::tuple(filed.TextGenIDString, filed.TextGenDCCAddress, filed.CheckGenXGM, filed.ComboGenBaud),
+        std::tuple("Yard  9X", "8191", edited.CheckGenXGM, edited.ComboGenBaud));
 
     // The numbering switch keeps every edit on screen.
     type(page.TextGenXaddr, "300");
@@ -139,8 +107,7 @@ TEST(Window, GeneralPageEditsReachWriteAllVerifyAllAndTheDataFile)
     EXPECT_TRUE(m.dialogs.messages.empty()) << m.dialogs.messages[0].text;
 }
 
-TEST(Window, UnsavedChangesAreAskedAboutBeforeTheyAreLost)
-{
+TEST(Window, UnsavedChangesAreAskedAboutBeforeTheyAreLost) {
     Window m;
     type(m.w.generalPage->TextGenIDString, "Changed");
     EXPECT_TRUE(m.w.unsavedChanges());
@@ -163,8 +130,7 @@ TEST(Window, UnsavedChangesAreAskedAboutBeforeTheyAreLost)
     EXPECT_TRUE(m.w.close());
 }
 
-TEST(Window, NothingTypedOrPressedEndsTheProgram)
-{
+TEST(Window, NothingTypedOrPressedEndsTheProgram) {
     Window m;
     m.dialogs.defaultAnswer = Answer::Discard; // Read All and Load go ahead; warnings say no
 
@@ -189,15 +155,15 @@ TEST(Window, NothingTypedOrPressedEndsTheProgram)
     // Only messages the module's rules give, or the guard's.
     for (const std::string& text : texts) {
         const bool known = text.rfind(programFaultMessage("").substr(0, 40), 0) == 0 || text == "Select Devicename to load" ||
-                           text.rfind("ID string cut", 0) == 0 || text.rfind("Unknown configuration", 0) == 0 ||
+                           text.rfind("ID string cut", 0) == 0 ||
+                           text.rfind("Unknown configuration", 0) == 0 ||
                            text == "No Device Configuration file selected";
         EXPECT_TRUE(known) << text;
     }
     EXPECT_TRUE(m.w.isVisible());
 }
 
-TEST(Window, PseudoTerminalsOpenAgainAtAnyRateAndAfterAnother)
-{
+TEST(Window, PseudoTerminalsOpenAgainAtAnyRateAndAfterAnother) {
     test::SimProcess first({"--version", "1.1.1.1"});
     test::SimProcess second({"--version", "2.2.2.2"});
     Window m;
@@ -233,12 +199,12 @@ TEST(Window, PseudoTerminalsOpenAgainAtAnyRateAndAfterAnother)
     m.openPort(QString::fromStdString(refusing.pty()));
     m.dialogs.defaultAnswer = Answer::Discard;
     m.job(m.w.CommandReadAll);
-    EXPECT_TRUE(m.status().startsWith("Read All incomplete: 1 problem reported, the first: No valid response size"))
+    EXPECT_TRUE(
+        m.status().startsWith("Read All incomplete: 1 problem reported, the first: No valid response size"))
         << m.status().toStdString();
 }
 
-TEST(Window, AMessageDuringAJobIsAboveItsProgressDialog)
-{
+TEST(Window, AMessageDuringAJobIsAboveItsProgressDialog) {
     // Real message boxes: nobody answers at address 9, after the progress dialog is up.
     KestrelConfig w;
     w.show();
@@ -253,26 +219,28 @@ TEST(Window, AMessageDuringAJobIsAboveItsProgressDialog)
         if (!box)
             return;
         seen = box->text();
-        EXPECT_TRUE(qobject_cast<QProgressDialog*>(box->parentWidget())) << "the box belongs to the progress dialog";
+        EXPECT_TRUE(qobject_cast<QProgressDialog*>(box->parentWidget()))
+            << "the box belongs to the progress dialog";
         QTest::keyClick(box, Qt::Key_Return); // answered from the keyboard
     });
     poll.start(50);
     QTest::mouseClick(w.CommandReadAll, Qt::LeftButton);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !w.LabelAction->isVisible() && w.jobs.PendingJob.empty(); }, 20000));
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return !w.LabelAction->isVisible() && w.jobs.PendingJob.empty(); }, 20000));
     EXPECT_EQ(seen, "No response received, resetting bidirectional communication");
-    EXPECT_TRUE(w.LabelStatusJob->text().startsWith("Read All stopped")) << w.LabelStatusJob->text().toStdString();
+    EXPECT_TRUE(w.LabelStatusJob->text().startsWith("Read All stopped"))
+        << w.LabelStatusJob->text().toStdString();
 }
 
-TEST(Window, SavedNamesGetTheirSuffix)
-{
-    EXPECT_EQ(QtDialogs::withDefaultSuffix("/tmp/mylayout", "Kestrel Config Data|*.dat"), "/tmp/mylayout.dat");
+TEST(Window, SavedNamesGetTheirSuffix) {
+    EXPECT_EQ(QtDialogs::withDefaultSuffix("/tmp/mylayout", "Kestrel Config Data|*.dat"),
+              "/tmp/mylayout.dat");
     EXPECT_EQ(QtDialogs::withDefaultSuffix("/tmp/my.def", "Kestrel Config Data|*.dat"), "/tmp/my.def");
     EXPECT_EQ(QtDialogs::withDefaultSuffix("dev", "Kestrel Device Definitions|*.def"), "dev.def");
     EXPECT_EQ(QtDialogs::withDefaultSuffix("", "Kestrel Device Definitions|*.def"), "");
 }
 
-TEST(Window, AProgramFaultIsToldOnceAndLeavesTheConfigurationAsItWas)
-{
+TEST(Window, AProgramFaultIsToldOnceAndLeavesTheConfigurationAsItWas) {
     Window m;
     Session& s = m.w.session();
     s.config.pin(3).Description = "kept";
@@ -285,10 +253,109 @@ TEST(Window, AProgramFaultIsToldOnceAndLeavesTheConfigurationAsItWas)
         guard([&] { s.config.pin(99); }); // an inner handler's fault stops the outer one
         s.config.pin(4).Description = "never";
     }));
-    EXPECT_EQ(s.config.pin(3).Description, "kept");
-    EXPECT_EQ(s.config.pin(4).Description, "");
-    EXPECT_EQ(s.general.TextGenIDString, "");
+    EXPECT_EQ(std::tuple(s.config.pin(3).Description, s.config.pin(4).Description, s.general.TextGenIDString),
+              std::tuple("kept", "", ""));
     ASSERT_EQ(m.dialogs.texts().size(), 1u);
     EXPECT_EQ(m.dialogs.texts()[0], "Program error, the operation was stopped: Index out of range: pin = 99");
     EXPECT_EQ(after, 1);
+}
+
+TEST(Window, RequestVersionAndTheLinkArea) {
+    Window m(false);
+    m.w.ComboPort->setCurrentIndex(m.w.ComboPort->findText("sim"));
+    m.w.ComboPort_Click();
+    EXPECT_TRUE(m.w.session().link.port().isOpen());
+    QTest::mouseClick(m.w.CommandGenVersion, Qt::LeftButton);
+    EXPECT_EQ(std::tuple(m.w.LabelGenVersionString->text(), child<QLineEdit>(m.w, "TextResponse")->text()),
+              std::tuple("1.2.3.4", "[43] [66] [70] [0] [1] [2] [3] [4]"));
+    EXPECT_TRUE(m.dialogs.messages.empty());
+
+    // Another address (clamped to 15) and no port: refused at once instead of waiting.
+    m.w.TextAddress->setText("22");
+    m.w.TextAddress_Click();
+    EXPECT_EQ(m.w.TextAddress->text(), "15");
+    m.w.session().link.port().close();
+    QTest::mouseClick(m.w.CommandGenVersion, Qt::LeftButton);
+    EXPECT_EQ(m.w.LabelGenVersionString->text(), "Unknown");
+    EXPECT_EQ(m.dialogs.texts(), std::vector<std::string>{"Select communications port"});
+
+    // Numbering from one moves the shown address, not the one used.
+    m.w.TextAddress->setText("7");
+    m.w.TextAddress_Click();
+    QTest::mouseClick(m.w.CheckKLnumber, Qt::LeftButton);
+    EXPECT_EQ(std::tuple(m.w.TextAddress->text(), m.w.session().link.settings.TargetAddress),
+              std::tuple("8", 7));
+    m.w.TextAddress->setText("0");
+    m.w.TextAddress_Click();
+    EXPECT_EQ(std::tuple(m.w.TextAddress->text(), m.w.session().link.settings.TargetAddress),
+              std::tuple("1", 0));
+
+    // A whole-module job without a port fails with one message.
+    m.dialogs.clear();
+    m.job(m.w.CommandWriteAll);
+    EXPECT_EQ(m.dialogs.texts(), std::vector<std::string>{"Select communications port"});
+}
+
+TEST(Window, ExtendedAddressControlsFollowTheCheckBox) {
+    Window m(false);
+    m.dialogs.answers = {Answer::Cancel, Answer::Ok};
+    auto* check = child<QCheckBox>(m.w, "CheckXaddress");
+    auto* x = child<QLineEdit>(m.w, "txtXaddr");
+    EXPECT_FALSE(x->isVisible());
+    QTest::mouseClick(check, Qt::LeftButton); // answered Cancel
+    EXPECT_EQ(std::tuple(check->isChecked(), child<QLabel>(m.w, "LabelAddress")->text()),
+              std::tuple(false, "Module Address"));
+    QTest::mouseClick(check, Qt::LeftButton); // answered OK
+    EXPECT_EQ(std::tuple(check->isChecked(), child<QLabel>(m.w, "LabelAddress")->text(), x->isVisible()),
+              std::tuple(true, "Channel Number", true));
+    x->setText("200");
+    m.w.txtXaddr_Click();
+    EXPECT_EQ(std::tuple(x->text(), m.w.session().link.settings.TargetXAddress), std::tuple("15", 15));
+}
+
+TEST(Window, StandardDevicesAreListedAndLoadOntoTheChosenPin) {
+    Window m(false);
+    KestrelConfig& window = m.w;
+    test::RecordingDialogs& dialogs = m.dialogs;
+    EXPECT_TRUE(dialogs.messages.empty()); // KestrelDevices.def lies beside the program
+    ASSERT_GE(window.cboDevice->count(), 5);
+    EXPECT_EQ(window.lblDDVersion->text(), "Kestrel standard devices 2026-11-21");
+
+    // A three-pin signal placed on pin 31 wraps round to pins 0 and 1.
+    window.TextPAspOutput->setText("31");
+    window.TextPAspOutput_Click();
+    window.cboDevice->setCurrentIndex(window.cboDevice->findText("Colour light signal, 3 aspects"));
+    QTest::mouseClick(window.CommandPAspPreLoad, Qt::LeftButton);
+    const auto& pins = window.session().config.Pins;
+    EXPECT_EQ(std::tuple(pins[31].DeviceOffset, pins[0].DeviceOffset, pins[1].DeviceOffset,
+                         pins[31].DeviceDescription, window.TextDeviceDescription->text().toStdString()),
+              std::tuple(0, 31, 30, "Colour light signal, 3 aspects", "Colour light signal, 3 aspects"));
+
+    window.TextPAspOutput->setText("1");
+    window.TextPAspOutput_Click();
+    EXPECT_EQ(window.TextDevicePin->text(), "31");
+    EXPECT_TRUE(window.TextDeviceDescription->isReadOnly()); // a member: the name is its head's
+
+    // One pin selection for the window: the pin chosen on the Event Control page is the one
+    // the device goes onto, and its head's name can be typed.
+    window.tabs->setCurrentWidget(window.eventPage);
+    window.eventPage->TextECpin->setText("7");
+    emit window.eventPage->TextECpin->editingFinished();
+    window.tabs->setCurrentIndex(window.tabs->count() - 1);
+    EXPECT_EQ(window.TextPAspOutput->text(), "7");
+    QTest::mouseClick(window.CommandPAspPreLoad, Qt::LeftButton);
+    EXPECT_EQ(pins[7].DeviceDescription, "Colour light signal, 3 aspects");
+    ASSERT_FALSE(window.TextDeviceDescription->isReadOnly());
+    window.TextDeviceDescription->selectAll();
+    QTest::keyClicks(window.TextDeviceDescription, "Home");
+    EXPECT_EQ(pins[7].DeviceDescription, "Home");
+
+    // Shift alone appends the chosen definitions; Shift with Ctrl replaces.
+    const int count = window.cboDevice->count();
+    const std::string standard = QCoreApplication::applicationDirPath().toStdString() + "/KestrelDevices.def";
+    dialogs.fileNames = {standard, standard};
+    QTest::mousePress(window.CommandReloadDD, Qt::LeftButton, Qt::ShiftModifier);
+    EXPECT_EQ(window.cboDevice->count(), 2 * count);
+    QTest::mousePress(window.CommandReloadDD, Qt::LeftButton, Qt::ShiftModifier | Qt::ControlModifier);
+    EXPECT_EQ(window.cboDevice->count(), count);
 }

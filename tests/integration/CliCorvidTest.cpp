@@ -5,10 +5,9 @@
 
 using namespace kestrel::test;
 
-TEST(CliThroughCorvid, TunnelThenTransparentModeThenDirect)
-{
-    SimProcess sim({"--corvid", "--address", "0,20", "--version", "3.1.4.1", "--unit", "linkbox", "--unit-version",
-                    "1030"});
+TEST(CliThroughCorvid, TunnelThenTransparentModeThenDirect) {
+    SimProcess sim({"--corvid", "--address", "0,20", "--version", "3.1.4.1", "--unit", "linkbox",
+                    "--unit-version", "1030"});
     const std::string cli = binPath("kestrel-cli");
     // Through the tunnel, addresses above 15 are reachable.
     auto r = runProgram(cli, {"--port", sim.pty(), "--corvid", "--address", "20", "version"});
@@ -28,10 +27,10 @@ TEST(CliThroughCorvid, TunnelThenTransparentModeThenDirect)
     EXPECT_EQ(r.out, "3.1.4.1\n");
 }
 
-TEST(CliThroughCorvid, OldSystemRefusesTheTunnel)
-{
+TEST(CliThroughCorvid, OldSystemRefusesTheTunnel) {
     SimProcess sim({"--corvid", "--system-version", "3.0"});
     auto r = runProgram(binPath("kestrel-cli"), {"--port", sim.pty(), "--corvid", "version"});
     EXPECT_EQ(r.status, 1);
-    EXPECT_NE(r.err.find("Your system does not support this function\nProtocol = 3.0"), std::string::npos) << r.err;
+    EXPECT_NE(r.err.find("Your system does not support this function\nProtocol = 3.0"), std::string::npos)
+        << r.err;
 }

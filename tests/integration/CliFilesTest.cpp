@@ -12,22 +12,19 @@
 using namespace kestrel::test;
 
 namespace {
-std::string slurp(const std::string& path)
-{
+std::string slurp(const std::string& path) {
     std::ifstream in(path, std::ios::binary);
     std::stringstream s;
     s << in.rdbuf();
     return s.str();
 }
 
-std::string tempPath(const char* name)
-{
+std::string tempPath(const char* name) {
     return "/tmp/kestrel-it-" + std::to_string(getpid()) + "-" + name;
 }
 } // namespace
 
-TEST(CliFiles, ReadFromBuiltInThenWriteVerifyAndReadBackThroughThePty)
-{
+TEST(CliFiles, ReadFromBuiltInThenWriteVerifyAndReadBackThroughThePty) {
     const std::string cli = binPath("kestrel-cli");
     const std::string demo = tempPath("demo.dat"), back = tempPath("back.dat");
 
@@ -54,8 +51,9 @@ TEST(CliFiles, ReadFromBuiltInThenWriteVerifyAndReadBackThroughThePty)
     ASSERT_EQ(r.status, 0) << r.err;
     r = runProgram(cli, {"--port", sim.pty(), "--address", "2", "verify", demo});
     EXPECT_EQ(r.status, 0) << r.out << r.err;
-    EXPECT_EQ(r.out, "Start General Settings Verification\r\nStart EC Verification\r\nStart Pin Verification\r\n"
-                     "Verify OK\r\n");
+    EXPECT_EQ(r.out,
+              "Start General Settings Verification\r\nStart EC Verification\r\nStart Pin Verification\r\n"
+              "Verify OK\r\n");
 
     r = runProgram(cli, {"--port", sim.pty(), "--address", "2", "read", back});
     ASSERT_EQ(r.status, 0) << r.err;
@@ -170,8 +168,7 @@ TEST(CliFiles, AJobThatCannotCompleteFailsAndSaysWhatWasIncomplete) {
     std::remove(fifo.c_str());
 }
 
-TEST(CliFiles, SimulatorSeededFromAFile)
-{
+TEST(CliFiles, SimulatorSeededFromAFile) {
     const std::string cli = binPath("kestrel-cli");
     const std::string demo = tempPath("seed.dat");
     ASSERT_EQ(runProgram(cli, {"read", demo}).status, 0);

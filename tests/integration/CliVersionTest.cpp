@@ -5,8 +5,7 @@
 
 using namespace kestrel::test;
 
-TEST(CliAgainstSimProcess, VersionAtEachBitRateAndAddress)
-{
+TEST(CliAgainstSimProcess, VersionAtEachBitRateAndAddress) {
     SimProcess sim({"--address", "0", "--address", "5", "--version", "9.8.7.6"});
     const std::string cli = binPath("kestrel-cli");
     for (const char* baud : {"9600", "19200", "38400"}) {
@@ -22,16 +21,14 @@ TEST(CliAgainstSimProcess, VersionAtEachBitRateAndAddress)
 
     // Nobody at address 9: the time-out message on stderr, status 1.
     r = runProgram(cli, {"--port", sim.pty(), "--address", "9", "version"});
-    EXPECT_EQ(r.status, 1);
-    EXPECT_EQ(r.out, "");
-    EXPECT_EQ(r.err, "No response received, resetting bidirectional communication\n");
+    EXPECT_EQ(std::tuple(r.status, r.out, r.err),
+              std::tuple(1, "", "No response received, resetting bidirectional communication\n"));
 
     const std::string stats = sim.stop();
     EXPECT_NE(stats.find("exchanges"), std::string::npos) << stats;
 }
 
-TEST(CliAgainstSimProcess, UsageAndPortErrorsExitWithTwo)
-{
+TEST(CliAgainstSimProcess, UsageAndPortErrorsExitWithTwo) {
     const std::string cli = binPath("kestrel-cli");
     auto r = runProgram(cli, {"--port", "/dev/kestrel-no-such-port", "version"});
     EXPECT_EQ(r.status, 2);
@@ -45,8 +42,7 @@ TEST(CliAgainstSimProcess, UsageAndPortErrorsExitWithTwo)
     EXPECT_EQ(r.out, "1.2.3.4\n");
 }
 
-TEST(CliAgainstSimProcess, FaultSwitchesOfTheSimulator)
-{
+TEST(CliAgainstSimProcess, FaultSwitchesOfTheSimulator) {
     const std::string cli = binPath("kestrel-cli");
     {
         SimProcess sim({"--refuse", "112,0:length"});

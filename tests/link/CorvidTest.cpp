@@ -6,8 +6,8 @@
 #include "sim/SimBus.h"
 #include "sim/SimCorvid.h"
 #include "sim/SimPort.h"
-#include "support/RecordingDialogs.h"
-#include "support/ScriptedPort.h"
+#include "support/Frames.h"
+#include "support/ScriptedLink.h"
 
 #include <gtest/gtest.h>
 
@@ -16,32 +16,7 @@ using namespace kestrel::test;
 
 namespace {
 
-// A Corvid reply frame built by hand: header, data + 128, check byte making the sum of
-// the header and the low 7 bits of every byte a multiple of 128.
-std::vector<int> corvidFrame(std::vector<int> data, int toggle = 0)
-{
-    const int n = static_cast<int>(data.size());
-    int header = n < 8 ? 40 + n : n < 16 ? n - 8 : n;
-    header += 64 * toggle;
-    std::vector<int> f{header};
-    int s = header;
-    for (int d : data) {
-        f.push_back(128 + d);
-        s += d;
-    }
-    f.push_back(128 + (128 - s % 128) % 128);
-    return f;
-}
-
-struct Scripted : ::testing::Test {
-    FakeClock clock;
-    ScriptedPort port{clock};
-    RecordingDialogs dialogs;
-    Link link{port, clock, dialogs};
-    int base = 0;
-    LinkControl control{link, base};
-    CorvidControl corvid{link, control};
-};
+using Scripted = ScriptedLink;
 
 struct Simulated : ::testing::Test {
     FakeClock clock;
@@ -53,8 +28,7 @@ struct Simulated : ::testing::Test {
     int base = 0;
     LinkControl control{link, base};
     CorvidControl corvid{link, control};
-    Simulated()
-    {
+    Simulated() {
         clock.tick = 0.005;
         port.setWaitHook([this](int ms) { clock.advance(ms / 1000.0); });
         port.open();
@@ -65,11 +39,10 @@ struct Simulated : ::testing::Test {
 
 } // namespace
 
-TEST_F(Scripted, FramesLogLinesAndSystemVersionAccepted)
-{
-    port.queue(corvidFrame({}, 1));                   // answer to the poll
-    port.queue(corvidFrame({1, 2, 0x30, 0x25}, 0));   // system version 6045
-    port.queue(corvidFrame({}, 1));                   // answer to the final poll
+TEST_F(Scripted, FramesLogLinesAndSystemVersionAccepted) {
+    port.queue(corvidFrame({}, 1));                 // answer to the poll
+    port.queue(corvidFrame({1, 2, 0x30, 0x25}, 0)); // system version 6045
+    port.queue(corvidFrame({}, 1));                 // answer to the final poll
     EXPECT_TRUE(corvid.CheckCorvid_Click(true));
     EXPECT_TRUE(link.settings.CheckCorvid);
     EXPECT_FALSE(corvid.cmdSetTMVisible);
@@ -79,12 +52,12 @@ TEST_F(Scripted, FramesLogLinesAndSystemVersionAccepted)
     // Poll with toggle 1: header 40 + 64 = 104, check byte 152. Version request with
     // toggle 0: header 42, data 129, 130; 42+129 = 171, +130 = 301 -> 45; 256 - 45 = 211.
     EXPECT_EQ(port.take(), (std::vector<int>{104, 152, 42, 129, 130, 211, 104, 152}));
-    EXPECT_EQ(link.txtCorvidCommunication, "> 6818\r\n< 6818\r\n> 2A1253\r\n< 2C1230257C\r\n> 6818\r\n< 6818\r\n");
+    EXPECT_EQ(link.txtCorvidCommunication,
+              "> 6818\r\n< 6818\r\n> 2A1253\r\n< 2C1230257C\r\n> 6818\r\n< 6818\r\n");
     EXPECT_EQ(CorvidControl::versionFrom(0x30, 0x25), 6045);
 }
 
-TEST_F(Scripted, OldSystemRefusedWithProtocolText)
-{
+TEST_F(Scripted, OldSystemRefusedWithProtocolText) {
     port.queue(corvidFrame({}, 1));
     port.queue(corvidFrame({1, 2, 0x18, 0x00}));
     port.queue(corvidFrame({}, 1));
@@ -96,8 +69,7 @@ TEST_F(Scripted, OldSystemRefusedWithProtocolText)
     EXPECT_EQ(port.take().size(), 8u); // the final poll is sent all the same
 }
 
-TEST_F(Scripted, NoAnswerAndBadCheckByte)
-{
+TEST_F(Scripted, NoAnswerAndBadCheckByte) {
     EXPECT_FALSE(corvid.CheckCorvid_Click(true)); // nothing answers the poll
     ASSERT_EQ(dialogs.messages.size(), 1u);
     EXPECT_EQ(dialogs.messages[0].text, "No answer from Corvid");
@@ -137,8 +109,7 @@ TEST_F(Scripted, NoAnswerAndBadCheckByte)
     EXPECT_EQ(link.settings.TargetAddress, 15); // clamped back to the direct route's range
 }
 
-TEST_F(Scripted, TunnelledWriteAndRequestBytes)
-{
+TEST_F(Scripted, TunnelledWriteAndRequestBytes) {
     link.settings.CheckCorvid = true;
     link.state.CorvidToggle = 0;
     link.settings.TargetAddress = 2;
@@ -147,7 +118,8 @@ TEST_F(Scripted, TunnelledWriteAndRequestBytes)
     port.queue(corvidFrame({}, 1));
     EXPECT_TRUE(link.SendKestrelMessage(false, 3, {96, 6, 9}));
     auto bytes = port.take();
-    EXPECT_EQ(std::vector<int>(bytes.begin(), bytes.begin() + 7), (std::vector<int>{46, 128, 226, 224, 224, 134, 137}));
+    EXPECT_EQ(std::vector<int>(bytes.begin(), bytes.begin() + 7),
+              (std::vector<int>{46, 128, 226, 224, 224, 134, 137}));
     EXPECT_EQ(bytes.size(), 8u + 2u);
 
     // eXtended address: 0, T, 112, x, data.
@@ -157,11 +129,11 @@ TEST_F(Scripted, TunnelledWriteAndRequestBytes)
     port.queue(corvidFrame({}, 1));
     link.SendKestrelMessage(false, 1, {5});
     bytes = port.take();
-    EXPECT_EQ(std::vector<int>(bytes.begin(), bytes.begin() + 6), (std::vector<int>{45, 128, 226, 240, 161, 133}));
+    EXPECT_EQ(std::vector<int>(bytes.begin(), bytes.begin() + 6),
+              (std::vector<int>{45, 128, 226, 240, 161, 133}));
 }
 
-TEST_F(Scripted, TimeOutAfterGoodPollsLeavesReplyValid)
-{
+TEST_F(Scripted, TimeOutAfterGoodPollsLeavesReplyValid) {
     link.settings.CheckCorvid = true;
     clock.tick = 0.05;
     // Every frame is answered with an empty frame; no module reply ever comes.
@@ -173,8 +145,7 @@ TEST_F(Scripted, TimeOutAfterGoodPollsLeavesReplyValid)
     EXPECT_TRUE(dialogs.messages.empty());
 }
 
-TEST_F(Simulated, TunnelledVersionOfTwoModules)
-{
+TEST_F(Simulated, TunnelledVersionOfTwoModules) {
     system.setSystemVersion(6045);
     link.state.LinkToggle = 128;
     ASSERT_TRUE(corvid.CheckCorvid_Click(true));
@@ -189,8 +160,7 @@ TEST_F(Simulated, TunnelledVersionOfTwoModules)
     EXPECT_NE(link.txtCorvidCommunication.find("\r\n< "), std::string::npos);
 }
 
-TEST_F(Simulated, TransparentModeByUnitTypeAndVersion)
-{
+TEST_F(Simulated, TransparentModeByUnitTypeAndVersion) {
     struct Case {
         sim::CorvidUnit unit;
         int version;
@@ -226,8 +196,7 @@ TEST_F(Simulated, TransparentModeByUnitTypeAndVersion)
     }
 }
 
-TEST_F(Simulated, TransparentModeAsksOnNewSystemsThenDirectRouteWorks)
-{
+TEST_F(Simulated, TransparentModeAsksOnNewSystemsThenDirectRouteWorks) {
     system.setSystemVersion(3200);
     system.setUnit(sim::CorvidUnit::HubB, 1000);
     dialogs.answers = {Answer::No};

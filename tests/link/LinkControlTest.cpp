@@ -1,27 +1,16 @@
 // Port, bit-rate and address handling of the link area.
-#include "link/LinkControl.h"
-#include "support/RecordingDialogs.h"
-#include "support/ScriptedPort.h"
-
-#include <gtest/gtest.h>
+#include "support/ScriptedLink.h"
 
 using namespace kestrel;
 using namespace kestrel::test;
 
 namespace {
-struct LinkControlFixture : ::testing::Test {
-    FakeClock clock;
-    ScriptedPort port{clock};
-    RecordingDialogs dialogs;
-    Link link{port, clock, dialogs};
-    int base = 0;
-    LinkControl control{link, base};
+struct LinkControlFixture : ScriptedLink {
     LinkControlFixture() { port.opened = false; }
 };
 } // namespace
 
-TEST_F(LinkControlFixture, AddressClampsWithNumberingAndTunneling)
-{
+TEST_F(LinkControlFixture, AddressClampsWithNumberingAndTunneling) {
     base = 1;
     EXPECT_EQ(control.TextAddress_Click("0"), "1");
     EXPECT_EQ(link.settings.TargetAddress, 0);
@@ -40,8 +29,7 @@ TEST_F(LinkControlFixture, AddressClampsWithNumberingAndTunneling)
     EXPECT_EQ(control.addressText(), "7");
 }
 
-TEST_F(LinkControlFixture, ExtendedAddressKeepsThe95To15PairingAndLeavesToggle)
-{
+TEST_F(LinkControlFixture, ExtendedAddressKeepsThe95To15PairingAndLeavesToggle) {
     link.state.LinkToggle = 64;
     EXPECT_EQ(control.txtXaddr_Click("200"), "15");
     EXPECT_EQ(link.settings.TargetXAddress, 15);
@@ -54,8 +42,7 @@ TEST_F(LinkControlFixture, ExtendedAddressKeepsThe95To15PairingAndLeavesToggle)
     EXPECT_EQ(link.state.LinkToggle, 64);
 }
 
-TEST_F(LinkControlFixture, ExtendedAddressingAsksFirst)
-{
+TEST_F(LinkControlFixture, ExtendedAddressingAsksFirst) {
     dialogs.answers = {Answer::Cancel, Answer::Ok};
     EXPECT_FALSE(control.CheckXaddress_Click(true));
     EXPECT_EQ(control.addressLabel(), "Module Address");
@@ -68,8 +55,7 @@ TEST_F(LinkControlFixture, ExtendedAddressingAsksFirst)
     EXPECT_EQ(dialogs.questions.size(), 2u);
 }
 
-TEST_F(LinkControlFixture, BitRateAndPortChoice)
-{
+TEST_F(LinkControlFixture, BitRateAndPortChoice) {
     // No port chosen: only the settings string changes; nothing opens, the link is left alone.
     link.state.LinkToggle = 64;
     EXPECT_TRUE(control.OptionBitRate_Click(0));

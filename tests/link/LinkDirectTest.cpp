@@ -1,7 +1,9 @@
 // The direct route, byte for byte, against a scripted port and a fake clock.
 #include "link/Link.h"
 #include "base/ProgramFault.h"
+#include "support/Frames.h"
 #include "support/RecordingDialogs.h"
+#include "support/ScriptedLink.h"
 #include "support/ScriptedPort.h"
 
 #include <gtest/gtest.h>
@@ -13,39 +15,22 @@ namespace {
 
 const std::vector<int> kBurst = {0, 0, 0, 255, 255, 255, 170, 170, 170};
 
-std::vector<int> concat(std::initializer_list<std::vector<int>> parts)
-{
+std::vector<int> concat(std::initializer_list<std::vector<int>> parts) {
     std::vector<int> out;
     for (const auto& p : parts)
         out.insert(out.end(), p.begin(), p.end());
     return out;
 }
 
-// A module reply frame built by hand: address byte, header, data (+128), checksum
-// chosen so that address + low 7 bits of every later byte is a multiple of 128.
-std::vector<int> reply(int addressByte, std::vector<int> data, int header = -1)
-{
-    std::vector<int> f{addressByte, header < 0 ? 128 + 96 + static_cast<int>(data.size()) : header};
-    int s = addressByte + (f[1] & 127);
-    for (int d : data) {
-        f.push_back(128 + d);
-        s += d;
-    }
-    f.push_back(128 + (128 - s % 128) % 128);
-    return f;
+std::vector<int> reply(int addressByte, std::vector<int> data, int header = -1) {
+    return moduleReply(addressByte, data, header);
 }
 
-struct DirectRoute : ::testing::Test {
-    FakeClock clock;
-    ScriptedPort port{clock};
-    RecordingDialogs dialogs;
-    Link link{port, clock, dialogs};
-};
+using DirectRoute = ScriptedLink;
 
 } // namespace
 
-TEST_F(DirectRoute, RequestVersionWorkedExampleWithBurstAndEmptyFrame)
-{
+TEST_F(DirectRoute, RequestVersionWorkedExampleWithBurstAndEmptyFrame) {
     port.queue(reply(67, {112, 0, 1, 2, 3, 4}));
     EXPECT_TRUE(link.GetVersion());
     // Burst, empty frame to address 0 (3, 192, 189), then 67, 226, 240, 128, 235.
@@ -67,13 +52,13 @@ TEST_F(DirectRoute, RequestVersionWorkedExampleWithBurstAndEmptyFrame)
     EXPECT_EQ(port.take().front(), 67);
 }
 
-TEST_F(DirectRoute, AddressChangeResynchronisesAndHeaderBits)
-{
+TEST_F(DirectRoute, AddressChangeResynchronisesAndHeaderBits) {
     link.settings.CheckKestrelBD = false;
     link.settings.TargetAddress = 5; // A = 23
     EXPECT_TRUE(link.SendKestrelMessage(false, 0, {}));
     // Size 0 without bidirectional: header 192; with eXtended address 208 and the address byte.
-    EXPECT_EQ(port.take(), concat({kBurst, {23, 192, 169}, {64 + 23, 192, 233}})); // 87 + 192 = 279 -> 23; 256 - 23 = 233
+    EXPECT_EQ(port.take(),
+              concat({kBurst, {23, 192, 169}, {64 + 23, 192, 233}})); // 87 + 192 = 279 -> 23; 256 - 23 = 233
     EXPECT_FALSE(link.state.ReplyValid);
 
     link.settings.CheckXaddress = true;
@@ -89,10 +74,10 @@ TEST_F(DirectRoute, AddressChangeResynchronisesAndHeaderBits)
     EXPECT_EQ(bytes[12], 64 + 23);
 }
 
-TEST_F(DirectRoute, SizeOverrunAndClosedPortSendNothing)
-{
+TEST_F(DirectRoute, SizeOverrunAndClosedPortSendNothing) {
     EXPECT_FALSE(link.SendKestrelMessage(true, 16, {}));
-    EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"SendKestrelMessage: Message Size Overrun, size = 16"});
+    EXPECT_EQ(dialogs.texts(),
+              std::vector<std::string>{"SendKestrelMessage: Message Size Overrun, size = 16"});
     EXPECT_TRUE(port.written.empty());
 
     dialogs.clear();
@@ -102,15 +87,13 @@ TEST_F(DirectRoute, SizeOverrunAndClosedPortSendNothing)
     EXPECT_TRUE(port.written.empty());
 }
 
-TEST_F(DirectRoute, DataByteAbove127IsProgramFaultAndNothingIsWritten)
-{
+TEST_F(DirectRoute, DataByteAbove127IsProgramFaultAndNothingIsWritten) {
     EXPECT_THROW(link.SendKestrelMessage(false, 3, {96, 10, 200}), ProgramFault);
     EXPECT_TRUE(port.written.empty());
     EXPECT_THROW(link.SendKestrelMessage(false, 1, {-1}), ProgramFault);
 }
 
-TEST_F(DirectRoute, CorruptedCopyThenGoodCopyAndFrameRestart)
-{
+TEST_F(DirectRoute, CorruptedCopyThenGoodCopyAndFrameRestart) {
     link.state.LinkToggle = 64;
     auto bad = reply(67, {112, 0, 9, 9, 9, 9});
     bad.back() ^= 1;
@@ -123,15 +106,15 @@ TEST_F(DirectRoute, CorruptedCopyThenGoodCopyAndFrameRestart)
     EXPECT_TRUE(dialogs.messages.empty());
 }
 
-TEST_F(DirectRoute, TimeoutUnchecksBidirectionalAndWaitsTwoSeconds)
-{
+TEST_F(DirectRoute, TimeoutUnchecksBidirectionalAndWaitsTwoSeconds) {
     link.state.LinkToggle = 64;
     int changed = 0;
     link.onSettingsChanged = [&] { ++changed; };
     const double start = clock.now;
     EXPECT_FALSE(link.GetVersion());
     EXPECT_NEAR(clock.now - start, 2.0, 0.01);
-    EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"No response received, resetting bidirectional communication"});
+    EXPECT_EQ(dialogs.texts(),
+              std::vector<std::string>{"No response received, resetting bidirectional communication"});
     EXPECT_FALSE(link.settings.CheckKestrelBD);
     EXPECT_EQ(changed, 1); // cleared by the time-out
     EXPECT_EQ(link.VersionText, "Unknown");
@@ -144,8 +127,7 @@ TEST_F(DirectRoute, TimeoutUnchecksBidirectionalAndWaitsTwoSeconds)
     EXPECT_TRUE(dialogs.messages.empty());
 }
 
-TEST_F(DirectRoute, MidnightEndsTheWait)
-{
+TEST_F(DirectRoute, MidnightEndsTheWait) {
     link.state.LinkToggle = 64;
     clock.wrapAtMidnight = true;
     clock.now = 86399.9;
@@ -156,15 +138,15 @@ TEST_F(DirectRoute, MidnightEndsTheWait)
     EXPECT_FALSE(link.state.ReplyValid);
 }
 
-TEST_F(DirectRoute, InvalidReplyMessagesAndExtendedAddressBytes)
-{
+TEST_F(DirectRoute, InvalidReplyMessagesAndExtendedAddressBytes) {
     link.state.LinkToggle = 64;
     // A reply with the wrong toggle: the expected address is shown without it.
     port.queue(reply(3, {112, 0, 1, 2, 3, 4}));
     link.GetVersion();
     ASSERT_EQ(dialogs.messages.size(), 1u);
-    EXPECT_EQ(dialogs.messages[0].text,
-              "Invalid response received, \r\nReceived: Addr = 3 Header = 102\r\nExpected: Addr = 3 Header > 95 ");
+    EXPECT_EQ(
+        dialogs.messages[0].text,
+        "Invalid response received, \r\nReceived: Addr = 3 Header = 102\r\nExpected: Addr = 3 Header > 95 ");
     EXPECT_FALSE(link.state.ReplyValid);
 
     // A reply carrying an eXtended address byte we did not send.
@@ -182,23 +164,22 @@ TEST_F(DirectRoute, InvalidReplyMessagesAndExtendedAddressBytes)
     link.state.LinkToggle = 64;
     port.queue(reply(67, {7, 112, 0, 1, 2, 3, 4}, 128 + 96 + 16 + 6));
     link.GetVersion();
-    EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"Incorrect eXtended Address byte \r\nReceived 7 Expected 9"});
+    EXPECT_EQ(dialogs.texts(),
+              std::vector<std::string>{"Incorrect eXtended Address byte \r\nReceived 7 Expected 9"});
 }
 
-TEST_F(DirectRoute, GetVersionRejectsWrongSizeAndEcho)
-{
+TEST_F(DirectRoute, GetVersionRejectsWrongSizeAndEcho) {
     link.state.LinkToggle = 64;
     port.queue(reply(67, {112, 0, 1, 2, 3}));
     EXPECT_FALSE(link.GetVersion());
     port.queue(reply(3, {112, 1, 1, 2, 3, 4}));
     EXPECT_FALSE(link.GetVersion());
-    EXPECT_EQ(dialogs.texts(),
-              (std::vector<std::string>{"GetVersion: No valid response, size <> 6", "GetVersion: No valid response"}));
+    EXPECT_EQ(dialogs.texts(), (std::vector<std::string>{"GetVersion: No valid response, size <> 6",
+                                                         "GetVersion: No valid response"}));
     EXPECT_EQ(link.VersionText, "Unknown");
 }
 
-TEST_F(DirectRoute, LynxMessageFramesWithoutToggle)
-{
+TEST_F(DirectRoute, LynxMessageFramesWithoutToggle) {
     link.SendLynxMessage(20, 1, 2, 3);
     // Burst, the empty legacy frame 20,128,128,128,236, then 20,129,130,131 and its checksum.
     // 20+129=149, +130=279->23, +131=154; 256-154=102 -> 230.
@@ -209,8 +190,7 @@ TEST_F(DirectRoute, LynxMessageFramesWithoutToggle)
     EXPECT_EQ(link.state.LinkToggle, 64);
 }
 
-TEST_F(DirectRoute, PortLostMidExchangeReportsOnceAndFails)
-{
+TEST_F(DirectRoute, PortLostMidExchangeReportsOnceAndFails) {
     link.state.LinkToggle = 64;
     port.writesFail = true;
     EXPECT_FALSE(link.SendKestrelMessage(true, 2, {112, 0}));
@@ -220,8 +200,7 @@ TEST_F(DirectRoute, PortLostMidExchangeReportsOnceAndFails)
     EXPECT_EQ(link.state.LinkToggle, 128);
 }
 
-TEST_F(DirectRoute, EveryFrameIsHandedToTheWireWhenComplete)
-{
+TEST_F(DirectRoute, EveryFrameIsHandedToTheWireWhenComplete) {
     // A port may gather a frame's bytes; the link flushes after each frame's checksum, so
     // nothing written ever waits in a buffer (an erase frame is the last thing a run sends).
     link.settings.CheckKestrelBD = false;

@@ -14,8 +14,8 @@ StepRecord mark(int n) {
 }
 
 // Fills steps 0..9 of the selected aspect with distinct "On" steps (Par0 = Par1 = step).
-AspectRecord &filledAspect(Configuration &c) {
-    AspectRecord &a = c.Pins[c.CurrentPin].Aspects[c.CurrentAspect];
+AspectRecord& filledAspect(Configuration& c) {
+    AspectRecord& a = c.Pins[c.CurrentPin].Aspects[c.CurrentAspect];
     for (int s = 0; s < kStepRecords; ++s)
         a.Steps[s] = mark(s);
     return a;
@@ -28,7 +28,7 @@ TEST(AspectEditor, ShowAspectFillsThePage) {
     c.NumberingBase = 1;
     c.CurrentPin = 4;
     c.CurrentAspect = 1;
-    PinRecord &p = c.Pins[4];
+    PinRecord& p = c.Pins[4];
     p.Description = "Home signal";
     p.DeviceOffset = -2;
     c.Pins[2].DeviceDescription = "Entry";
@@ -42,30 +42,20 @@ TEST(AspectEditor, ShowAspectFillsThePage) {
     p.Aspects[1].Steps[8] = {9, 0, 0, 0, 0, 0};
 
     const AspectView v = ShowAspect(c);
-    EXPECT_EQ(v.pinText, "5");
-    EXPECT_EQ(v.pinDescription, "Home signal");
-    EXPECT_EQ(v.devicePin, "3");
-    EXPECT_EQ(v.deviceDescription, "Entry");
-    EXPECT_FALSE(v.deviceDescriptionEnabled);
-    EXPECT_EQ(v.aspectText, "1");
-    EXPECT_EQ(v.aspectDescription, "Clear");
-    EXPECT_EQ(v.initText, "-1");
-    EXPECT_EQ(v.dccCount + v.xdccCount + v.lynxCount, "301");
+    EXPECT_EQ(std::tuple(v.pinText, v.pinDescription, v.devicePin, v.deviceDescription,
+                         v.deviceDescriptionEnabled, v.aspectText, v.aspectDescription, v.initText,
+                         v.dccCount + v.xdccCount + v.lynxCount),
+              std::tuple("5", "Home signal", "3", "Entry", false, "1", "Clear", "-1", "301"));
     EXPECT_EQ(p.Aspects[1].Steps[0], (StepRecord{102, 0, 0, 0, 63, 3}));
     EXPECT_EQ(InstructionTable::instance().list()[v.rows[0].listIndex].name, "Wait");
-    EXPECT_EQ(v.rows[0].timeText, "10:45.12");
-    EXPECT_EQ(v.rows[1].listIndex, 0);
-    EXPECT_EQ(v.rows[1].instruction, 50);
-    EXPECT_EQ(v.rows[0].parameters[2].text, "63");
-    EXPECT_FALSE(v.rows[0].parameters[0].used);
+    EXPECT_EQ(std::tuple(v.rows[0].timeText, v.rows[1].listIndex, v.rows[1].instruction,
+                         v.rows[0].parameters[2].text, v.rows[0].parameters[0].used),
+              std::tuple("10:45.12", 0, 50, "63", false));
     // the headings are those of the row normalised last, row 8
     EXPECT_EQ(v.headings, (std::array<std::string, 4>{"P.O.", "T(/60)", "", ""}));
-    EXPECT_EQ(v.layout.option, 2);
-    EXPECT_TRUE(v.layout.aspectControlsVisible);
-    EXPECT_EQ(v.layout.aspectMaximum, 11);
-    EXPECT_TRUE(v.layout.rowVisible[2]);
-    EXPECT_FALSE(v.layout.rowVisible[3]);
-    EXPECT_EQ(v.rows[8].timeText, ""); // hidden row
+    EXPECT_EQ(std::tuple(v.layout.option, v.layout.aspectControlsVisible, v.layout.aspectMaximum,
+                         v.layout.rowVisible[2], v.layout.rowVisible[3], v.rows[8].timeText), // row 8 hidden
+              std::tuple(2, true, 11, true, false, ""));
 
     p.InitAspect = 12;
     EXPECT_EQ(ShowAspect(c).initText, "11");
@@ -76,23 +66,18 @@ TEST(AspectEditor, ShowAspectFillsThePage) {
 TEST(AspectEditor, LayoutChanges) {
     Configuration c;
     c.CurrentPin = 2;
-    PinRecord &p = c.Pins[2];
+    PinRecord& p = c.Pins[2];
     p.AspectLayout = 2;
     c.CurrentAspect = 7;
     p.InitAspect = 10; // initial aspect 9
     const AspectView four = changeLayout(c, 1);
-    EXPECT_EQ(p.AspectLayout, 3);
-    EXPECT_EQ(c.CurrentAspect, 3);
-    EXPECT_EQ(four.aspectText, "3");
-    EXPECT_EQ(p.InitAspect, 0);
-    EXPECT_EQ(four.initText, "-1");
-    EXPECT_EQ(four.layout.aspectMaximum, 3);
-    EXPECT_TRUE(four.layout.rowVisible[8]);
+    EXPECT_EQ(std::tuple(p.AspectLayout, c.CurrentAspect, four.aspectText, p.InitAspect, four.initText,
+                         four.layout.aspectMaximum, four.layout.rowVisible[8]),
+              std::tuple(3, 3, "3", 0, "-1", 3, true));
 
     const AspectView none = changeLayout(c, 0);
-    EXPECT_EQ(p.AspectLayout, 0);
-    EXPECT_FALSE(none.layout.aspectControlsVisible);
-    EXPECT_FALSE(none.layout.rowVisible[0]);
+    EXPECT_EQ(std::tuple(p.AspectLayout, none.layout.aspectControlsVisible, none.layout.rowVisible[0]),
+              std::tuple(0, false, false));
 
     p.AspectLayout = 1; // shown as option 0 and stored as 0
     const AspectView one = ShowAspect(c);
@@ -107,9 +92,7 @@ TEST(AspectEditor, SelectorsClamp) {
     EXPECT_EQ(selectPin(c, "0").text, "1");
     EXPECT_EQ(c.CurrentPin, 0);
     const Selection last = selectPin(c, "40");
-    EXPECT_EQ(last.text, "32");
-    EXPECT_EQ(c.CurrentPin, 31);
-    EXPECT_EQ(last.view.pinText, "32");
+    EXPECT_EQ(std::tuple(last.text, c.CurrentPin, last.view.pinText), std::tuple("32", 31, "32"));
     EXPECT_EQ(selectPin(c, "7").text, "7");
     EXPECT_EQ(c.CurrentPin, 6);
 
@@ -128,10 +111,8 @@ TEST(AspectEditor, SelectorsClamp) {
     EXPECT_EQ(setAddressCount(c, AddressKind::Dcc, "9"), "7");
     EXPECT_EQ(setAddressCount(c, AddressKind::XDcc, "3"), "1");
     EXPECT_EQ(setAddressCount(c, AddressKind::Lynx, "2"), "2");
-    EXPECT_EQ(c.DccFirstIndex[7], 7);
-    EXPECT_EQ(c.XDccTotal, 1);
-    EXPECT_EQ(c.LynxFirstIndex[6], 0);
-    EXPECT_EQ(c.LynxTotal, 2);
+    EXPECT_EQ(std::tuple(c.DccFirstIndex[7], c.XDccTotal, c.LynxFirstIndex[6], c.LynxTotal),
+              std::tuple(7, 1, 0, 2));
 
     // a count whose sum would overflow is put back
     c.Pins[32].DccCount = 250;
@@ -167,7 +148,7 @@ TEST(AspectEditor, StepToolInsertAndDelete) {
     c.CurrentAspect = 2;
     c.Pins[1].AspectLayout = 2;
 
-    AspectRecord &a = filledAspect(c);
+    AspectRecord& a = filledAspect(c);
     selectStepRow(c, 0);
     insertStep(c);
     EXPECT_EQ(a.Steps[0], StepRecord{});
@@ -224,7 +205,7 @@ TEST(AspectEditor, AspectTool) {
     EXPECT_FALSE(tool.paste(c, dialogs));
     EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"Nothing to Paste"});
 
-    AspectRecord &a = c.Pins[0].Aspects[1];
+    AspectRecord& a = c.Pins[0].Aspects[1];
     a.Description = "Stop";
     a.Steps[0] = {9, 1, 2, 3, 0, 0}; // "On"
     a.Steps[1] = {0, 1, 4, 5, 6, 1}; // "-" with leftovers
@@ -237,11 +218,8 @@ TEST(AspectEditor, AspectTool) {
 
     c.CurrentAspect = 1;
     tool.clean(c);
-    EXPECT_EQ(a.Description, "");
-    EXPECT_EQ(a.AspectMark, -1);
-    EXPECT_EQ(a.Steps[0], (StepRecord{9, 1, 2, 3, 0, 0}));
-    EXPECT_EQ(a.Steps[1], StepRecord{});
-    EXPECT_EQ(a.Steps[2], StepRecord{});
+    EXPECT_EQ(std::tuple(a.Description, a.AspectMark, a.Steps[0], a.Steps[1], a.Steps[2]),
+              std::tuple("", -1, (StepRecord{9, 1, 2, 3, 0, 0}), StepRecord{}, StepRecord{}));
 
     c.CurrentAspect = 5;
     tool.clear(c);
@@ -255,14 +233,11 @@ TEST(AspectEditor, NumberingAndHelpDecision) {
     Configuration c;
     c.CurrentPin = 9;
     NumberingView on = setNumbering(c, true);
-    EXPECT_EQ(on.legend, "Pin       1..8         9..16      17..24       25..32");
-    EXPECT_EQ(on.pinMinimum, 1);
-    EXPECT_EQ(on.pinMaximum, 32);
-    EXPECT_EQ(on.view.pinText, "10");
+    EXPECT_EQ(std::tuple(on.legend, on.pinMinimum, on.pinMaximum, on.view.pinText),
+              std::tuple("Pin       1..8         9..16      17..24       25..32", 1, 32, "10"));
     NumberingView off = setNumbering(c, false);
-    EXPECT_EQ(off.legend, "Pin       0..7         8..15      16..23       24..31");
-    EXPECT_EQ(off.view.pinText, "9");
-    EXPECT_EQ(c.NumberingBase, 0);
+    EXPECT_EQ(std::tuple(off.legend, off.view.pinText, c.NumberingBase),
+              std::tuple("Pin       0..7         8..15      16..23       24..31", "9", 0));
 
     test::RecordingDialogs dialogs;
     EXPECT_EQ(helpToolFor({102, 0, 0, 0, 0, 0}, HelpBox::Time, dialogs), HelpToolKind::Time);

@@ -132,7 +132,7 @@ TEST(HelpTools, LevelTool) {
     EXPECT_EQ(t.levelText() + "/" + t.timeIndexText(), "1/2");
     EXPECT_EQ(t.setLevelText("20"), "7");
     EXPECT_EQ(t.timeIndex(), 2);
-    const auto &table = LevelTool::delayTable();
+    const auto& table = LevelTool::delayTable();
     for (std::size_t i = 1; i < table.size(); ++i)
         EXPECT_GT(table[i], table[i - 1]);
 }

@@ -27,7 +27,7 @@ TEST(PinTools, DeviceHeadLookup) {
 
 TEST(PinTools, ClearLeavesStepNineAndAspectTwelve) {
     Configuration c;
-    PinRecord &p = c.Pins[6];
+    PinRecord& p = c.Pins[6];
     p.Description = "pin";
     p.DeviceDescription = "dev";
     p.DeviceOffset = -2;
@@ -36,22 +36,15 @@ TEST(PinTools, ClearLeavesStepNineAndAspectTwelve) {
     p.ConfigMode = 1;
     p.ConfigParams.fill(9);
     p.DccCount = 2;
-    for (auto &a : p.Aspects) {
+    for (auto& a : p.Aspects) {
         a.Description = "asp";
-        for (auto &s : a.Steps)
+        for (auto& s : a.Steps)
             s = StepRecord{9, 1, 2, 3, 4, 5};
     }
     clearPin(c, 6);
-    EXPECT_EQ(p.Description, "");
-    EXPECT_EQ(p.DeviceDescription, "");
-    EXPECT_EQ(p.DeviceOffset, 0);
-    EXPECT_EQ(p.InitAspect, 0);
-    EXPECT_EQ(p.AspectLayout, 0);
-    EXPECT_EQ(p.ConfigMode, 0);
-    EXPECT_EQ(p.P(12), 0);
-    EXPECT_EQ(p.PinMarkA, -1);
-    EXPECT_EQ(p.PinMarkB, -1);
-    EXPECT_EQ(p.PinMarkC, -1);
+    EXPECT_EQ(std::tuple(p.Description, p.DeviceDescription, p.DeviceOffset, p.InitAspect, p.AspectLayout,
+                         p.ConfigMode, p.P(12), p.PinMarkA, p.PinMarkB, p.PinMarkC),
+              std::tuple("", "", 0, 0, 0, 0, 0, -1, -1, -1));
     EXPECT_EQ(p.DccCount, 2); // counts are not part of clearing
     for (int a = 0; a < 12; ++a) {
         EXPECT_EQ(p.Aspects[a].Description, "");
@@ -60,11 +53,9 @@ TEST(PinTools, ClearLeavesStepNineAndAspectTwelve) {
             EXPECT_EQ(p.Aspects[a].Steps[s], StepRecord{});
         EXPECT_EQ(p.Aspects[a].Steps[9], (StepRecord{9, 1, 2, 3, 4, 5}));
     }
-    EXPECT_EQ(p.Aspects[12].Description, "asp");
-    EXPECT_EQ(p.Aspects[12].AspectMark, 0);
-    EXPECT_EQ(p.Aspects[12].Steps[0], (StepRecord{9, 1, 2, 3, 4, 5}));
-    EXPECT_EQ(c.Pins[5], PinRecord{});
-    EXPECT_EQ(c.Pins[7], PinRecord{});
+    EXPECT_EQ(std::tuple(p.Aspects[12].Description, p.Aspects[12].AspectMark, p.Aspects[12].Steps[0],
+                         c.Pins[5], c.Pins[7]),
+              std::tuple("asp", 0, (StepRecord{9, 1, 2, 3, 4, 5}), PinRecord{}, PinRecord{}));
 }
 
 TEST(PinTools, CopyPasteReaimsDeviceOffset) {

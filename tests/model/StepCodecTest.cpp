@@ -7,7 +7,7 @@ using namespace kestrel;
 
 TEST(StepCodec, EveryInstructionRoundTripsWithAndWithoutFade) {
     for (int code = 0; code < 128; ++code) {
-        const InstructionInfo &info = instructionInfo(code);
+        const InstructionInfo& info = instructionInfo(code);
         if (info.Name.empty())
             continue;
         for (int fade = 0; fade <= 1; ++fade) {
@@ -37,7 +37,7 @@ TEST(StepCodec, CodeByteSplit) {
         {16, 16, 0},  {18, 18, 0},   {112, 112, 0}, // "SetAspect 0"
         {0x13, 3, 1}, {0x43, 67, 0}, {63, 47, 1},   {64, 64, 0}, {9, 9, 0},
     };
-    for (const auto &c : cases) {
+    for (const auto& c : cases) {
         StepRecord s;
         splitCodeByte(c.byte, s);
         EXPECT_EQ(s.Instruction, c.instruction) << c.byte;

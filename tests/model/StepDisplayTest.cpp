@@ -7,7 +7,7 @@ using namespace kestrel;
 
 namespace {
 
-std::string shown(const StepRecord &s, int par, int pin, int base = 0) {
+std::string shown(const StepRecord& s, int par, int pin, int base = 0) {
     return showParameter(s, par, pin, base).text;
 }
 
@@ -16,8 +16,8 @@ struct Typed {
     int parameter;
     int pin;
     int base;
-    const char *typed;
-    const char *text; // box afterwards
+    const char* typed;
+    const char* text; // box afterwards
     int stored;
 };
 
@@ -66,7 +66,7 @@ TEST(StepDisplay, AcceptRules) {
         {102, 3, 0, 0, "5", "3", 3},                                  // Base
         {102, 3, 0, 0, "-2", "0", 0},    {102, 0, 4, 0, "7", "0", 0}, // unused parameter
     };
-    for (const auto &c : cases) {
+    for (const auto& c : cases) {
         const StepRecord step{static_cast<std::uint8_t>(c.code), 0, 0, 0, 0, 0};
         const AcceptedParameter a = acceptParameter(step, c.parameter, c.typed, c.pin, c.base);
         SCOPED_TRACE(std::to_string(c.code) + " par " + std::to_string(c.parameter) + " typed " + c.typed);

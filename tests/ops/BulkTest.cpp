@@ -21,8 +21,7 @@ namespace {
 struct BulkSim : ::testing::Test {
     SimSession sim;
     Session& s = sim.session;
-    void SetUp() override
-    {
+    void SetUp() override {
         s.general = fullGeneralSettings();
         s.config = fullConfiguration();
         ASSERT_TRUE(WriteAll(s));
@@ -32,8 +31,7 @@ struct BulkSim : ::testing::Test {
 
 } // namespace
 
-TEST_F(BulkSim, AnotherIdOnTheModuleStopsAfterTheGeneralStage)
-{
+TEST_F(BulkSim, AnotherIdOnTheModuleStopsAfterTheGeneralStage) {
     int shown = 0;
     s.onShowVerification = [&] { ++shown; };
     s.report.line("left from an earlier run");
@@ -46,8 +44,7 @@ TEST_F(BulkSim, AnotherIdOnTheModuleStopsAfterTheGeneralStage)
               "Verification Stopped\r\n");
 }
 
-TEST_F(BulkSim, GeneralMismatchesAreAllListedInOrder)
-{
+TEST_F(BulkSim, GeneralMismatchesAreAllListedInOrder) {
     s.config.NumberingBase = 1; // display only; the verification compares what is written
     s.general.ChkGenHWCSink[3] = 1;
     s.general.TextGenXDCCAddress = "1024";
@@ -59,75 +56,61 @@ TEST_F(BulkSim, GeneralMismatchesAreAllListedInOrder)
     s.general.ComboGenBaud = 4;
     EXPECT_FALSE(VerifyAll(s));
     EXPECT_EQ(s.report.txtVerification, "Start General Settings Verification\r\n"
-                                         "Hardware configuration does not compare\r\n"
-                                         "eXtended DCC address does not compare\r\n"
-                                         "DCC Options do not compare\r\n"
-                                         "Serial Address Settings do not compare\r\n"
-                                         "eXtended Address does not compare\r\n"
-                                         "eXtended Group Mask does not compare\r\n"
-                                         "Orange LED configuration does not compare\r\n"
-                                         "Serial Port Configuration does not compare\r\n"
-                                         "Verification Stopped\r\n");
+                                        "Hardware configuration does not compare\r\n"
+                                        "eXtended DCC address does not compare\r\n"
+                                        "DCC Options do not compare\r\n"
+                                        "Serial Address Settings do not compare\r\n"
+                                        "eXtended Address does not compare\r\n"
+                                        "eXtended Group Mask does not compare\r\n"
+                                        "Orange LED configuration does not compare\r\n"
+                                        "Serial Port Configuration does not compare\r\n"
+                                        "Verification Stopped\r\n");
 }
 
-TEST_F(BulkSim, ReplyErrorsStopTheGeneralStageExceptAWrongDccAddressLength)
-{
-    sim.module.faults.refuse(112, sim::Refusal::WrongLength, 13);
-    EXPECT_FALSE(VerifyAll(s));
-    EXPECT_EQ(s.report.txtVerification, "Start General Settings Verification\r\n"
-                                         "Serial Port Config: No valid response, size = 5 expected = 4\r\n"
-                                         "Verification Stopped\r\n");
-
-    sim.module.faults.refused.clear();
-    sim.module.faults.refuse(112, sim::Refusal::WrongEcho, 8);
-    VerifyAll(s);
-    EXPECT_EQ(s.report.txtVerification, "Start General Settings Verification\r\n"
-                                         "Serial Address Settings: No valid response, msg = 113,8 expected = 112,8\r\n"
-                                         "Verification Stopped\r\n");
-
-    // A wrong length of the DCC address is reported and the stage goes on to the end.
-    sim.module.faults.refused.clear();
-    sim.module.faults.refuse(112, sim::Refusal::WrongLength, 4);
-    s.general.ComboGenBaud = 0;
-    VerifyAll(s);
-    EXPECT_EQ(s.report.txtVerification, "Start General Settings Verification\r\n"
-                                         "DCC Address: No valid response\r\n"
-                                         "Serial Port Configuration does not compare\r\n"
-                                         "Verification Stopped\r\n");
-
-    // A wrong echo of the eXtended DCC address ends it there.
-    sim.module.faults.refused.clear();
-    sim.module.faults.refuse(112, sim::Refusal::WrongEcho, 12);
-    VerifyAll(s);
-    EXPECT_EQ(s.report.txtVerification, "Start General Settings Verification\r\n"
-                                         "eXtended DCC Address: No valid response\r\n"
-                                         "Verification Stopped\r\n");
-
-    // No reply at all: the stage ends without a line of its own.
-    sim.module.faults.refused.clear();
-    sim.module.faults.refuse(112, sim::Refusal::NoReply, 6);
-    VerifyAll(s);
-    EXPECT_EQ(s.report.txtVerification, "Start General Settings Verification\r\n"
-                                         "Verification Stopped\r\n");
+TEST_F(BulkSim, ReplyErrorsStopTheGeneralStageExceptAWrongDccAddressLength) {
+    struct Case {
+        sim::Refusal refusal;
+        int item;
+        std::string lines; // between the first line and "Verification Stopped"
+    };
+    const Case cases[] = {
+        {sim::Refusal::WrongLength, 13, "Serial Port Config: No valid response, size = 5 expected = 4\r\n"},
+        {sim::Refusal::WrongEcho, 8,
+         "Serial Address Settings: No valid response, msg = 113,8 expected = 112,8\r\n"},
+        // A wrong length of the DCC address is reported and the stage goes on to the end.
+        {sim::Refusal::WrongLength, 4,
+         "DCC Address: No valid response\r\nSerial Port Configuration does not compare\r\n"},
+        // A wrong echo of the eXtended DCC address ends it there.
+        {sim::Refusal::WrongEcho, 12, "eXtended DCC Address: No valid response\r\n"},
+        // No reply at all: the stage ends without a line of its own.
+        {sim::Refusal::NoReply, 6, ""},
+    };
+    s.general.ComboGenBaud = 0; // differs from the module: seen only by a stage that goes on
+    for (const Case& c : cases) {
+        sim.module.faults.refused.clear();
+        sim.module.faults.refuse(112, c.refusal, c.item);
+        EXPECT_FALSE(VerifyAll(s));
+        EXPECT_EQ(s.report.txtVerification,
+                  "Start General Settings Verification\r\n" + c.lines + "Verification Stopped\r\n")
+            << c.item;
+    }
 }
 
-TEST_F(BulkSim, EventMismatchStopsBeforeThePins)
-{
+TEST_F(BulkSim, EventMismatchStopsBeforeThePins) {
     sim.memory().pins[9].eventOn[1] = 0x1F;
     EXPECT_FALSE(VerifyAll(s));
     const int configured = s.config.events(9).OnEvent[1];
     EXPECT_EQ(s.report.txtVerification, "Start General Settings Verification\r\n"
-                                         "Start EC Verification\r\n"
-                                         "Event-On(1) for pin 9 does not compare: Configured Action = " +
-                                             std::to_string(configured) +
-                                             ", Kestrel Reply = -1\r\n"
-                                             "Verification Stopped\r\n");
+                                        "Start EC Verification\r\n"
+                                        "Event-On(1) for pin 9 does not compare: Configured Action = " +
+                                            std::to_string(configured) +
+                                            ", Kestrel Reply = -1\r\n"
+                                            "Verification Stopped\r\n");
 }
 
 // ---- order and stopping, on a scripted module ----
 
-TEST(BulkScripted, ModuleThatAnswersNothingEndsReadAllAfterTheVersionRequest)
-{
+TEST(BulkScripted, ModuleThatAnswersNothingEndsReadAllAfterTheVersionRequest) {
     ScriptedModule m;
     int refreshed = 0;
     m.session.onConfigurationChanged = [&] { ++refreshed; };
@@ -138,8 +121,7 @@ TEST(BulkScripted, ModuleThatAnswersNothingEndsReadAllAfterTheVersionRequest)
     EXPECT_EQ(m.session.general.LabelGenVersionString, "Unknown");
 }
 
-TEST(BulkScripted, WriteAllSendsSerialAddressingLast)
-{
+TEST(BulkScripted, WriteAllSendsSerialAddressingLast) {
     ScriptedModule m;
     m.session.link.settings.CheckKestrelBD = false; // nothing answers; writes are paced
     EXPECT_TRUE(WriteAll(m.session));
@@ -157,8 +139,8 @@ TEST(BulkScripted, WriteAllSendsSerialAddressingLast)
     }
     // ID, DCC options / address / eXtended address, green, orange, hardware, serial
     // port, enable maps, then serial addressing: mode, group mask, eXtended address.
-    const std::vector<std::pair<int, int>> order{{96, 10}, {96, 5}, {96, 4}, {96, 12}, {96, 6}, {96, 7}, {96, 1},
-                                                 {96, 13}, {96, 11}, {96, 8}, {96, 3}, {96, 2}};
+    const std::vector<std::pair<int, int>> order{{96, 10}, {96, 5},  {96, 4},  {96, 12}, {96, 6}, {96, 7},
+                                                 {96, 1},  {96, 13}, {96, 11}, {96, 8},  {96, 3}, {96, 2}};
     EXPECT_EQ(general, order);
     EXPECT_EQ(eventWrites, 64);
     EXPECT_GE(pinWrites, 3 * 32); // layout, initial aspect and address configuration of each pin
@@ -181,8 +163,7 @@ struct CancelAfter : Progress {
 };
 } // namespace
 
-TEST_F(BulkSim, CancelledReadAllKeepsWhatWasReadAndStopsQuietly)
-{
+TEST_F(BulkSim, CancelledReadAllKeepsWhatWasReadAndStopsQuietly) {
     auto fresh = sim.fresh();
     CancelAfter cancel(2); // version and ID string
     fresh->link.setProgress(&cancel);
@@ -191,9 +172,8 @@ TEST_F(BulkSim, CancelledReadAllKeepsWhatWasReadAndStopsQuietly)
     EXPECT_FALSE(ReadAll(*fresh));
     EXPECT_EQ(cancel.exchanges, 2);
     EXPECT_GT(cancel.steps, 0);
-    EXPECT_EQ(fresh->general.TextGenIDString, "Up Main 7");
-    EXPECT_EQ(fresh->general.TextGenDCCAddress, "0");
-    EXPECT_EQ(refreshed, 1);
+    EXPECT_EQ(std::tuple(fresh->general.TextGenIDString, fresh->general.TextGenDCCAddress, refreshed),
+              std::tuple("Up Main 7", "0", 1));
     EXPECT_TRUE(sim.dialogs.messages.empty());
     EXPECT_EQ(fresh->jobSummary(), "Read All cancelled at Reading DCC settings");
 }

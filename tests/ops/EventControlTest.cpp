@@ -1,17 +1,16 @@
 // Event control: slot bytes, single and bulk transfer, the entry boxes, the enable
 // maps and the verification lines.
+#include "ops/EventControl.h"
 #include "support/ScriptedModule.h"
 #include "forms/EventControlForm.h"
 #include "support/SimSession.h"
-#include "ops/EventControl.h"
 
 #include <gtest/gtest.h>
 
 using namespace kestrel;
 using namespace kestrel::test;
 
-TEST(EventSlotByte, HighNibbleIsTheSlotAndFifteenMeansNone)
-{
+TEST(EventSlotByte, HighNibbleIsTheSlotAndFifteenMeansNone) {
     EXPECT_EQ(decodeEventSlot(2, 0x2F), -1);
     EXPECT_EQ(decodeEventSlot(3, 0x25), -1); // slot number 2 in slot 3
     EXPECT_EQ(decodeEventSlot(2, 0x25), 5);
@@ -28,18 +27,17 @@ struct EventScripted : ::testing::Test {
 };
 } // namespace
 
-TEST_F(EventScripted, WriteSinglePinSendsOnThenOffSlots)
-{
+TEST_F(EventScripted, WriteSinglePinSendsOnThenOffSlots) {
     s.config.NumberingBase = 1;
     s.eventControl.TextECpin = "8"; // pin 7
     s.config.events(7).OnEvent = {3, -1, 11, 0, 0};
     s.config.events(7).OffEvent = {-1, -1, -1, 2, 0};
     EXPECT_TRUE(WriteSingleEvents(s));
-    EXPECT_EQ(m.requests, (std::vector<Data>{{100, 7, 0x03, 0x1F, 0x2B, 0x30}, {101, 7, 0x0F, 0x1F, 0x2F, 0x32}}));
+    EXPECT_EQ(m.requests,
+              (std::vector<Data>{{100, 7, 0x03, 0x1F, 0x2B, 0x30}, {101, 7, 0x0F, 0x1F, 0x2F, 0x32}}));
 }
 
-TEST_F(EventScripted, ReadSinglePinUsesTheDifferentReplyLayoutsAndShowsTheEntries)
-{
+TEST_F(EventScripted, ReadSinglePinUsesTheDifferentReplyLayoutsAndShowsTheEntries) {
     s.eventControl.TextECpin = "40"; // clamped to pin 31
     // Event-On: length 7, an initial aspect entry before the slots; Event-Off: length 6.
     m.answer({116, 31, 0x7F, 0x01, 0x1F, 0x25, 0x3A});
@@ -57,17 +55,15 @@ TEST_F(EventScripted, ReadSinglePinUsesTheDifferentReplyLayoutsAndShowsTheEntrie
     EXPECT_EQ(m.dialogs.texts(), (std::vector<std::string>{"Function not supported by Device"}));
 }
 
-TEST_F(EventScripted, EntryBoxesClampToMinusOneAndElevenAndCopyToAll)
-{
+TEST_F(EventScripted, EntryBoxesClampToMinusOneAndElevenAndCopyToAll) {
     s.eventControl.TextECpin = "3";
     s.eventControl.TextECon[1] = "-5";
     EditEventEntry(s, EventSide::On, 1);
     s.eventControl.TextECoff[2] = "20";
     EditEventEntry(s, EventSide::Off, 2);
-    EXPECT_EQ(s.eventControl.TextECon[1], "-1");
-    EXPECT_EQ(s.eventControl.TextECoff[2], "11");
-    EXPECT_EQ(s.config.events(3).OnEvent[1], -1);
-    EXPECT_EQ(s.config.events(3).OffEvent[2], 11);
+    EXPECT_EQ(std::tuple(s.eventControl.TextECon[1], s.eventControl.TextECoff[2],
+                         s.config.events(3).OnEvent[1], s.config.events(3).OffEvent[2]),
+              std::tuple("-1", "11", -1, 11));
     // A number within -1..11 is taken as typed; only a clamped one is written back.
     s.eventControl.TextECon[3] = "07";
     EditEventEntry(s, EventSide::On, 3);
@@ -83,8 +79,7 @@ TEST_F(EventScripted, EntryBoxesClampToMinusOneAndElevenAndCopyToAll)
     }
 }
 
-TEST_F(EventScripted, EnableMapsAreTheInverseOfTheBoxes)
-{
+TEST_F(EventScripted, EnableMapsAreTheInverseOfTheBoxes) {
     s.general.CheckInitEE = {1, 1, 1, 1, 1, 1, 1, 1};
     WriteEnableMaps(s);
     s.general.CheckInitEE = {0, 0, 0, 0, 0, 0, 0, 0};
@@ -103,7 +98,8 @@ TEST_F(EventScripted, EnableMapsAreTheInverseOfTheBoxes)
     EXPECT_FALSE(ReadEnableMaps(s));
     m.answer({112, 10, 0, 0});
     EXPECT_FALSE(ReadEnableMaps(s));
-    EXPECT_EQ(m.dialogs.texts(), (std::vector<std::string>{"No valid response size", "No valid response type"}));
+    EXPECT_EQ(m.dialogs.texts(),
+              (std::vector<std::string>{"No valid response size", "No valid response type"}));
 }
 
 // ---- against the simulated module ----
@@ -115,17 +111,16 @@ struct EventSim : ::testing::Test {
 };
 } // namespace
 
-TEST_F(EventSim, ModuleWithoutEventOnGivesOneMessageAndEventOffStillRuns)
-{
+TEST_F(EventSim, ModuleWithoutEventOnGivesOneMessageAndEventOffStillRuns) {
     sim.module.faults.refuse(116, sim::Refusal::WrongEcho);
     sim.memory().pins[4].eventOff = {0x0F, 0x13, 0x2F, 0x3F};
     EXPECT_TRUE(ReadAllEvents(s));
-    EXPECT_EQ(sim.dialogs.texts(), (std::vector<std::string>{"Read Event-On: Function not supported by Device"}));
+    EXPECT_EQ(sim.dialogs.texts(),
+              (std::vector<std::string>{"Read Event-On: Function not supported by Device"}));
     EXPECT_EQ(s.config.events(4).OffEvent, (std::array<std::int16_t, 5>{-1, 3, -1, -1, 0}));
 }
 
-TEST_F(EventSim, VerifyWritesOneLinePerDifferingSlotAndTheMaskLines)
-{
+TEST_F(EventSim, VerifyWritesOneLinePerDifferingSlotAndTheMaskLines) {
     s.config.NumberingBase = 1;
     ASSERT_TRUE(WriteAllEvents(s));
     ASSERT_TRUE(WriteEnableMaps(s));
@@ -133,7 +128,7 @@ TEST_F(EventSim, VerifyWritesOneLinePerDifferingSlotAndTheMaskLines)
     EXPECT_EQ(s.report.txtVerification, "Start EC Verification\r\nNote: Numbering starts at 1\r\n");
 
     s.report.clear();
-    sim.memory().pins[3].eventOn[2] = 0x2F;  // pin 3, slot 2: none
+    sim.memory().pins[3].eventOn[2] = 0x2F; // pin 3, slot 2: none
     sim.memory().pins[30].eventOff[0] = 0x07;
     sim.memory().eventOffEnable = 4;
     EXPECT_FALSE(VerifyEventControl(s));

@@ -1,16 +1,16 @@
-#include "support/ScriptedModule.h"
-#include "ops/LiveOutput.h"
-#include "ops/PinConfigTransfer.h"
 #include "forms/PinConfigView.h"
 #include "forms/PinEdits.h"
+#include "ops/LiveOutput.h"
+#include "ops/PinConfigTransfer.h"
+#include "pins/PinConfig.h"
+#include "support/ScriptedModule.h"
 
 #include <gtest/gtest.h>
 
 using namespace kestrel;
 using namespace kestrel::test;
 
-TEST(ReadPinConfig, ActiveReplyPutsSecondByteIntoOutputValueFlashIntoP1)
-{
+TEST(ReadPinConfig, ActiveReplyPutsSecondByteIntoOutputValueFlashIntoP1) {
     for (int source : {0, 1}) {
         ScriptedModule rig;
         rig.session.link.settings.CheckKestrelBD = false; // a read switches it on
@@ -21,15 +21,12 @@ TEST(ReadPinConfig, ActiveReplyPutsSecondByteIntoOutputValueFlashIntoP1)
         EXPECT_EQ(rig.take()[0], (std::vector<int>{source == 0 ? 81 : 113, 7}));
         EXPECT_EQ(pin.ConfigMode, 1);
         // The mode changed to servo: both positions start at 64 before the bytes arrive.
-        EXPECT_EQ(pin.OutputValue, source == 0 ? 70 : 64);
-        EXPECT_EQ(pin.P(1), source == 0 ? 64 : 70);
-        EXPECT_EQ(pin.P(2), 11);
-        EXPECT_EQ(pin.P(3), 64);
+        EXPECT_EQ(std::tuple(pin.OutputValue, pin.P(1), pin.P(2), pin.P(3)),
+                  std::tuple(source == 0 ? 70 : 64, source == 0 ? 64 : 70, 11, 64));
     }
 }
 
-TEST(ReadPinConfig, ModeChangeClearsAndRepliesAreNormalised)
-{
+TEST(ReadPinConfig, ModeChangeClearsAndRepliesAreNormalised) {
     PinRecord pin;
     pin.ConfigMode = 2;
     pin.ConfigParams.fill(9);
@@ -52,8 +49,7 @@ TEST(ReadPinConfig, ModeChangeClearsAndRepliesAreNormalised)
     EXPECT_EQ(pin.P(2), 56);
 }
 
-TEST(ReadPinConfig, WrongPinOrCommandIsNoValidResponse)
-{
+TEST(ReadPinConfig, WrongPinOrCommandIsNoValidResponse) {
     ScriptedModule rig;
     rig.answer({'q', 8, 1, 64});
     rig.answer({'r', 7, 1, 64});
@@ -64,8 +60,7 @@ TEST(ReadPinConfig, WrongPinOrCommandIsNoValidResponse)
     EXPECT_EQ(rig.dialogs.texts(), std::vector<std::string>(3, "No valid response"));
 }
 
-TEST(SendPinConfig, EveryModeWithItsSizeAndValue)
-{
+TEST(SendPinConfig, EveryModeWithItsSizeAndValue) {
     ScriptedModule rig;
     rig.session.link.settings.CheckKestrelBD = false;
     PinRecord& pin = rig.session.config.Pins[2];
@@ -82,17 +77,15 @@ TEST(SendPinConfig, EveryModeWithItsSizeAndValue)
     pin.ConfigMode = 7;
     SendPinConfig(rig.session, 0, 2);
 
-    const auto f = rig.take();
-    ASSERT_EQ(f.size(), 5u);
-    EXPECT_EQ(f[0], (std::vector<int>{'a', 2, 1, 70, 0x0B, 60, 4, 5, 6, 7, 68, 9, 50, 11}));
-    EXPECT_EQ(f[1], (std::vector<int>{'A', 2, 1, 80, 0x0B, 60, 4, 5, 6, 7, 68, 9, 50, 11}));
-    EXPECT_EQ(f[2], (std::vector<int>{'A', 2, 3, 80, 0x0B, 60, 4, 5}));
-    EXPECT_EQ(f[3], (std::vector<int>{'a', 2, 5, 70, 0x0B, 60, 4}));
-    EXPECT_EQ(f[4], (std::vector<int>{'A', 2, 0})); // unknown mode 7 unconfigures the pin
+    // An unknown mode 7 unconfigures the pin.
+    EXPECT_EQ(rig.take(), (std::vector<Data>{{'a', 2, 1, 70, 0x0B, 60, 4, 5, 6, 7, 68, 9, 50, 11},
+                                             {'A', 2, 1, 80, 0x0B, 60, 4, 5, 6, 7, 68, 9, 50, 11},
+                                             {'A', 2, 3, 80, 0x0B, 60, 4, 5},
+                                             {'a', 2, 5, 70, 0x0B, 60, 4},
+                                             {'A', 2, 0}}));
 }
 
-TEST(LiveOutput, ServoAndPwmSubCommands)
-{
+TEST(LiveOutput, ServoAndPwmSubCommands) {
     ScriptedModule rig;
     rig.session.link.settings.CheckKestrelBD = false;
     rig.session.config.CurrentPin = 12;
@@ -110,8 +103,7 @@ TEST(LiveOutput, ServoAndPwmSubCommands)
     EXPECT_EQ(rig.take(), expected);
 }
 
-TEST(PinEdits, BoxesClampToTheirRangesAndStoreTheirEncoding)
-{
+TEST(PinEdits, BoxesClampToTheirRangesAndStoreTheirEncoding) {
     struct Case {
         PinField field;
         const char* typed;
@@ -119,13 +111,13 @@ TEST(PinEdits, BoxesClampToTheirRangesAndStoreTheirEncoding)
         int stored;
     };
     const Case cases[] = {
-        {PinField::TextSrvMaxSpd, "0", "1", 1},          {PinField::TextSrvMaxAccel, "200", "127", 127},
-        {PinField::TextBounceUp, "5", "0", 64},           {PinField::TextBounceUp, "-70", "-63", 1},
-        {PinField::TextBounceDown, "-3", "0", 64},        {PinField::TextBounceDown, "63", "63", 127},
-        {PinField::TextMidpoint, "-70", "-64", 0},        {PinField::TextMidpoint, "12ab", "12ab", 76},
-        {PinField::TextSrvInitPos, "63", "63", 127},      {PinField::TextPosition, "-1", "-1", 63},
-        {PinField::TextPWMLevel, "40", "31", 31},         {PinField::TextPWMAccel, "-5", "0", 0},
-        {PinField::TextPWMOnLevel, "32", "31", 31},       {PinField::TextInputDelay1, "99", "31", 31},
+        {PinField::TextSrvMaxSpd, "0", "1", 1},      {PinField::TextSrvMaxAccel, "200", "127", 127},
+        {PinField::TextBounceUp, "5", "0", 64},      {PinField::TextBounceUp, "-70", "-63", 1},
+        {PinField::TextBounceDown, "-3", "0", 64},   {PinField::TextBounceDown, "63", "63", 127},
+        {PinField::TextMidpoint, "-70", "-64", 0},   {PinField::TextMidpoint, "12ab", "12ab", 76},
+        {PinField::TextSrvInitPos, "63", "63", 127}, {PinField::TextPosition, "-1", "-1", 63},
+        {PinField::TextPWMLevel, "40", "31", 31},    {PinField::TextPWMAccel, "-5", "0", 0},
+        {PinField::TextPWMOnLevel, "32", "31", 31},  {PinField::TextInputDelay1, "99", "31", 31},
     };
     for (const Case& c : cases) {
         PinRecord pin;
@@ -139,14 +131,11 @@ TEST(PinEdits, BoxesClampToTheirRangesAndStoreTheirEncoding)
     PinRecord pin;
     std::map<PinField, std::string> boxes{{PinField::TextPWMAccel, "300"}, {PinField::TextPWMOnLevel, "99"}};
     CommitPinEdits(pin, 2, boxes); // the PWM page commits only its acceleration box
-    EXPECT_EQ(boxes[PinField::TextPWMAccel], "127");
-    EXPECT_EQ(boxes[PinField::TextPWMOnLevel], "99");
-    EXPECT_EQ(pin.P(3), 127);
-    EXPECT_EQ(pin.P(5), 0);
+    EXPECT_EQ(std::tuple(boxes[PinField::TextPWMAccel], boxes[PinField::TextPWMOnLevel], pin.P(3), pin.P(5)),
+              std::tuple("127", "99", 127, 0));
 }
 
-TEST(ShowPinConfig, PagesControlsAndHardwareWarning)
-{
+TEST(ShowPinConfig, PagesControlsAndHardwareWarning) {
     Configuration config;
     GeneralSettings general;
     config.CurrentPin = 9;

@@ -1,6 +1,6 @@
-#include "support/SimSession.h"
 #include "ops/PinTransfer.h"
 #include "pins/PinConfig.h"
+#include "support/SimSession.h"
 
 #include <gtest/gtest.h>
 
@@ -10,8 +10,7 @@ using namespace kestrel::test;
 namespace {
 
 // Pins 4 and 5 with something in every field that pin transfer carries.
-void fillPins(Configuration& config)
-{
+void fillPins(Configuration& config) {
     PinRecord& a = config.Pins[4];
     a.AspectLayout = 3;
     a.InitAspect = 2;
@@ -30,8 +29,7 @@ void fillPins(Configuration& config)
     b.ConfigParams = {10, 1, 5, 0, 31, 0, 0, 0, 0, 0, 0, 0};
 }
 
-std::vector<std::string> reportLines(const Session& session)
-{
+std::vector<std::string> reportLines(const Session& session) {
     std::vector<std::string> lines;
     const std::string& t = session.report.txtVerification;
     for (std::size_t at = 0, end; (end = t.find("\r\n", at)) != std::string::npos; at = end + 2)
@@ -50,8 +48,7 @@ public:
 
 } // namespace
 
-TEST(PinTransferSim, WriteThenReadGivesThePinsBack)
-{
+TEST(PinTransferSim, WriteThenReadGivesThePinsBack) {
     SimSession rig;
     fillPins(rig.session.config);
     ASSERT_TRUE(WritePin(rig.session, 4, true));
@@ -66,23 +63,19 @@ TEST(PinTransferSim, WriteThenReadGivesThePinsBack)
     rig.module.addressConfigRotation = 2;
     ASSERT_TRUE(ReadPin(rig.session, 4));
     ASSERT_TRUE(ReadPin(rig.session, 5));
-    for (const auto& [read, written] : {std::pair{rig.session.config.Pins[4], a}, {rig.session.config.Pins[5], b}}) {
-        EXPECT_EQ(read.AspectLayout, written.AspectLayout);
-        EXPECT_EQ(read.Aspects, written.Aspects);
-        EXPECT_EQ(read.InitAspect, written.InitAspect);
-        EXPECT_EQ(read.DccCount, written.DccCount);
-        EXPECT_EQ(read.XDccCount, written.XDccCount);
-        EXPECT_EQ(read.LynxCount, written.LynxCount);
-        EXPECT_EQ(read.DeviceOffset, written.DeviceOffset);
-        EXPECT_EQ(read.ConfigMode, written.ConfigMode);
-        EXPECT_EQ(read.ConfigParams, written.ConfigParams);
+    for (const auto& [read, written] :
+         {std::pair{rig.session.config.Pins[4], a}, {rig.session.config.Pins[5], b}}) {
+        EXPECT_EQ(std::tuple(read.AspectLayout, read.Aspects, read.InitAspect, read.DccCount, read.XDccCount,
+                             read.LynxCount, read.DeviceOffset, read.ConfigMode, read.ConfigParams),
+                  std::tuple(written.AspectLayout, written.Aspects, written.InitAspect, written.DccCount,
+                             written.XDccCount, written.LynxCount, written.DeviceOffset, written.ConfigMode,
+                             written.ConfigParams));
     }
     EXPECT_EQ(rig.session.config.DccFirstIndex[5], 7); // the address index follows the read counts
     EXPECT_TRUE(rig.dialogs.messages.empty());
 }
 
-TEST(PinTransferSim, VerifyReportsEachDifferenceOnceConfigurationFirst)
-{
+TEST(PinTransferSim, VerifyReportsEachDifferenceOnceConfigurationFirst) {
     SimSession rig;
     fillPins(rig.session.config);
     rig.session.config.Pins[11].ConfigMode = 2; // PWM whose module answers only five bytes
@@ -122,20 +115,19 @@ TEST(PinTransferSim, VerifyReportsEachDifferenceOnceConfigurationFirst)
                                         }));
 }
 
-TEST(PinTransferSim, VerifyWrongAndMissingReplies)
-{
+TEST(PinTransferSim, VerifyWrongAndMissingReplies) {
     SimSession rig;
     rig.module.faults.refuse(118, sim::Refusal::WrongEcho, 2);
     rig.module.faults.refuse(113, sim::Refusal::NoReply, 3);
     EXPECT_FALSE(VerifyAllPins(rig.session));
     EXPECT_EQ(reportLines(rig.session),
-              (std::vector<std::string>{"Start Pin Verification",
-                                        "Pin Address Configuration: Invalid Response, expected 5,118,2, received 5,119,2",
-                                        "No valid response"}));
+              (std::vector<std::string>{
+                  "Start Pin Verification",
+                  "Pin Address Configuration: Invalid Response, expected 5,118,2, received 5,119,2",
+                  "No valid response"}));
 }
 
-TEST(PinTransferSim, DeviceIsItsHeadAndTheFollowingPinsThatPointAtIt)
-{
+TEST(PinTransferSim, DeviceIsItsHeadAndTheFollowingPinsThatPointAtIt) {
     SimSession rig;
     for (int p = 3; p <= 7; ++p)
         rig.modulePin(p).aspectLayout = 3;
@@ -183,8 +175,7 @@ TEST(PinTransferSim, DeviceIsItsHeadAndTheFollowingPinsThatPointAtIt)
     EXPECT_EQ(rig.dialogs.texts(), (std::vector<std::string>{"Cannot read DevicePointer from Pin 7"}));
 }
 
-TEST(PinTransferSim, AllPinsReportProgressAndStopWhenCancelled)
-{
+TEST(PinTransferSim, AllPinsReportProgressAndStopWhenCancelled) {
     SimSession rig;
     CancelAt progress(3);
     rig.session.link.setProgress(&progress);

@@ -1,5 +1,5 @@
-#include "support/ScriptedModule.h"
 #include "ops/PinTransfer.h"
+#include "support/ScriptedModule.h"
 
 #include <gtest/gtest.h>
 
@@ -12,8 +12,8 @@ using Frames = std::vector<std::vector<int>>;
 
 // Replies for a layout-2 pin whose steps are all empty except the given code bytes in
 // aspect 0, then the initial aspect entry and the three address bytes.
-void scriptPinRead(ScriptedModule& rig, int pin, std::vector<int> codes, int initEntry, std::vector<int> address)
-{
+void scriptPinRead(ScriptedModule& rig, int pin, std::vector<int> codes, int initEntry,
+                   std::vector<int> address) {
     rig.answer({114, pin, 2});
     for (int a = 0; a < 12; ++a)
         for (int s = 0; s < 3; ++s) {
@@ -26,16 +26,15 @@ void scriptPinRead(ScriptedModule& rig, int pin, std::vector<int> codes, int ini
 
 } // namespace
 
-TEST(PinRead, CodeBytesFadeAndAspectMajorOrder)
-{
+TEST(PinRead, CodeBytesFadeAndAspectMajorOrder) {
     ScriptedModule rig;
     scriptPinRead(rig, 5, {0x13, 0x12, 0x43}, 0x73, {0x02, 0x11, 0x40});
     ASSERT_TRUE(PAspReadPin(rig.session, 5));
     const auto& pin = rig.session.config.Pins[5];
-    EXPECT_EQ(pin.AspectLayout, 2);
-    EXPECT_EQ(pin.Aspects[0].Steps[0], (StepRecord{3, 1, 1, 2, 3, 4}));
-    EXPECT_EQ(pin.Aspects[0].Steps[1], (StepRecord{18, 0, 1, 2, 3, 4}));
-    EXPECT_EQ(pin.Aspects[0].Steps[2], (StepRecord{67, 0, 1, 2, 3, 4}));
+    EXPECT_EQ(std::tuple(pin.AspectLayout, pin.Aspects[0].Steps[0], pin.Aspects[0].Steps[1],
+                         pin.Aspects[0].Steps[2]),
+              std::tuple(2, (StepRecord{3, 1, 1, 2, 3, 4}), (StepRecord{18, 0, 1, 2, 3, 4}),
+                         (StepRecord{67, 0, 1, 2, 3, 4})));
     EXPECT_EQ(pin.InitAspect, 4); // entry 0x73: aspect 3, stored plus one
     EXPECT_EQ(pin.DccCount, 2);
     EXPECT_EQ(pin.LynxCount, 1);
@@ -50,8 +49,7 @@ TEST(PinRead, CodeBytesFadeAndAspectMajorOrder)
     EXPECT_EQ(f[38], (std::vector<int>{118, 5}));
 }
 
-TEST(PinRead, AddressBytesInAnyOrderAndDevicePointer)
-{
+TEST(PinRead, AddressBytesInAnyOrderAndDevicePointer) {
     struct Case {
         int pin;
         std::vector<int> bytes;
@@ -65,16 +63,12 @@ TEST(PinRead, AddressBytesInAnyOrderAndDevicePointer)
         rig.answer({118, c.pin, c.bytes[0], c.bytes[1], c.bytes[2]});
         ASSERT_TRUE(PAspReadPin(rig.session, c.pin));
         const auto& pin = rig.session.config.Pins[c.pin];
-        EXPECT_EQ(pin.DeviceOffset, c.offset);
-        EXPECT_EQ(pin.DccCount, 3);
-        EXPECT_EQ(pin.XDccCount, 1);
-        EXPECT_EQ(pin.LynxCount, 5);
-        EXPECT_EQ(pin.InitAspect, 0);
+        EXPECT_EQ(std::tuple(pin.DeviceOffset, pin.DccCount, pin.XDccCount, pin.LynxCount, pin.InitAspect),
+                  std::tuple(c.offset, 3, 1, 5, 0));
     }
 }
 
-TEST(PinRead, LayoutOtherThanTwoOrThreeReadsNoStepsAndBadRepliesFail)
-{
+TEST(PinRead, LayoutOtherThanTwoOrThreeReadsNoStepsAndBadRepliesFail) {
     ScriptedModule rig;
     rig.answer({114, 3, 5});
     rig.answer({116, 3, 0x65, 0x0F, 0x1F, 0x2F, 0x3F}); // tag 6: no initial aspect
@@ -82,7 +76,8 @@ TEST(PinRead, LayoutOtherThanTwoOrThreeReadsNoStepsAndBadRepliesFail)
     rig.session.config.Pins[3].InitAspect = 9;
     EXPECT_FALSE(PAspReadPin(rig.session, 3));
     EXPECT_EQ(rig.session.config.Pins[3].InitAspect, 0);
-    EXPECT_EQ(rig.dialogs.texts(), (std::vector<std::string>{"Read Pin Address Configuration: Invalid Response"}));
+    EXPECT_EQ(rig.dialogs.texts(),
+              (std::vector<std::string>{"Read Pin Address Configuration: Invalid Response"}));
     const Frames f = rig.take();
     ASSERT_EQ(f.size(), 3u);
     EXPECT_EQ(f[1][0], 116);
@@ -93,8 +88,7 @@ TEST(PinRead, LayoutOtherThanTwoOrThreeReadsNoStepsAndBadRepliesFail)
     EXPECT_EQ(echo.dialogs.texts(), (std::vector<std::string>{"No valid response"}));
 }
 
-TEST(PinWrite, ExactRequestsAndPacingWhenOneWay)
-{
+TEST(PinWrite, ExactRequestsAndPacingWhenOneWay) {
     ScriptedModule rig;
     rig.session.link.settings.CheckKestrelBD = false;
     PinRecord& pin = rig.session.config.Pins[30];

@@ -1,7 +1,7 @@
+#include "sim/SimPort.h"
 #include "SimTestBytes.h"
 #include "sim/SimBus.h"
 #include "sim/SimFraming.h"
-#include "sim/SimPort.h"
 
 #include <gtest/gtest.h>
 
@@ -11,8 +11,7 @@ using namespace kestrel::sim;
 using kestrel::sim::test::busRequest;
 using Bytes = std::vector<std::uint8_t>;
 
-TEST(SimFraming, RunningSumCheckSatisfiesTheReceiverRule)
-{
+TEST(SimFraming, RunningSumCheckSatisfiesTheReceiverRule) {
     // Worked example: 67, 226, 240, 128 -> running sum 67, 37, 21, 149; 256 - 149 = 107,
     // below 128, so 235.
     const Bytes request{67, 226, 240, 128};
@@ -29,8 +28,7 @@ TEST(SimFraming, RunningSumCheckSatisfiesTheReceiverRule)
     }
 }
 
-TEST(SimPort, ReplyIsReadableAsSoonAsTheFrameCompletes)
-{
+TEST(SimPort, ReplyIsReadableAsSoonAsTheFrameCompletes) {
     SimBus bus;
     bus.addModule(0);
     SimPort port(bus);
@@ -48,8 +46,7 @@ TEST(SimPort, ReplyIsReadableAsSoonAsTheFrameCompletes)
     EXPECT_EQ(bus.stats().exchanges, 1);
 }
 
-TEST(SimPort, EmptyWaitReturnsAtOnceThroughTheHook)
-{
+TEST(SimPort, EmptyWaitReturnsAtOnceThroughTheHook) {
     SimBus bus;
     SimPort port(bus);
     port.open();
@@ -60,8 +57,7 @@ TEST(SimPort, EmptyWaitReturnsAtOnceThroughTheHook)
     EXPECT_EQ(port.emptyWaits(), 1);
 }
 
-TEST(SimPort, SettingsOpenCloseAndVanishing)
-{
+TEST(SimPort, SettingsOpenCloseAndVanishing) {
     SimBus bus;
     bus.addModule(0);
     SimPort port(bus);

@@ -5,8 +5,10 @@
 // acknowledged with its first two bytes, as a module acknowledges a write.
 #include "session/Session.h"
 #include "FakeClock.h"
+#include "Frames.h"
 #include "RecordingDialogs.h"
 #include "ScriptedPort.h"
+#include "session/Session.h"
 
 #include <deque>
 #include <optional>
@@ -22,43 +24,28 @@ struct ScriptedModule {
     RecordingDialogs dialogs;
     Session session{port, clock, dialogs};
 
-    std::vector<Data> requests;          // data bytes of every frame that carried data
-    std::vector<bool> waited;            // its bidirectional bit
+    std::vector<Data> requests; // data bytes of every frame that carried data
+    std::vector<bool> waited;   // its bidirectional bit
     std::deque<std::optional<Data>> replies;
 
-    ScriptedModule()
-    {
+    ScriptedModule() {
         port.onWrite = [this](ScriptedPort&, int b) { onByte(b); };
     }
 
     void answer(Data data) { replies.push_back(std::move(data)); }
     void silence() { replies.push_back(std::nullopt); }
     // The requests so far, forgotten as they are handed out.
-    std::vector<Data> take()
-    {
+    std::vector<Data> take() {
         auto out = std::move(requests);
         requests.clear();
         waited.clear();
         return out;
     }
 
-    // A reply frame built by hand: address byte, header 128 + 96 + N, data + 128, and a
-    // check byte that makes address + low 7 bits of every later byte a multiple of 128.
-    static Data replyFrame(int addressByte, const Data& data)
-    {
-        Data f{addressByte, 128 + 96 + static_cast<int>(data.size())};
-        int sum = addressByte + (f[1] & 127);
-        for (int d : data) {
-            f.push_back(128 + d);
-            sum += d;
-        }
-        f.push_back(128 + (128 - sum % 128) % 128);
-        return f;
-    }
+    static Data replyFrame(int addressByte, const Data& data) { return moduleReply(addressByte, data); }
 
 private:
-    void onByte(int b)
-    {
+    void onByte(int b) {
         if (b < 128) {
             address = b;
             phase = Phase::Header;

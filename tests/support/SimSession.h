@@ -24,8 +24,7 @@ struct SimSession {
     Session& session = *owned;
 
     // A new session on the same port, as after a restart of the program.
-    std::unique_ptr<Session> fresh()
-    {
+    std::unique_ptr<Session> fresh() {
         port.open();
         port.setWaitHook([this](int ms) { clock.advance(ms / 1000.0); });
         return std::make_unique<Session>(port, clock, dialogs);
@@ -35,8 +34,7 @@ struct SimSession {
 };
 
 // Every general setting away from its start-up value, in the form a read leaves it.
-inline GeneralSettings fullGeneralSettings()
-{
+inline GeneralSettings fullGeneralSettings() {
     GeneralSettings g;
     g.TextGenIDString = "Up Main 7";
     g.TextGenDCCAddress = "202";
@@ -70,8 +68,7 @@ inline GeneralSettings fullGeneralSettings()
 
 // Every pin used: layouts 3, 2 and none in turn, every step of a layout filled, distinct
 // initial aspects, address counts and events, and one device of three pins (5 to 7).
-inline Configuration fullConfiguration()
-{
+inline Configuration fullConfiguration() {
     Configuration c;
     for (int p = 0; p < kPinCount; ++p) {
         auto& pin = c.pin(p);
@@ -80,10 +77,18 @@ inline Configuration fullConfiguration()
         for (int a = 0; a < slots.aspects; ++a)
             for (int s = 0; s < slots.steps; ++s)
                 c.step(p, a, s) = pin.AspectLayout == 3
-                                      ? StepRecord{7, 0, static_cast<std::uint8_t>((p * 5 + a) % 100),
-                                                   static_cast<std::uint8_t>(s + 1), static_cast<std::uint8_t>(a), 1}
-                                      : StepRecord{3, 1, static_cast<std::uint8_t>(p), static_cast<std::uint8_t>(a),
-                                                   static_cast<std::uint8_t>(s + 1), 2};
+                                      ? StepRecord{7,
+                                                   0,
+                                                   static_cast<std::uint8_t>((p * 5 + a) % 100),
+                                                   static_cast<std::uint8_t>(s + 1),
+                                                   static_cast<std::uint8_t>(a),
+                                                   1}
+                                      : StepRecord{3,
+                                                   1,
+                                                   static_cast<std::uint8_t>(p),
+                                                   static_cast<std::uint8_t>(a),
+                                                   static_cast<std::uint8_t>(s + 1),
+                                                   2};
         pin.InitAspect = static_cast<std::uint8_t>(p % 4);
         pin.DccCount = static_cast<std::uint8_t>(p % 8);
         pin.XDccCount = static_cast<std::uint8_t>(p % 2);

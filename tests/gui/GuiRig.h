@@ -1,0 +1,79 @@
+#pragma once
+// Rigs of the window tests: a session on the built-in simulated module (the demonstration
+// configuration at bus address 0) for one page, and the whole window on it.
+#include "link/Clock.h"
+#include "session/Session.h"
+#include "shell/BuiltInSim.h"
+#include "shell/KestrelConfig.h"
+#include "support/RecordingDialogs.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace kestrel::test {
+
+// One page of the window (PageType(Session&, extra...)), shown, on its own session.
+template <typename PageType> struct PageRig {
+    std::unique_ptr<SerialPort> port = makeBuiltInSimPort();
+    SystemClock clock;
+    RecordingDialogs dialogs;
+    std::unique_ptr<Session> session;
+    std::unique_ptr<PageType> page;
+
+    template <typename... Extra> explicit PageRig(Extra&&... extra) {
+        port->select("sim");
+        port->open();
+        session = std::make_unique<Session>(*port, clock, dialogs);
+        page = std::make_unique<PageType>(*session, std::forward<Extra>(extra)...);
+        page->show();
+    }
+    PinRecord& pin(int p) { return session->config.pin(p); }
+};
+
+// The window with the built-in module chosen as its port.
+struct Window {
+    RecordingDialogs dialogs;
+    KestrelConfig w{nullptr, &dialogs};
+    explicit Window(bool open = true) {
+        w.show();
+        if (open)
+            openPort("sim");
+    }
+    void openPort(const QString& name) {
+        w.ComboPort->setEditText(name);
+        QTest::keyClick(w.ComboPort, Qt::Key_Return);
+    }
+    // Runs a whole-module job from its button and waits for it to end.
+    void job(QPushButton* button) {
+        QTest::mouseClick(button, Qt::LeftButton);
+        waitIdle();
+    }
+    void waitIdle() {
+        ASSERT_TRUE(
+            QTest::qWaitFor([&] { return !w.LabelAction->isVisible() && w.jobs.PendingJob.empty(); }, 60000));
+    }
+    QString report() const { return w.txtVerification ? w.txtVerification->toPlainText() : QString(); }
+    QString status() const { return w.LabelStatusJob->text(); }
+};
+
+template <typename W> W* child(QWidget& w, const QString& name) {
+    W* found = w.findChild<W*>(name);
+    EXPECT_NE(found, nullptr) << name.toStdString();
+    return found;
+}
+
+// Text put into a box and the box left (as the page's handlers see it).
+inline void enter(QLineEdit* box, const QString& text) {
+    box->setText(text);
+    emit box->editingFinished();
+}
+
+} // namespace kestrel::test
