@@ -28,8 +28,14 @@ public:
     int shown = 0;
     void message(const std::string&, Icon) override { ++shown; }
     Answer ask(const std::string&, Buttons, Icon) override { return Answer::Ok; }
-    std::string openFileName(const std::string&, const std::string&, const std::string&) override { return {}; }
-    std::string saveFileName(const std::string&, const std::string&, const std::string&) override { return {}; }
+    std::string openFileName(const std::string&, const std::string&, const std::string&) override
+    {
+        return {};
+    }
+    std::string saveFileName(const std::string&, const std::string&, const std::string&) override
+    {
+        return {};
+    }
 };
 
 // A port in memory. Bytes written are discarded, except that a whole request frame with
@@ -176,7 +182,8 @@ BENCHMARK(BM_DataFileRead)->Unit(benchmark::kMicrosecond);
 // The largest files that are read at all (1 MB): a data file whose pin blocks repeat
 // until it is full, and a definitions file of nothing but device names, read into the
 // device list as the window does at its start. peak_rss_MiB is the process's peak.
-std::string largestDataFile() {
+std::string largestDataFile()
+{
     Configuration config;
     GeneralSettings general;
     bench::fillFullConfiguration(config, general);
@@ -189,14 +196,16 @@ std::string largestDataFile() {
     return text + "\"End\"\r\n";
 }
 
-void reportPeak(benchmark::State& state, std::size_t bytes) {
+void reportPeak(benchmark::State& state, std::size_t bytes)
+{
     rusage usage{};
     getrusage(RUSAGE_SELF, &usage);
     state.counters["file_bytes"] = static_cast<double>(bytes);
     state.counters["peak_rss_MiB"] = static_cast<double>(usage.ru_maxrss) / 1024.0;
 }
 
-void BM_LargestDataFileRead(benchmark::State& state) {
+void BM_LargestDataFileRead(benchmark::State& state)
+{
     const std::string text = largestDataFile();
     SilentDialogs dialogs;
     for (auto _ : state) {
@@ -210,7 +219,8 @@ void BM_LargestDataFileRead(benchmark::State& state) {
 }
 BENCHMARK(BM_LargestDataFileRead)->Unit(benchmark::kMillisecond);
 
-void BM_LargestDefinitionsList(benchmark::State& state) {
+void BM_LargestDefinitionsList(benchmark::State& state)
+{
     std::string text = std::string("\"") + kDeviceFileKeyword + " 1.0\"\r\n";
     for (int i = 0; text.size() + 40 < kTextFileLimit; ++i)
         text += "\"Dev\",\"D" + std::to_string(i) + "\"\r\n";

@@ -8,8 +8,8 @@
 //   [3] size of the chunks in which the bytes arrive (1..32)
 // Rounds go on until every chunk has been taken.
 #include "FuzzSupport.h"
-#include "link/Link.h"
 #include "base/ProgramFault.h"
+#include "link/Link.h"
 #include "support/FakeClock.h"
 #include "support/RecordingDialogs.h"
 #include "support/ScriptedPort.h"
@@ -49,10 +49,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         std::string log;
         try {
             switch (mode) {
-            case 0: link.SendKestrelMessage(true, 2, {114, pin++ % 32}); break;
-            case 1: link.SendKestrelMessage(false, 3, {98, pin++ % 32, 2}); break;
-            case 2: link.CorvidExchange(0); break;
-            case 3: log = link.CorvidReceive(); break;
+            case 0:
+                link.SendKestrelMessage(true, 2, {114, pin++ % 32});
+                break;
+            case 1:
+                link.SendKestrelMessage(false, 3, {98, pin++ % 32, 2});
+                break;
+            case 2:
+                link.CorvidExchange(0);
+                break;
+            case 3:
+                log = link.CorvidReceive();
+                break;
             }
         } catch (const ProgramFault& fault) {
             fuzz::finding(std::string("ProgramFault while receiving: ") + fault.what());
@@ -69,7 +77,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         }
         for (int b : link.state.ReplyBuffer)
             fuzz::expect(b >= 0 && b <= 127, "reply buffer holds a byte outside 0..127");
-        fuzz::expect(link.state.CorvidToggle == 0 || link.state.CorvidToggle == 1, "Corvid toggle not 0 or 1");
+        fuzz::expect(link.state.CorvidToggle == 0 || link.state.CorvidToggle == 1,
+                     "Corvid toggle not 0 or 1");
     } while (!port.chunks.empty() || !port.input.empty());
     return 0;
 }

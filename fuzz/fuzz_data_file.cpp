@@ -2,8 +2,8 @@
 // ends in one of the reader's results without a program fault, nothing it lets into the
 // model is a value that cannot be sent, and what it read can be written and read back.
 #include "FuzzSupport.h"
-#include "files/ConfigurationFile.h"
 #include "base/ProgramFault.h"
+#include "files/ConfigurationFile.h"
 #include "ops/SendCheck.h"
 #include "support/RecordingDialogs.h"
 
@@ -11,10 +11,7 @@ using namespace kestrel;
 
 namespace {
 
-bool storable(const std::string& text)
-{
-    return text.find_first_of("\"\r\n") == std::string::npos;
-}
+bool storable(const std::string& text) { return text.find_first_of("\"\r\n") == std::string::npos; }
 
 // Texts with a double quote or a line end cannot be stored (the files have no escape),
 // so the read-back check only applies when none of the texts holds one.
@@ -33,7 +30,8 @@ bool allTextsStorable(const Configuration& c, const GeneralSettings& g)
 }
 
 LoadResult read(const std::string& text, Configuration& config, GeneralSettings& general,
-                UserDialogs& dialogs) {
+                UserDialogs& dialogs)
+{
     try {
         return readConfigurationText(text, config, general, dialogs);
     } catch (const ProgramFault& fault) {

@@ -4,8 +4,8 @@
 //
 // Input: [0] the head pin (0..31), then the text of the definitions file.
 #include "FuzzSupport.h"
-#include "files/DeviceDefinitions.h"
 #include "base/ProgramFault.h"
+#include "files/DeviceDefinitions.h"
 #include "support/RecordingDialogs.h"
 
 using namespace kestrel;

@@ -8,8 +8,8 @@
 // Requests are sent one after another until every chunk has been taken; each must leave
 // the link in a consistent state whatever arrived.
 #include "FuzzSupport.h"
-#include "link/Link.h"
 #include "base/ProgramFault.h"
+#include "link/Link.h"
 #include "support/FakeClock.h"
 #include "support/RecordingDialogs.h"
 #include "support/ScriptedPort.h"
@@ -74,7 +74,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             std::size_t brackets = 0;
             for (char c : link.TextResponse)
                 brackets += c == '[';
-            fuzz::expect(brackets == static_cast<std::size_t>(n) + 2, "TextResponse does not show N + 2 bytes");
+            fuzz::expect(brackets == static_cast<std::size_t>(n) + 2,
+                         "TextResponse does not show N + 2 bytes");
         }
         if (version && link.VersionText != "Unknown")
             fuzz::expect(link.state.ReplyValid && (link.state.ReplyBuffer[1] & 15) == 6,

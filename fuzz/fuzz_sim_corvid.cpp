@@ -35,6 +35,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         else
             fuzz::expectCorvidFrames(out, "Corvid answer");
     }
-    fuzz::expect(corvid.stats().bytesIn == static_cast<long>(bytes.size()), "Corvid lost count of bytes written");
+    fuzz::expect(corvid.stats().bytesIn == static_cast<long>(bytes.size()),
+                 "Corvid lost count of bytes written");
     return 0;
 }

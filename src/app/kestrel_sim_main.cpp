@@ -76,8 +76,8 @@ int parseInt(const std::string& text, int lo, int hi, const std::string& what)
         used = 0;
     }
     if (used != text.size() || text.empty() || v < lo || v > hi)
-        throw std::invalid_argument(what + " must be a number from " + std::to_string(lo) + " to "
-                                    + std::to_string(hi) + ", not \"" + text + "\"");
+        throw std::invalid_argument(what + " must be a number from " + std::to_string(lo) + " to " +
+                                    std::to_string(hi) + ", not \"" + text + "\"");
     return v;
 }
 
@@ -85,9 +85,9 @@ int parseInt(const std::string& text, int lo, int hi, const std::string& what)
 int parseCorvidVersion(const std::string& text, const std::string& what)
 {
     const auto dot = text.find('.');
-    int v = dot == std::string::npos
-                ? parseInt(text, 0, 9999, what)
-                : parseInt(text.substr(0, dot), 0, 9, what) * 1000 + parseInt(text.substr(dot + 1), 0, 999, what);
+    int v = dot == std::string::npos ? parseInt(text, 0, 9999, what)
+                                     : parseInt(text.substr(0, dot), 0, 9, what) * 1000 +
+                                           parseInt(text.substr(dot + 1), 0, 999, what);
     encodeCorvidVersion(v); // throws when the digits cannot be carried
     return v;
 }
@@ -146,7 +146,8 @@ Options parseOptions(int argc, char** argv)
             }
             const auto comma = text.find(',');
             const int command = parseInt(text.substr(0, comma), 0, 127, "--refuse command");
-            const int item = comma == std::string::npos ? -1 : parseInt(text.substr(comma + 1), 0, 127, "--refuse item");
+            const int item =
+                comma == std::string::npos ? -1 : parseInt(text.substr(comma + 1), 0, 127, "--refuse item");
             o.faults.refuse(command, how, item);
         } else if (arg == "--corvid") {
             o.corvid = true;
@@ -164,8 +165,7 @@ Options parseOptions(int argc, char** argv)
                 throw std::invalid_argument("--unit must be hub-a, hub-b or linkbox");
         } else if (arg == "--unit-version") {
             o.unitVersion = parseCorvidVersion(value(i), "--unit-version");
-        }
-        else if (arg == "--load") {
+        } else if (arg == "--load") {
             o.load = value(i);
         } else {
             throw std::invalid_argument("unknown option " + arg);
@@ -237,7 +237,8 @@ int main(int argc, char** argv)
     for (int a : options.addresses) {
         bus.addModule(a, options.xaddress, options.version);
         if (a > 15 && !options.corvid)
-            std::fprintf(stderr, "kestrel-sim: warning: address %d can only be reached through --corvid\n", a);
+            std::fprintf(stderr, "kestrel-sim: warning: address %d can only be reached through --corvid\n",
+                         a);
     }
     if (!options.load.empty()) {
         for (int a : options.addresses) {
@@ -291,10 +292,9 @@ int main(int argc, char** argv)
     sigaction(SIGINT, &sa, nullptr);
     sigaction(SIGTERM, &sa, nullptr);
 
-    const auto byteTime = options.paceBaud > 0
-                              ? std::chrono::duration_cast<SteadyClock::duration>(
-                                  std::chrono::duration<double>(11.0 / options.paceBaud))
-                              : SteadyClock::duration::zero();
+    const auto byteTime = options.paceBaud > 0 ? std::chrono::duration_cast<SteadyClock::duration>(
+                                                     std::chrono::duration<double>(11.0 / options.paceBaud))
+                                               : SteadyClock::duration::zero();
     SteadyClock::time_point wireFree = SteadyClock::now();
     std::deque<Outgoing> outgoing;
     int exitCode = 0;
@@ -326,7 +326,8 @@ int main(int argc, char** argv)
         timespec timeout{};
         timespec* timeoutPtr = nullptr;
         if (!outgoing.empty() && !blockedOnOutput) {
-            const auto wait = std::max(outgoing.front().due - SteadyClock::now(), SteadyClock::duration::zero());
+            const auto wait =
+                std::max(outgoing.front().due - SteadyClock::now(), SteadyClock::duration::zero());
             const auto ns = std::chrono::duration_cast<std::chrono::nanoseconds>(wait).count();
             timeout.tv_sec = static_cast<time_t>(ns / 1000000000);
             timeout.tv_nsec = static_cast<long>(ns % 1000000000);
@@ -365,10 +366,12 @@ int main(int argc, char** argv)
     const WireStats& s = endpoint->stats();
     const int baud = options.paceBaud > 0 ? options.paceBaud : 19200;
     std::fprintf(stderr,
-                 "kestrel-sim: %ld exchanges, %ld bytes received, %ld bytes sent, wire time at least %.3f s at %d baud\n",
+                 "kestrel-sim: %ld exchanges, %ld bytes received, %ld bytes sent, wire time at least %.3f s "
+                 "at %d baud\n",
                  s.exchanges, s.bytesIn, s.bytesOut, s.wireSeconds(baud), baud);
     // The same numbers as key=value pairs on a line of their own, for scripts (scripts/bench).
-    std::fprintf(stderr, "kestrel-sim-stats: exchanges=%ld bytes_in=%ld bytes_out=%ld wire_seconds=%.6f baud=%d\n",
+    std::fprintf(stderr,
+                 "kestrel-sim-stats: exchanges=%ld bytes_in=%ld bytes_out=%ld wire_seconds=%.6f baud=%d\n",
                  s.exchanges, s.bytesIn, s.bytesOut, s.wireSeconds(baud), baud);
     close(pty.slave);
     close(pty.master);

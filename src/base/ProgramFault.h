@@ -15,7 +15,8 @@ public:
 // How every front end tells a program fault that stopped an operation, once.
 inline std::string programFaultMessage(const std::string& what)
 {
-    return "Program error, the operation was stopped: " + (what.empty() ? std::string("unknown fault") : what);
+    return "Program error, the operation was stopped: " +
+           (what.empty() ? std::string("unknown fault") : what);
 }
 
 // Throws ProgramFault unless 0 <= index < size.

@@ -2,12 +2,12 @@
 
 #include "session/GeneralCodec.h"
 
-#include "files/FileRecords.h"
-#include "files/ItemStream.h"
-#include "files/TextFile.h"
 #include "base/ProgramFault.h"
 #include "base/Text.h"
 #include "base/UserDialogs.h"
+#include "files/FileRecords.h"
+#include "files/ItemStream.h"
+#include "files/TextFile.h"
 #include "model/AddressIndex.h"
 #include "model/PinTools.h"
 #include "model/StepCodec.h"
@@ -23,13 +23,12 @@ namespace kestrel {
 
 namespace {
 
-int checked(int box) {
-    return box == 1 ? 1 : 0;
-}
+int checked(int box) { return box == 1 ? 1 : 0; }
 
 // ---- Writing ----
 
-void writeGeneral(ItemWriter& w, const GeneralSettings& g) {
+void writeGeneral(ItemWriter& w, const GeneralSettings& g)
+{
     w.line().text("ID$").text(g.TextGenIDString).end();
 
     // The same bytes as the module's requests (one codec), but for the address mode.
@@ -40,7 +39,11 @@ void writeGeneral(ItemWriter& w, const GeneralSettings& g) {
         .number(dccOptionsByte(g))
         .end();
 
-    w.line().text("XAD").number(fileAddressModeByte(g)).number(checked(g.CheckGenLynxaddr)).number(g.ExtendedAddress);
+    w.line()
+        .text("XAD")
+        .number(fileAddressModeByte(g))
+        .number(checked(g.CheckGenLynxaddr))
+        .number(g.ExtendedAddress);
     for (int mask : groupMaskBytes(g))
         w.number(mask);
     w.end();
@@ -64,7 +67,8 @@ void writeGeneral(ItemWriter& w, const GeneralSettings& g) {
         .end();
 }
 
-void writeEvents(ItemWriter& w, const Configuration& config) {
+void writeEvents(ItemWriter& w, const Configuration& config)
+{
     for (const char* keyword : {"Eon", "Eof"}) {
         const bool on = std::strcmp(keyword, "Eon") == 0;
         for (int p = 0; p < kPinCount; ++p) {
@@ -95,7 +99,8 @@ const char* const kConfigParameterNames[12] = {
 };
 
 // Shared with the definitions file: the "Cfg" record of a pin.
-void writeCfgRecord(ItemWriter& w, int indent, PinRecord& pin) {
+void writeCfgRecord(ItemWriter& w, int indent, PinRecord& pin)
+{
     w.line(indent).text("Cfg").number(pin.ConfigMode);
     int count = 0;
     switch (pin.ConfigMode) {
@@ -119,7 +124,8 @@ void writeCfgRecord(ItemWriter& w, int indent, PinRecord& pin) {
     w.end();
 }
 
-void writeInsRecord(ItemWriter& w, int indent, int s, const StepRecord& step) {
+void writeInsRecord(ItemWriter& w, int indent, int s, const StepRecord& step)
+{
     w.line(indent)
         .text("Ins")
         .number(s)
@@ -131,7 +137,8 @@ void writeInsRecord(ItemWriter& w, int indent, int s, const StepRecord& step) {
         .end();
 }
 
-std::string writeConfigurationText(Configuration& config, const GeneralSettings& general, SaveForm form) {
+std::string writeConfigurationText(Configuration& config, const GeneralSettings& general, SaveForm form)
+{
     const bool compact = form == SaveForm::Compact;
     ItemWriter w;
     w.line().text(std::string(kConfigFileKeyword) + " " + kConfigFileVersion).end();
@@ -172,7 +179,8 @@ std::string writeConfigurationText(Configuration& config, const GeneralSettings&
 }
 
 bool saveConfigurationFile(const std::string& path, Configuration& config, const GeneralSettings& general,
-                           SaveForm form, std::string& error) {
+                           SaveForm form, std::string& error)
+{
     // The model is changed (servo parameter 2) only when the file is really written.
     Configuration copy = config;
     const std::string text = writeConfigurationText(copy, general, form);
@@ -186,14 +194,16 @@ bool saveConfigurationFile(const std::string& path, Configuration& config, const
 
 namespace {
 
-void checkRange(ItemReader& in, int value, int highest, const char* what) {
+void checkRange(ItemReader& in, int value, int highest, const char* what)
+{
     if (value > highest)
         in.fail(std::string(what) + " index " + std::to_string(value) + " out of range 0.." +
                 std::to_string(highest));
 }
 
 // A DCC address as the writer will send it (rounded to a whole number): 0..8191.
-std::string readDccAddress(ItemReader& in, const char* what) {
+std::string readDccAddress(ItemReader& in, const char* what)
+{
     const double value = in.nextReal();
     const double sent = std::round(value);
     if (sent < 0 || sent > kDccAddressMax)
@@ -204,13 +214,16 @@ std::string readDccAddress(ItemReader& in, const char* what) {
 class ConfigReader {
 public:
     ConfigReader(ItemReader& in, double version, Configuration& config, GeneralSettings& general)
-        : in(in), version(version), config(config), g(general) {}
+        : in(in), version(version), config(config), g(general)
+    {
+    }
 
     // What was changed on the way in and should be told ("ID string cut to 12 characters: ...").
     std::vector<std::string> notices;
 
     // Dispatches keywords until "End".
-    void run() {
+    void run()
+    {
         for (;;) {
             const std::string keyword = in.next();
             if (keyword == "End")
@@ -220,7 +233,8 @@ public:
     }
 
 private:
-    void dispatch(const std::string& k) {
+    void dispatch(const std::string& k)
+    {
         if (k == "ID$")
             readId();
         else if (k == "DCC")
@@ -252,7 +266,8 @@ private:
         // Anything else is not a keyword: passed over, and the next item is tried.
     }
 
-    void readId() {
+    void readId()
+    {
         const IdStringCheck id = checkIdString(in.next());
         if (id.refused)
             in.fail(id.message);
@@ -261,7 +276,8 @@ private:
         g.TextGenIDString = id.text;
     }
 
-    void readDcc() {
+    void readDcc()
+    {
         g.TextGenDCCAddress = readDccAddress(in, "DCC address");
         if (version >= 32)
             g.TextGenXDCCAddress = readDccAddress(in, "eXtended DCC address");
@@ -273,7 +289,8 @@ private:
         }
     }
 
-    void readXad() {
+    void readXad()
+    {
         const int a = in.nextSendable(0, kDataByteMax, "Lynx flex-address");
         const int b = in.nextInt16();
         const int c = in.nextSendable(0, kDataByteMax, "eXtended address");
@@ -296,7 +313,8 @@ private:
                 g.CheckGenXGM[4 * i + j] = (masks[i] >> j) & 1;
     }
 
-    void readHwc() {
+    void readHwc()
+    {
         std::array<int, 4> h{};
         for (int& v : h)
             v = in.nextInt16();
@@ -306,7 +324,8 @@ private:
         }
     }
 
-    void readLed() {
+    void readLed()
+    {
         const int green = in.nextByte();
         const int orange = in.nextByte();
         for (int k = 0; k < 7; ++k) {
@@ -317,7 +336,8 @@ private:
         // not part of the record and keeps its state.
     }
 
-    void readSpc() {
+    void readSpc()
+    {
         const int enable = in.nextInt16();
         const std::string rate = in.next();
         const int data = in.nextInt16();
@@ -332,13 +352,15 @@ private:
         g.OptionGenSerialStop = stop == 2 ? 1 : 0;
     }
 
-    int readPinIndex() {
+    int readPinIndex()
+    {
         const int p = in.nextByte();
         checkRange(in, p, kPinRecords - 1, "Pin");
         return p;
     }
 
-    void readEvents(bool on) {
+    void readEvents(bool on)
+    {
         const int p = readPinIndex();
         std::array<int, 4> entries{};
         for (int& e : entries)
@@ -348,7 +370,8 @@ private:
             target[slot] = static_cast<std::int16_t>(entries[slot]);
     }
 
-    void readPin() {
+    void readPin()
+    {
         const int p = readPinIndex();
         const int layout = in.nextSendable(0, kDataByteMax, "Aspect layout");
         const int init = in.nextSendable(0, kInitAspectMax, "Initial aspect");
@@ -368,14 +391,16 @@ private:
         }
     }
 
-    void readDev() {
+    void readDev()
+    {
         const int offset = in.nextInt16();
         std::string description = in.next();
         config.pin(pin).DeviceOffset = static_cast<std::int16_t>(offset);
         config.pin(pin).DeviceDescription = std::move(description);
     }
 
-    void readCfg() {
+    void readCfg()
+    {
         const int mode = in.nextByte();
         std::array<int, 12> p{}; // p[n] = parameter n
         PinRecord& r = config.pin(pin);
@@ -423,7 +448,8 @@ private:
 
     int nextParameter(int n) { return in.nextSendable(0, kDataByteMax, kConfigParameterNames[n]); }
 
-    void readPam() {
+    void readPam()
+    {
         PinRecord& r = config.pin(pin);
         int xdcc = r.XDccCount;
         if (version >= 32)
@@ -450,14 +476,16 @@ private:
 
 } // namespace
 
-int readAspRecord(ItemReader& in, Configuration& config, int pin) {
+int readAspRecord(ItemReader& in, Configuration& config, int pin)
+{
     const int a = in.nextByte();
     checkRange(in, a, kAspectRecords - 1, "Aspect");
     config.aspect(pin, a).Description = in.next();
     return a;
 }
 
-void readInsRecord(ItemReader& in, Configuration& config, int pin, int aspect) {
+void readInsRecord(ItemReader& in, Configuration& config, int pin, int aspect)
+{
     const int s = in.nextInt16();
     if (s < 0 || s > kStepRecords - 1)
         in.fail("Step index " + std::to_string(s) + " out of range 0.." + std::to_string(kStepRecords - 1));
@@ -485,7 +513,8 @@ void readInsRecord(ItemReader& in, Configuration& config, int pin, int aspect) {
 }
 
 LoadResult readConfigurationText(const std::string& text, Configuration& config, GeneralSettings& general,
-                                 UserDialogs& dialogs) {
+                                 UserDialogs& dialogs)
+{
     ItemReader in(text);
     const std::string keyword = kConfigFileKeyword;
     std::string header;
@@ -516,7 +545,8 @@ LoadResult readConfigurationText(const std::string& text, Configuration& config,
 }
 
 LoadResult loadConfigurationFile(const std::string& path, Configuration& config, GeneralSettings& general,
-                                 UserDialogs& dialogs, std::string* why) {
+                                 UserDialogs& dialogs, std::string* why)
+{
     std::string text;
     std::string error;
     if (!readTextFile(path, text, error)) {

@@ -52,5 +52,4 @@ LoadResult readConfigurationText(const std::string& text, Configuration& config,
 LoadResult loadConfigurationFile(const std::string& path, Configuration& config, GeneralSettings& general,
                                  UserDialogs& dialogs, std::string* why = nullptr);
 
-
 } // namespace kestrel

@@ -1,12 +1,13 @@
 #include "files/DemoConfiguration.h"
 
-#include "files/ConfigurationFile.h"
 #include "base/ProgramFault.h"
 #include "base/UserDialogs.h"
+#include "files/ConfigurationFile.h"
 
 namespace kestrel {
 
-const std::string& demoConfigurationText() {
+const std::string& demoConfigurationText()
+{
     static const std::string text = "\"KestrelConfiguration 3100\"\r\n"
                                     "\"ID$\",\"Demo layout\"\r\n"
                                     "\"DCC\",1,1,0\r\n"
@@ -158,23 +159,28 @@ namespace {
 // The text is ours: anything that the reader would tell the user is a program fault.
 class NoDialogs : public UserDialogs {
 public:
-    void message(const std::string& text, Icon) override {
+    void message(const std::string& text, Icon) override
+    {
         throw ProgramFault("Demonstration configuration: " + text);
     }
-    Answer ask(const std::string& text, Buttons, Icon) override {
+    Answer ask(const std::string& text, Buttons, Icon) override
+    {
         throw ProgramFault("Demonstration configuration: " + text);
     }
-    std::string openFileName(const std::string&, const std::string&, const std::string&) override {
+    std::string openFileName(const std::string&, const std::string&, const std::string&) override
+    {
         return {};
     }
-    std::string saveFileName(const std::string&, const std::string&, const std::string&) override {
+    std::string saveFileName(const std::string&, const std::string&, const std::string&) override
+    {
         return {};
     }
 };
 
 } // namespace
 
-void fillDemoConfiguration(Configuration& config, GeneralSettings& general) {
+void fillDemoConfiguration(Configuration& config, GeneralSettings& general)
+{
     NoDialogs dialogs;
     readConfigurationText(demoConfigurationText(), config, general, dialogs);
 }

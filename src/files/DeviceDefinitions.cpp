@@ -1,9 +1,9 @@
 #include "files/DeviceDefinitions.h"
 
+#include "base/UserDialogs.h"
 #include "files/FileRecords.h"
 #include "files/ItemStream.h"
 #include "files/TextFile.h"
-#include "base/UserDialogs.h"
 #include "model/AddressIndex.h"
 #include "model/PinTools.h"
 #include "model/WireLimits.h"
@@ -16,20 +16,20 @@ namespace kestrel {
 
 namespace {
 
-std::string formatFault(const FileFormatError& e) {
+std::string formatFault(const FileFormatError& e)
+{
     return std::string("Error in device definitions file: ") + e.what();
 }
 
-int wrapPin(int n) {
-    return ((n % kPinCount) + kPinCount) % kPinCount;
-}
+int wrapPin(int n) { return ((n % kPinCount) + kPinCount) % kPinCount; }
 
 } // namespace
 
 // ---- The list ----
 
 ListLoad readDeviceListText(DeviceList& list, const std::string& text, const std::string& path, ListMode mode,
-                            UserDialogs& dialogs) {
+                            UserDialogs& dialogs)
+{
     ItemReader in(text);
     const std::string keyword = kDeviceFileKeyword;
     std::string header;
@@ -71,7 +71,8 @@ ListLoad readDeviceListText(DeviceList& list, const std::string& text, const std
     return ListLoad::Loaded;
 }
 
-ListLoad readDeviceList(DeviceList& list, const std::string& path, ListMode mode, UserDialogs& dialogs) {
+ListLoad readDeviceList(DeviceList& list, const std::string& path, ListMode mode, UserDialogs& dialogs)
+{
     std::string text;
     std::string error;
     if (!readTextFile(path, text, error)) {
@@ -85,7 +86,8 @@ ListLoad readDeviceList(DeviceList& list, const std::string& path, ListMode mode
 
 // ---- Placing a device ----
 
-void dissolveDevice(Configuration& config, int p) {
+void dissolveDevice(Configuration& config, int p)
+{
     if (config.pin(p).DeviceOffset != 0)
         return;
     for (int q = 0; q < kPinCount; ++q) {
@@ -104,7 +106,8 @@ public:
     DeviceLoader(ItemReader& in, Configuration& config) : in(in), config(config), head(config.CurrentPin) {}
 
     // Reads records of the device block until "Dev", "End" or a fault.
-    void run(const std::string& name) {
+    void run(const std::string& name)
+    {
         dissolveDevice(config, head);
         config.pin(head).DeviceDescription = name;
         target = head;
@@ -137,7 +140,8 @@ public:
     std::array<bool, kPinCount> used{};
 
 private:
-    void readPin(int t) {
+    void readPin(int t)
+    {
         if (t != head)
             dissolveDevice(config, t);
         PinRecord& r = config.pin(t);
@@ -157,7 +161,8 @@ private:
         r.LynxCount = 1;
     }
 
-    void readPam() {
+    void readPam()
+    {
         const int xdcc = in.nextSendable(0, kXDccCountMax, "eXtended DCC address count");
         const int dcc = in.nextSendable(0, kDccCountMax, "DCC address count");
         const int lynx = in.nextSendable(0, kLynxCountMax, "Serial address count");
@@ -167,7 +172,8 @@ private:
         r.LynxCount = static_cast<std::uint8_t>(lynx);
     }
 
-    void readCfg() {
+    void readCfg()
+    {
         PinRecord& r = config.pin(target);
         r.ConfigMode = static_cast<std::uint8_t>(in.nextByte());
         // Parameters go to the module as they are, but for a servo's parameter 2, which
@@ -195,7 +201,8 @@ private:
         }
     }
 
-    int checkedByte(const std::string& item) {
+    int checkedByte(const std::string& item)
+    {
         // An item already taken from the stream, checked like nextByte() would.
         ItemReader one(item);
         try {
@@ -220,7 +227,8 @@ private:
 } // namespace
 
 bool loadDeviceFromText(const std::string& text, const std::string& name, Configuration& config,
-                        UserDialogs& dialogs) {
+                        UserDialogs& dialogs)
+{
     ItemReader in(text);
     // Find the block: items until a "Dev" with this name.
     for (;;) {
@@ -265,7 +273,8 @@ bool loadDeviceFromText(const std::string& text, const std::string& name, Config
 
 // ---- Saving a device ----
 
-std::string writeDeviceText(Configuration& config, int head) {
+std::string writeDeviceText(Configuration& config, int head)
+{
     const std::string name = config.pin(head).DeviceDescription;
     ItemWriter w;
     w.line().text(std::string(kDeviceFileKeyword) + " " + name).end();
@@ -302,7 +311,8 @@ std::string writeDeviceText(Configuration& config, int head) {
     return w.result();
 }
 
-bool saveDeviceFile(const std::string& path, Configuration& config, int head, std::string& error) {
+bool saveDeviceFile(const std::string& path, Configuration& config, int head, std::string& error)
+{
     Configuration copy = config;
     const std::string text = writeDeviceText(copy, head);
     if (!replaceFile(path, text, error))

@@ -42,8 +42,6 @@ ListLoad readDeviceListText(DeviceList& list, const std::string& text, const std
                             UserDialogs& dialogs);
 ListLoad readDeviceList(DeviceList& list, const std::string& path, ListMode mode, UserDialogs& dialogs);
 
-
-
 // Dissolves the device headed at pin: nothing when pin is a member (non-zero offset);
 // otherwise every pin 0..31 that refers to it, itself included, gets offset 0 and an
 // empty device description.
@@ -59,7 +57,6 @@ void dissolveDevice(Configuration& config, int pin);
 bool loadDeviceFromText(const std::string& text, const std::string& name, Configuration& config,
                         UserDialogs& dialogs);
 
-
 // The definitions text of the device headed at head: header, "Dev", the head's block,
 // then every member in rising pin order. Servo pins lose the top two bits of parameter
 // 2, in config as well.
@@ -67,6 +64,5 @@ std::string writeDeviceText(Configuration& config, int head);
 
 // Writes that text to path, replacing a file only once the new one is complete.
 bool saveDeviceFile(const std::string& path, Configuration& config, int head, std::string& error);
-
 
 } // namespace kestrel

@@ -9,25 +9,25 @@ namespace kestrel {
 
 namespace {
 
-bool isBlank(char c) {
-    return c == ' ' || c == '\t';
-}
-bool isLineEnd(char c) {
-    return c == '\r' || c == '\n';
-}
+bool isBlank(char c) { return c == ' ' || c == '\t'; }
+bool isLineEnd(char c) { return c == '\r' || c == '\n'; }
 
-std::string position(int line, int item) {
+std::string position(int line, int item)
+{
     return " at line " + std::to_string(line) + ", item " + std::to_string(item);
 }
 
 } // namespace
 
 FileFormatError::FileFormatError(const std::string& what, int line, int item)
-    : std::runtime_error(what + position(line, item)), where{line, item} {}
+    : std::runtime_error(what + position(line, item)), where{line, item}
+{
+}
 
 ItemReader::ItemReader(std::string text) : data(std::move(text)) {}
 
-void ItemReader::skipToItem() {
+void ItemReader::skipToItem()
+{
     while (pos < data.size()) {
         const char c = data[pos];
         if (isBlank(c)) {
@@ -45,12 +45,14 @@ void ItemReader::skipToItem() {
     }
 }
 
-bool ItemReader::atEnd() {
+bool ItemReader::atEnd()
+{
     skipToItem();
     return pos >= data.size();
 }
 
-std::string ItemReader::next() {
+std::string ItemReader::next()
+{
     skipToItem();
     if (pos >= data.size()) {
         // The missing item is due right after the last one that was there.
@@ -101,13 +103,12 @@ std::string ItemReader::next() {
     return value;
 }
 
-void ItemReader::fail(const std::string& what) const {
-    throw FileFormatError(what, itemLine, itemInLine);
-}
+void ItemReader::fail(const std::string& what) const { throw FileFormatError(what, itemLine, itemInLine); }
 
 namespace {
 
-long long wholeNumber(const ItemReader& reader, const std::string& item, long long lo, long long hi) {
+long long wholeNumber(const ItemReader& reader, const std::string& item, long long lo, long long hi)
+{
     const char* first = item.data();
     const char* last = item.data() + item.size();
     if (first != last && *first == '+')
@@ -129,15 +130,12 @@ long long wholeNumber(const ItemReader& reader, const std::string& item, long lo
 
 } // namespace
 
-int ItemReader::nextByte() {
-    return static_cast<int>(wholeNumber(*this, next(), 0, 255));
-}
+int ItemReader::nextByte() { return static_cast<int>(wholeNumber(*this, next(), 0, 255)); }
 
-int ItemReader::nextInt16() {
-    return static_cast<int>(wholeNumber(*this, next(), -32768, 32767));
-}
+int ItemReader::nextInt16() { return static_cast<int>(wholeNumber(*this, next(), -32768, 32767)); }
 
-double ItemReader::nextReal() {
+double ItemReader::nextReal()
+{
     const std::string item = next();
     if (!isNumberItem(item))
         fail("Number expected, found " + quoteForMessage(item));
@@ -151,14 +149,16 @@ double ItemReader::nextReal() {
     return value;
 }
 
-int ItemReader::nextSendable(int lo, int hi, std::string_view what) {
+int ItemReader::nextSendable(int lo, int hi, std::string_view what)
+{
     const int value = nextInt16();
     if (value < lo || value > hi)
         fail(cannotSendText(what, value, lo, hi));
     return value;
 }
 
-bool isNumberItem(std::string_view s) {
+bool isNumberItem(std::string_view s)
+{
     std::size_t i = 0;
     if (i < s.size() && (s[i] == '+' || s[i] == '-'))
         ++i;
@@ -191,13 +191,15 @@ bool isNumberItem(std::string_view s) {
     return i == s.size();
 }
 
-std::string formatNumber(long value) {
+std::string formatNumber(long value)
+{
     char buf[32];
     const auto r = std::to_chars(buf, buf + sizeof buf, value);
     return std::string(buf, r.ptr);
 }
 
-std::string formatNumber(double value) {
+std::string formatNumber(double value)
+{
     if (value == 0)
         return "0"; // also for -0
     char buf[400];
@@ -205,19 +207,22 @@ std::string formatNumber(double value) {
     return std::string(buf, r.ptr);
 }
 
-ItemWriter& ItemWriter::line(int indent) {
+ItemWriter& ItemWriter::line(int indent)
+{
     out.append(static_cast<std::size_t>(indent), ' ');
     lineHasItem = false;
     return *this;
 }
 
-void ItemWriter::separate() {
+void ItemWriter::separate()
+{
     if (lineHasItem)
         out += ',';
     lineHasItem = true;
 }
 
-ItemWriter& ItemWriter::text(std::string_view value) {
+ItemWriter& ItemWriter::text(std::string_view value)
+{
     separate();
     out += '"';
     out += value;
@@ -225,19 +230,22 @@ ItemWriter& ItemWriter::text(std::string_view value) {
     return *this;
 }
 
-ItemWriter& ItemWriter::number(long value) {
+ItemWriter& ItemWriter::number(long value)
+{
     separate();
     out += formatNumber(value);
     return *this;
 }
 
-ItemWriter& ItemWriter::real(double value) {
+ItemWriter& ItemWriter::real(double value)
+{
     separate();
     out += formatNumber(value);
     return *this;
 }
 
-void ItemWriter::end() {
+void ItemWriter::end()
+{
     out += "\r\n";
     lineHasItem = false;
 }

@@ -14,18 +14,18 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string because(int error) {
-    return std::strerror(error);
-}
+std::string because(int error) { return std::strerror(error); }
 
 // Closes a descriptor when it goes out of scope.
 struct Descriptor {
     int fd = -1;
-    ~Descriptor() {
+    ~Descriptor()
+    {
         if (fd >= 0)
             ::close(fd);
     }
-    int release() {
+    int release()
+    {
         const int f = fd;
         fd = -1;
         return f;
@@ -34,7 +34,8 @@ struct Descriptor {
 
 // The file that a save to path really replaces: the final target of a symbolic link
 // (relative links resolved from the link's folder), or path itself.
-std::string finalTarget(const std::string& path) {
+std::string finalTarget(const std::string& path)
+{
     fs::path p(path);
     for (int hops = 0; hops < 40; ++hops) {
         std::error_code ec;
@@ -50,7 +51,8 @@ std::string finalTarget(const std::string& path) {
 
 } // namespace
 
-bool readTextFile(const std::string& path, std::string& content, std::string& error) {
+bool readTextFile(const std::string& path, std::string& content, std::string& error)
+{
     if (path.empty()) {
         error = "No file name";
         return false;
@@ -98,12 +100,14 @@ bool readTextFile(const std::string& path, std::string& content, std::string& er
     return true;
 }
 
-std::string temporaryPathFor(const std::string& path) {
+std::string temporaryPathFor(const std::string& path)
+{
     const fs::path target(finalTarget(path));
     return (target.parent_path() / ("." + target.filename().string() + ".saving")).string();
 }
 
-bool replaceFile(const std::string& path, const std::string& content, std::string& error) {
+bool replaceFile(const std::string& path, const std::string& content, std::string& error)
+{
     const std::string target = finalTarget(path);
     struct stat old {};
     const bool exists = ::stat(target.c_str(), &old) == 0;

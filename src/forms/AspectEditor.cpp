@@ -10,33 +10,39 @@ namespace kestrel {
 
 namespace {
 
-PinRecord &selectedPin(Configuration &config) {
+PinRecord& selectedPin(Configuration& config)
+{
     checkIndex(config.CurrentPin, kPinCount, "current pin");
     return config.pin(config.CurrentPin);
 }
 
-AspectRecord &selectedAspect(Configuration &config) {
+AspectRecord& selectedAspect(Configuration& config)
+{
     checkIndex(config.CurrentAspect, 12, "current aspect");
     return selectedPin(config).Aspects[config.CurrentAspect];
 }
 
-StepRecord &selectedStep(Configuration &config, int row) {
+StepRecord& selectedStep(Configuration& config, int row)
+{
     checkIndex(row, kStepRows, "step row");
     return selectedAspect(config).Steps[row];
 }
 
-long clampValue(long v, long lo, long hi, bool &clamped) {
+long clampValue(long v, long lo, long hi, bool& clamped)
+{
     clamped = v < lo || v > hi;
     return v < lo ? lo : (v > hi ? hi : v);
 }
 
 // The box text after clamping: the bound when clamped, the typed text otherwise.
-std::string boxText(const std::string &typed, bool clamped, long value) {
+std::string boxText(const std::string& typed, bool clamped, long value)
+{
     return clamped ? std::to_string(value) : typed;
 }
 
-RowEdit makeRow(Configuration &config, int row, bool visible) {
-    StepRecord &step = selectedStep(config, row);
+RowEdit makeRow(Configuration& config, int row, bool visible)
+{
+    StepRecord& step = selectedStep(config, row);
     const NormalisedStep n = normaliseStep(step);
     RowEdit out;
     out.headings = n.headings;
@@ -53,9 +59,10 @@ RowEdit makeRow(Configuration &config, int row, bool visible) {
 }
 
 // The option click handler without the re-show: visibility, maxima, clamps, layout.
-LayoutView applyLayout(Configuration &config, int option) {
+LayoutView applyLayout(Configuration& config, int option)
+{
     checkIndex(option, 3, "layout option");
-    PinRecord &pin = selectedPin(config);
+    PinRecord& pin = selectedPin(config);
     LayoutView lv;
     lv.option = option;
     lv.aspectControlsVisible = option != 0;
@@ -75,13 +82,15 @@ LayoutView applyLayout(Configuration &config, int option) {
 
 } // namespace
 
-int layoutOfOption(int option) {
+int layoutOfOption(int option)
+{
     checkIndex(option, 3, "layout option");
     static const int layouts[3] = {0, 3, 2};
     return layouts[option];
 }
 
-int optionOfLayout(int aspectLayout) {
+int optionOfLayout(int aspectLayout)
+{
     if (aspectLayout == 2)
         return 2;
     if (aspectLayout == 3)
@@ -89,16 +98,13 @@ int optionOfLayout(int aspectLayout) {
     return 0;
 }
 
-int aspectMaximum(int aspectLayout) {
-    return aspectLayout == 3 ? 3 : 11;
-}
+int aspectMaximum(int aspectLayout) { return aspectLayout == 3 ? 3 : 11; }
 
-int lastUsableStep(int aspectLayout) {
-    return aspectLayout == 3 ? 8 : 2;
-}
+int lastUsableStep(int aspectLayout) { return aspectLayout == 3 ? 8 : 2; }
 
-AspectView ShowAspect(Configuration &config) {
-    PinRecord &pin = selectedPin(config);
+AspectView ShowAspect(Configuration& config)
+{
+    PinRecord& pin = selectedPin(config);
     AspectView view;
     view.pinText = std::to_string(config.CurrentPin + config.NumberingBase);
     view.pinDescription = pin.Description;
@@ -136,12 +142,14 @@ AspectView ShowAspect(Configuration &config) {
     return view;
 }
 
-AspectView changeLayout(Configuration &config, int option) {
+AspectView changeLayout(Configuration& config, int option)
+{
     applyLayout(config, option);
     return ShowAspect(config);
 }
 
-Selection selectPin(Configuration &config, const std::string &typed) {
+Selection selectPin(Configuration& config, const std::string& typed)
+{
     bool clamped = false;
     const long v = clampValue(valInt(typed), config.NumberingBase, config.NumberingBase + 31, clamped);
     config.CurrentPin = static_cast<int>(v - config.NumberingBase);
@@ -151,7 +159,8 @@ Selection selectPin(Configuration &config, const std::string &typed) {
     return out;
 }
 
-Selection selectAspect(Configuration &config, const std::string &typed) {
+Selection selectAspect(Configuration& config, const std::string& typed)
+{
     bool clamped = false;
     const long v = clampValue(valInt(typed), 0, aspectMaximum(selectedPin(config).AspectLayout), clamped);
     config.CurrentAspect = static_cast<int>(v);
@@ -161,62 +170,68 @@ Selection selectAspect(Configuration &config, const std::string &typed) {
     return out;
 }
 
-std::string setInitAspect(Configuration &config, const std::string &typed) {
-    PinRecord &pin = selectedPin(config);
+std::string setInitAspect(Configuration& config, const std::string& typed)
+{
+    PinRecord& pin = selectedPin(config);
     bool clamped = false;
     const long v = clampValue(valInt(typed), -1, aspectMaximum(pin.AspectLayout), clamped);
     pin.InitAspect = static_cast<std::uint8_t>(v + 1);
     return boxText(typed, clamped, v);
 }
 
-std::string setAddressCount(Configuration &config, AddressKind kind, const std::string &typed) {
-    std::uint8_t &count = addressCount(selectedPin(config), kind);
+std::string setAddressCount(Configuration& config, AddressKind kind, const std::string& typed)
+{
+    std::uint8_t& count = addressCount(selectedPin(config), kind);
     bool clamped = false;
     const long v = clampValue(valInt(typed), 0, addressCountMaximum(kind), clamped);
     const std::uint8_t before = count;
     count = static_cast<std::uint8_t>(v);
     try {
         RecalcAddressIndex(config, kind);
-    } catch (const ProgramFault &) {
+    } catch (const ProgramFault&) {
         count = before;
         throw;
     }
     return boxText(typed, clamped, v);
 }
 
-void setPinDescription(Configuration &config, const std::string &text) {
+void setPinDescription(Configuration& config, const std::string& text)
+{
     selectedPin(config).Description = text;
 }
 
-void setAspectDescription(Configuration &config, const std::string &text) {
+void setAspectDescription(Configuration& config, const std::string& text)
+{
     selectedAspect(config).Description = text;
 }
 
-bool setDeviceDescription(Configuration &config, const std::string &text) {
-    PinRecord &pin = selectedPin(config);
+bool setDeviceDescription(Configuration& config, const std::string& text)
+{
+    PinRecord& pin = selectedPin(config);
     if (pin.DeviceOffset != 0)
         return false;
     pin.DeviceDescription = text;
     return true;
 }
 
-RowEdit showStepRow(Configuration &config, int row) {
-    return makeRow(config, row, true);
-}
+RowEdit showStepRow(Configuration& config, int row) { return makeRow(config, row, true); }
 
-RowEdit setInstruction(Configuration &config, int row, int code) {
+RowEdit setInstruction(Configuration& config, int row, int code)
+{
     checkIndex(code, kInstructionCodes, "instruction code");
     selectedStep(config, row).Instruction = static_cast<std::uint8_t>(code);
     return makeRow(config, row, true);
 }
 
-RowEdit setFade(Configuration &config, int row, bool checked) {
+RowEdit setFade(Configuration& config, int row, bool checked)
+{
     selectedStep(config, row).Fade = checked ? 1 : 0;
     return makeRow(config, row, true);
 }
 
-ParameterEdit setParameter(Configuration &config, int row, int parameter, const std::string &typed) {
-    StepRecord &step = selectedStep(config, row);
+ParameterEdit setParameter(Configuration& config, int row, int parameter, const std::string& typed)
+{
+    StepRecord& step = selectedStep(config, row);
     const AcceptedParameter a =
         acceptParameter(step, parameter, typed, config.CurrentPin, config.NumberingBase);
     switch (parameter) {
@@ -236,13 +251,15 @@ ParameterEdit setParameter(Configuration &config, int row, int parameter, const 
     return {a.text, stepTimeText(step)};
 }
 
-void AspectTool::copy(const Configuration &config) {
+void AspectTool::copy(const Configuration& config)
+{
     checkIndex(config.CurrentAspect, 12, "current aspect");
     clipboard = config.aspect(config.CurrentPin, config.CurrentAspect);
     filled = true;
 }
 
-bool AspectTool::paste(Configuration &config, UserDialogs &dialogs) const {
+bool AspectTool::paste(Configuration& config, UserDialogs& dialogs) const
+{
     if (!filled) {
         dialogs.message("Nothing to Paste");
         return false;
@@ -251,15 +268,17 @@ bool AspectTool::paste(Configuration &config, UserDialogs &dialogs) const {
     return true;
 }
 
-void AspectTool::clear(Configuration &config) const {
-    AspectRecord &aspect = selectedAspect(config);
+void AspectTool::clear(Configuration& config) const
+{
+    AspectRecord& aspect = selectedAspect(config);
     aspect.Description.clear();
     aspect.AspectMark = kAllOnes;
     clearAspectSteps(aspect);
 }
 
-void AspectTool::clean(Configuration &config) const {
-    AspectRecord &aspect = selectedAspect(config);
+void AspectTool::clean(Configuration& config) const
+{
+    AspectRecord& aspect = selectedAspect(config);
     aspect.Description.clear();
     aspect.AspectMark = kAllOnes;
     // The first empty step loses its fade and parameters, every later step is cleared:
@@ -271,14 +290,16 @@ void AspectTool::clean(Configuration &config) const {
         aspect.Steps[s] = StepRecord{};
 }
 
-void selectStepRow(Configuration &config, int row) {
+void selectStepRow(Configuration& config, int row)
+{
     checkIndex(row, kStepRows, "step row");
     config.CurrentStep = row;
 }
 
-void insertStep(Configuration &config) {
+void insertStep(Configuration& config)
+{
     checkIndex(config.CurrentStep, kStepRows, "current step");
-    AspectRecord &aspect = selectedAspect(config);
+    AspectRecord& aspect = selectedAspect(config);
     const int last = lastUsableStep(selectedPin(config).AspectLayout);
     const int at = config.CurrentStep;
     // From the end backwards: step last-1 goes to last and the old last step is lost.
@@ -287,9 +308,10 @@ void insertStep(Configuration &config) {
     aspect.Steps[at] = StepRecord{};
 }
 
-void deleteStep(Configuration &config) {
+void deleteStep(Configuration& config)
+{
     checkIndex(config.CurrentStep, kStepRows, "current step");
-    AspectRecord &aspect = selectedAspect(config);
+    AspectRecord& aspect = selectedAspect(config);
     const int last = lastUsableStep(selectedPin(config).AspectLayout);
     const int at = config.CurrentStep;
     if (at >= last) {
@@ -301,7 +323,8 @@ void deleteStep(Configuration &config) {
     aspect.Steps[last] = StepRecord{};
 }
 
-NumberingView setNumbering(Configuration &config, bool checked) {
+NumberingView setNumbering(Configuration& config, bool checked)
+{
     config.NumberingBase = checked ? 1 : 0;
     NumberingView out;
     out.legend = checked ? "Pin       1..8         9..16      17..24       25..32"
@@ -312,7 +335,8 @@ NumberingView setNumbering(Configuration &config, bool checked) {
     return out;
 }
 
-HelpToolKind helpToolFor(const StepRecord &step, HelpBox box, UserDialogs &dialogs) {
+HelpToolKind helpToolFor(const StepRecord& step, HelpBox box, UserDialogs& dialogs)
+{
     const int tool = instructionInfo(step.Instruction).HelpTool;
     switch (box) {
     case HelpBox::Time:
@@ -332,7 +356,8 @@ HelpToolKind helpToolFor(const StepRecord &step, HelpBox box, UserDialogs &dialo
     return HelpToolKind::None;
 }
 
-HelpToolKind helpToolForRow(Configuration &config, int row, HelpBox box, UserDialogs &dialogs) {
+HelpToolKind helpToolForRow(Configuration& config, int row, HelpBox box, UserDialogs& dialogs)
+{
     return helpToolFor(selectedStep(config, row), box, dialogs);
 }
 

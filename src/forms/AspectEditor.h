@@ -66,12 +66,12 @@ int lastUsableStep(int aspectLayout);
 
 // Shows the selected pin and aspect. Every step row 0..8 of the aspect is normalised on
 // the way, and a stored layout other than 2 or 3 is stored as 0.
-AspectView ShowAspect(Configuration &config);
+AspectView ShowAspect(Configuration& config);
 
 // A click on layout option 0..2: shows or hides the aspect controls and rows 3..8, clamps
 // the selected aspect to the new maximum, drops an initial aspect above it (InitAspect 0),
 // stores the layout, and shows the page again.
-AspectView changeLayout(Configuration &config, int option);
+AspectView changeLayout(Configuration& config, int option);
 
 // A typed selector value: the text the box shows afterwards and the page.
 struct Selection {
@@ -79,49 +79,49 @@ struct Selection {
     AspectView view;
 };
 // TextPAspOutput: clamped to NumberingBase .. NumberingBase + 31.
-Selection selectPin(Configuration &config, const std::string &typed);
+Selection selectPin(Configuration& config, const std::string& typed);
 // TextPAspAspect: clamped to 0 .. the layout's maximum.
-Selection selectAspect(Configuration &config, const std::string &typed);
+Selection selectAspect(Configuration& config, const std::string& typed);
 // TextPAspInit: clamped to -1 .. the layout's maximum; InitAspect = value + 1. Returns the box text.
-std::string setInitAspect(Configuration &config, const std::string &typed);
+std::string setInitAspect(Configuration& config, const std::string& typed);
 // An address count box: clamped to 0 .. addressCountMaximum(kind), stored, and that kind's
 // address index rebuilt (the count is put back if the rebuild overflows). Returns the box text.
-std::string setAddressCount(Configuration &config, AddressKind kind, const std::string &typed);
+std::string setAddressCount(Configuration& config, AddressKind kind, const std::string& typed);
 
-void setPinDescription(Configuration &config, const std::string &text);
-void setAspectDescription(Configuration &config, const std::string &text);
+void setPinDescription(Configuration& config, const std::string& text);
+void setAspectDescription(Configuration& config, const std::string& text);
 // Stored only where the selected pin heads its device (the box is disabled otherwise);
 // returns whether it was stored.
-bool setDeviceDescription(Configuration &config, const std::string &text);
+bool setDeviceDescription(Configuration& config, const std::string& text);
 
 // One row of the selected aspect, normalised, with the headings it sets.
 struct RowEdit {
     StepRowView row;
     std::array<std::string, 4> headings;
 };
-RowEdit showStepRow(Configuration &config, int row);
+RowEdit showStepRow(Configuration& config, int row);
 // Choosing an instruction (the item's code) and clicking the fade box: store, normalise,
 // recompute the time.
-RowEdit setInstruction(Configuration &config, int row, int code);
-RowEdit setFade(Configuration &config, int row, bool checked);
+RowEdit setInstruction(Configuration& config, int row, int code);
+RowEdit setFade(Configuration& config, int row, bool checked);
 // Typing into parameter box 0..3 of a row: clamp, store, recompute the time.
 struct ParameterEdit {
     std::string text;     // what the box shows now
     std::string timeText; // the row's time label
 };
-ParameterEdit setParameter(Configuration &config, int row, int parameter, const std::string &typed);
+ParameterEdit setParameter(Configuration& config, int row, int parameter, const std::string& typed);
 
 // The aspect tool: one whole aspect record as clipboard, empty until the first copy.
 class AspectTool {
 public:
-    void copy(const Configuration &config);
+    void copy(const Configuration& config);
     // false (and "Nothing to Paste") with an empty clipboard; the tool then stays open.
-    bool paste(Configuration &config, UserDialogs &dialogs) const;
+    bool paste(Configuration& config, UserDialogs& dialogs) const;
     // Description "", state word all ones, steps 0..8 zero.
-    void clear(Configuration &config) const;
+    void clear(Configuration& config) const;
     // Description "", state word all ones; the steps before the first empty one are kept,
     // the first empty one keeps only its instruction (0), every later one is cleared.
-    void clean(Configuration &config) const;
+    void clean(Configuration& config) const;
     bool hasContent() const { return filled; }
 
 private:
@@ -130,9 +130,9 @@ private:
 };
 
 // The step tool, on CurrentStep of the selected aspect.
-void selectStepRow(Configuration &config, int row); // a click on a row's label
-void insertStep(Configuration &config);
-void deleteStep(Configuration &config);
+void selectStepRow(Configuration& config, int row); // a click on a row's label
+void insertStep(Configuration& config);
+void deleteStep(Configuration& config);
 
 // "Start numbering at 1".
 struct NumberingView {
@@ -141,14 +141,14 @@ struct NumberingView {
     int pinMaximum = 31;
     AspectView view; // its pinText is the shown selected pin
 };
-NumberingView setNumbering(Configuration &config, bool checked);
+NumberingView setNumbering(Configuration& config, bool checked);
 
 // Double-click on a box of a step row.
 enum class HelpBox { Time, Par1, Par2, Par3 };
 enum class HelpToolKind { None, Time, Pattern, EventPattern };
 // The tool to open; None after telling the user
 // "Help tool not available for this box with the selected command".
-HelpToolKind helpToolFor(const StepRecord &step, HelpBox box, UserDialogs &dialogs);
-HelpToolKind helpToolForRow(Configuration &config, int row, HelpBox box, UserDialogs &dialogs);
+HelpToolKind helpToolFor(const StepRecord& step, HelpBox box, UserDialogs& dialogs);
+HelpToolKind helpToolForRow(Configuration& config, int row, HelpBox box, UserDialogs& dialogs);
 
 } // namespace kestrel

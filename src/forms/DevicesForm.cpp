@@ -8,7 +8,8 @@
 
 namespace kestrel {
 
-void loadStandardDeviceList(DeviceList& list, const std::string& programFolder, UserDialogs& dialogs) {
+void loadStandardDeviceList(DeviceList& list, const std::string& programFolder, UserDialogs& dialogs)
+{
     const std::string standard = (std::filesystem::path(programFolder) / kStandardDeviceFile).string();
     if (readDeviceList(list, standard, ListMode::Replace, dialogs) != ListLoad::CannotOpen)
         return;
@@ -19,7 +20,8 @@ void loadStandardDeviceList(DeviceList& list, const std::string& programFolder, 
         dialogs.message("No Device Configuration available", Icon::Warning);
 }
 
-void CommandReloadDD_MouseDown(DeviceList& list, UserDialogs& dialogs, int button, int shift) {
+void CommandReloadDD_MouseDown(DeviceList& list, UserDialogs& dialogs, int button, int shift)
+{
     if (button != 1)
         return;
     const ListMode mode = shift == 1 ? ListMode::Append : ListMode::Replace;
@@ -28,7 +30,8 @@ void CommandReloadDD_MouseDown(DeviceList& list, UserDialogs& dialogs, int butto
         dialogs.message("No Device Configuration file selected", Icon::Warning);
 }
 
-bool CommandPAspPreLoad_Click(const DeviceList& list, Configuration& config, UserDialogs& dialogs) {
+bool CommandPAspPreLoad_Click(const DeviceList& list, Configuration& config, UserDialogs& dialogs)
+{
     if (list.selected < 0 || list.selected >= static_cast<int>(list.cboDevice.size())) {
         dialogs.message("Select Devicename to load", Icon::Warning);
         return false;
@@ -43,7 +46,8 @@ bool CommandPAspPreLoad_Click(const DeviceList& list, Configuration& config, Use
     return loadDeviceFromText(text, list.cboDevice[list.selected], config, dialogs);
 }
 
-bool CommandSaveDevice_Click(Configuration& config, UserDialogs& dialogs) {
+bool CommandSaveDevice_Click(Configuration& config, UserDialogs& dialogs)
+{
     const int head = deviceHead(config, config.CurrentPin);
     if (config.pin(head).DeviceOffset != 0) {
         dialogs.message("Referral is not a device", Icon::Warning);

@@ -3,7 +3,8 @@
 
 namespace kestrel {
 
-// The device controls without their widgets: the standard list at start-up, Reload DD, Load Device, Save Device.
+// The device controls without their widgets: the standard list at start-up, Reload DD, Load Device, Save
+// Device.
 
 // Start-up: "KestrelDevices.def" in programFolder. When it cannot be opened: "Can not
 // find Device Configuration file at standard location", then the open dialog proposes

@@ -65,7 +65,8 @@ void CopyEventsToAll(Session& session)
 void EditEventEntry(Session& session, EventSide side, int slot)
 {
     checkIndex(slot, kEventSlots, "event slot");
-    auto& text = side == EventSide::On ? session.eventControl.TextECon[slot] : session.eventControl.TextECoff[slot];
+    auto& text =
+        side == EventSide::On ? session.eventControl.TextECon[slot] : session.eventControl.TextECoff[slot];
     const long typed = valInt(text);
     const long v = std::clamp<long>(typed, kEventActionMin, kEventActionMax);
     if (v != typed) // only a clamped number is written back; the box keeps what was typed otherwise

@@ -5,7 +5,8 @@
 
 namespace kestrel {
 
-std::string CommandSave_MouseDown(Session& session, int button, int shift) {
+std::string CommandSave_MouseDown(Session& session, int button, int shift)
+{
     if (button != 1 || (shift != 0 && shift != 1))
         return {};
     const SaveForm form = shift == 1 ? SaveForm::Compact : SaveForm::Full;
@@ -20,12 +21,14 @@ std::string CommandSave_MouseDown(Session& session, int button, int shift) {
     return path;
 }
 
-LoadOutcome CommandLoad_Click(Session& session) {
+LoadOutcome CommandLoad_Click(Session& session)
+{
     const std::string path = session.dialogs().openFileName("Load Configuration", kConfigFileFilter, "");
     if (path.empty())
         return {};
     std::string why;
-    const LoadResult result = loadConfigurationFile(path, session.config, session.general, session.dialogs(), &why);
+    const LoadResult result =
+        loadConfigurationFile(path, session.config, session.general, session.dialogs(), &why);
     if (result == LoadResult::CannotOpen)
         session.dialogs().message("Can not open " + path + ": " + why, Icon::Warning);
     else if (result != LoadResult::InvalidHeader && session.onConfigurationChanged)

@@ -11,24 +11,42 @@ namespace kestrel {
 PinFieldRule pinFieldRule(PinField field)
 {
     switch (field) {
-    case PinField::TextPosition: return {0, -64, 63, 64};
-    case PinField::TextSrvInitPos: return {1, -64, 63, 64};
-    case PinField::TextMidpoint: return {3, -64, 63, 64};
-    case PinField::TextSrvAntiMass: return {4, 0, 127, 0};
-    case PinField::TextSrvFriction: return {5, 0, 127, 0};
-    case PinField::TextSrvMaxSpd: return {6, 1, 127, 0};
-    case PinField::TextSrvMaxAccel: return {7, 1, 127, 0};
-    case PinField::TextBounceDown: return {8, 0, 63, 64};
-    case PinField::TextBounceDownFactor: return {9, 0, 127, 0};
-    case PinField::TextBounceUp: return {10, -63, 0, 64};
-    case PinField::TextBounceUpFactor: return {11, 0, 127, 0};
-    case PinField::TextPWMLevel: return {0, 0, 31, 0};
-    case PinField::TextPWMInitLevel: return {1, 0, 31, 0};
-    case PinField::TextPWMAccel: return {3, 0, 127, 0};
-    case PinField::TextPWMOffLevel: return {4, 0, 31, 0};
-    case PinField::TextPWMOnLevel: return {5, 0, 31, 0};
-    case PinField::TextInputDelay0: return {3, 0, 31, 0};
-    case PinField::TextInputDelay1: return {4, 0, 31, 0};
+    case PinField::TextPosition:
+        return {0, -64, 63, 64};
+    case PinField::TextSrvInitPos:
+        return {1, -64, 63, 64};
+    case PinField::TextMidpoint:
+        return {3, -64, 63, 64};
+    case PinField::TextSrvAntiMass:
+        return {4, 0, 127, 0};
+    case PinField::TextSrvFriction:
+        return {5, 0, 127, 0};
+    case PinField::TextSrvMaxSpd:
+        return {6, 1, 127, 0};
+    case PinField::TextSrvMaxAccel:
+        return {7, 1, 127, 0};
+    case PinField::TextBounceDown:
+        return {8, 0, 63, 64};
+    case PinField::TextBounceDownFactor:
+        return {9, 0, 127, 0};
+    case PinField::TextBounceUp:
+        return {10, -63, 0, 64};
+    case PinField::TextBounceUpFactor:
+        return {11, 0, 127, 0};
+    case PinField::TextPWMLevel:
+        return {0, 0, 31, 0};
+    case PinField::TextPWMInitLevel:
+        return {1, 0, 31, 0};
+    case PinField::TextPWMAccel:
+        return {3, 0, 127, 0};
+    case PinField::TextPWMOffLevel:
+        return {4, 0, 31, 0};
+    case PinField::TextPWMOnLevel:
+        return {5, 0, 31, 0};
+    case PinField::TextInputDelay0:
+        return {3, 0, 31, 0};
+    case PinField::TextInputDelay1:
+        return {4, 0, 31, 0};
     }
     throw ProgramFault("Unknown pin configuration field");
 }
@@ -50,16 +68,20 @@ const std::vector<PinField>& pinEditOrder(int page)
 {
     static const std::vector<PinField> none;
     static const std::vector<PinField> servo{
-        PinField::TextMidpoint,    PinField::TextSrvMaxSpd,   PinField::TextSrvMaxAccel,
-        PinField::TextSrvAntiMass, PinField::TextSrvFriction, PinField::TextBounceUp,
+        PinField::TextMidpoint,    PinField::TextSrvMaxSpd,      PinField::TextSrvMaxAccel,
+        PinField::TextSrvAntiMass, PinField::TextSrvFriction,    PinField::TextBounceUp,
         PinField::TextBounceDown,  PinField::TextBounceUpFactor, PinField::TextBounceDownFactor};
     static const std::vector<PinField> pwm{PinField::TextPWMAccel};
     static const std::vector<PinField> input{PinField::TextInputDelay0, PinField::TextInputDelay1};
     switch (page) {
-    case 1: return servo;
-    case 2: return pwm;
-    case 3: return input;
-    default: return none;
+    case 1:
+        return servo;
+    case 2:
+        return pwm;
+    case 3:
+        return input;
+    default:
+        return none;
     }
 }
 

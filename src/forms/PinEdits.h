@@ -3,8 +3,8 @@
 
 #include <cstdint>
 #include <map>
-#include <vector>
 #include <string>
+#include <vector>
 
 namespace kestrel {
 

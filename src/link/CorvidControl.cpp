@@ -50,8 +50,8 @@ bool CorvidControl::CheckCorvid_Click(bool checked)
                 cmdSetTMVisible = false;
             } else {
                 on = false;
-                link.dialogs().message(std::string(kNotSupported) + "\r\nProtocol = " + std::to_string(v / 1000) +
-                                           "." + std::to_string(v % 1000),
+                link.dialogs().message(std::string(kNotSupported) + "\r\nProtocol = " +
+                                           std::to_string(v / 1000) + "." + std::to_string(v % 1000),
                                        Icon::Warning);
             }
         }

@@ -12,7 +12,7 @@ namespace kestrel {
 namespace {
 constexpr double kReplyTimeout = 2.0; // seconds
 constexpr int kWakeUp[] = {0, 0, 0, 255, 255, 255, 170, 170, 170};
-constexpr int kStalePolls = 8; // polls at most to clear what a cut-short tunnel exchange left
+constexpr int kStalePolls = 8;          // polls at most to clear what a cut-short tunnel exchange left
 constexpr int kLongestCorvidReply = 18; // data bytes; the checksum then sits at ReplyBuffer[19]
 
 std::array<int, 15> toArray15(int size, std::initializer_list<int> bytes)
@@ -184,7 +184,8 @@ bool Link::SendKestrelMessage(bool expectReply, int size, const std::array<int, 
     }
 
     const int first = state.LinkToggle + a;
-    const int header = 128 + 64 + 32 * (settings.CheckKestrelBD ? 1 : 0) + 16 * (settings.CheckXaddress ? 1 : 0) + size;
+    const int header =
+        128 + 64 + 32 * (settings.CheckKestrelBD ? 1 : 0) + 16 * (settings.CheckXaddress ? 1 : 0) + size;
     FrameChecksum sum(first);
     if (!writeByte(first) || !writeByte(header))
         return false;
@@ -231,9 +232,10 @@ bool Link::SendKestrelMessage(bool expectReply, int size, const std::array<int, 
             if (state.ReplyBuffer[0] == state.LinkToggle + a && state.ReplyBuffer[1] >= 96) {
                 state.ReplyValid = true;
             } else {
-                ui.message("Invalid response received, \r\nReceived: Addr = " + std::to_string(state.ReplyBuffer[0]) +
-                           " Header = " + std::to_string(state.ReplyBuffer[1]) + "\r\nExpected: Addr = " +
-                           std::to_string(a) + " Header > 95 ");
+                ui.message("Invalid response received, \r\nReceived: Addr = " +
+                           std::to_string(state.ReplyBuffer[0]) +
+                           " Header = " + std::to_string(state.ReplyBuffer[1]) +
+                           "\r\nExpected: Addr = " + std::to_string(a) + " Header > 95 ");
             }
         }
     }
@@ -289,8 +291,8 @@ bool Link::receiveDirect()
         } else if (p == 50) {
             const int x = b & 127;
             if (settings.CheckXaddress && x != settings.TargetXAddress)
-                ui.message("Incorrect eXtended Address byte \r\nReceived " + std::to_string(x) + " Expected " +
-                           std::to_string(settings.TargetXAddress));
+                ui.message("Incorrect eXtended Address byte \r\nReceived " + std::to_string(x) +
+                           " Expected " + std::to_string(settings.TargetXAddress));
             else if (!settings.CheckXaddress)
                 ui.message("Unexpected eXtended Address Byte " + std::to_string(x));
             p = 2;
@@ -356,8 +358,9 @@ bool Link::sendTunnelled(bool expectReply, int size, const std::array<int, 15>& 
                     for (int i = 2; i <= 16; ++i)
                         buf[i] = buf[i + 3];
                 } else if (settings.CheckXaddress) {
-                    ui.message("Incorrect eXtended Address byte \r\nReceived " + std::to_string(buf[4] & 127) +
-                               " Expected " + std::to_string(settings.TargetXAddress));
+                    ui.message("Incorrect eXtended Address byte \r\nReceived " +
+                               std::to_string(buf[4] & 127) + " Expected " +
+                               std::to_string(settings.TargetXAddress));
                 } else {
                     ui.message("Unexpected eXtended Address Byte " + std::to_string(buf[4] & 127));
                 }
@@ -567,8 +570,8 @@ bool Link::GetVersion()
         else if (r[2] != 112 || r[3] != 0)
             ui.message("GetVersion: No valid response");
         else {
-            VersionText = std::to_string(r[4]) + "." + std::to_string(r[5]) + "." + std::to_string(r[6]) + "." +
-                          std::to_string(r[7]);
+            VersionText = std::to_string(r[4]) + "." + std::to_string(r[5]) + "." + std::to_string(r[6]) +
+                          "." + std::to_string(r[7]);
             ok = true;
         }
     }

@@ -1,8 +1,8 @@
 #pragma once
-#include "link/Clock.h"
-#include "link/Progress.h"
 #include "base/SerialPort.h"
 #include "base/UserDialogs.h"
+#include "link/Clock.h"
+#include "link/Progress.h"
 
 #include <array>
 #include <functional>
@@ -14,17 +14,17 @@ namespace kestrel {
 
 // What the user chose for the link (the check boxes and address boxes of the main window).
 struct LinkSettings {
-    bool CheckKestrelBD = true;  // "Bidirectional Comm.": wait for and check replies
-    bool CheckCorvid = false;    // "Use Corvid Tunneling"
-    bool CheckXaddress = false;  // "Use eXtended Addr"
-    int TargetAddress = 0;       // 0..15 direct, 0..31 tunnelled
-    int TargetXAddress = 0;      // 0..95
+    bool CheckKestrelBD = true; // "Bidirectional Comm.": wait for and check replies
+    bool CheckCorvid = false;   // "Use Corvid Tunneling"
+    bool CheckXaddress = false; // "Use eXtended Addr"
+    int TargetAddress = 0;      // 0..15 direct, 0..31 tunnelled
+    int TargetXAddress = 0;     // 0..95
 };
 
 // What the link remembers between calls.
 struct LinkState {
-    int LinkToggle = 128;  // 128 = not synchronised, else 0 or 64
-    int CorvidToggle = 0;  // 0 or 1
+    int LinkToggle = 128; // 128 = not synchronised, else 0 or 64
+    int CorvidToggle = 0; // 0 or 1
     bool CorvidFlagA = false;
     bool CorvidFlagB = false;
     std::array<int, 21> ReplyBuffer{};

@@ -49,8 +49,8 @@ bool LinkControl::openChosen()
     link.state.LinkToggle = 128;
     if (!ok) {
         const std::string why = port.errorString();
-        link.dialogs().message("Cannot open port " + ComboPortText + (why.empty() ? std::string() : ": " + why),
-                               Icon::Warning);
+        link.dialogs().message(
+            "Cannot open port " + ComboPortText + (why.empty() ? std::string() : ": " + why), Icon::Warning);
     }
     return ok;
 }
@@ -78,15 +78,9 @@ bool LinkControl::OptionBitRate_Click(int index)
     return openChosen();
 }
 
-int LinkControl::addressMaximum() const
-{
-    return (link.settings.CheckCorvid ? 31 : 15) + base;
-}
+int LinkControl::addressMaximum() const { return (link.settings.CheckCorvid ? 31 : 15) + base; }
 
-int LinkControl::xAddressMaximum() const
-{
-    return 95 + base;
-}
+int LinkControl::xAddressMaximum() const { return 95 + base; }
 
 std::string LinkControl::TextAddress_Click(const std::string& text)
 {
@@ -119,10 +113,7 @@ std::string LinkControl::txtXaddr_Click(const std::string& text)
     return std::to_string(v);
 }
 
-void LinkControl::UpDownXaddr_Change(int shownValue)
-{
-    link.settings.TargetXAddress = shownValue - base;
-}
+void LinkControl::UpDownXaddr_Change(int shownValue) { link.settings.TargetXAddress = shownValue - base; }
 
 bool LinkControl::CheckXaddress_Click(bool checked)
 {

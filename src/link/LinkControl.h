@@ -40,8 +40,8 @@ public:
     // Returns the box's state after the warning question.
     bool CheckXaddress_Click(bool checked);
 
-    int addressMaximum() const;  // spinner limit of TextAddress, as shown
-    int xAddressMaximum() const; // spinner limit of txtXaddr, as shown
+    int addressMaximum() const;       // spinner limit of TextAddress, as shown
+    int xAddressMaximum() const;      // spinner limit of txtXaddr, as shown
     std::string addressLabel() const; // "Module Address" or "Channel Number"
     std::string addressText() const { return std::to_string(link.settings.TargetAddress + base); }
     std::string xAddressText() const { return std::to_string(link.settings.TargetXAddress + base); }

@@ -11,7 +11,8 @@ struct Sums {
     std::uint8_t total = 0;
 };
 
-Sums computeSums(Configuration &config, AddressKind kind) {
+Sums computeSums(Configuration& config, AddressKind kind)
+{
     Sums out;
     int running = 0;
     for (int p = 0; p < kPinRecords; ++p) {
@@ -24,7 +25,8 @@ Sums computeSums(Configuration &config, AddressKind kind) {
     return out;
 }
 
-void store(Configuration &config, AddressKind kind, const Sums &sums) {
+void store(Configuration& config, AddressKind kind, const Sums& sums)
+{
     switch (kind) {
     case AddressKind::Dcc:
         config.DccFirstIndex = sums.first;
@@ -43,7 +45,8 @@ void store(Configuration &config, AddressKind kind, const Sums &sums) {
 
 } // namespace
 
-std::uint8_t &addressCount(PinRecord &pin, AddressKind kind) {
+std::uint8_t& addressCount(PinRecord& pin, AddressKind kind)
+{
     switch (kind) {
     case AddressKind::Dcc:
         return pin.DccCount;
@@ -55,27 +58,21 @@ std::uint8_t &addressCount(PinRecord &pin, AddressKind kind) {
     throw ProgramFault("unknown address kind");
 }
 
-int addressCountMaximum(AddressKind kind) {
-    return kind == AddressKind::XDcc ? 1 : 7;
-}
+int addressCountMaximum(AddressKind kind) { return kind == AddressKind::XDcc ? 1 : 7; }
 
-void RecalcAddressIndex(Configuration &config, AddressKind kind) {
+void RecalcAddressIndex(Configuration& config, AddressKind kind)
+{
     store(config, kind, computeSums(config, kind));
 }
 
-void RecalcDccAddressIndex(Configuration &config) {
-    RecalcAddressIndex(config, AddressKind::Dcc);
-}
+void RecalcDccAddressIndex(Configuration& config) { RecalcAddressIndex(config, AddressKind::Dcc); }
 
-void RecalcXDccAddressIndex(Configuration &config) {
-    RecalcAddressIndex(config, AddressKind::XDcc);
-}
+void RecalcXDccAddressIndex(Configuration& config) { RecalcAddressIndex(config, AddressKind::XDcc); }
 
-void RecalcLynxAddressIndex(Configuration &config) {
-    RecalcAddressIndex(config, AddressKind::Lynx);
-}
+void RecalcLynxAddressIndex(Configuration& config) { RecalcAddressIndex(config, AddressKind::Lynx); }
 
-void RecalcAddressIndex(Configuration &config) {
+void RecalcAddressIndex(Configuration& config)
+{
     const Sums dcc = computeSums(config, AddressKind::Dcc);
     const Sums xdcc = computeSums(config, AddressKind::XDcc);
     const Sums lynx = computeSums(config, AddressKind::Lynx);

@@ -9,20 +9,20 @@ namespace kestrel {
 
 namespace {
 
-long clampLong(long v, long lo, long hi, bool &clamped) {
+long clampLong(long v, long lo, long hi, bool& clamped)
+{
     clamped = v < lo || v > hi;
     return v < lo ? lo : (v > hi ? hi : v);
 }
 
-int clampInt(int v, int lo, int hi) {
-    return v < lo ? lo : (v > hi ? hi : v);
-}
+int clampInt(int v, int lo, int hi) { return v < lo ? lo : (v > hi ? hi : v); }
 
 } // namespace
 
 // ---- time tool
 
-void TimeTool::open(const StepRecord &step) {
+void TimeTool::open(const StepRecord& step)
+{
     timeValue = clampInt(step.Par2, 0, kSliderMaximum);
     baseValue = clampInt(step.Par3, 0, 3);
     openedTime = timeValue;
@@ -30,7 +30,8 @@ void TimeTool::open(const StepRecord &step) {
     refresh();
 }
 
-std::string TimeTool::setBaseText(const std::string &typed) {
+std::string TimeTool::setBaseText(const std::string& typed)
+{
     bool clamped = false;
     const long v = clampLong(valInt(typed), 0, 3, clamped);
     baseValue = static_cast<int>(v);
@@ -38,37 +39,43 @@ std::string TimeTool::setBaseText(const std::string &typed) {
     return clamped ? std::to_string(v) : typed;
 }
 
-void TimeTool::setBase(int base) {
+void TimeTool::setBase(int base)
+{
     baseValue = clampInt(base, 0, 3);
     refresh();
 }
 
-void TimeTool::setTime(int time) {
+void TimeTool::setTime(int time)
+{
     checkIndex(time, kSliderMaximum + 1, "time slider");
     timeValue = time;
     shownText = durationText(durationTicks(timeValue, baseValue));
 }
 
-void TimeTool::cancel() {
+void TimeTool::cancel()
+{
     timeValue = openedTime;
     baseValue = openedBase;
     refresh();
 }
 
-void TimeTool::apply(StepRecord &step) const {
+void TimeTool::apply(StepRecord& step) const
+{
     step.Par2 = static_cast<std::uint8_t>(timeValue);
     step.Par3 = static_cast<std::uint8_t>(baseValue);
 }
 
-void TimeTool::refresh() {
+void TimeTool::refresh()
+{
     maxText = durationText(durationTicks(kSliderMaximum, baseValue));
     shownText = durationText(durationTicks(timeValue, baseValue));
 }
 
 // ---- pattern tool
 
-void PatternTool::open(const StepRecord &step) {
-    const InstructionInfo &info = instructionInfo(step.Instruction);
+void PatternTool::open(const StepRecord& step)
+{
+    const InstructionInfo& info = instructionInfo(step.Instruction);
     if (info.HelpTool < 1 || info.HelpTool > 7)
         throw ProgramFault("pattern tool opened for instruction " + std::to_string(step.Instruction));
     opened = step;
@@ -85,32 +92,37 @@ void PatternTool::open(const StepRecord &step) {
     parameter = original;
 }
 
-void PatternTool::setOutput(int index, bool checked) {
+void PatternTool::setOutput(int index, bool checked)
+{
     checkIndex(index, outputCount, "pattern output");
     checks[index] = checked;
     recompute();
 }
 
-void PatternTool::setAllDark(bool checked) {
+void PatternTool::setAllDark(bool checked)
+{
     if (checked)
         noDarkChecked = false;
     allDarkChecked = checked;
     recompute();
 }
 
-void PatternTool::setNoDark(bool checked) {
+void PatternTool::setNoDark(bool checked)
+{
     if (checked)
         allDarkChecked = false;
     noDarkChecked = checked;
     recompute();
 }
 
-bool PatternTool::output(int index) const {
+bool PatternTool::output(int index) const
+{
     checkIndex(index, 7, "pattern output");
     return checks[index];
 }
 
-int PatternTool::value() const {
+int PatternTool::value() const
+{
     int sum = 0;
     for (int i = 0; i < 7; ++i)
         if (checks[i])
@@ -122,11 +134,10 @@ int PatternTool::value() const {
     return sum;
 }
 
-void PatternTool::recompute() {
-    parameter = std::to_string(value());
-}
+void PatternTool::recompute() { parameter = std::to_string(value()); }
 
-void PatternTool::apply(StepRecord &step) const {
+void PatternTool::apply(StepRecord& step) const
+{
     // The Par1 rule subtracts Par1Shift and keeps the value within Par1Min..Par1Max; the
     // pin and numbering do not enter into it for these instructions.
     step.Par1 = acceptParameter(step, 1, parameter, 0, 0).stored;
@@ -134,14 +145,16 @@ void PatternTool::apply(StepRecord &step) const {
 
 // ---- event-pattern tool
 
-const std::array<std::string, 6> &EventPatternTool::optionCaptions() {
+const std::array<std::string, 6>& EventPatternTool::optionCaptions()
+{
     static const std::array<std::string, 6> captions = {"Enable Off-Event",  "Disable Off-Event",
                                                         "Execute Off-Event", "Enable On-Event",
                                                         "Disable On-Event",  "Execute On-Event"};
     return captions;
 }
 
-int EventPatternTool::encode(const Choice &choice) {
+int EventPatternTool::encode(const Choice& choice)
+{
     int v = 0;
     for (int i = 0; i < 4; ++i)
         if (choice.events[i])
@@ -156,7 +169,8 @@ int EventPatternTool::encode(const Choice &choice) {
     return v;
 }
 
-EventPatternTool::Choice EventPatternTool::decode(int value) {
+EventPatternTool::Choice EventPatternTool::decode(int value)
+{
     Choice c;
     for (int i = 0; i < 4; ++i)
         c.events[i] = (value >> i) & 1;
@@ -167,50 +181,58 @@ EventPatternTool::Choice EventPatternTool::decode(int value) {
     return c;
 }
 
-void EventPatternTool::open(const StepRecord &step) {
+void EventPatternTool::open(const StepRecord& step)
+{
     opened = step;
     current = decode(step.Par1);
     original = std::to_string(step.Par1);
     parameter = original;
 }
 
-void EventPatternTool::setEvent(int input, bool checked) {
+void EventPatternTool::setEvent(int input, bool checked)
+{
     checkIndex(input, 4, "event input");
     current.events[input] = checked;
     parameter = std::to_string(encode(current));
 }
 
-void EventPatternTool::setOption(int option) {
+void EventPatternTool::setOption(int option)
+{
     if (option != kNoOption)
         checkIndex(option, 6, "event option");
     current.option = option;
     parameter = std::to_string(encode(current));
 }
 
-void EventPatternTool::apply(StepRecord &step) const {
+void EventPatternTool::apply(StepRecord& step) const
+{
     bool clamped = false;
     step.Par1 = static_cast<std::uint8_t>(clampLong(valInt(parameter), 0, 127, clamped));
 }
 
 // ---- level tool
 
-const std::array<int, 16> &LevelTool::delayTable() {
+const std::array<int, 16>& LevelTool::delayTable()
+{
     static const std::array<int, 16> table = {0, 1, 2, 3, 4, 6, 8, 12, 16, 24, 32, 48, 64, 96, 128, 192};
     return table;
 }
 
-void LevelTool::open(int parameter) {
+void LevelTool::open(int parameter)
+{
     checkIndex(parameter, 128, "level parameter");
     value = parameter;
 }
 
-std::string LevelTool::setParameterText(const std::string &typed) {
+std::string LevelTool::setParameterText(const std::string& typed)
+{
     bool clamped = false;
     value = static_cast<int>(clampLong(valInt(typed), 0, 127, clamped));
     return clamped ? std::to_string(value) : typed;
 }
 
-std::string LevelTool::setLevelText(const std::string &typed) {
+std::string LevelTool::setLevelText(const std::string& typed)
+{
     bool clamped = false;
     long level = clampLong(valInt(typed), 0, 15, clamped);
     if (16 * level + timeIndex() > 127) {
@@ -221,15 +243,14 @@ std::string LevelTool::setLevelText(const std::string &typed) {
     return clamped ? std::to_string(level) : typed;
 }
 
-std::string LevelTool::setTimeIndexText(const std::string &typed) {
+std::string LevelTool::setTimeIndexText(const std::string& typed)
+{
     bool clamped = false;
     const long index = clampLong(valInt(typed), 0, 15, clamped);
     value = 16 * level() + static_cast<int>(index);
     return clamped ? std::to_string(index) : typed;
 }
 
-std::string LevelTool::delayText() const {
-    return durationText(delayTable()[timeIndex()]);
-}
+std::string LevelTool::delayText() const { return durationText(delayTable()[timeIndex()]); }
 
 } // namespace kestrel

@@ -17,22 +17,22 @@ public:
     static constexpr int kSliderMaximum = 63;
 
     // Takes Time and Base from the step (each brought into its range) and shows both labels.
-    void open(const StepRecord &step);
+    void open(const StepRecord& step);
     // TextCTBase typed or UpDownCTBase moved: clamped to 0..3; both labels are refreshed.
     // Returns the box text ("0" or "3" when clamped, else the typed text).
-    std::string setBaseText(const std::string &typed);
+    std::string setBaseText(const std::string& typed);
     void setBase(int base);
     // The slider moved: the time label is refreshed.
     void setTime(int time);
     // Cancel: the values shown when the tool was opened come back.
     void cancel();
     // OK: the step's Par2 and Par3 become Time and Base.
-    void apply(StepRecord &step) const;
+    void apply(StepRecord& step) const;
 
     int time() const { return timeValue; }
     int base() const { return baseValue; }
-    const std::string &maxTimeText() const { return maxText; } // LabelCTMaxTimeValue
-    const std::string &timeText() const { return shownText; }  // LabelCTTimeValue
+    const std::string& maxTimeText() const { return maxText; } // LabelCTMaxTimeValue
+    const std::string& timeText() const { return shownText; }  // LabelCTTimeValue
 
 private:
     void refresh();
@@ -54,7 +54,7 @@ public:
 
     // Opens on a step whose instruction has HelpTool 1..7 (else ProgramFault). The boxes
     // are set from the step's pattern; txtParameter and txtOriginal show the shown Par1.
-    void open(const StepRecord &step);
+    void open(const StepRecord& step);
     int outputs() const { return outputCount; }
     void setOutput(int index, bool checked); // index below outputs()
     void setAllDark(bool checked);
@@ -65,13 +65,13 @@ public:
     // The sum of the checked boxes.
     int value() const;
 
-    const std::string &parameterText() const { return parameter; }
-    const std::string &originalText() const { return original; }
-    void setParameterText(const std::string &typed) { parameter = typed; }
+    const std::string& parameterText() const { return parameter; }
+    const std::string& originalText() const { return original; }
+    void setParameterText(const std::string& typed) { parameter = typed; }
     // Cancel: txtParameter and the boxes show the original value again.
     void cancel() { open(opened); }
     // OK: Par1 = txtParameter - Par1Shift, kept within the instruction's Par1 range.
-    void apply(StepRecord &step) const;
+    void apply(StepRecord& step) const;
 
 private:
     void recompute();
@@ -97,27 +97,27 @@ class EventPatternTool {
 public:
     static constexpr int kNoOption = -1;
     // Option indices 0..5 in this order.
-    static const std::array<std::string, 6> &optionCaptions();
+    static const std::array<std::string, 6>& optionCaptions();
 
     struct Choice {
         std::array<bool, 4> events{};
         int option = kNoOption; // -1 or 0..5
-        bool operator==(const Choice &) const = default;
+        bool operator==(const Choice&) const = default;
     };
-    static int encode(const Choice &choice);
+    static int encode(const Choice& choice);
     static Choice decode(int value);
 
     // Sets the boxes from the step's Par1; txtParameter and txtOriginal show it.
-    void open(const StepRecord &step);
+    void open(const StepRecord& step);
     void setEvent(int input, bool checked);
     void setOption(int option); // -1 or 0..5
-    const Choice &choice() const { return current; }
-    const std::string &parameterText() const { return parameter; }
-    const std::string &originalText() const { return original; }
+    const Choice& choice() const { return current; }
+    const std::string& parameterText() const { return parameter; }
+    const std::string& originalText() const { return original; }
     // Cancel: txtParameter and the boxes show the original value again.
     void cancel() { open(opened); }
     // OK: Par1 = txtParameter, kept within 0..127.
-    void apply(StepRecord &step) const;
+    void apply(StepRecord& step) const;
 
 private:
     StepRecord opened;
@@ -135,15 +135,15 @@ private:
 // shown in txtDelay as "mm:ss.hh" (index 15 is 00:03.84).
 class LevelTool {
 public:
-    static const std::array<int, 16> &delayTable();
+    static const std::array<int, 16>& delayTable();
 
     void open(int parameter);
     // Each box clamps and writes back (returns the box text); the other boxes follow.
-    std::string setParameterText(const std::string &typed); // 0..127
+    std::string setParameterText(const std::string& typed); // 0..127
     // Level: clamped to 0..15, and a level that would take the parameter above 127
     // (above 7) becomes 7; the time index is kept.
-    std::string setLevelText(const std::string &typed);
-    std::string setTimeIndexText(const std::string &typed); // 0..15
+    std::string setLevelText(const std::string& typed);
+    std::string setTimeIndexText(const std::string& typed); // 0..15
 
     int parameter() const { return value; }
     int level() const { return value / 16; }

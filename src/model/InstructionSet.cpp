@@ -4,15 +4,17 @@
 
 namespace kestrel {
 
-bool InstructionInfo::used(int parameter) const {
+bool InstructionInfo::used(int parameter) const
+{
     checkIndex(parameter, 4, "step parameter");
     const bool flags[4] = {Par0Used, Par1Used, Par2Used, Par3Used};
     return flags[parameter];
 }
 
-const std::string &InstructionInfo::caption(int parameter) const {
+const std::string& InstructionInfo::caption(int parameter) const
+{
     checkIndex(parameter, 4, "step parameter");
-    const std::string *captions[4] = {&Par0Caption, &Par1Caption, &Par2Caption, &Par3Caption};
+    const std::string* captions[4] = {&Par0Caption, &Par1Caption, &Par2Caption, &Par3Caption};
     return *captions[parameter];
 }
 
@@ -20,25 +22,26 @@ namespace {
 
 struct Row {
     int kind;
-    const char *name;
+    const char* name;
     bool fade;
-    const char *used; // the used parameters as digits, e.g. "012"
-    const char *c0;
-    const char *c1;
-    const char *c2;
-    const char *c3;
+    const char* used; // the used parameters as digits, e.g. "012"
+    const char* c0;
+    const char* c1;
+    const char* c2;
+    const char* c3;
     int min;
     int max;
     int helpTool;
     int shift;
 };
 
-InstructionInfo makeInfo(const Row &r) {
+InstructionInfo makeInfo(const Row& r)
+{
     InstructionInfo info;
     info.Kind = static_cast<std::int16_t>(r.kind);
     info.Name = r.name;
     info.FadeAllowed = r.fade;
-    for (const char *p = r.used; *p; ++p) {
+    for (const char* p = r.used; *p; ++p) {
         switch (*p) {
         case '0':
             info.Par0Used = true;
@@ -69,13 +72,14 @@ InstructionInfo makeInfo(const Row &r) {
 
 } // namespace
 
-InstructionTable::InstructionTable() {
-    auto set = [this](int code, const Row &r) {
+InstructionTable::InstructionTable()
+{
+    auto set = [this](int code, const Row& r) {
         checkIndex(code, kInstructionCodes, "instruction code");
         rows[code] = makeInfo(r);
     };
     // Every code starts without a name; then the defined rows are filled.
-    for (auto &r : rows)
+    for (auto& r : rows)
         r = InstructionInfo{};
 
     set(0, {0, "-", false, "", "", "", "", "", 0, 0, 0, 0});
@@ -116,7 +120,7 @@ InstructionTable::InstructionTable() {
     set(101, {2, "SetServo & WtRnd", false, "123", "", "Pos", "Time", "Base", 0, 127, 9, -64});
     set(102, {3, "Wait", false, "23", "", "", "Time", "Base", 0, 0, 9, 0});
     set(103, {3, "Wait Random", false, "23", "", "", "Time", "Base", 0, 0, 9, 0});
-    const char *ifNames[4] = {"If Equal", "If Less", "If Not Equal", "If Not Less"};
+    const char* ifNames[4] = {"If Equal", "If Less", "If Not Equal", "If Not Less"};
     for (int i = 0; i < 4; ++i)
         set(104 + i, {5, ifNames[i], false, "01", "P.O.", "Value", "", "", -64, 63, 0, 0});
     for (int n = 0; n <= 11; ++n) {
@@ -133,29 +137,31 @@ InstructionTable::InstructionTable() {
                 items.push_back({rows[code].Name, code});
 }
 
-const InstructionTable &InstructionTable::instance() {
+const InstructionTable& InstructionTable::instance()
+{
     static const InstructionTable table;
     return table;
 }
 
-const InstructionInfo &InstructionTable::operator[](int code) const {
+const InstructionInfo& InstructionTable::operator[](int code) const
+{
     checkIndex(code, kInstructionCodes, "instruction code");
     return rows[code];
 }
 
-int InstructionTable::listIndexOf(int code) const {
+int InstructionTable::listIndexOf(int code) const
+{
     for (std::size_t i = 0; i < items.size(); ++i)
         if (items[i].code == code)
             return static_cast<int>(i);
     return 0;
 }
 
-const InstructionInfo &instructionInfo(int code) {
-    return InstructionTable::instance()[code];
-}
+const InstructionInfo& instructionInfo(int code) { return InstructionTable::instance()[code]; }
 
-NormalisedStep normaliseStep(StepRecord &step) {
-    const InstructionInfo &info = instructionInfo(step.Instruction);
+NormalisedStep normaliseStep(StepRecord& step)
+{
+    const InstructionInfo& info = instructionInfo(step.Instruction);
     NormalisedStep out;
     if (!info.FadeAllowed) {
         step.Fade = 0;

@@ -29,16 +29,16 @@ struct InstructionInfo {
     std::int16_t Par1Shift = 0; // added to the stored Par1 for display
 
     bool used(int parameter) const;                  // parameter 0..3
-    const std::string &caption(int parameter) const; // parameter 0..3
+    const std::string& caption(int parameter) const; // parameter 0..3
 };
 
 // The table of every instruction code, built once on first use and read-only afterwards.
 class InstructionTable {
 public:
-    static const InstructionTable &instance();
+    static const InstructionTable& instance();
 
     // Range-checked: a code outside 0..128 is a ProgramFault.
-    const InstructionInfo &operator[](int code) const;
+    const InstructionInfo& operator[](int code) const;
 
     // One item of an instruction list: the shown name and the code kept as its data.
     struct ListItem {
@@ -46,7 +46,7 @@ public:
         int code = 0;
     };
     // The instruction list of a step row: Kind 0..5, within a kind by ascending code.
-    const std::vector<ListItem> &list() const { return items; }
+    const std::vector<ListItem>& list() const { return items; }
     // The list position of the first item whose data is the code; 0 ("-") when none is.
     int listIndexOf(int code) const;
 
@@ -57,7 +57,7 @@ private:
 };
 
 // Shorthand for InstructionTable::instance()[code].
-const InstructionInfo &instructionInfo(int code);
+const InstructionInfo& instructionInfo(int code);
 
 // What the step row shows after the step was rewritten from its table entry.
 struct NormalisedStep {
@@ -68,6 +68,6 @@ struct NormalisedStep {
 
 // Rewrites a step from its instruction's entry: no fade where fade is not allowed, and
 // every unused parameter set to 0.
-NormalisedStep normaliseStep(StepRecord &step);
+NormalisedStep normaliseStep(StepRecord& step);
 
 } // namespace kestrel

@@ -7,7 +7,8 @@ namespace kestrel {
 
 namespace {
 
-std::int16_t toInt16(long value, const char *what) {
+std::int16_t toInt16(long value, const char* what)
+{
     if (value < -32768 || value > 32767)
         throw ProgramFault(std::string("Overflow: ") + what + " = " + std::to_string(value));
     return static_cast<std::int16_t>(value);
@@ -15,26 +16,30 @@ std::int16_t toInt16(long value, const char *what) {
 
 } // namespace
 
-int deviceHead(const Configuration &config, int pin) {
+int deviceHead(const Configuration& config, int pin)
+{
     const long head = toInt16(static_cast<long>(pin) + config.pin(pin).DeviceOffset, "device head");
     checkIndex(head, kPinRecords, "device head");
     return static_cast<int>(head);
 }
 
-std::string deviceDescriptionText(const Configuration &config, int pin) {
-    const PinRecord &head = config.pin(deviceHead(config, pin));
+std::string deviceDescriptionText(const Configuration& config, int pin)
+{
+    const PinRecord& head = config.pin(deviceHead(config, pin));
     if (head.DeviceOffset != 0)
         return "<Referral is no Device !>";
     return head.DeviceDescription;
 }
 
-void clearAspectSteps(AspectRecord &aspect) {
+void clearAspectSteps(AspectRecord& aspect)
+{
     for (int s = 0; s <= 8; ++s)
         aspect.Steps[s] = StepRecord{};
 }
 
-void clearPin(Configuration &config, int pin) {
-    PinRecord &p = config.pin(pin);
+void clearPin(Configuration& config, int pin)
+{
+    PinRecord& p = config.pin(pin);
     p.Description.clear();
     p.DeviceDescription.clear();
     p.InitAspect = 0;
@@ -46,20 +51,22 @@ void clearPin(Configuration &config, int pin) {
     p.ConfigMode = 0;
     p.ConfigParams.fill(0);
     for (int a = 0; a <= 11; ++a) {
-        AspectRecord &aspect = p.Aspects[a];
+        AspectRecord& aspect = p.Aspects[a];
         aspect.Description.clear();
         aspect.AspectMark = kAllOnes;
         clearAspectSteps(aspect);
     }
 }
 
-void PinTool::copy(const Configuration &config) {
+void PinTool::copy(const Configuration& config)
+{
     clipboard = config.pin(config.CurrentPin);
     source = config.CurrentPin;
     filled = true;
 }
 
-bool PinTool::paste(Configuration &config, UserDialogs &dialogs) const {
+bool PinTool::paste(Configuration& config, UserDialogs& dialogs) const
+{
     if (!filled) {
         dialogs.message("Nothing to Paste");
         return false;
@@ -72,8 +79,6 @@ bool PinTool::paste(Configuration &config, UserDialogs &dialogs) const {
     return true;
 }
 
-void PinTool::clear(Configuration &config) const {
-    clearPin(config, config.CurrentPin);
-}
+void PinTool::clear(Configuration& config) const { clearPin(config, config.CurrentPin); }
 
 } // namespace kestrel

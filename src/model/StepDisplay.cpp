@@ -10,20 +10,20 @@ namespace kestrel {
 
 namespace {
 
-void checkSelection(int currentPin, int numberingBase) {
+void checkSelection(int currentPin, int numberingBase)
+{
     checkIndex(currentPin, kPinCount, "current pin");
     checkIndex(numberingBase, 2, "numbering base");
 }
 
-bool isAccel(int code) {
-    return code >= 96 && code <= 99;
-}
+bool isAccel(int code) { return code >= 96 && code <= 99; }
 
 constexpr int kMxPulse = 18;
 constexpr int kClone = 7;
 
 // Clamps v into [lo, hi]; reports whether it had to.
-bool clampInto(long &v, long lo, long hi) {
+bool clampInto(long& v, long lo, long hi)
+{
     if (v < lo) {
         v = lo;
         return true;
@@ -35,7 +35,8 @@ bool clampInto(long &v, long lo, long hi) {
     return false;
 }
 
-AcceptedParameter finish(const std::string &typed, bool clamped, long shownValue, long stored) {
+AcceptedParameter finish(const std::string& typed, bool clamped, long shownValue, long stored)
+{
     AcceptedParameter out;
     out.clamped = clamped;
     out.text = clamped ? std::to_string(shownValue) : typed;
@@ -47,25 +48,26 @@ AcceptedParameter finish(const std::string &typed, bool clamped, long shownValue
 
 } // namespace
 
-bool isIfInstruction(int code) {
-    return code >= 104 && code <= 107;
-}
+bool isIfInstruction(int code) { return code >= 104 && code <= 107; }
 
-int ifValueStored(int value) {
+int ifValueStored(int value)
+{
     if (value < -64 || value > 63)
         throw ProgramFault("If value out of range: " + std::to_string(value));
     return (value + 128) % 128;
 }
 
-int ifValueShown(int stored) {
+int ifValueShown(int stored)
+{
     if (stored >= 64 && stored <= 127)
         return stored - 128;
     return stored;
 }
 
-ParameterBox showParameter(const StepRecord &step, int parameter, int currentPin, int numberingBase) {
+ParameterBox showParameter(const StepRecord& step, int parameter, int currentPin, int numberingBase)
+{
     checkSelection(currentPin, numberingBase);
-    const InstructionInfo &info = instructionInfo(step.Instruction);
+    const InstructionInfo& info = instructionInfo(step.Instruction);
     ParameterBox box;
     box.used = info.used(parameter);
     if (!box.used) {
@@ -100,10 +102,11 @@ ParameterBox showParameter(const StepRecord &step, int parameter, int currentPin
     return box;
 }
 
-AcceptedParameter acceptParameter(const StepRecord &step, int parameter, const std::string &typed,
-                                  int currentPin, int numberingBase) {
+AcceptedParameter acceptParameter(const StepRecord& step, int parameter, const std::string& typed,
+                                  int currentPin, int numberingBase)
+{
     checkSelection(currentPin, numberingBase);
-    const InstructionInfo &info = instructionInfo(step.Instruction);
+    const InstructionInfo& info = instructionInfo(step.Instruction);
     if (!info.used(parameter))
         return {"0", false, 0};
     const int code = step.Instruction;
@@ -141,7 +144,8 @@ AcceptedParameter acceptParameter(const StepRecord &step, int parameter, const s
     }
 }
 
-int par2Maximum(int instruction) {
+int par2Maximum(int instruction)
+{
     switch (instruction) {
     case 1:
         return 8;
@@ -155,14 +159,16 @@ int par2Maximum(int instruction) {
     }
 }
 
-int durationTicks(int time, int base) {
+int durationTicks(int time, int base)
+{
     const double ticks = std::round(time * std::pow(8.0, base));
     if (ticks < -32768 || ticks > 32767)
         throw ProgramFault("step time overflows: " + std::to_string(time) + " x 8^" + std::to_string(base));
     return static_cast<int>(ticks);
 }
 
-std::string durationText(int ticks) {
+std::string durationText(int ticks)
+{
     const int h = ticks % 50;
     const int s = (ticks - h) / 50;
     const int sec = s % 60;
@@ -171,7 +177,8 @@ std::string durationText(int ticks) {
     return two(min) + ":" + two(sec) + "." + two(2 * h);
 }
 
-std::string stepTimeText(const StepRecord &step) {
+std::string stepTimeText(const StepRecord& step)
+{
     if (step.Instruction <= 63)
         return "00:00.00";
     return durationText(durationTicks(step.Par2, step.Par3));

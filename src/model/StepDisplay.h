@@ -24,7 +24,7 @@ struct ParameterBox {
     std::string text;
     bool used = false;
 };
-ParameterBox showParameter(const StepRecord &step, int parameter, int currentPin, int numberingBase);
+ParameterBox showParameter(const StepRecord& step, int parameter, int currentPin, int numberingBase);
 
 // The result of typing into a parameter box: the text the box shows afterwards (the
 // bound when the value was clamped, the typed text unchanged otherwise) and the byte to
@@ -34,7 +34,7 @@ struct AcceptedParameter {
     bool clamped = false;
     std::uint8_t stored = 0;
 };
-AcceptedParameter acceptParameter(const StepRecord &step, int parameter, const std::string &typed,
+AcceptedParameter acceptParameter(const StepRecord& step, int parameter, const std::string& typed,
                                   int currentPin, int numberingBase);
 
 // Upper bound of the "Par2" box for an instruction: 8 for "Jump", 255 for the SendSerial
@@ -49,6 +49,6 @@ int durationTicks(int time, int base);
 std::string durationText(int ticks);
 
 // The time label of a step row: "00:00.00" for codes up to 63, else Par2 x 8^Par3 ticks.
-std::string stepTimeText(const StepRecord &step);
+std::string stepTimeText(const StepRecord& step);
 
 } // namespace kestrel

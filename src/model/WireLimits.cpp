@@ -2,27 +2,29 @@
 
 namespace kestrel {
 
-std::string cannotSendText(std::string_view what, std::string_view value, long lo, long hi) {
+std::string cannotSendText(std::string_view what, std::string_view value, long lo, long hi)
+{
     return std::string(what) + " " + std::string(value) + " cannot be sent: " + std::to_string(lo) + ".." +
            std::to_string(hi);
 }
 
-std::string cannotSendText(std::string_view what, long value, long lo, long hi) {
+std::string cannotSendText(std::string_view what, long value, long lo, long hi)
+{
     return cannotSendText(what, std::to_string(value), lo, hi);
 }
 
-std::string quoteForMessage(std::string_view text) {
+std::string quoteForMessage(std::string_view text)
+{
     constexpr std::size_t kQuoted = 60;
     if (text.size() <= kQuoted)
         return "\"" + std::string(text) + "\"";
     return "\"" + std::string(text.substr(0, kQuoted)) + "...\"";
 }
 
-bool isIdStringCharacter(char c) {
-    return static_cast<unsigned char>(c) <= kDataByteMax;
-}
+bool isIdStringCharacter(char c) { return static_cast<unsigned char>(c) <= kDataByteMax; }
 
-IdStringCheck checkIdString(std::string_view id) {
+IdStringCheck checkIdString(std::string_view id)
+{
     IdStringCheck check;
     for (std::size_t i = 0; i < id.size(); ++i) {
         if (!isIdStringCharacter(id[i])) {

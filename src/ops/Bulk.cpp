@@ -31,7 +31,8 @@ bool runSteps(Session& session, const std::vector<Step>& steps)
 }
 
 // Runs a bulk job as one job of the session: its outcome is noted for the front end.
-bool asJob(Session& session, const char* name, const std::function<bool()>& job) {
+bool asJob(Session& session, const char* name, const std::function<bool()>& job)
+{
     session.beginJob(name);
     bool ok = false;
     try {

@@ -56,10 +56,7 @@ EventRead readSlots(Session& s, EventSide side, int pin, std::array<int, kEventS
     return EventRead::Ok;
 }
 
-void reportStep(Session& s, int done, int total, const std::string& what)
-{
-    s.reportStep(done, total, what);
-}
+void reportStep(Session& s, int done, int total, const std::string& what) { s.reportStep(done, total, what); }
 
 // Reads all 32 pins of one side; false only when a request got no valid reply.
 bool readSide(Session& s, EventSide side, int progressOffset)
@@ -110,8 +107,9 @@ bool verifySide(Session& s, EventSide side, bool& ended)
             if (configured[i] == read[i])
                 continue;
             s.report.line(std::string(info(side).name) + "(" + std::to_string(i) + ") for pin " +
-                          std::to_string(p + base) + " does not compare: " + "Configured Action = " +
-                          std::to_string(configured[i]) + ", " + "Kestrel Reply = " + std::to_string(read[i]));
+                          std::to_string(p + base) +
+                          " does not compare: " + "Configured Action = " + std::to_string(configured[i]) +
+                          ", " + "Kestrel Reply = " + std::to_string(read[i]));
             ok = false;
         }
     }
@@ -152,8 +150,9 @@ bool WritePinEvents(Session& session, EventSide side, int pin)
     if (!sendable(session, unsendableEvents(session.config, {pin})))
         return false;
     const auto& e = entries(session, side, pin);
-    const bool ok = session.link.send({info(side).writeCommand, pin, encodeEventSlot(0, e[0]), encodeEventSlot(1, e[1]), encodeEventSlot(2, e[2]),
-         encodeEventSlot(3, e[3])});
+    const bool ok =
+        session.link.send({info(side).writeCommand, pin, encodeEventSlot(0, e[0]), encodeEventSlot(1, e[1]),
+                           encodeEventSlot(2, e[2]), encodeEventSlot(3, e[3])});
     if (ok)
         pace(session);
     return ok;

@@ -8,8 +8,8 @@ namespace kestrel {
 // Event control: for each pin and input slot 0..3 an Event-On and an Event-Off action
 // (-1 = none, the editor allows -1..11), and the two enable maps of the module.
 
-constexpr int kEventOnRead = 116;   // "t"
-constexpr int kEventOffRead = 117;  // "u"
+constexpr int kEventOnRead = 116;  // "t"
+constexpr int kEventOffRead = 117; // "u"
 constexpr int kEventOnWrite = 100;
 constexpr int kEventOffWrite = 101;
 constexpr int kEventSlots = 4;
@@ -36,7 +36,6 @@ bool WritePinEvents(Session& session, EventSide side, int pin);
 // command is told about once per side and the other side still runs.
 bool ReadAllEvents(Session& session);
 bool WriteAllEvents(Session& session);
-
 
 // Enable maps: bit i set = input i disabled, so each map is the inverse of its boxes.
 int enableMapOn(const GeneralSettings& g);

@@ -88,8 +88,6 @@ bool WriteIDString(Session& session)
 
 // ---- DCC settings ----
 
-
-
 bool ReadDCCSettings(Session& session)
 {
     auto& g = session.general;
@@ -155,8 +153,6 @@ void applyAddressingVisibility(GeneralSettings& g)
     g.CheckGenLynxaddrVisible = g.CheckGenKestrelNative != 1;
 }
 
-
-
 bool ReadSerialAddressing(Session& session)
 {
     auto& g = session.general;
@@ -216,7 +212,7 @@ bool WriteSerialAddressing(Session& session)
     const auto& g = session.general;
     auto& link = session.link;
     if (!link.send({kGeneralWrite, kItemSerialAddressing, g.CheckGenLynxaddr == 1 ? 1 : 0,
-                                  serialAddressModeByte(g)}))
+                    serialAddressModeByte(g)}))
         return false;
     const auto m = groupMaskBytes(g);
     if (!link.send({kGeneralWrite, kItemGroupMask, m[0], m[1], m[2], m[3]}))
@@ -233,7 +229,6 @@ bool CommandGenAddrRead_Click(Session& session)
 }
 
 // ---- Hardware configuration ----
-
 
 bool ReadHardwareConfig(Session& session)
 {
@@ -270,8 +265,6 @@ bool WriteHardwareConfig(Session& session)
 
 // ---- LED control ----
 
-
-
 bool ReadLEDControl(Session& session)
 {
     session.link.setBidirectional(true);
@@ -293,15 +286,12 @@ bool WriteLEDControl(Session& session)
 {
     auto& link = session.link;
     // Orange is sent also when green was not taken; True only when both were.
-    const bool green =
-        link.send({kGeneralWrite, kItemGreenLed, ledByte(session.general.CheckLCGreen)});
-    const bool orange =
-        link.send({kGeneralWrite, kItemOrangeLed, ledByte(session.general.CheckLCOrange)});
+    const bool green = link.send({kGeneralWrite, kItemGreenLed, ledByte(session.general.CheckLCGreen)});
+    const bool orange = link.send({kGeneralWrite, kItemOrangeLed, ledByte(session.general.CheckLCOrange)});
     return green && orange;
 }
 
 // ---- The module's serial port ----
-
 
 bool ReadSerialPortSettings(Session& session)
 {
@@ -329,8 +319,7 @@ bool ReadSerialPortSettings(Session& session)
 bool WriteSerialPortSettings(Session& session)
 {
     const auto& g = session.general;
-    return session.link.send({kGeneralWrite, kItemSerialPort, g.CheckGenSerialEnable,
-                                                      serialPortByte(g)});
+    return session.link.send({kGeneralWrite, kItemSerialPort, g.CheckGenSerialEnable, serialPortByte(g)});
 }
 
 // ---- Erase ----

@@ -15,7 +15,7 @@ namespace kestrel {
 // already said so).
 
 // Command bytes and item numbers of the general settings.
-constexpr int kGeneralRead = 112;  // "p"
+constexpr int kGeneralRead = 112; // "p"
 constexpr int kGeneralWrite = 96;
 enum GeneralItem : int {
     kItemVersionErase = 0,
@@ -61,7 +61,6 @@ bool WriteSerialPortSettings(Session& session);
 // "Erase Flash": two questions, then the erase frame without waiting for a reply.
 // True when the erase was sent.
 bool EraseFlash(Session& session);
-
 
 // Companion handlers of the General page.
 // Shows the serial addressing controls that the current modes allow.

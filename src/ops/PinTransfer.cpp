@@ -2,8 +2,8 @@
 
 #include "model/AddressIndex.h"
 #include "model/StepCodec.h"
-#include "ops/SendCheck.h"
 #include "ops/PinConfigTransfer.h"
+#include "ops/SendCheck.h"
 
 #include <array>
 #include <optional>
@@ -28,7 +28,10 @@ const char* const kAddrConfigInvalid = "Read Pin Address Configuration: Invalid 
 
 int replyLength(const Link& link) { return link.lastReply().length(); }
 
-bool replyIs(const Link& link, int length, int command, int pin) { return link.lastReply().is(length, command, pin); }
+bool replyIs(const Link& link, int length, int command, int pin)
+{
+    return link.lastReply().is(length, command, pin);
+}
 
 // The five step bytes of a 115 reply.
 std::array<int, 5> replyStepBytes(const Link& link)
@@ -58,7 +61,10 @@ bool paced(Session& session, bool sent)
     return sent;
 }
 
-std::string shownPin(const Session& session, int pin) { return std::to_string(pin + session.config.NumberingBase); }
+std::string shownPin(const Session& session, int pin)
+{
+    return std::to_string(pin + session.config.NumberingBase);
+}
 
 // Sends 118 for the pin; the device pointer's head, or no value when the reply is
 // missing, wrong, or carries no valid device byte. `answered` tells whether a valid
@@ -167,15 +173,14 @@ bool WritePin(Session& session, int pin, bool withPinConfig)
     if (!paced(session, link.send({kWriteInit, pin, initEntry(rec)})))
         return false;
     const int counts = 8 * rec.XDccCount + rec.DccCount;
-    if (!paced(session, link.send({kWriteAddrConfig, pin, counts, 16 + rec.LynxCount,
-                                                 64 + (rec.DeviceOffset & 31)})))
+    if (!paced(session,
+               link.send({kWriteAddrConfig, pin, counts, 16 + rec.LynxCount, 64 + (rec.DeviceOffset & 31)})))
         return false;
     const LayoutSlots slots = layoutSlots(rec.AspectLayout);
     for (int a = 0; a < slots.aspects; ++a) {
         for (int s = 0; s < slots.steps; ++s) {
             const auto b = encodeStep(session.config.step(pin, a, s));
-            if (!paced(session,
-                       link.send({kWriteStep, pin, a, s, b[0], b[1], b[2], b[3], b[4]})))
+            if (!paced(session, link.send({kWriteStep, pin, a, s, b[0], b[1], b[2], b[3], b[4]})))
                 return false;
         }
     }

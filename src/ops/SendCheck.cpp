@@ -5,8 +5,8 @@
 #include "model/WireLimits.h"
 #include "ops/EventControl.h"
 #include "ops/GeneralCommands.h"
-#include "session/Session.h"
 #include "pins/PinConfig.h"
+#include "session/Session.h"
 
 #include <numeric>
 
@@ -14,31 +14,34 @@ namespace kestrel {
 
 namespace {
 
-std::string outside(std::string_view what, long value, long lo, long hi) {
+std::string outside(std::string_view what, long value, long lo, long hi)
+{
     return value < lo || value > hi ? cannotSendText(what, value, lo, hi) : std::string();
 }
 
-std::string dataByte(std::string_view what, long value) {
-    return outside(what, value, 0, kDataByteMax);
-}
+std::string dataByte(std::string_view what, long value) { return outside(what, value, 0, kDataByteMax); }
 
 // The first problem of a list, or "".
-std::string first(std::initializer_list<std::string> problems) {
+std::string first(std::initializer_list<std::string> problems)
+{
     for (const auto& p : problems)
         if (!p.empty())
             return p;
     return {};
 }
 
-std::string shownPin(const Configuration& config, int pin) {
+std::string shownPin(const Configuration& config, int pin)
+{
     return "Pin " + std::to_string(pin + config.NumberingBase);
 }
 
-std::string withPlace(const std::string& place, const std::string& problem) {
+std::string withPlace(const std::string& place, const std::string& problem)
+{
     return problem.empty() ? problem : place + ": " + problem;
 }
 
-std::string unsendableStep(const StepRecord& step) {
+std::string unsendableStep(const StepRecord& step)
+{
     const auto b = encodeStep(step);
     if (b[0] > kDataByteMax)
         return cannotSendText("instruction code", b[0], 0, kDataByteMax);
@@ -50,7 +53,8 @@ std::string unsendableStep(const StepRecord& step) {
                   dataByte("Par3", step.Par3)});
 }
 
-std::string unsendablePin(const Configuration& config, int p, bool withPinConfig) {
+std::string unsendablePin(const Configuration& config, int p, bool withPinConfig)
+{
     const PinRecord& r = config.pin(p);
     const std::string place = shownPin(config, p);
     std::string problem = first({dataByte("aspect layout", r.AspectLayout),
@@ -73,24 +77,28 @@ std::string unsendablePin(const Configuration& config, int p, bool withPinConfig
 
 } // namespace
 
-std::vector<int> allPins() {
+std::vector<int> allPins()
+{
     std::vector<int> pins(kPinCount);
     std::iota(pins.begin(), pins.end(), 0);
     return pins;
 }
 
-std::string unsendableIdString(const GeneralSettings& g) {
+std::string unsendableIdString(const GeneralSettings& g)
+{
     const IdStringCheck id = checkIdString(g.TextGenIDString);
     return id.refused ? id.message : std::string();
 }
 
-std::string unsendableDcc(const GeneralSettings& g) {
+std::string unsendableDcc(const GeneralSettings& g)
+{
     return first({dataByte("DCC options", dccOptionsByte(g)),
                   outside("DCC address", valInt(g.TextGenDCCAddress), 0, kDccAddressMax),
                   outside("eXtended DCC address", valInt(g.TextGenXDCCAddress), 0, kDccAddressMax)});
 }
 
-std::string unsendableSerialAddressing(const GeneralSettings& g) {
+std::string unsendableSerialAddressing(const GeneralSettings& g)
+{
     const auto m = groupMaskBytes(g);
     return first({dataByte("Lynx flex-address", serialAddressModeByte(g)),
                   dataByte("eXtended group mask", m[0]), dataByte("eXtended group mask", m[1]),
@@ -98,7 +106,8 @@ std::string unsendableSerialAddressing(const GeneralSettings& g) {
                   dataByte("eXtended address", g.ExtendedAddress)});
 }
 
-std::string unsendableGeneral(const GeneralSettings& g) {
+std::string unsendableGeneral(const GeneralSettings& g)
+{
     const auto h = hardwareConfigBytes(g);
     return first({unsendableIdString(g), unsendableDcc(g), unsendableSerialAddressing(g),
                   dataByte("hardware configuration", std::max({h[0], h[1], h[2], h[3]})),
@@ -110,7 +119,8 @@ std::string unsendableGeneral(const GeneralSettings& g) {
                   dataByte("event enable map", enableMapOff(g))});
 }
 
-std::string unsendablePins(const Configuration& config, const std::vector<int>& pins, bool withPinConfig) {
+std::string unsendablePins(const Configuration& config, const std::vector<int>& pins, bool withPinConfig)
+{
     for (int p : pins) {
         std::string problem = unsendablePin(config, p, withPinConfig);
         if (!problem.empty())
@@ -119,7 +129,8 @@ std::string unsendablePins(const Configuration& config, const std::vector<int>& 
     return {};
 }
 
-std::string unsendablePinConfig(const Configuration& config, int pin, int target) {
+std::string unsendablePinConfig(const Configuration& config, int pin, int target)
+{
     const std::vector<int> bytes = pinConfigBytes(config.pin(pin), target);
     for (std::size_t i = 0; i < bytes.size(); ++i) {
         const std::string what =
@@ -131,7 +142,8 @@ std::string unsendablePinConfig(const Configuration& config, int pin, int target
     return {};
 }
 
-std::string unsendableEvents(const Configuration& config, const std::vector<int>& pins) {
+std::string unsendableEvents(const Configuration& config, const std::vector<int>& pins)
+{
     for (int p : pins)
         for (const EventSide side : {EventSide::On, EventSide::Off}) {
             const auto& e = side == EventSide::On ? config.events(p).OnEvent : config.events(p).OffEvent;
@@ -146,13 +158,14 @@ std::string unsendableEvents(const Configuration& config, const std::vector<int>
     return {};
 }
 
-std::string unsendableConfiguration(const Configuration& config, const GeneralSettings& g,
-                                    bool withPinConfig) {
+std::string unsendableConfiguration(const Configuration& config, const GeneralSettings& g, bool withPinConfig)
+{
     return first({unsendableGeneral(g), unsendablePins(config, allPins(), withPinConfig),
                   unsendableEvents(config, allPins())});
 }
 
-bool sendable(Session& session, const std::string& problem) {
+bool sendable(Session& session, const std::string& problem)
+{
     if (problem.empty())
         return true;
     session.dialogs().message(problem, Icon::Warning);

@@ -25,13 +25,13 @@ public:
 
     std::string sizeLine(const std::string& what, int expected) const
     {
-        return what + ": No valid response, size = " + std::to_string(length()) + " expected = " +
-               std::to_string(expected);
+        return what + ": No valid response, size = " + std::to_string(length()) +
+               " expected = " + std::to_string(expected);
     }
     std::string msgLine(const std::string& what, int item) const
     {
-        return what + ": No valid response, msg = " + std::to_string(data(2)) + "," + std::to_string(data(3)) +
-               " expected = 112," + std::to_string(item);
+        return what + ": No valid response, msg = " + std::to_string(data(2)) + "," +
+               std::to_string(data(3)) + " expected = 112," + std::to_string(item);
     }
 
 private:
@@ -72,7 +72,8 @@ bool VerifyGeneralSettings(Session& session)
         for (int i = 0; i < c.length() - 2; ++i)
             read += static_cast<char>(static_cast<unsigned char>(c.data(4 + i)));
         if (read != g.TextGenIDString)
-            mismatch("ID does not compare: KestrelConfig = <" + g.TextGenIDString + "> Kestrel = <" + read + ">");
+            mismatch("ID does not compare: KestrelConfig = <" + g.TextGenIDString + "> Kestrel = <" + read +
+                     ">");
     }
 
     // 2. Hardware configuration.
@@ -101,7 +102,8 @@ bool VerifyGeneralSettings(Session& session)
         const char* mismatchLine;
     };
     const Address addresses[] = {
-        {kItemDccAddress, &g.TextGenDCCAddress, "DCC Address: No valid response", "DCC address does not compare"},
+        {kItemDccAddress, &g.TextGenDCCAddress, "DCC Address: No valid response",
+         "DCC address does not compare"},
         {kItemXDccAddress, &g.TextGenXDCCAddress, "eXtended DCC Address: No valid response",
          "eXtended DCC address does not compare"},
     };
@@ -171,8 +173,9 @@ bool VerifyGeneralSettings(Session& session)
 
     // 9. LED control, green then orange.
     step(8, "Verifying LED control");
-    const std::pair<int, const char*> leds[] = {{kItemGreenLed, "Green LED configuration does not compare"},
-                                                {kItemOrangeLed, "Orange LED configuration does not compare"}};
+    const std::pair<int, const char*> leds[] = {
+        {kItemGreenLed, "Green LED configuration does not compare"},
+        {kItemOrangeLed, "Orange LED configuration does not compare"}};
     for (const auto& [item, line] : leds) {
         if (!c.request(item))
             return false;

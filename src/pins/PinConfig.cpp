@@ -1,6 +1,5 @@
 #include "pins/PinConfig.h"
 
-
 namespace kestrel {
 
 void storePinConfigReply(PinRecord& rec, int source, const std::vector<int>& bytes, int lengthField)

@@ -8,12 +8,12 @@ namespace kestrel {
 // Configuration modes (ConfigMode).
 constexpr int kModeNone = 0;
 constexpr int kModeServo = 1;
-constexpr int kModePwm = 2;         // 3 = inverted
-constexpr int kModeInput = 4;       // 5 = inverted
-constexpr int kReadActiveConfig = 81;  // "Q"
-constexpr int kReadFlashConfig = 113;  // "q"
-constexpr int kSendActiveConfig = 65;  // "A"
-constexpr int kSendFlashConfig = 97;   // "a"
+constexpr int kModePwm = 2;           // 3 = inverted
+constexpr int kModeInput = 4;         // 5 = inverted
+constexpr int kReadActiveConfig = 81; // "Q"
+constexpr int kReadFlashConfig = 113; // "q"
+constexpr int kSendActiveConfig = 65; // "A"
+constexpr int kSendFlashConfig = 97;  // "a"
 
 // Stores the n configuration bytes of a "Q"/"q" reply (mode first) into a pin record as
 // ReadPinConfig does: a change of mode clears P1..P12 (a new servo gets both positions at

@@ -14,8 +14,14 @@ public:
     std::string text;
     void message(const std::string& t, Icon) override { text += (text.empty() ? "" : "; ") + t; }
     Answer ask(const std::string&, Buttons, Icon) override { return Answer::Ok; }
-    std::string openFileName(const std::string&, const std::string&, const std::string&) override { return {}; }
-    std::string saveFileName(const std::string&, const std::string&, const std::string&) override { return {}; }
+    std::string openFileName(const std::string&, const std::string&, const std::string&) override
+    {
+        return {};
+    }
+    std::string saveFileName(const std::string&, const std::string&, const std::string&) override
+    {
+        return {};
+    }
 };
 } // namespace
 

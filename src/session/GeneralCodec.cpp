@@ -8,7 +8,10 @@ namespace {
 int bit(int value, int k) { return (value >> k) & 1; }
 } // namespace
 
-int dccOptionsByte(const GeneralSettings& g) { return g.OptGenDCC_PRP + 4 * g.ChkGenDCC_BPSI + 8 * g.ChkGenDCCAllow0; }
+int dccOptionsByte(const GeneralSettings& g)
+{
+    return g.OptGenDCC_PRP + 4 * g.ChkGenDCC_BPSI + 8 * g.ChkGenDCCAllow0;
+}
 
 std::array<int, 2> dccAddressBytes(const std::string& text)
 {
@@ -24,7 +27,10 @@ std::array<int, 2> dccAddressBytes(const std::string& text)
     return {static_cast<int>(low), static_cast<int>(high)};
 }
 
-int serialAddressModeByte(const GeneralSettings& g) { return g.CheckGenKestrelNative == 1 ? 64 : g.LynxFlexAddress; }
+int serialAddressModeByte(const GeneralSettings& g)
+{
+    return g.CheckGenKestrelNative == 1 ? 64 : g.LynxFlexAddress;
+}
 
 std::array<int, 4> groupMaskBytes(const GeneralSettings& g)
 {

@@ -29,10 +29,10 @@ struct GeneralSettings {
     std::array<int, 8> CheckLCOrange{};
 
     int CheckGenSerialEnable = 0;
-    int ComboGenBaud = 0;             // list index 0..7 = "9600" .. "115200"
-    int OptionGenSerialDatabits = 0;  // 0 or 1
-    int OptionGenSerialStop = 0;      // 0 or 1
-    int OptionGenSerialParity = 0;    // 0, 2 or 3
+    int ComboGenBaud = 0;            // list index 0..7 = "9600" .. "115200"
+    int OptionGenSerialDatabits = 0; // 0 or 1
+    int OptionGenSerialStop = 0;     // 0 or 1
+    int OptionGenSerialParity = 0;   // 0, 2 or 3
 
     // Event enables: 0..3 Event-On, 4..7 Event-Off. They start checked, as a module
     // leaves the factory with every input enabled; the data file does not carry them.

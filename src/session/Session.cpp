@@ -3,15 +3,19 @@
 namespace kestrel {
 
 Session::Session(SerialPort& port, Clock& clock, UserDialogs& dialogs)
-    : jobDialogs(dialogs, outcome), link(port, clock, jobDialogs), linkControl(link, config.NumberingBase) {}
+    : jobDialogs(dialogs, outcome), link(port, clock, jobDialogs), linkControl(link, config.NumberingBase)
+{
+}
 
-void Session::JobDialogs::message(const std::string& text, Icon icon) {
+void Session::JobDialogs::message(const std::string& text, Icon icon)
+{
     if (outcome.running && icon != Icon::Information)
         outcome.problems.push_back(text.substr(0, text.find_first_of("\r\n")));
     ui.message(text, icon);
 }
 
-void Session::beginJob(const std::string& name) {
+void Session::beginJob(const std::string& name)
+{
     if (jobDepth++ > 0)
         return;
     outcome = JobOutcome{};
@@ -19,7 +23,8 @@ void Session::beginJob(const std::string& name) {
     outcome.running = true;
 }
 
-void Session::endJob(bool completed) {
+void Session::endJob(bool completed)
+{
     if (jobDepth == 0 || --jobDepth > 0)
         return;
     outcome.running = false;
@@ -28,13 +33,15 @@ void Session::endJob(bool completed) {
     outcome.cancelled = progress && progress->cancelled();
 }
 
-void Session::reportStep(int done, int total, const std::string& what) {
+void Session::reportStep(int done, int total, const std::string& what)
+{
     outcome.step = what;
     if (Progress* p = link.currentProgress())
         p->step(done, total, what);
 }
 
-std::string Session::jobSummary() const {
+std::string Session::jobSummary() const
+{
     const JobOutcome& o = outcome;
     if (!o.incomplete() || o.job.empty())
         return {};

@@ -37,13 +37,16 @@ private:
     public:
         JobDialogs(UserDialogs& ui, JobOutcome& outcome) : ui(ui), outcome(outcome) {}
         void message(const std::string& text, Icon icon) override;
-        Answer ask(const std::string& text, Buttons buttons, Icon icon) override {
+        Answer ask(const std::string& text, Buttons buttons, Icon icon) override
+        {
             return ui.ask(text, buttons, icon);
         }
-        std::string openFileName(const std::string& t, const std::string& f, const std::string& d) override {
+        std::string openFileName(const std::string& t, const std::string& f, const std::string& d) override
+        {
             return ui.openFileName(t, f, d);
         }
-        std::string saveFileName(const std::string& t, const std::string& f, const std::string& d) override {
+        std::string saveFileName(const std::string& t, const std::string& f, const std::string& d) override
+        {
             return ui.saveFileName(t, f, d);
         }
 

@@ -14,7 +14,10 @@
 
 namespace kestrel {
 
-QString latin1(const std::string& s) { return QString::fromLatin1(s.data(), static_cast<qsizetype>(s.size())); }
+QString latin1(const std::string& s)
+{
+    return QString::fromLatin1(s.data(), static_cast<qsizetype>(s.size()));
+}
 
 std::string fromLatin1(const QString& s) { return s.toLatin1().toStdString(); }
 
@@ -41,8 +44,9 @@ void Bindings::commitNow(const std::function<void()>& take, const std::function<
 
 void Bindings::check(QAbstractButton* box, int& field, std::function<void()> changed)
 {
-    QObject::connect(box, &QAbstractButton::toggled, box,
-                     [this, &field, changed](bool on) { commitNow([&field, on] { field = on ? 1 : 0; }, changed); });
+    QObject::connect(box, &QAbstractButton::toggled, box, [this, &field, changed](bool on) {
+        commitNow([&field, on] { field = on ? 1 : 0; }, changed);
+    });
     items.push_back({[box, &field] {
                          const QSignalBlocker block(box);
                          box->setChecked(field == 1);
@@ -74,8 +78,9 @@ void Bindings::option(QButtonGroup* group, int& field, std::function<void()> cha
 
 void Bindings::combo(QComboBox* box, int& field, std::function<void()> changed)
 {
-    QObject::connect(box, &QComboBox::currentIndexChanged, box,
-                     [this, &field, changed](int index) { commitNow([&field, index] { field = index; }, changed); });
+    QObject::connect(box, &QComboBox::currentIndexChanged, box, [this, &field, changed](int index) {
+        commitNow([&field, index] { field = index; }, changed);
+    });
     items.push_back({[box, &field] {
                          const QSignalBlocker block(box);
                          box->setCurrentIndex(field >= 0 && field < box->count() ? field : -1);
@@ -99,7 +104,8 @@ void Bindings::text(QLineEdit* box, std::string& field, std::function<void()> ch
                      {}});
 }
 
-void Bindings::entry(QLineEdit* box, std::function<std::string()> show, std::function<void(const std::string&)> commit)
+void Bindings::entry(QLineEdit* box, std::function<std::string()> show,
+                     std::function<void(const std::string&)> commit)
 {
     // What the box was last given: any other text is an edit not yet taken.
     auto shown = std::make_shared<QString>(box->text());

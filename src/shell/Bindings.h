@@ -36,7 +36,8 @@ public:
     void text(QLineEdit* box, std::string& field, std::function<void()> changed = {});
     // A clamped entry: `show` gives the box's text from the model, `commit` takes the typed
     // text into the model (clamping it); the box then shows the model again.
-    void entry(QLineEdit* box, std::function<std::string()> show, std::function<void(const std::string&)> commit);
+    void entry(QLineEdit* box, std::function<std::string()> show,
+               std::function<void(const std::string&)> commit);
     // A spinner beside an entry box: its value becomes the box's text and is committed.
     void spinner(QSpinBox* spin, QLineEdit* box, std::function<int()> show);
     // Something shown from the model that takes no input (labels, visibility, ranges).

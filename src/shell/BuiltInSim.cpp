@@ -1,7 +1,7 @@
 #include "shell/BuiltInSim.h"
 
-#include "seed/SimSeed.h"
 #include "files/DemoConfiguration.h"
+#include "seed/SimSeed.h"
 #include "sim/SimBus.h"
 #include "sim/SimPort.h"
 
@@ -31,9 +31,6 @@ public:
 };
 } // namespace
 
-std::unique_ptr<SerialPort> makeBuiltInSimPort()
-{
-    return std::make_unique<BuiltInSimPort>();
-}
+std::unique_ptr<SerialPort> makeBuiltInSimPort() { return std::make_unique<BuiltInSimPort>(); }
 
 } // namespace kestrel

@@ -1,9 +1,9 @@
 #include "shell/Cli.h"
 
-#include "files/ConfigurationFile.h"
-#include "link/CorvidControl.h"
 #include "base/ProgramFault.h"
 #include "base/Text.h"
+#include "files/ConfigurationFile.h"
+#include "link/CorvidControl.h"
 #include "model/WireLimits.h"
 #include "ops/Bulk.h"
 #include "ops/GeneralCommands.h"
@@ -78,7 +78,8 @@ int commandVersion(CliContext& c)
 // Loads the data file named on the command line into the session. A file that cannot be
 // read, is invalid or is cut short ends the command with its message as a usage error,
 // before anything is sent.
-int loadOperand(CliContext& c) {
+int loadOperand(CliContext& c)
+{
     const std::string& path = c.options.operands[0];
     std::string why;
     switch (loadConfigurationFile(path, c.session.config, c.session.general, c.dialogs, &why)) {
@@ -95,7 +96,8 @@ int loadOperand(CliContext& c) {
 // The status of a job that has ended: 1 when it stopped or anything was reported on the
 // way, with the line saying what was incomplete last on stderr. A cancelled job is left
 // to runCli, which says "Cancelled".
-int jobStatus(CliContext& c, bool ok) {
+int jobStatus(CliContext& c, bool ok)
+{
     if (c.progress.cancelled())
         return kCancelled;
     const std::string summary = c.session.jobSummary();
@@ -140,7 +142,8 @@ int commandVerify(CliContext& c)
     const std::string& text = c.session.report.txtVerification;
     std::fputs(printable(text).c_str(), stdout);
     const std::string last = "Verify OK\r\n";
-    const bool verified = text.size() >= last.size() && text.compare(text.size() - last.size(), last.size(), last) == 0;
+    const bool verified =
+        text.size() >= last.size() && text.compare(text.size() - last.size(), last.size(), last) == 0;
     return jobStatus(c, ok && verified);
 }
 
@@ -158,20 +161,13 @@ int commandErase(CliContext& c)
 }
 
 // Switches an interface unit of the Corvid system into transparent mode.
-int commandTransparent(CliContext& c)
-{
-    return c.corvid.cmdSetTM_Click() ? kOk : kFailed;
-}
+int commandTransparent(CliContext& c) { return c.corvid.cmdSetTM_Click() ? kOk : kFailed; }
 
 const std::map<std::string, Command>& commands()
 {
     static const std::map<std::string, Command> table = {
-        {"version", commandVersion},
-        {"transparent", commandTransparent},
-        {"read", commandRead},
-        {"write", commandWrite},
-        {"verify", commandVerify},
-        {"erase", commandErase},
+        {"version", commandVersion}, {"transparent", commandTransparent}, {"read", commandRead},
+        {"write", commandWrite},     {"verify", commandVerify},           {"erase", commandErase},
     };
     return table;
 }
@@ -179,7 +175,8 @@ const std::map<std::string, Command>& commands()
 // A bus or eXtended address as shown (with the numbering base): a whole number in
 // base..highest + base. Anything else is refused, never clamped, so that no other module
 // than the one named is written.
-bool checkAddress(const char* option, const std::string& text, int highest, int base, std::string& error) {
+bool checkAddress(const char* option, const std::string& text, int highest, int base, std::string& error)
+{
     int value = -1;
     const char* end = text.data() + text.size();
     const auto [ptr, ec] = std::from_chars(text.data(), end, value);

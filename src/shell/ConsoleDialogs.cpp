@@ -5,7 +5,8 @@
 
 namespace kestrel {
 
-std::string printable(std::string_view text) {
+std::string printable(std::string_view text)
+{
     static const char digits[] = "0123456789ABCDEF";
     std::string out;
     out.reserve(text.size());

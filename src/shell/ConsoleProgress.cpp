@@ -8,10 +8,7 @@ namespace kestrel {
 
 namespace {
 volatile std::sig_atomic_t interrupted = 0;
-void onInterrupt(int)
-{
-    interrupted = 1;
-}
+void onInterrupt(int) { interrupted = 1; }
 } // namespace
 
 ConsoleProgress::ConsoleProgress() : terminal(isatty(STDERR_FILENO) == 1)
@@ -19,10 +16,7 @@ ConsoleProgress::ConsoleProgress() : terminal(isatty(STDERR_FILENO) == 1)
     std::signal(SIGINT, onInterrupt);
 }
 
-ConsoleProgress::~ConsoleProgress()
-{
-    finish();
-}
+ConsoleProgress::~ConsoleProgress() { finish(); }
 
 void ConsoleProgress::step(int done, int total, const std::string& what)
 {
@@ -33,10 +27,7 @@ void ConsoleProgress::step(int done, int total, const std::string& what)
     shown = true;
 }
 
-bool ConsoleProgress::cancelled()
-{
-    return interrupted != 0;
-}
+bool ConsoleProgress::cancelled() { return interrupted != 0; }
 
 void ConsoleProgress::finish()
 {

@@ -82,7 +82,8 @@ EventPage::EventPage(Session& s, std::function<void(JobName job)> start, Guard* 
     auto* table = new QGridLayout;
     table->setHorizontalSpacing(12);
     for (int i = 0; i < kEventSlots; ++i) {
-        LabelECinput[i] = named(new QLabel(QString("Input %1").arg(i + 1)), QString("LabelECinput_%1").arg(i));
+        LabelECinput[i] =
+            named(new QLabel(QString("Input %1").arg(i + 1)), QString("LabelECinput_%1").arg(i));
         table->addWidget(LabelECinput[i], 0, 1 + i);
     }
     table->addWidget(new QLabel("ON:"), 1, 0);

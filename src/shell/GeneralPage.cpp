@@ -36,7 +36,6 @@ template <typename W> W* named(W* w, const QString& name)
 
 QString indexed(const char* name, int index) { return QString("%1_%2").arg(name).arg(index); }
 
-
 // A hidden control keeps its place, so the frame does not jump when a mode changes.
 void keepPlaceWhenHidden(QWidget* w)
 {
@@ -62,10 +61,7 @@ constexpr int kExtendedAddressMaximum = 95;
 constexpr long kDccAddressMaximum = 127 * 64 + 63; // high part one data byte, low part 6 bits
 constexpr std::size_t kIDStringMaximum = 12;
 
-QPushButton* button(const char* caption, const char* name)
-{
-    return named(new QPushButton(caption), name);
-}
+QPushButton* button(const char* caption, const char* name) { return named(new QPushButton(caption), name); }
 
 QHBoxLayout* buttonRow(QPushButton* read, QPushButton* write)
 {
@@ -256,8 +252,8 @@ void GeneralPage::placeHardwareBoxes()
 {
     const QFontMetrics fm(LabelGenHWCPin->font());
     const QString legend = LabelGenHWCPin->text();
-    const int captionWidth =
-        std::max(fm.horizontalAdvance(driverCaptions[0]->text()), fm.horizontalAdvance(driverCaptions[1]->text()));
+    const int captionWidth = std::max(fm.horizontalAdvance(driverCaptions[0]->text()),
+                                      fm.horizontalAdvance(driverCaptions[1]->text()));
     const QSize box = ChkGenHWCSink[0]->sizeHint();
     const int rowHeight = std::max(box.height(), fm.height()) + 4;
 
@@ -279,8 +275,8 @@ void GeneralPage::placeHardwareBoxes()
         driverCaptions[r]->setGeometry(0, y, captionWidth + 4, rowHeight);
         for (int g = 0; g < 4; ++g) {
             QCheckBox* b = r == 0 ? ChkGenHWCSink[g] : ChkGenHWCSource[g];
-            b->setGeometry(shift + middles[g] - box.width() / 2, y + (rowHeight - box.height()) / 2, box.width(),
-                           box.height());
+            b->setGeometry(shift + middles[g] - box.width() / 2, y + (rowHeight - box.height()) / 2,
+                           box.width(), box.height());
         }
     }
     const int width = std::max(shift + fm.horizontalAdvance(legend), shift + middles[3] + box.width()) + 8;
@@ -337,7 +333,8 @@ QGroupBox* GeneralPage::buildSerialPort()
     const char* dataCaptions[2] = {"7 bits", "8 bits"};
     const char* stopCaptions[2] = {"1 bit", "2 bits"};
     for (int i = 0; i < 2; ++i) {
-        OptionGenSerialDatabits[i] = named(new QRadioButton(dataCaptions[i]), indexed("OptionGenSerialDatabits", i));
+        OptionGenSerialDatabits[i] =
+            named(new QRadioButton(dataCaptions[i]), indexed("OptionGenSerialDatabits", i));
         databitsGroup->addButton(OptionGenSerialDatabits[i], i);
         data->layout()->addWidget(OptionGenSerialDatabits[i]);
         OptionGenSerialStop[i] = named(new QRadioButton(stopCaptions[i]), indexed("OptionGenSerialStop", i));
@@ -348,7 +345,8 @@ QGroupBox* GeneralPage::buildSerialPort()
     OptionGenSerialParity = {};
     const std::pair<int, const char*> parities[3] = {{0, "None"}, {2, "Even"}, {3, "Odd"}};
     for (const auto& [index, caption] : parities) {
-        OptionGenSerialParity[index] = named(new QRadioButton(caption), indexed("OptionGenSerialParity", index));
+        OptionGenSerialParity[index] =
+            named(new QRadioButton(caption), indexed("OptionGenSerialParity", index));
         parityGroup->addButton(OptionGenSerialParity[index], index);
         parity->layout()->addWidget(OptionGenSerialParity[index]);
     }
@@ -408,7 +406,8 @@ void GeneralPage::bind()
     b.check(ChkGenDCC_BPSI, g.ChkGenDCC_BPSI);
     b.check(ChkGenDCCAllow0, g.ChkGenDCCAllow0, [this] { kestrel::ChkGenDCCAllow0_Click(session); });
 
-    b.check(CheckGenKestrelNative, g.CheckGenKestrelNative, [this] { kestrel::CheckGenKestrelNative_Click(session); });
+    b.check(CheckGenKestrelNative, g.CheckGenKestrelNative,
+            [this] { kestrel::CheckGenKestrelNative_Click(session); });
     b.check(CheckGenLynxaddr, g.CheckGenLynxaddr, [this] { kestrel::CheckGenLynxaddr_Click(session); });
     // The flex-address is shown times 4 with the numbering base; its text field follows
     // LynxFlexAddress, which the writer sends.
@@ -421,7 +420,8 @@ void GeneralPage::bind()
         },
         [this, &g, base](const std::string& typed) {
             const long shown = valInt(typed) - base();
-            g.LynxFlexAddress = static_cast<int>(std::clamp<long>(shown < 0 ? 0 : shown / 4, 0, kFlexAddressMaximum));
+            g.LynxFlexAddress =
+                static_cast<int>(std::clamp<long>(shown < 0 ? 0 : shown / 4, 0, kFlexAddressMaximum));
             g.TextGenLynxaddr = std::to_string(g.LynxFlexAddress * 4 + base());
             if (session.onPinAddressDisplayChanged)
                 session.onPinAddressDisplayChanged();
@@ -436,7 +436,8 @@ void GeneralPage::bind()
             return g.TextGenXaddr;
         },
         [&g, base](const std::string& typed) {
-            g.ExtendedAddress = static_cast<int>(std::clamp<long>(valInt(typed) - base(), 0, kExtendedAddressMaximum));
+            g.ExtendedAddress =
+                static_cast<int>(std::clamp<long>(valInt(typed) - base(), 0, kExtendedAddressMaximum));
             g.TextGenXaddr = std::to_string(g.ExtendedAddress + base());
         });
     for (int i = 0; i < 16; ++i)

@@ -24,7 +24,6 @@ public:
     // Called after a fault has been shown and the model restored (the pages show it again).
     std::function<void()> afterFault;
 
-
 private:
     Session& session;
     int depth = 0;

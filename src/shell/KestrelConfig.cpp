@@ -1,6 +1,6 @@
 #include "shell/KestrelConfig.h"
-#include "forms/MainWindowForm.h"
 #include "forms/DevicesForm.h"
+#include "forms/MainWindowForm.h"
 
 #include "files/ConfigurationFile.h"
 #include "forms/AspectEditor.h"
@@ -8,38 +8,38 @@
 #include "ops/Bulk.h"
 #include "ops/EventControl.h"
 #include "ops/PinTransfer.h"
+#include "shell/Bindings.h"
 #include "shell/BuiltInSim.h"
 #include "shell/EventPage.h"
 #include "shell/GeneralPage.h"
 #include "shell/PinConfigPage.h"
-#include "shell/QtProgress.h"
 #include "shell/ProgramSession.h"
+#include "shell/QtProgress.h"
 #include "shell/QtSerialPort.h"
-#include "shell/Bindings.h"
 
 #include <QApplication>
-#include <QCloseEvent>
-#include <QElapsedTimer>
-#include <QFileInfo>
-#include <QRegularExpression>
-#include <QSignalBlocker>
-#include <QStatusBar>
 #include <QCheckBox>
+#include <QCloseEvent>
 #include <QComboBox>
+#include <QDialog>
+#include <QElapsedTimer>
 #include <QEvent>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
-#include <QDialog>
 #include <QPlainTextEdit>
-#include <QTimer>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QRegularExpression>
+#include <QSignalBlocker>
 #include <QSpinBox>
+#include <QStatusBar>
 #include <QTabWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace kestrel {
@@ -123,7 +123,8 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
                        static_cast<QWidget*>(CommandVerifyAll), static_cast<QWidget*>(CheckWritePinConfig),
                        static_cast<QWidget*>(CommandSave), static_cast<QWidget*>(CommandLoad)})
         bulk->addWidget(w);
-    connect(CommandLoad, &QPushButton::clicked, this, [this] { guard->operator()([this] { CommandLoad_Click(); }); });
+    connect(CommandLoad, &QPushButton::clicked, this,
+            [this] { guard->operator()([this] { CommandLoad_Click(); }); });
     bulk->addStretch();
     layout->addLayout(bulk);
     connect(CommandReadAll, &QPushButton::clicked, this, &KestrelConfig::CommandReadAll_Click);
@@ -132,7 +133,8 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
 
     tabs = named(new QTabWidget, "SSTab1");
     tabs->addTab(buildGeneralPage(), "General");
-    eventPage = new EventPage(*core, [this](JobName job) { startJob(job); }, guard.get());
+    eventPage = new EventPage(
+        *core, [this](JobName job) { startJob(job); }, guard.get());
     tabs->addTab(eventPage, "Event Control");
     pinConfigPage = new PinConfigPage(*core, guard.get());
     tabs->addTab(pinConfigPage, "Pin Configuration");
@@ -215,30 +217,50 @@ void KestrelConfig::addJobs()
             return ok;
         };
     };
-    jobs.add(Jobs::ReadAll, [this, &s] { runJob("Read All", [&s] { return ReadAll(s); }, true, true); });
+    jobs.add(Jobs::ReadAll, [this, &s] {
+        runJob(
+            "Read All", [&s] { return ReadAll(s); }, true, true);
+    });
     jobs.add(Jobs::WriteAll, [this, &s, pinConfigToo] {
         const bool withConfig = pinConfigToo();
-        runJob("Write All", [&s, withConfig] { return WriteAll(s, withConfig); }, false, true);
+        runJob(
+            "Write All", [&s, withConfig] { return WriteAll(s, withConfig); }, false, true);
     });
     jobs.add(Jobs::VerifyAll, [this, &s] { runJob("Verify All", [&s] { return VerifyAll(s); }); });
-    jobs.add(Jobs::ReadPin, [this, &s] { runJob("Read Pin", [&s] { return ReadPin(s, s.config.CurrentPin); }, true); });
+    jobs.add(Jobs::ReadPin, [this, &s] {
+        runJob(
+            "Read Pin", [&s] { return ReadPin(s, s.config.CurrentPin); }, true);
+    });
     jobs.add(Jobs::WritePin, [this, &s, pinConfigToo] {
         const bool withConfig = pinConfigToo();
         runJob("Write Pin", [&s, withConfig] { return WritePin(s, s.config.CurrentPin, withConfig); });
     });
-    jobs.add(Jobs::ReadDevice, [this, &s] { runJob("Read Device", [&s] { return ReadDevice(s); }, true); });
+    jobs.add(Jobs::ReadDevice, [this, &s] {
+        runJob(
+            "Read Device", [&s] { return ReadDevice(s); }, true);
+    });
     jobs.add(Jobs::WriteDevice, [this, &s] { runJob("Write Device", [&s] { return WriteDevice(s); }); });
-    jobs.add(Jobs::ReadAllPins, [this, &s] { runJob("Read All Pins", [&s] { return ReadAllPins(s); }, true); });
+    jobs.add(Jobs::ReadAllPins, [this, &s] {
+        runJob(
+            "Read All Pins", [&s] { return ReadAllPins(s); }, true);
+    });
     jobs.add(Jobs::WriteAllPins, [this, &s, pinConfigToo] {
         const bool withConfig = pinConfigToo();
         runJob("Write All Pins", [&s, withConfig] { return WriteAllPins(s, withConfig); });
     });
-    jobs.add(Jobs::PAspReadPin,
-             [this, &s] { runJob("Read Pin", [&s] { return PAspReadPin(s, s.config.CurrentPin); }, true); });
-    jobs.add(Jobs::PAspWritePin, [this, &s] { runJob("Write Pin", [&s] { return WritePin(s, s.config.CurrentPin); }); });
+    jobs.add(Jobs::PAspReadPin, [this, &s] {
+        runJob(
+            "Read Pin", [&s] { return PAspReadPin(s, s.config.CurrentPin); }, true);
+    });
+    jobs.add(Jobs::PAspWritePin,
+             [this, &s] { runJob("Write Pin", [&s] { return WritePin(s, s.config.CurrentPin); }); });
     jobs.add(Jobs::VerifyAllPins, [this, verify] { runJob("Verify All Pins", verify(&VerifyAllPins)); });
-    jobs.add(Jobs::ECWriteAll, [this, &s] { runJob("Write All Events", [&s] { return WriteAllEvents(s); }); });
-    jobs.add(Jobs::ECReadAll, [this, &s] { runJob("Read All Events", [&s] { return ReadAllEvents(s); }, true); });
+    jobs.add(Jobs::ECWriteAll,
+             [this, &s] { runJob("Write All Events", [&s] { return WriteAllEvents(s); }); });
+    jobs.add(Jobs::ECReadAll, [this, &s] {
+        runJob(
+            "Read All Events", [&s] { return ReadAllEvents(s); }, true);
+    });
     jobs.add(Jobs::ECVerify, [this, verify] { runJob("Verify Event Control", verify(&VerifyEventControl)); });
 }
 
@@ -249,12 +271,10 @@ void KestrelConfig::startJob(JobName name)
     jobs.request(name);
 }
 
-void KestrelConfig::Timer1_Timer()
-{
-    jobs.Timer1_Timer();
-}
+void KestrelConfig::Timer1_Timer() { jobs.Timer1_Timer(); }
 
-void KestrelConfig::runJob(const QString& title, const std::function<bool()>& operation, bool reads, bool clean)
+void KestrelConfig::runJob(const QString& title, const std::function<bool()>& operation, bool reads,
+                           bool clean)
 {
     commitAll();
     JobProgress progress(this, title);
@@ -343,7 +363,8 @@ void KestrelConfig::updateWindowState()
     if (name.isEmpty() && !changed)
         setWindowTitle("Kestrel Config");
     else
-        setWindowTitle((name.isEmpty() ? QString("untitled") : name) + (changed ? "*" : "") + " - Kestrel Config");
+        setWindowTitle((name.isEmpty() ? QString("untitled") : name) + (changed ? "*" : "") +
+                       " - Kestrel Config");
     SerialPort& port = core->link.port();
     const int rate = core->linkControl.OptionBitRate;
     static const char* rates[3] = {"9600", "19200", "38400"};
@@ -358,9 +379,10 @@ bool KestrelConfig::keepChangesSafe(const char* doing)
     commitAll();
     if (!unsavedChanges())
         return true;
-    const Answer a = core->dialogs().ask(std::string("The configuration has changes that are not saved.\r\n") + doing +
-                                             " would lose them. Save them first?",
-                                         Buttons::SaveDiscardCancel, Icon::Warning);
+    const Answer a =
+        core->dialogs().ask(std::string("The configuration has changes that are not saved.\r\n") + doing +
+                                " would lose them. Save them first?",
+                            Buttons::SaveDiscardCancel, Icon::Warning);
     if (a == Answer::Discard)
         return true;
     if (a != Answer::Save)
@@ -461,7 +483,8 @@ void KestrelConfig::CommandLoad_Click()
             LabelStatusJob->setText("Loaded " + name);
             break;
         case LoadResult::FormatError:
-            LabelStatusJob->setText("Load stopped at a fault in " + name + ": the pages show what was read before it");
+            LabelStatusJob->setText("Load stopped at a fault in " + name +
+                                    ": the pages show what was read before it");
             break;
         default:
             LabelStatusJob->setText("Nothing was loaded from " + name);
@@ -477,15 +500,9 @@ void KestrelConfig::CommandReadAll_Click()
         startJob(Jobs::ReadAll);
 }
 
-void KestrelConfig::CommandWriteAll_Click()
-{
-    startJob(Jobs::WriteAll);
-}
+void KestrelConfig::CommandWriteAll_Click() { startJob(Jobs::WriteAll); }
 
-void KestrelConfig::CommandVerifyAll_Click()
-{
-    startJob(Jobs::VerifyAll);
-}
+void KestrelConfig::CommandVerifyAll_Click() { startJob(Jobs::VerifyAll); }
 
 KestrelConfig::~KestrelConfig()
 {
@@ -623,7 +640,8 @@ QWidget* KestrelConfig::buildDevicesPage()
     grid->setRowStretch(3, 1);
 
     connect(TextPAspOutput, &QLineEdit::editingFinished, this, &KestrelConfig::TextPAspOutput_Click);
-    connect(TextDeviceDescription, &QLineEdit::textEdited, this, &KestrelConfig::TextDeviceDescription_Change);
+    connect(TextDeviceDescription, &QLineEdit::textEdited, this,
+            &KestrelConfig::TextDeviceDescription_Change);
     connect(cboDevice, &QComboBox::activated, this, [this](int index) { devices.selected = index; });
     connect(CommandPAspPreLoad, &QPushButton::clicked, this, &KestrelConfig::CommandPAspPreLoad_Click);
     connect(CommandSaveDevice, &QPushButton::clicked, this, &KestrelConfig::CommandSaveDevice_Click);
@@ -695,8 +713,8 @@ void KestrelConfig::fillPortList()
         ComboPort->addItem(QString::fromStdString(p));
     // The port in use stays chosen; with none, the box is empty.
     ComboPort->setCurrentIndex(-1);
-    ComboPort->setEditText(core->link.port().isOpen() ? QString::fromStdString(core->linkControl.ComboPortText)
-                                                      : QString());
+    ComboPort->setEditText(
+        core->link.port().isOpen() ? QString::fromStdString(core->linkControl.ComboPortText) : QString());
 }
 
 void KestrelConfig::refreshLinkDisplays()
@@ -778,15 +796,9 @@ void KestrelConfig::CheckKestrelBD_Click()
     core->link.settings.CheckKestrelBD = CheckKestrelBD->isChecked();
 }
 
-void KestrelConfig::LabelPort_DblClick()
-{
-    FrameBitrate->setVisible(!FrameBitrate->isVisible());
-}
+void KestrelConfig::LabelPort_DblClick() { FrameBitrate->setVisible(!FrameBitrate->isVisible()); }
 
-void KestrelConfig::CommandGenVersion_Click()
-{
-    generalPage->CommandGenVersion_Click();
-}
+void KestrelConfig::CommandGenVersion_Click() { generalPage->CommandGenVersion_Click(); }
 
 namespace {
 // The mouse button and the keys held, as the buttons' handlers take them: button 1 left,

@@ -3,8 +3,8 @@
 #include "link/CorvidControl.h"
 #include "ops/JobDispatcher.h"
 #include "session/Session.h"
-#include "shell/PortRouter.h"
 #include "shell/Guard.h"
+#include "shell/PortRouter.h"
 #include "shell/QtDialogs.h"
 
 #include <QMainWindow>
@@ -29,7 +29,7 @@ struct ProgramSession;
 class GeneralPage;
 class EventPage;
 class PinConfigPage;
-}
+} // namespace kestrel
 
 namespace kestrel {
 
@@ -178,7 +178,7 @@ private:
     std::unique_ptr<Guard> guard;
     QGroupBox* linkFrame = nullptr; // the frame LabelPort's double-click shows and hides
     QString fileName;
-    Configuration cleanConfig;     // as last loaded, saved, read or written
+    Configuration cleanConfig; // as last loaded, saved, read or written
     GeneralSettings cleanGeneral;
 };
 

@@ -2,9 +2,9 @@
 
 #include "base/Text.h"
 #include "forms/AspectEditor.h"
+#include "forms/PinConfigView.h"
 #include "ops/LiveOutput.h"
 #include "ops/PinConfigTransfer.h"
-#include "forms/PinConfigView.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -32,20 +32,24 @@ template <typename W> W* named(W* w, const QString& name)
     return w;
 }
 
-
 const char* const kDynamicTip = "If checked, use active dynamic parameters, else go directly to position";
 
 // The page of SSTabPCFG that shows a mode; -1 for an unknown mode.
 int pageOfMode(int mode)
 {
     switch (mode) {
-    case kModeNone: return 0;
-    case kModeServo: return 1;
+    case kModeNone:
+        return 0;
+    case kModeServo:
+        return 1;
     case kModePwm:
-    case kModePwm + 1: return 2;
+    case kModePwm + 1:
+        return 2;
     case kModeInput:
-    case kModeInput + 1: return 3;
-    default: return -1;
+    case kModeInput + 1:
+        return 3;
+    default:
+        return -1;
     }
 }
 
@@ -132,19 +136,24 @@ PinConfigPage::PinConfigPage(Session& s, Guard* sharedGuard, QWidget* parent)
     const char* getCaptions[2] = {"Get Pin Config", "Read Pin Config"};
     const char* setCaptions[2] = {"Set Pin Config", "Write Pin Config"};
     const char* getTips[2] = {"Gets the active parameters", "Reads the parameters from Flash memory"};
-    const char* setTips[2] = {"Sets Active Servo parameters (not permanent)", "Writes Servo Parameters to Flash memory"};
+    const char* setTips[2] = {"Sets Active Servo parameters (not permanent)",
+                              "Writes Servo Parameters to Flash memory"};
     for (int i = 0; i < 2; ++i) {
-        CommandPCFGGetParam[i] = named(new QPushButton(getCaptions[i]), QString("CommandPCFGGetParam_%1").arg(i));
+        CommandPCFGGetParam[i] =
+            named(new QPushButton(getCaptions[i]), QString("CommandPCFGGetParam_%1").arg(i));
         CommandPCFGGetParam[i]->setToolTip(getTips[i]);
         row->addWidget(CommandPCFGGetParam[i]);
-        connect(CommandPCFGGetParam[i], &QPushButton::clicked, this, [this, i] { CommandPCFGGetParam_Click(i); });
+        connect(CommandPCFGGetParam[i], &QPushButton::clicked, this,
+                [this, i] { CommandPCFGGetParam_Click(i); });
     }
     row->addSpacing(24);
     for (int i = 0; i < 2; ++i) {
-        CommandPCFGSetParam[i] = named(new QPushButton(setCaptions[i]), QString("CommandPCFGSetParam_%1").arg(i));
+        CommandPCFGSetParam[i] =
+            named(new QPushButton(setCaptions[i]), QString("CommandPCFGSetParam_%1").arg(i));
         CommandPCFGSetParam[i]->setToolTip(setTips[i]);
         row->addWidget(CommandPCFGSetParam[i]);
-        connect(CommandPCFGSetParam[i], &QPushButton::clicked, this, [this, i] { CommandPCFGSetParam_Click(i); });
+        connect(CommandPCFGSetParam[i], &QPushButton::clicked, this,
+                [this, i] { CommandPCFGSetParam_Click(i); });
     }
     row->addStretch();
     layout->addWidget(transfer);
@@ -222,7 +231,8 @@ QWidget* PinConfigPage::buildServoPage()
     auto* ranges = new QHBoxLayout(rangeFrame);
     auto* rangeGroup = new QButtonGroup(this);
     for (int i = 0; i < 5; ++i) {
-        OptionServoRange[i] = named(new QRadioButton(QString::number(i)), QString("OptionServoRange_%1").arg(i));
+        OptionServoRange[i] =
+            named(new QRadioButton(QString::number(i)), QString("OptionServoRange_%1").arg(i));
         rangeGroup->addButton(OptionServoRange[i], i);
         ranges->addWidget(OptionServoRange[i]);
     }
@@ -297,8 +307,10 @@ QWidget* PinConfigPage::buildPwmPage()
     auto* accelLayout = new QVBoxLayout(accelFrame);
     const char* modeCaptions[2] = {"Linear", "Logaritmic"};
     for (int i = 0; i < 2; ++i) {
-        OptionPWMDriveMode[i] = named(new QRadioButton(modeCaptions[i]), QString("OptionPWMDriveMode_%1").arg(i));
-        OptionPWMAccelMode[i] = named(new QRadioButton(modeCaptions[i]), QString("OptionPWMAccelMode_%1").arg(i));
+        OptionPWMDriveMode[i] =
+            named(new QRadioButton(modeCaptions[i]), QString("OptionPWMDriveMode_%1").arg(i));
+        OptionPWMAccelMode[i] =
+            named(new QRadioButton(modeCaptions[i]), QString("OptionPWMAccelMode_%1").arg(i));
         driveGroup->addButton(OptionPWMDriveMode[i], i);
         accelGroup->addButton(OptionPWMAccelMode[i], i);
         driveLayout->addWidget(OptionPWMDriveMode[i]);
@@ -333,7 +345,8 @@ QWidget* PinConfigPage::buildPwmPage()
         const QSignalBlocker block(SliderPWM);
         SliderPWM->setValue(value);
     });
-    connect(SliderPWM, &QSlider::sliderMoved, this, [this](int v) { TextPWMLevel->setText(QString::number(v)); });
+    connect(SliderPWM, &QSlider::sliderMoved, this,
+            [this](int v) { TextPWMLevel->setText(QString::number(v)); });
     connect(SliderPWM, &QSlider::valueChanged, this, &PinConfigPage::SliderPWM_Change);
     connect(CommandPWMLevel, &QPushButton::clicked, this, &PinConfigPage::CommandPWMLevel_Click);
     connect(CommandPWMJump, &QPushButton::clicked, this, &PinConfigPage::CommandPWMJump_Click);
@@ -368,10 +381,7 @@ QWidget* PinConfigPage::buildInputPage()
     return page;
 }
 
-PinRecord& PinConfigPage::pin()
-{
-    return session.config.pin(session.config.CurrentPin);
-}
+PinRecord& PinConfigPage::pin() { return session.config.pin(session.config.CurrentPin); }
 
 void PinConfigPage::refresh()
 {
@@ -501,7 +511,8 @@ void PinConfigPage::pwmModesChanged()
 {
     if (pageOfMode(pin().ConfigMode) != 2)
         return;
-    pin().P(2) = pwmModeByte(OptionPWMDriveMode[1]->isChecked() ? 1 : 0, OptionPWMAccelMode[1]->isChecked() ? 1 : 0);
+    pin().P(2) =
+        pwmModeByte(OptionPWMDriveMode[1]->isChecked() ? 1 : 0, OptionPWMAccelMode[1]->isChecked() ? 1 : 0);
 }
 
 void PinConfigPage::TextPCFGPin_Click()

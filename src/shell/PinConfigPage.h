@@ -1,6 +1,6 @@
 #pragma once
-#include "session/Session.h"
 #include "forms/PinEdits.h"
+#include "session/Session.h"
 #include "shell/Bindings.h"
 #include "shell/Guard.h"
 

@@ -9,15 +9,9 @@ PortRouter::PortRouter(std::unique_ptr<SerialPort> r, std::unique_ptr<SerialPort
 {
 }
 
-bool PortRouter::simulatedChosen() const
-{
-    return name == LinkControl::kSimPortName;
-}
+bool PortRouter::simulatedChosen() const { return name == LinkControl::kSimPortName; }
 
-SerialPort& PortRouter::active() const
-{
-    return simulatedChosen() ? *sim : *real;
-}
+SerialPort& PortRouter::active() const { return simulatedChosen() ? *sim : *real; }
 
 void PortRouter::select(const std::string& n)
 {

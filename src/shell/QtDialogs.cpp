@@ -43,7 +43,8 @@ QWidget* QtDialogs::owner() const
     // answer, and would then cover and block a box that belongs to the window. The box is
     // the progress dialog's own instead, which is brought up first.
     if (parent) {
-        const auto running = parent->findChildren<QProgressDialog*>("dlgProgress", Qt::FindDirectChildrenOnly);
+        const auto running =
+            parent->findChildren<QProgressDialog*>("dlgProgress", Qt::FindDirectChildrenOnly);
         if (!running.isEmpty()) {
             QProgressDialog* progress = running.last();
             if (!progress->isVisible())
@@ -84,8 +85,8 @@ Answer QtDialogs::ask(const std::string& text, Buttons buttons, Icon icon)
         set = QMessageBox::Yes | QMessageBox::No;
     else if (buttons == Buttons::SaveDiscardCancel)
         set = QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel;
-    QMessageBox box(qtIcon(icon), QApplication::applicationDisplayName(), QString::fromLatin1(text.c_str()), set,
-                    owner());
+    QMessageBox box(qtIcon(icon), QApplication::applicationDisplayName(), QString::fromLatin1(text.c_str()),
+                    set, owner());
     box.setObjectName("dlgQuestion");
     switch (showBox(box)) {
     case QMessageBox::Ok:
@@ -111,7 +112,8 @@ QString QtDialogs::withDefaultSuffix(const QString& name, const std::string& fil
     return match.hasMatch() ? name + "." + match.captured(1) : name;
 }
 
-std::string QtDialogs::openFileName(const std::string& title, const std::string& filter, const std::string& defaultName)
+std::string QtDialogs::openFileName(const std::string& title, const std::string& filter,
+                                    const std::string& defaultName)
 {
     // Definitions files are looked for beside the standard one, data files where the last
     // file was chosen.
@@ -127,7 +129,8 @@ std::string QtDialogs::openFileName(const std::string& title, const std::string&
     return chosen.toStdString();
 }
 
-std::string QtDialogs::saveFileName(const std::string& title, const std::string& filter, const std::string& defaultName)
+std::string QtDialogs::saveFileName(const std::string& title, const std::string& filter,
+                                    const std::string& defaultName)
 {
     QFileDialog dialog(owner(), QString::fromLatin1(title.c_str()), lastFolder, qtFilter(filter));
     dialog.setAcceptMode(QFileDialog::AcceptSave);

@@ -17,8 +17,10 @@ public:
     void setParent(QWidget* p) { parent = p; }
     void message(const std::string& text, Icon icon) override;
     Answer ask(const std::string& text, Buttons buttons, Icon icon) override;
-    std::string openFileName(const std::string& title, const std::string& filter, const std::string& defaultName) override;
-    std::string saveFileName(const std::string& title, const std::string& filter, const std::string& defaultName) override;
+    std::string openFileName(const std::string& title, const std::string& filter,
+                             const std::string& defaultName) override;
+    std::string saveFileName(const std::string& title, const std::string& filter,
+                             const std::string& defaultName) override;
 
     // The folder an open dialog for definitions files starts in (the standard file's).
     QString definitionsFolder;

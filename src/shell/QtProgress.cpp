@@ -32,14 +32,8 @@ void QtProgress::step(int done, int total, const std::string& what)
     QCoreApplication::processEvents();
 }
 
-void QtProgress::exchanged()
-{
-    QCoreApplication::processEvents();
-}
+void QtProgress::exchanged() { QCoreApplication::processEvents(); }
 
-bool QtProgress::cancelled()
-{
-    return dialog && dialog->wasCanceled();
-}
+bool QtProgress::cancelled() { return dialog && dialog->wasCanceled(); }
 
 } // namespace kestrel

@@ -6,9 +6,9 @@
 #ifdef __linux__
 #include <sys/prctl.h>
 #endif
+#include <QStringList>
 #include <chrono>
 #include <thread>
-#include <QStringList>
 
 #ifndef _WIN32
 #include <poll.h>
@@ -26,10 +26,7 @@ QtSerialPort::QtSerialPort()
 }
 QtSerialPort::~QtSerialPort() { close(); }
 
-void QtSerialPort::select(const std::string& n)
-{
-    name = n;
-}
+void QtSerialPort::select(const std::string& n) { name = n; }
 
 static QString portPath(const std::string& name)
 {
@@ -91,10 +88,7 @@ void QtSerialPort::close()
     }
 }
 
-bool QtSerialPort::isOpen() const
-{
-    return port().isOpen();
-}
+bool QtSerialPort::isOpen() const { return port().isOpen(); }
 
 void QtSerialPort::setSettings(const std::string& s)
 {
@@ -108,7 +102,8 @@ void QtSerialPort::setSettings(const std::string& s)
 bool QtSerialPort::failed()
 {
     const auto e = port().error();
-    if (e == QSerialPort::ResourceError || e == QSerialPort::PermissionError || e == QSerialPort::DeviceNotFoundError) {
+    if (e == QSerialPort::ResourceError || e == QSerialPort::PermissionError ||
+        e == QSerialPort::DeviceNotFoundError) {
         error = port().errorString().toStdString();
         return true;
     }

@@ -12,26 +12,52 @@ void PinMemory::setOutputValue(std::uint8_t v)
 bool ModuleMemory::readItem(int item, std::vector<std::uint8_t>& data) const
 {
     switch (item) {
-    case 0: data.assign(firmwareVersion.begin(), firmwareVersion.end()); return true;
-    case 1: data.assign(hardwareConfig.begin(), hardwareConfig.end()); return true;
-    case 2: data = {extendedAddress}; return true;
-    case 3: data.assign(groupMask.begin(), groupMask.end()); return true;
-    case 4: data = {dccAddressLow, dccAddressHigh}; return true;
-    case 5: data = {dccOptions}; return true;
-    case 6: data = {greenLed}; return true;
-    case 7: data = {orangeLed}; return true;
-    case 8: data = {flexEnable, addressMode}; return true;
-    case 10: data.assign(idString.begin(), idString.end()); return true;
-    case 11: data = {eventOnEnable, eventOffEnable}; return true;
-    case 12: data = {xdccAddressLow, xdccAddressHigh}; return true;
-    case 13: data = {serialEnable, serialLine}; return true;
-    default: return false;
+    case 0:
+        data.assign(firmwareVersion.begin(), firmwareVersion.end());
+        return true;
+    case 1:
+        data.assign(hardwareConfig.begin(), hardwareConfig.end());
+        return true;
+    case 2:
+        data = {extendedAddress};
+        return true;
+    case 3:
+        data.assign(groupMask.begin(), groupMask.end());
+        return true;
+    case 4:
+        data = {dccAddressLow, dccAddressHigh};
+        return true;
+    case 5:
+        data = {dccOptions};
+        return true;
+    case 6:
+        data = {greenLed};
+        return true;
+    case 7:
+        data = {orangeLed};
+        return true;
+    case 8:
+        data = {flexEnable, addressMode};
+        return true;
+    case 10:
+        data.assign(idString.begin(), idString.end());
+        return true;
+    case 11:
+        data = {eventOnEnable, eventOffEnable};
+        return true;
+    case 12:
+        data = {xdccAddressLow, xdccAddressHigh};
+        return true;
+    case 13:
+        data = {serialEnable, serialLine};
+        return true;
+    default:
+        return false;
     }
 }
 
 namespace {
-template <std::size_t N>
-bool store(std::array<std::uint8_t, N>& into, const std::vector<std::uint8_t>& data)
+template <std::size_t N> bool store(std::array<std::uint8_t, N>& into, const std::vector<std::uint8_t>& data)
 {
     if (data.size() != N)
         return false;
@@ -61,23 +87,35 @@ bool store(std::uint8_t& a, std::uint8_t& b, const std::vector<std::uint8_t>& da
 bool ModuleMemory::writeItem(int item, const std::vector<std::uint8_t>& data)
 {
     switch (item) {
-    case 1: return store(hardwareConfig, data);
-    case 2: return store(extendedAddress, data);
-    case 3: return store(groupMask, data);
-    case 4: return store(dccAddressLow, dccAddressHigh, data);
-    case 5: return store(dccOptions, data);
-    case 6: return store(greenLed, data);
-    case 7: return store(orangeLed, data);
-    case 8: return store(flexEnable, addressMode, data);
+    case 1:
+        return store(hardwareConfig, data);
+    case 2:
+        return store(extendedAddress, data);
+    case 3:
+        return store(groupMask, data);
+    case 4:
+        return store(dccAddressLow, dccAddressHigh, data);
+    case 5:
+        return store(dccOptions, data);
+    case 6:
+        return store(greenLed, data);
+    case 7:
+        return store(orangeLed, data);
+    case 8:
+        return store(flexEnable, addressMode, data);
     case 10:
         if (data.size() > kIdStringMax)
             return false;
         idString.assign(data.begin(), data.end());
         return true;
-    case 11: return store(eventOnEnable, eventOffEnable, data);
-    case 12: return store(xdccAddressLow, xdccAddressHigh, data);
-    case 13: return store(serialEnable, serialLine, data);
-    default: return false;
+    case 11:
+        return store(eventOnEnable, eventOffEnable, data);
+    case 12:
+        return store(xdccAddressLow, xdccAddressHigh, data);
+    case 13:
+        return store(serialEnable, serialLine, data);
+    default:
+        return false;
     }
 }
 

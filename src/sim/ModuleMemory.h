@@ -39,22 +39,22 @@ struct PinMemory {
 
 // Everything a module stores, in the form of the general setting items.
 struct ModuleMemory {
-    std::string idString;                          // item 10, at most 12 characters
-    std::array<std::uint8_t, 4> hardwareConfig{};  // item 1, one byte per group of 8 pins
-    std::uint8_t extendedAddress = 0;              // item 2
-    std::array<std::uint8_t, 4> groupMask{};       // item 3
-    std::uint8_t dccAddressLow = 0;                // item 4: address = high * 64 + low
+    std::string idString;                         // item 10, at most 12 characters
+    std::array<std::uint8_t, 4> hardwareConfig{}; // item 1, one byte per group of 8 pins
+    std::uint8_t extendedAddress = 0;             // item 2
+    std::array<std::uint8_t, 4> groupMask{};      // item 3
+    std::uint8_t dccAddressLow = 0;               // item 4: address = high * 64 + low
     std::uint8_t dccAddressHigh = 0;
-    std::uint8_t dccOptions = 0;                   // item 5
-    std::uint8_t greenLed = 0;                     // item 6
-    std::uint8_t orangeLed = 0;                    // item 7
-    std::uint8_t flexEnable = 0;                   // item 8, first byte
-    std::uint8_t addressMode = 64;                 // item 8, second byte (64 = native mode)
-    std::uint8_t xdccAddressLow = 0;               // item 12
+    std::uint8_t dccOptions = 0;     // item 5
+    std::uint8_t greenLed = 0;       // item 6
+    std::uint8_t orangeLed = 0;      // item 7
+    std::uint8_t flexEnable = 0;     // item 8, first byte
+    std::uint8_t addressMode = 64;   // item 8, second byte (64 = native mode)
+    std::uint8_t xdccAddressLow = 0; // item 12
     std::uint8_t xdccAddressHigh = 0;
-    std::uint8_t serialEnable = 0;                 // item 13
+    std::uint8_t serialEnable = 0; // item 13
     std::uint8_t serialLine = 0;
-    std::uint8_t eventOnEnable = 0;                // item 11, bit set = input disabled
+    std::uint8_t eventOnEnable = 0; // item 11, bit set = input disabled
     std::uint8_t eventOffEnable = 0;
     std::array<std::uint8_t, 4> firmwareVersion{1, 2, 3, 4}; // item 0 (read only)
     std::array<PinMemory, kModulePins> pins{};

@@ -42,8 +42,16 @@ public:
     void setUnit(CorvidUnit type, int version);
     // The two version bytes sent as they are, for numbers the digit form cannot carry
     // exactly (the nearest below 1020 is 1017, for instance).
-    void setSystemVersionBytes(std::uint8_t x, std::uint8_t y) { systemX_ = x & 127; systemY_ = y & 127; }
-    void setUnitVersionBytes(std::uint8_t x, std::uint8_t y) { unitX_ = x & 127; unitY_ = y & 127; }
+    void setSystemVersionBytes(std::uint8_t x, std::uint8_t y)
+    {
+        systemX_ = x & 127;
+        systemY_ = y & 127;
+    }
+    void setUnitVersionBytes(std::uint8_t x, std::uint8_t y)
+    {
+        unitX_ = x & 127;
+        unitY_ = y & 127;
+    }
     int unitVersion() const { return decodeCorvidVersion(unitX_, unitY_); }
     // Unit type byte sent as it is (to try types the client does not know).
     void setUnitType(std::uint8_t type) { unitType_ = type; }

@@ -7,8 +7,8 @@ namespace kestrel::sim {
 // Byte counts of one end of the simulated wire. An exchange is one request frame that
 // a simulated device accepted (valid check byte, its address).
 struct WireStats {
-    long bytesIn = 0;   // bytes written by the client
-    long bytesOut = 0;  // bytes sent back to the client
+    long bytesIn = 0;  // bytes written by the client
+    long bytesOut = 0; // bytes sent back to the client
     long exchanges = 0;
     // Time the serial wire needs at least to carry these bytes, 11 bits a byte
     // (start, 8 data, parity, stop).

@@ -85,8 +85,8 @@ std::pair<std::uint8_t, std::uint8_t> encodeCorvidVersion(int v)
         throw std::invalid_argument("version out of range: " + std::to_string(v));
     int d1000 = v / 1000, d100 = v / 100 % 10, d10 = v / 10 % 10, d1 = v % 10;
     if (d100 > 7 || d1 > 7)
-        throw std::invalid_argument("version " + std::to_string(v)
-                                    + " cannot be carried (hundreds and units digits must be 0..7)");
+        throw std::invalid_argument("version " + std::to_string(v) +
+                                    " cannot be carried (hundreds and units digits must be 0..7)");
     return {static_cast<std::uint8_t>(d1000 << 3 | d100), static_cast<std::uint8_t>(d10 << 3 | d1)};
 }
 

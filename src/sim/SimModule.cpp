@@ -7,7 +7,8 @@ namespace kestrel::sim {
 namespace {
 // Commands of the module.
 constexpr int kReadItem = 112, kWriteItem = 96;
-constexpr int kReadLayout = 114, kReadStep = 115, kReadEventOn = 116, kReadEventOff = 117, kReadAddrConfig = 118;
+constexpr int kReadLayout = 114, kReadStep = 115, kReadEventOn = 116, kReadEventOff = 117,
+              kReadAddrConfig = 118;
 constexpr int kWriteLayout = 98, kWriteStep = 99, kWriteInitOrEventOn = 100, kWriteEventOff = 101,
               kWriteAddrConfig = 102;
 constexpr int kReadActiveConfig = 81, kReadFlashConfig = 113; // "Q", "q"
@@ -18,7 +19,8 @@ constexpr int kLivePwm = 38, kLivePwmSlow = 54, kLiveServo = 39, kLiveServoDynam
 Bytes ack(const Bytes& d) { return {d[0], d[1]}; }
 } // namespace
 
-SimModule::SimModule(int busAddress, std::optional<std::uint8_t> xaddress, std::array<std::uint8_t, 4> firmwareVersion)
+SimModule::SimModule(int busAddress, std::optional<std::uint8_t> xaddress,
+                     std::array<std::uint8_t, 4> firmwareVersion)
     : busAddress_(busAddress), hasXAddress_(xaddress.has_value())
 {
     memory_.firmwareVersion = firmwareVersion;
@@ -54,7 +56,9 @@ void SimModule::receiveByte(std::uint8_t b, Bytes& out)
         rx_ = (h & 16) ? Rx::XAddress : (remaining_ ? Rx::Data : Rx::Check);
         return;
     }
-    case Rx::XAddress: rx_ = remaining_ ? Rx::Data : Rx::Check; return;
+    case Rx::XAddress:
+        rx_ = remaining_ ? Rx::Data : Rx::Check;
+        return;
     case Rx::Data:
         if (--remaining_ == 0)
             rx_ = Rx::Check;
@@ -63,7 +67,8 @@ void SimModule::receiveByte(std::uint8_t b, Bytes& out)
         rx_ = Rx::Idle;
         frameComplete(out);
         return;
-    case Rx::Idle: return;
+    case Rx::Idle:
+        return;
     }
 }
 
@@ -124,8 +129,11 @@ std::optional<KestrelReply> SimModule::handle(const KestrelRequest& request)
         refusal = faults.refused.find({command, -1});
     if (refusal != faults.refused.end()) {
         switch (refusal->second) {
-        case Refusal::NoReply: return std::nullopt;
-        case Refusal::WrongEcho: (*data)[0] = static_cast<std::uint8_t>((command + 1) & 127); break;
+        case Refusal::NoReply:
+            return std::nullopt;
+        case Refusal::WrongEcho:
+            (*data)[0] = static_cast<std::uint8_t>((command + 1) & 127);
+            break;
         case Refusal::WrongLength:
             if (data->size() < 15)
                 data->push_back(0);
@@ -161,7 +169,8 @@ std::optional<Bytes> SimModule::execute(const Bytes& d)
     if (command == kWriteItem) {
         const Bytes payload(d.begin() + 2, d.end());
         if (d[1] == 0) {
-            if (!std::equal(payload.begin(), payload.end(), kEraseConfirmation.begin(), kEraseConfirmation.end()))
+            if (!std::equal(payload.begin(), payload.end(), kEraseConfirmation.begin(),
+                            kEraseConfirmation.end()))
                 return std::nullopt;
             memory_ = factory_;
             ++stats_.erases;
@@ -217,7 +226,8 @@ std::optional<Bytes> SimModule::execute(const Bytes& d)
         if (n != 2)
             return std::nullopt;
         Bytes tagged{static_cast<std::uint8_t>((pin.xdcc ? 8 : 0) + pin.dccCount),
-                     static_cast<std::uint8_t>(16 + pin.lynxCount), static_cast<std::uint8_t>(64 + pin.deviceOffset)};
+                     static_cast<std::uint8_t>(16 + pin.lynxCount),
+                     static_cast<std::uint8_t>(64 + pin.deviceOffset)};
         const int rotation = ((addressConfigRotation % 3) + 3) % 3;
         std::rotate(tagged.begin(), tagged.begin() + rotation, tagged.end());
         Bytes reply{d[0], d[1]};
@@ -288,7 +298,8 @@ std::optional<Bytes> SimModule::execute(const Bytes& d)
             return std::nullopt;
         (command == kSendActiveConfig ? pin.activeConfig : pin.flashConfig).assign(d.begin() + 2, d.end());
         return ack(d);
-    default: return std::nullopt;
+    default:
+        return std::nullopt;
     }
 }
 

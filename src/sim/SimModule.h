@@ -12,16 +12,16 @@ namespace kestrel::sim {
 
 // A request as the module sees it, whichever route brought it.
 struct KestrelRequest {
-    bool bidirectional = true;             // header bit 5: the sender waits for a reply
-    std::optional<std::uint8_t> xaddress;  // eXtended address byte, when the header had bit 4
-    Bytes data;                            // command, item or pin, parameters (7-bit values)
+    bool bidirectional = true;            // header bit 5: the sender waits for a reply
+    std::optional<std::uint8_t> xaddress; // eXtended address byte, when the header had bit 4
+    Bytes data;                           // command, item or pin, parameters (7-bit values)
 };
 
 // A reply before framing.
 struct KestrelReply {
-    int address = 0;                       // bus address the reply claims to come from
-    std::optional<std::uint8_t> xaddress;  // echoed when the request carried one
-    Bytes data;                            // echo of command and item or pin, then values
+    int address = 0;                      // bus address the reply claims to come from
+    std::optional<std::uint8_t> xaddress; // echoed when the request carried one
+    Bytes data;                           // echo of command and item or pin, then values
 };
 
 // How a refused command is (mis)answered, for the "Function not supported" paths.
@@ -33,10 +33,10 @@ enum class Refusal {
 
 // Misbehaviour on demand. Plain values: set them directly on SimModule::faults.
 struct ModuleFaults {
-    int dropReplies = 0;           // the next N replies are not sent (requests still carried out)
-    int corruptCopies = 0;         // the next N bus replies are preceded by a copy with a bad check byte
-    Bytes garbage;                 // bytes sent before every bus reply frame (bit 7 forced on)
-    std::optional<int> answerAs;   // replies claim to come from this bus address
+    int dropReplies = 0;         // the next N replies are not sent (requests still carried out)
+    int corruptCopies = 0;       // the next N bus replies are preceded by a copy with a bad check byte
+    Bytes garbage;               // bytes sent before every bus reply frame (bit 7 forced on)
+    std::optional<int> answerAs; // replies claim to come from this bus address
     // Refused commands, keyed by (command, item or pin); item -1 refuses the command for
     // every item. A refused request is still carried out; only its reply is altered.
     std::map<std::pair<int, int>, Refusal> refused;
@@ -46,9 +46,9 @@ struct ModuleFaults {
 
 // Counters of one module.
 struct ModuleStats {
-    long framesAccepted = 0;  // valid frames addressed to this module
-    long requests = 0;        // of those, frames with at least one data byte (not the empty frame)
-    long checksumErrors = 0;  // frames dropped for their check byte (any address)
+    long framesAccepted = 0; // valid frames addressed to this module
+    long requests = 0;       // of those, frames with at least one data byte (not the empty frame)
+    long checksumErrors = 0; // frames dropped for their check byte (any address)
     long repliesSent = 0;
     long repliesDropped = 0;
     long unknownRequests = 0; // accepted frames that the module does not answer as a command

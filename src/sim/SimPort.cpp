@@ -21,7 +21,8 @@ bool SimPort::open()
 bool SimPort::writeByte(std::uint8_t b)
 {
     if (!isOpen()) {
-        error_ = vanished_ ? "Port " + name_ + ": the simulated port has gone away" : "Port " + name_ + " is not open";
+        error_ = vanished_ ? "Port " + name_ + ": the simulated port has gone away"
+                           : "Port " + name_ + " is not open";
         return false;
     }
     written_.push_back(b);
@@ -29,15 +30,9 @@ bool SimPort::writeByte(std::uint8_t b)
     return true;
 }
 
-int SimPort::bytesWaiting()
-{
-    return isOpen() ? static_cast<int>(endpoint_.available()) : 0;
-}
+int SimPort::bytesWaiting() { return isOpen() ? static_cast<int>(endpoint_.available()) : 0; }
 
-int SimPort::readByte()
-{
-    return isOpen() ? endpoint_.read() : -1;
-}
+int SimPort::readByte() { return isOpen() ? endpoint_.read() : -1; }
 
 bool SimPort::waitForBytes(int timeoutMs)
 {

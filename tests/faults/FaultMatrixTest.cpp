@@ -64,7 +64,8 @@ const std::string kNoCorvidAnswer = "No answer from Corvid";
 // reply claimed under OtherAddress (it carries the request's toggle), and the Corvid
 // checksum message of the corrupted answer (it carries the request frame's toggle).
 const std::string kCorvidChecksum = "{checksum}";
-std::string otherAddress(int header) {
+std::string otherAddress(int header)
+{
     return "Invalid response received, \r\nReceived: Addr = {address} Header = " + std::to_string(header) +
            "\r\nExpected: Addr = 3 Header > 95 ";
 }
@@ -103,7 +104,8 @@ struct Case {
 
 // ---- model checks ----
 
-void checkDccSettings(FaultRig& rig, Model m) {
+void checkDccSettings(FaultRig& rig, Model m)
+{
     const GeneralSettings& g = rig.session.general;
     const GeneralSettings& src = rig.sourceGeneral;
     const GeneralSettings def;
@@ -123,7 +125,8 @@ void checkDccSettings(FaultRig& rig, Model m) {
 constexpr int kPin = 3;
 constexpr int kHitStep = 1 * 9 + 4;
 
-void checkPinRead(FaultRig& rig, Model m) {
+void checkPinRead(FaultRig& rig, Model m)
+{
     const Configuration def;
     const PinRecord& pin = rig.session.config.pin(kPin);
     const PinRecord& src = rig.source.pin(kPin);
@@ -145,7 +148,8 @@ void checkPinRead(FaultRig& rig, Model m) {
     EXPECT_EQ(rig.session.config.pin(kPin + 1), def.pin(kPin + 1));
 }
 
-void checkPinWrite(FaultRig& rig, Model m) {
+void checkPinWrite(FaultRig& rig, Model m)
+{
     const sim::PinMemory& pin = rig.module.memory().pins[kPin];
     const sim::PinMemory& factory = rig.module.factoryMemory().pins[kPin];
     sim::PinMemory seeded = rig.seeded.pins[kPin];
@@ -170,7 +174,8 @@ void checkPinWrite(FaultRig& rig, Model m) {
 }
 
 // Events: the request hit is Event-On of pin 5 (reads) or Event-Off of pin 7 (writes).
-void checkEventsRead(FaultRig& rig, Model m) {
+void checkEventsRead(FaultRig& rig, Model m)
+{
     const Configuration def;
     for (int p = 0; p < kPinCount; ++p) {
         const auto& e = rig.session.config.events(p);
@@ -182,7 +187,8 @@ void checkEventsRead(FaultRig& rig, Model m) {
     }
 }
 
-void checkEventsWrite(FaultRig& rig, Model m) {
+void checkEventsWrite(FaultRig& rig, Model m)
+{
     const int offWritten = m == Model::Whole ? kPinCount : m == Model::ThroughTarget ? 8 : 7;
     for (int p = 0; p < kPinCount; ++p) {
         const auto& pin = rig.module.memory().pins[p];
@@ -193,12 +199,14 @@ void checkEventsWrite(FaultRig& rig, Model m) {
     }
 }
 
-void checkEnableMapsRead(FaultRig& rig, Model m) {
+void checkEnableMapsRead(FaultRig& rig, Model m)
+{
     EXPECT_EQ(rig.session.general.CheckInitEE,
               m == Model::Whole ? rig.sourceGeneral.CheckInitEE : GeneralSettings{}.CheckInitEE);
 }
 
-void checkEnableMapsWrite(FaultRig& rig, Model m) {
+void checkEnableMapsWrite(FaultRig& rig, Model m)
+{
     const auto& want = m == Model::Whole ? rig.seeded : rig.module.factoryMemory();
     EXPECT_EQ(rig.module.memory().eventOnEnable, want.eventOnEnable);
     EXPECT_EQ(rig.module.memory().eventOffEnable, want.eventOffEnable);
@@ -206,7 +214,8 @@ void checkEnableMapsWrite(FaultRig& rig, Model m) {
 
 // Read All: the request hit is the layout read of pin 4, after every general setting and
 // pins 0 to 3.
-void checkReadAll(FaultRig& rig, Model m) {
+void checkReadAll(FaultRig& rig, Model m)
+{
     const Configuration def;
     const Session& s = rig.session;
     GeneralSettings general = rig.sourceGeneral;
@@ -223,7 +232,8 @@ void checkReadAll(FaultRig& rig, Model m) {
 
 // Write All: the request hit is Event-Off of pin 7; the enable maps and the serial
 // addressing come after it.
-void checkWriteAll(FaultRig& rig, Model m) {
+void checkWriteAll(FaultRig& rig, Model m)
+{
     sim::ModuleMemory want = rig.seeded;
     if (m != Model::Whole) {
         const sim::ModuleMemory& factory = rig.module.factoryMemory();
@@ -240,7 +250,8 @@ void checkWriteAll(FaultRig& rig, Model m) {
 }
 
 // Verify All only reads: the model stays as it was.
-void checkVerifyAll(FaultRig& rig, Model) {
+void checkVerifyAll(FaultRig& rig, Model)
+{
     EXPECT_EQ(rig.session.general, rig.sourceGeneral);
     for (int p = 0; p < kPinCount; ++p) {
         EXPECT_EQ(rig.session.config.pin(p), rig.source.pin(p)) << p;
@@ -250,7 +261,8 @@ void checkVerifyAll(FaultRig& rig, Model) {
 
 // ---- the families ----
 
-std::function<bool(FaultRig&)> job(bool (*procedure)(Session&)) {
+std::function<bool(FaultRig&)> job(bool (*procedure)(Session&))
+{
     return [procedure](FaultRig& r) { return procedure(r.session); };
 }
 
@@ -280,7 +292,8 @@ const std::vector<std::string> kVerifyNotSupported{
     "Read Event-On: Function not supported by Device", "Verification Stopped"};
 
 // Reads that end at a missing reply, with the header of the reply that OtherAddress sends.
-std::vector<Case> readCells(const Family& f, int replyHeader, std::vector<Cell> contentErrors) {
+std::vector<Case> readCells(const Family& f, int replyHeader, std::vector<Cell> contentErrors)
+{
     std::vector<Case> cases{
         {&f, {Fault::NoReply, false, {kNoResponse}, 1, Model::BeforeTarget}},
         {&f, {Fault::CorruptNoGoodCopy, false, {kNoResponse}, 1, Model::BeforeTarget}},
@@ -296,7 +309,8 @@ std::vector<Case> readCells(const Family& f, int replyHeader, std::vector<Cell> 
 }
 
 // Writes: only a lost port stops them; the acknowledgement's content is not looked at.
-std::vector<Case> writeCells(const Family& f) {
+std::vector<Case> writeCells(const Family& f)
+{
     return {
         {&f, {Fault::NoReply, true, {kNoResponse}, 1, Model::Whole}},
         {&f, {Fault::CorruptNoGoodCopy, true, {kNoResponse}, 1, Model::Whole}},
@@ -310,7 +324,8 @@ std::vector<Case> writeCells(const Family& f) {
     };
 }
 
-std::vector<Case> matrix() {
+std::vector<Case> matrix()
+{
     std::vector<Case> all;
     auto add = [&](std::vector<Case> cases) { all.insert(all.end(), cases.begin(), cases.end()); };
 
@@ -378,14 +393,16 @@ std::vector<Case> matrix() {
     return all;
 }
 
-std::string replaceAll(std::string text, const std::string& what, const std::string& with) {
+std::string replaceAll(std::string text, const std::string& what, const std::string& with)
+{
     for (auto at = text.find(what); at != std::string::npos; at = text.find(what, at + with.size()))
         text.replace(at, what.size(), with);
     return text;
 }
 
 // The message as the user must see it, for the request that the fault hit.
-std::string expectedMessage(const std::string& text, const FaultRig& rig) {
+std::string expectedMessage(const std::string& text, const FaultRig& rig)
+{
     if (text == kCorvidChecksum) {
         // The Corvid system answers the request frame with an empty frame of the same toggle:
         // header 40 (+ 64), and a check byte that makes the sum a multiple of 128, here
@@ -398,7 +415,8 @@ std::string expectedMessage(const std::string& text, const FaultRig& rig) {
     return replaceAll(text, "{address}", std::to_string(claimed));
 }
 
-std::vector<std::string> reportLines(const std::string& text) {
+std::vector<std::string> reportLines(const std::string& text)
+{
     std::vector<std::string> lines;
     std::size_t from = 0;
     for (auto at = text.find("\r\n"); at != std::string::npos; at = text.find("\r\n", from)) {
@@ -409,13 +427,12 @@ std::vector<std::string> reportLines(const std::string& text) {
 }
 
 // For failure output.
-void PrintTo(const Case& c, std::ostream* os) {
-    *os << c.family->name << " / " << faultName(c.cell.fault);
-}
+void PrintTo(const Case& c, std::ostream* os) { *os << c.family->name << " / " << faultName(c.cell.fault); }
 
 class FaultMatrix : public ::testing::TestWithParam<Case> {};
 
-TEST_P(FaultMatrix, EndsAsItShould) {
+TEST_P(FaultMatrix, EndsAsItShould)
+{
     const Family& family = *GetParam().family;
     const Cell& cell = GetParam().cell;
     FaultRig rig(family.tunnel);
@@ -469,7 +486,8 @@ TEST_P(FaultMatrix, EndsAsItShould) {
         checkReadAll(rig, Model::Whole);
 }
 
-std::string caseName(const ::testing::TestParamInfo<Case>& info) {
+std::string caseName(const ::testing::TestParamInfo<Case>& info)
+{
     return info.param.family->name + "_" + faultName(info.param.cell.fault);
 }
 

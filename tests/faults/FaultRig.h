@@ -32,7 +32,8 @@ struct FaultRig {
     int configurationShown = 0; // calls of onConfigurationChanged
 
     // Seeds the module, then switches to the tunnel when asked. Check `ready` after.
-    explicit FaultRig(bool tunnel) {
+    explicit FaultRig(bool tunnel)
+    {
         wire.port = &port;
         port.setWaitHook([this](int ms) { clock.advance(ms / 1000.0); });
         session.onConfigurationChanged = [this] { ++configurationShown; };
@@ -58,7 +59,8 @@ struct FaultRig {
     bool ready = false;
 
     // The program as just started: nothing read yet.
-    void forgetModel() {
+    void forgetModel()
+    {
         session.config = Configuration{};
         session.general = GeneralSettings{};
     }

@@ -31,7 +31,8 @@ enum class Fault {
     PortGoneWriting,   // the port disappears while the request is being written
 };
 
-inline const char* faultName(Fault f) {
+inline const char* faultName(Fault f)
+{
     static const char* const names[] = {
         "None",        "NoReply",      "CorruptNoGoodCopy", "CorruptThenGood", "Garbage",        "WrongEcho",
         "WrongLength", "OtherAddress", "CorvidSilent",      "PortGoneWaiting", "PortGoneWriting"};
@@ -44,12 +45,15 @@ constexpr int kOtherAddress = 5;
 class FaultWire : public sim::SimEndpoint {
 public:
     FaultWire(sim::SimBus& bus, sim::SimCorvid& corvid, sim::SimModule& module)
-        : bus(bus), corvid(corvid), module(module) {}
+        : bus(bus), corvid(corvid), module(module)
+    {
+    }
 
     bool tunnel = false;          // bytes go to the Corvid system instead of the bus
     sim::SimPort* port = nullptr; // the port that vanishes under the PortGone faults
 
-    void arm(Fault f, std::vector<int> requestPrefix, int occurrence = 1) {
+    void arm(Fault f, std::vector<int> requestPrefix, int occurrence = 1)
+    {
         fault = f;
         prefix = std::move(requestPrefix);
         wanted = occurrence;
@@ -62,7 +66,8 @@ public:
     int hitFirst = -1; // first byte of that request frame (direct: address byte with toggle;
                        // tunnel: the Corvid header)
 
-    void write(std::uint8_t b) override {
+    void write(std::uint8_t b) override
+    {
         const bool ends = parse(b);
         const std::size_t before = out.size();
         if (tunnel)
@@ -74,7 +79,8 @@ public:
             frameHit(before);
     }
     std::size_t available() const override { return out.size(); }
-    int read() override {
+    int read() override
+    {
         if (out.empty())
             return -1;
         const int b = out.front();
@@ -85,7 +91,8 @@ public:
 
 private:
     // Follows the client's frames; true when b ends one (its check byte).
-    bool parse(std::uint8_t b) {
+    bool parse(std::uint8_t b)
+    {
         if (b < 128) {
             first = b;
             data.clear();
@@ -123,7 +130,8 @@ private:
 
     // The module's request inside the frame so far (the tunnel wraps it as 0, T, inner
     // header, [eXtended address], request).
-    std::vector<int> request() const {
+    std::vector<int> request() const
+    {
         if (!tunnel)
             return data;
         if (data.size() < 3 || data[0] != 0)
@@ -134,7 +142,8 @@ private:
         return std::vector<int>(data.begin() + static_cast<std::ptrdiff_t>(from), data.end());
     }
 
-    void matchRequest() {
+    void matchRequest()
+    {
         if (fault == Fault::None || hits > 0 || prefix.empty())
             return;
         const auto r = request();
@@ -185,7 +194,8 @@ private:
     }
 
     // The request that the fault hit is complete and whatever it caused has been sent.
-    void frameHit(std::size_t before) {
+    void frameHit(std::size_t before)
+    {
         hitInThisFrame = false;
         if (fault == Fault::CorruptNoGoodCopy && !tunnel && out.size() > before)
             out.back() ^= 1; // the check byte keeps bit 7, the sum no longer fits
@@ -198,7 +208,8 @@ private:
         fault = Fault::None;
     }
 
-    void drain() {
+    void drain()
+    {
         sim::SimEndpoint& inner = tunnel ? static_cast<sim::SimEndpoint&>(corvid) : bus;
         while (inner.available())
             out.push_back(static_cast<std::uint8_t>(inner.read()));

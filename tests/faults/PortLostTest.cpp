@@ -16,13 +16,15 @@ namespace {
 
 const std::string kPortLost = "Communications port lost: sim (Port sim: the simulated port has gone away)";
 
-void bringBack(FaultRig& rig) {
+void bringBack(FaultRig& rig)
+{
     rig.port.setVanished(false);
     ASSERT_TRUE(rig.session.linkControl.ComboPort_Click("sim"));
     rig.dialogs.clear();
 }
 
-TEST(PortLost, DuringATimeOutIsTheOnlyMessage) {
+TEST(PortLost, DuringATimeOutIsTheOnlyMessage)
+{
     FaultRig rig(false);
     ASSERT_TRUE(rig.ready);
     rig.forgetModel();
@@ -46,7 +48,8 @@ TEST(PortLost, DuringATimeOutIsTheOnlyMessage) {
     EXPECT_EQ(rig.session.general, rig.sourceGeneral);
 }
 
-TEST(PortLost, OneWayWriteAllStopsAtTheFirstFailedWrite) {
+TEST(PortLost, OneWayWriteAllStopsAtTheFirstFailedWrite)
+{
     FaultRig rig(false);
     ASSERT_TRUE(rig.ready);
     rig.eraseModule();
@@ -74,7 +77,8 @@ TEST(PortLost, OneWayWriteAllStopsAtTheFirstFailedWrite) {
     EXPECT_TRUE(rig.module.memory() == rig.seeded);
 }
 
-TEST(PortLost, AJobStartedWhileItIsStillGoneSaysSoOnce) {
+TEST(PortLost, AJobStartedWhileItIsStillGoneSaysSoOnce)
+{
     FaultRig rig(false);
     ASSERT_TRUE(rig.ready);
     rig.wire.arm(Fault::PortGoneWaiting, {112, 0});
@@ -103,7 +107,8 @@ TEST(PortLost, AJobStartedWhileItIsStillGoneSaysSoOnce) {
     EXPECT_EQ(rig.dialogs.texts(), std::vector<std::string>{});
 }
 
-TEST(PortLost, TunnelledReadAllAndTheNextJob) {
+TEST(PortLost, TunnelledReadAllAndTheNextJob)
+{
     FaultRig rig(true);
     ASSERT_TRUE(rig.ready);
     rig.forgetModel();
@@ -129,7 +134,8 @@ TEST(PortLost, TunnelledReadAllAndTheNextJob) {
     }
 }
 
-TEST(TunnelResync, AFailedCorvidFrameLeavesNoStaleReplyForTheNextRequest) {
+TEST(TunnelResync, AFailedCorvidFrameLeavesNoStaleReplyForTheNextRequest)
+{
     FaultRig rig(true);
     ASSERT_TRUE(rig.ready);
     rig.forgetModel();

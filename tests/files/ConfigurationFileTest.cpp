@@ -1,7 +1,7 @@
 #include "files/ConfigurationFile.h"
-#include "forms/MainWindowForm.h"
 #include "files/FilesTestSupport.h"
 #include "files/TextFile.h"
+#include "forms/MainWindowForm.h"
 #include "ops/Bulk.h"
 #include "ops/SendCheck.h"
 #include "session/Session.h"
@@ -19,7 +19,8 @@ using namespace kestrel::test;
 namespace {
 
 // General settings that touch every bit of the six general records.
-GeneralSettings sampleGeneral() {
+GeneralSettings sampleGeneral()
+{
     GeneralSettings g;
     g.TextGenIDString = "Yard 3";
     g.TextGenDCCAddress = "202";
@@ -44,7 +45,8 @@ GeneralSettings sampleGeneral() {
 
 // Pin 5 heads a servo "Home signal" with layout 3, pin 6 is its PWM member, pin 7 an
 // input, pin 9 an unknown mode without description.
-Configuration sampleConfig() {
+Configuration sampleConfig()
+{
     Configuration c;
     c.EventMap[0].OnEvent = {-1, 0, 11, 3, 0};
     for (int p = 1; p < kPinCount; ++p)
@@ -82,7 +84,8 @@ Configuration sampleConfig() {
     return c;
 }
 
-std::string generalAndEventLines() {
+std::string generalAndEventLines()
+{
     std::string out =
         crlf({"\"KestrelConfiguration 3100\"", "\"ID$\",\"Yard 3\"", "\"DCC\",202,12.5,6",
               "\"XAD\",5,1,17,1,2,0,8", "\"HWC\",1,2,0,3", "\"LED\",9,0", "\"SPC\",1,\"38400\",8,2,2"});
@@ -99,12 +102,14 @@ const std::string kPin6And7 =
     crlf({"\"Pin\",6,0,0,\"Signal lamp\"", "  \"Dev\",-1,\"\"", "  \"Cfg\",2,0,3,8,0,31", "  \"PAM\",0,0,0",
           "\"Pin\",7,0,0,\"Button\"", "  \"Dev\",0,\"\"", "  \"Cfg\",4,1,2,3,4", "  \"PAM\",0,0,0"});
 
-std::string emptyPin(int p, const std::string& mode = "0") {
+std::string emptyPin(int p, const std::string& mode = "0")
+{
     return crlf({"\"Pin\"," + std::to_string(p) + ",0,0,\"\"", "  \"Dev\",0,\"\"", "  \"Cfg\"," + mode,
                  "  \"PAM\",0,0,0"});
 }
 
-std::string emptySteps(int from, int to) {
+std::string emptySteps(int from, int to)
+{
     std::string out;
     for (int s = from; s <= to; ++s)
         out += "    \"Ins\"," + std::to_string(s) + ",0,0,0,0,0\r\n";
@@ -120,7 +125,8 @@ struct Loader {
 
 } // namespace
 
-TEST(DataFileWriting, CompactHoldsOnlyDescribedPinsAspectsAndSteps) {
+TEST(DataFileWriting, CompactHoldsOnlyDescribedPinsAspectsAndSteps)
+{
     Configuration c = sampleConfig();
     const std::string expected =
         generalAndEventLines() +
@@ -134,7 +140,8 @@ TEST(DataFileWriting, CompactHoldsOnlyDescribedPinsAspectsAndSteps) {
     EXPECT_EQ(c.Pins[5].P(2), 8);
 }
 
-TEST(DataFileWriting, FullHoldsEveryPinEveryAspectOfTheLayoutAndEveryStep) {
+TEST(DataFileWriting, FullHoldsEveryPinEveryAspectOfTheLayoutAndEveryStep)
+{
     Configuration c = sampleConfig();
     std::string expected = generalAndEventLines();
     for (int p = 0; p < 5; ++p)
@@ -153,7 +160,8 @@ TEST(DataFileWriting, FullHoldsEveryPinEveryAspectOfTheLayoutAndEveryStep) {
     EXPECT_EQ(writeConfigurationText(c, sampleGeneral(), SaveForm::Full), expected);
 }
 
-TEST(DataFileWriting, CompactWithoutDescriptionsIsHeaderGeneralEventsAndEnd) {
+TEST(DataFileWriting, CompactWithoutDescriptionsIsHeaderGeneralEventsAndEnd)
+{
     Configuration c;
     const std::string text = writeConfigurationText(c, GeneralSettings{}, SaveForm::Compact);
     int lines = 0;
@@ -178,7 +186,8 @@ TEST(DataFileWriting, CompactWithoutDescriptionsIsHeaderGeneralEventsAndEnd) {
     EXPECT_NE(writeConfigurationText(c, g, SaveForm::Compact).find("\"XAD\",64,0,0,"), std::string::npos);
 }
 
-TEST(DataFileReading, FullFileReadsBackToTheSameText) {
+TEST(DataFileReading, FullFileReadsBackToTheSameText)
+{
     Configuration c = sampleConfig();
     c.Pins[9].ConfigMode = 0; // an unknown mode reads back as 0 (see CfgRules...)
     const std::string first = writeConfigurationText(c, sampleGeneral(), SaveForm::Full);
@@ -195,7 +204,8 @@ TEST(DataFileReading, FullFileReadsBackToTheSameText) {
               std::tuple("12.5", "17", 64, 0, 0, -1, 2));
 }
 
-TEST(DataFileReading, CompactFileLeavesWhatItDoesNotNameEmpty) {
+TEST(DataFileReading, CompactFileLeavesWhatItDoesNotNameEmpty)
+{
     Configuration c = sampleConfig();
     const std::string compact = writeConfigurationText(c, sampleGeneral(), SaveForm::Compact);
     Loader l;
@@ -212,7 +222,8 @@ TEST(DataFileReading, CompactFileLeavesWhatItDoesNotNameEmpty) {
               std::tuple("", StepRecord{}, StepRecord{}, 7, StepRecord{39, 1, 0, 24, 0, 0}, 0, 0));
 }
 
-TEST(DataFileReading, InsOpSplitsOnlyFrom19To63) {
+TEST(DataFileReading, InsOpSplitsOnlyFrom19To63)
+{
     // op = 16 x Fade + Instruction; only 19..63 are split, by bit 4.
     Loader l;
     ASSERT_EQ(l.load(crlf({"\"KestrelConfiguration 3100\"", "\"Pin\",2,3,0,\"x\"", "\"Asp\",0,\"a\"",
@@ -231,7 +242,8 @@ TEST(DataFileReading, InsOpSplitsOnlyFrom19To63) {
     }
 }
 
-TEST(DataFileReading, FadeOutside19To63StaysAsItWas) {
+TEST(DataFileReading, FadeOutside19To63StaysAsItWas)
+{
     Loader l;
     // No "Pin" record: the step is not cleared first, and op 17 leaves its fade.
     l.config.Pins[0].Aspects[0].Steps[0].Fade = 1;
@@ -240,7 +252,8 @@ TEST(DataFileReading, FadeOutside19To63StaysAsItWas) {
     EXPECT_EQ((StepRecord{17, 1, 0, 1, 0, 0}), l.config.Pins[0].Aspects[0].Steps[0]);
 }
 
-TEST(DataFileReading, CfgRulesOutputValueAndServoConversion) {
+TEST(DataFileReading, CfgRulesOutputValueAndServoConversion)
+{
     Loader l;
     l.config.Pins[4].ConfigParams = {9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9};
     ASSERT_EQ(l.load(crlf({"\"KestrelConfiguration 3100\"", "\"Pin\",1,0,0,\"a\"",
@@ -256,7 +269,8 @@ TEST(DataFileReading, CfgRulesOutputValueAndServoConversion) {
               std::tuple(43, 56, 70, 0, 5, 13, 9, 10));
 }
 
-TEST(DataFileReading, GeneralRecordsSetTheControls) {
+TEST(DataFileReading, GeneralRecordsSetTheControls)
+{
     Loader l;
     l.config.NumberingBase = 1;
     l.general.ComboGenBaud = 3;
@@ -276,7 +290,8 @@ TEST(DataFileReading, GeneralRecordsSetTheControls) {
     EXPECT_EQ(l.dialogs.texts(), std::vector<std::string>{"ID string cut to 12 characters: Fifteen char"});
 }
 
-TEST(DataFileReading, OlderVersionsReadWhatTheyHeld) {
+TEST(DataFileReading, OlderVersionsReadWhatTheyHeld)
+{
     { // Version 31: DCC without the eXtended address, PAM without the eXtended count.
         Loader l;
         ASSERT_EQ(l.load(crlf({"\"KestrelConfiguration 0031\"", "\"DCC\",202,6", "\"Pin\",1,0,0,\"a\"",
@@ -310,7 +325,8 @@ TEST(DataFileReading, OlderVersionsReadWhatTheyHeld) {
     }
 }
 
-TEST(DataFileReading, UnknownKeywordsAndEvtArePassedOverOrAccepted) {
+TEST(DataFileReading, UnknownKeywordsAndEvtArePassedOverOrAccepted)
+{
     Loader l;
     ASSERT_EQ(
         l.load(crlf({"\"KestrelConfiguration 3100\"", "\"Note\",\"made by hand\",1,2,3", "\"Evt\",4,0,1,2,3",
@@ -322,7 +338,8 @@ TEST(DataFileReading, UnknownKeywordsAndEvtArePassedOverOrAccepted) {
               std::tuple(-1, 2, 12, ""));
 }
 
-TEST(DataFileReading, BadHeaderChangesNothing) {
+TEST(DataFileReading, BadHeaderChangesNothing)
+{
     for (const std::string text : {"\"KestrelConfiguration 310\"\r\n\"ID$\",\"x\"\r\n\"End\"\r\n",
                                    "\"KestrelDeviceDefinitions 3100\"\r\n\"End\"\r\n", "", "\r\n"}) {
         Loader l;
@@ -334,7 +351,8 @@ TEST(DataFileReading, BadHeaderChangesNothing) {
     }
 }
 
-TEST(DataFileReading, FormatErrorsStopTheLoadAndKeepWhatWasRead) {
+TEST(DataFileReading, FormatErrorsStopTheLoadAndKeepWhatWasRead)
+{
     struct Case {
         std::string text;
         std::string message;
@@ -391,7 +409,8 @@ TEST(DataFileReading, FormatErrorsStopTheLoadAndKeepWhatWasRead) {
 
 // Whatever a file holds, what it lets into the model can be written whole (or a fault
 // stopped the load): no program fault, and a file that loads sends every byte.
-TEST(DataFileReading, TheFuzzCorpusLoadsThenWritesWithoutAProgramFault) {
+TEST(DataFileReading, TheFuzzCorpusLoadsThenWritesWithoutAProgramFault)
+{
     const auto corpus =
         std::filesystem::path(__FILE__).parent_path() / ".." / ".." / "fuzz" / "corpus" / "fuzz_data_file";
     int files = 0;
@@ -410,7 +429,8 @@ TEST(DataFileReading, TheFuzzCorpusLoadsThenWritesWithoutAProgramFault) {
     EXPECT_GE(files, 10);
 }
 
-TEST(DataFileSaving, WritesBesideAndReplacesOnlyWhenComplete) {
+TEST(DataFileSaving, WritesBesideAndReplacesOnlyWhenComplete)
+{
     ScratchDir dir("save");
     const std::string target = dir.file("layout.dat");
     spit(target, "old content");
@@ -462,7 +482,8 @@ TEST(DataFileSaving, WritesBesideAndReplacesOnlyWhenComplete) {
     EXPECT_FALSE(std::filesystem::exists(temporaryPathFor(target)));
 }
 
-TEST(DataFileSaving, DccNumbersKeepTheirPointUnderACommaDecimalLocale) {
+TEST(DataFileSaving, DccNumbersKeepTheirPointUnderACommaDecimalLocale)
+{
     struct CommaDecimal : std::numpunct<char> {
         char do_decimal_point() const override { return ','; }
     };
@@ -481,7 +502,8 @@ TEST(DataFileSaving, DccNumbersKeepTheirPointUnderACommaDecimalLocale) {
     std::locale::global(old);
 }
 
-TEST(DataFileCommands, SaveAndLoadThroughTheFileDialog) {
+TEST(DataFileCommands, SaveAndLoadThroughTheFileDialog)
+{
     ScratchDir dir("commands");
     ScriptedModule rig;
     rig.session.config = sampleConfig();

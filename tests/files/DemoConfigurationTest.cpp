@@ -5,7 +5,8 @@
 
 using namespace kestrel;
 
-TEST(DemoConfiguration, HoldsSignalsATurnoutAndEvents) {
+TEST(DemoConfiguration, HoldsSignalsATurnoutAndEvents)
+{
     Configuration c;
     GeneralSettings g;
     fillDemoConfiguration(c, g);

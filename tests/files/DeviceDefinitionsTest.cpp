@@ -1,7 +1,7 @@
 #include "files/DeviceDefinitions.h"
-#include "forms/DevicesForm.h"
 #include "files/FilesTestSupport.h"
 #include "files/TextFile.h"
+#include "forms/DevicesForm.h"
 #include "model/AddressIndex.h"
 #include "model/InstructionSet.h"
 #include "support/RecordingDialogs.h"
@@ -39,7 +39,8 @@ const std::string kTwoDevices = crlf({
     "\"End\"",
 });
 
-std::string standardFile() {
+std::string standardFile()
+{
     return (std::filesystem::path(__FILE__).parent_path() / ".." / ".." / "resources" / kStandardDeviceFile)
         .string();
 }
@@ -47,7 +48,8 @@ std::string standardFile() {
 struct Rig {
     RecordingDialogs dialogs;
     Configuration config;
-    bool load(const std::string& text, const std::string& name, int head) {
+    bool load(const std::string& text, const std::string& name, int head)
+    {
         config.CurrentPin = head;
         return loadDeviceFromText(text, name, config, dialogs);
     }
@@ -55,7 +57,8 @@ struct Rig {
 
 } // namespace
 
-TEST(DeviceLoading, ThreePinDeviceOnPin31WrapsToPins0And1) {
+TEST(DeviceLoading, ThreePinDeviceOnPin31WrapsToPins0And1)
+{
     Rig r;
     ASSERT_TRUE(r.load(kTwoDevices, "Signal", 31));
     EXPECT_TRUE(r.dialogs.messages.empty());
@@ -71,7 +74,8 @@ TEST(DeviceLoading, ThreePinDeviceOnPin31WrapsToPins0And1) {
     EXPECT_EQ(r.config.DccTotal, 2); // address index rebuilt
 }
 
-TEST(DeviceLoading, PinsGetClearedAspectsAndAWarningWhenAlreadyUsed) {
+TEST(DeviceLoading, PinsGetClearedAspectsAndAWarningWhenAlreadyUsed)
+{
     Rig r;
     r.config.NumberingBase = 1;
     r.config.Pins[5].Description = "old head";
@@ -87,7 +91,8 @@ TEST(DeviceLoading, PinsGetClearedAspectsAndAWarningWhenAlreadyUsed) {
     EXPECT_EQ(r.config.Pins[7].Aspects[4].Steps[2].Instruction, 0);
 }
 
-TEST(DeviceLoading, DissolvesTheOldDeviceAtTheHeadAndAtEachTarget) {
+TEST(DeviceLoading, DissolvesTheOldDeviceAtTheHeadAndAtEachTarget)
+{
     Rig r;
     // "Old" at pin 4 with members 5, 6 and 7; "Other" at pin 10 with member 11.
     r.config.Pins[4].DeviceDescription = "Old";
@@ -113,7 +118,8 @@ TEST(DeviceLoading, DissolvesTheOldDeviceAtTheHeadAndAtEachTarget) {
     EXPECT_EQ(r.config.Pins[10].DeviceOffset, -6);
 }
 
-TEST(DeviceLoading, OnlyServoAndPwmReadParameters) {
+TEST(DeviceLoading, OnlyServoAndPwmReadParameters)
+{
     Rig r;
     r.config.Pins[3].ConfigParams = {9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9};
     r.config.Pins[4].ConfigParams = {9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9};
@@ -134,7 +140,8 @@ TEST(DeviceLoading, OnlyServoAndPwmReadParameters) {
     EXPECT_EQ(r.config.Pins[5].P(11), 0);
 }
 
-TEST(DeviceLoading, MissingDeviceNoSelectionAndBrokenBlocks) {
+TEST(DeviceLoading, MissingDeviceNoSelectionAndBrokenBlocks)
+{
     Rig r;
     EXPECT_FALSE(r.load(kTwoDevices, "Turntable", 0));
     EXPECT_EQ(r.dialogs.texts(), std::vector<std::string>{"No match found"});
@@ -156,7 +163,8 @@ TEST(DeviceLoading, MissingDeviceNoSelectionAndBrokenBlocks) {
     EXPECT_EQ(r.config.Pins[2].Description, "kept");
 }
 
-TEST(DeviceList, ReplaceAppendAndLoadingFromEachEntrysOwnFile) {
+TEST(DeviceList, ReplaceAppendAndLoadingFromEachEntrysOwnFile)
+{
     ScratchDir dir("list");
     const std::string first = dir.file("first.def");
     const std::string second = dir.file("second.def");
@@ -194,7 +202,8 @@ TEST(DeviceList, ReplaceAppendAndLoadingFromEachEntrysOwnFile) {
     EXPECT_EQ(list.selected, 0);
 }
 
-TEST(DeviceList, LongCaptionsAndFilesThatCannotBeUsed) {
+TEST(DeviceList, LongCaptionsAndFilesThatCannotBeUsed)
+{
     RecordingDialogs dialogs;
     DeviceList list;
     const std::string v1 = "Standard devices of the layout club";
@@ -224,7 +233,8 @@ TEST(DeviceList, LongCaptionsAndFilesThatCannotBeUsed) {
     EXPECT_EQ(list.cboDevice, std::vector<std::string>{"A"});
 }
 
-TEST(DeviceList, StartUpFallsBackToTheDialog) {
+TEST(DeviceList, StartUpFallsBackToTheDialog)
+{
     ScratchDir dir("startup");
     RecordingDialogs dialogs;
     DeviceList list;
@@ -250,7 +260,8 @@ TEST(DeviceList, StartUpFallsBackToTheDialog) {
     EXPECT_EQ(fromFolder.lblDDVersion, "Kestrel standard devices 2026-11-21");
 }
 
-TEST(DeviceSaving, SavingFromAMemberWritesTheWholeDeviceFromItsHead) {
+TEST(DeviceSaving, SavingFromAMemberWritesTheWholeDeviceFromItsHead)
+{
     ScratchDir dir("save");
     Rig r;
     ASSERT_TRUE(r.load(kTwoDevices, "Signal", 31));
@@ -290,7 +301,8 @@ TEST(DeviceSaving, SavingFromAMemberWritesTheWholeDeviceFromItsHead) {
     }
 }
 
-TEST(DeviceSaving, AReferralToAMemberIsNoDevice) {
+TEST(DeviceSaving, AReferralToAMemberIsNoDevice)
+{
     Rig r;
     r.config.Pins[3].DeviceOffset = -1; // pin 3 points at 2
     r.config.Pins[2].DeviceOffset = -2; // and 2 itself at 0
@@ -301,7 +313,8 @@ TEST(DeviceSaving, AReferralToAMemberIsNoDevice) {
     EXPECT_EQ(r.dialogs.fileNames.size(), 1u);
 }
 
-TEST(StandardDevices, EveryDeviceLoadsIntoSensibleSteps) {
+TEST(StandardDevices, EveryDeviceLoadsIntoSensibleSteps)
+{
     std::string text, error;
     ASSERT_TRUE(readTextFile(standardFile(), text, error));
     RecordingDialogs dialogs;

@@ -13,7 +13,8 @@ struct ScratchDir {
     explicit ScratchDir(const std::string& name)
         // One per process: ctest runs tests of this executable side by side.
         : path(std::filesystem::temp_directory_path() /
-               ("kestrel-files-" + name + "-" + std::to_string(::getpid()))) {
+               ("kestrel-files-" + name + "-" + std::to_string(::getpid())))
+    {
         std::filesystem::remove_all(path);
         std::filesystem::create_directories(path);
     }
@@ -21,17 +22,20 @@ struct ScratchDir {
     std::string file(const std::string& name) const { return (path / name).string(); }
 };
 
-inline std::string slurp(const std::string& path) {
+inline std::string slurp(const std::string& path)
+{
     std::ifstream in(path, std::ios::binary);
     return std::string((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
 }
 
-inline void spit(const std::string& path, const std::string& text) {
+inline void spit(const std::string& path, const std::string& text)
+{
     std::ofstream(path, std::ios::binary) << text;
 }
 
 // Lines joined with CR LF, each line ended by one.
-inline std::string crlf(std::initializer_list<std::string> lines) {
+inline std::string crlf(std::initializer_list<std::string> lines)
+{
     std::string out;
     for (const auto& l : lines)
         out += l + "\r\n";

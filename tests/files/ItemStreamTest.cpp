@@ -10,7 +10,8 @@ using namespace kestrel;
 
 namespace {
 
-std::vector<std::string> allItems(const std::string& text) {
+std::vector<std::string> allItems(const std::string& text)
+{
     ItemReader in(text);
     std::vector<std::string> out;
     while (!in.atEnd())
@@ -20,7 +21,8 @@ std::vector<std::string> allItems(const std::string& text) {
 
 } // namespace
 
-TEST(ItemReader, CommasAndLineEndsEndItemsBlanksAndQuotesGo) {
+TEST(ItemReader, CommasAndLineEndsEndItemsBlanksAndQuotesGo)
+{
     using V = std::vector<std::string>;
     EXPECT_EQ(allItems("\"Pin\",3,2,1,\"Lamp\"\r\n  \"Dev\",0,\"\"\r\n"),
               (V{"Pin", "3", "2", "1", "Lamp", "Dev", "0", ""}));
@@ -34,7 +36,8 @@ TEST(ItemReader, CommasAndLineEndsEndItemsBlanksAndQuotesGo) {
               (V{"Gr\xFCn"}));
 }
 
-TEST(ItemReader, TellsLineAndItemAndWhereTheTextEnded) {
+TEST(ItemReader, TellsLineAndItemAndWhereTheTextEnded)
+{
     ItemReader in("\"A\",1\r\n  \"B\",2,3\r\n");
     in.next();
     in.next();
@@ -53,7 +56,8 @@ TEST(ItemReader, TellsLineAndItemAndWhereTheTextEnded) {
     }
 }
 
-TEST(ItemReader, NumbersAreCheckedForFormAndRange) {
+TEST(ItemReader, NumbersAreCheckedForFormAndRange)
+{
     auto message = [](const std::string& text, auto read) {
         ItemReader in(text);
         try {
@@ -88,7 +92,8 @@ TEST(ItemReader, NumbersAreCheckedForFormAndRange) {
     EXPECT_FALSE(isNumberItem("-"));
 }
 
-TEST(ItemWriter, WritesQuotedTextNumbersIndentationAndCrLf) {
+TEST(ItemWriter, WritesQuotedTextNumbersIndentationAndCrLf)
+{
     ItemWriter w;
     w.line().text("Pin").number(5).number(-1).text("a, b").end();
     w.line(4).text("Ins").real(12.5).real(202).real(-0.0).end();
@@ -106,7 +111,8 @@ struct CommaDecimal : std::numpunct<char> {
 
 } // namespace
 
-TEST(ItemWriter, NumbersKeepThePointUnderACommaDecimalLocale) {
+TEST(ItemWriter, NumbersKeepThePointUnderACommaDecimalLocale)
+{
     // No comma-decimal locale is installed on every machine; a numpunct facet made
     // global has the same effect on every stream made afterwards.
     const std::locale old = std::locale::global(std::locale(std::locale::classic(), new CommaDecimal));

@@ -1,10 +1,10 @@
 // The Event Control page bound to a session on the built-in simulated module.
+#include "shell/EventPage.h"
 #include "forms/EventControlForm.h"
+#include "gui/GuiRig.h"
 #include "link/Clock.h"
 #include "session/Session.h"
 #include "shell/BuiltInSim.h"
-#include "shell/EventPage.h"
-#include "gui/GuiRig.h"
 
 #include <QCheckBox>
 #include <QSpinBox>
@@ -23,7 +23,8 @@ struct EventPageRig : PageRig<EventPage> {
 };
 } // namespace
 
-TEST(EventPage, ReadOfOnePinShowsTheModulesEntries) {
+TEST(EventPage, ReadOfOnePinShowsTheModulesEntries)
+{
     EventPageRig rig;
     rig.showPin("8");
     // Nothing read yet: the program's own table is all zeros.
@@ -58,7 +59,8 @@ TEST(EventPage, ReadOfOnePinShowsTheModulesEntries) {
     EXPECT_EQ(rig.jobs, (std::vector<std::string>{"ECReadAll", "ECWriteAll", "ECVerify"}));
 }
 
-TEST(EventPage, PinBoxAndEntriesAreClampedStoredAndCopiedToAll) {
+TEST(EventPage, PinBoxAndEntriesAreClampedStoredAndCopiedToAll)
+{
     EventPageRig rig;
     rig.session->config.NumberingBase = 1;
     rig.page->refresh();
@@ -100,7 +102,8 @@ TEST(EventPage, PinBoxAndEntriesAreClampedStoredAndCopiedToAll) {
             << p;
 }
 
-TEST(EventPage, EnableMapReadShowsTheBoxesAndWriteSendsThem) {
+TEST(EventPage, EnableMapReadShowsTheBoxesAndWriteSendsThem)
+{
     EventPageRig rig;
     // Every box starts checked; uncheck two and write the maps.
     for (int i = 0; i < 8; ++i)

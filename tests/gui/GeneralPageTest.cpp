@@ -13,17 +13,20 @@ using namespace kestrel::test;
 
 namespace {
 
-void click(QWidget& page, const char* button) {
+void click(QWidget& page, const char* button)
+{
     QTest::mouseClick(child<QPushButton>(page, button), Qt::LeftButton);
 }
 
-bool checked(QWidget& page, const char* name, int index) {
+bool checked(QWidget& page, const char* name, int index)
+{
     return child<QAbstractButton>(page, QString("%1_%2").arg(name).arg(index))->isChecked();
 }
 
 } // namespace
 
-TEST(GeneralPage, ReadsEveryFamilyOfTheDemonstrationModule) {
+TEST(GeneralPage, ReadsEveryFamilyOfTheDemonstrationModule)
+{
     PageRig<GeneralPage> m;
     GeneralPage& page = *m.page;
     Configuration demoConfig;
@@ -73,7 +76,8 @@ TEST(GeneralPage, ReadsEveryFamilyOfTheDemonstrationModule) {
     EXPECT_EQ(m.session->general.CheckGenSerialEnable, demo.CheckGenSerialEnable);
 }
 
-TEST(GeneralPage, FlexAddressingAsksFirstAndSwapsTheModeControls) {
+TEST(GeneralPage, FlexAddressingAsksFirstAndSwapsTheModeControls)
+{
     PageRig<GeneralPage> m;
     m.dialogs.answers = {Answer::Cancel, Answer::Ok};
     GeneralPage& page = *m.page;

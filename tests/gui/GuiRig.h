@@ -28,7 +28,8 @@ template <typename PageType> struct PageRig {
     std::unique_ptr<Session> session;
     std::unique_ptr<PageType> page;
 
-    template <typename... Extra> explicit PageRig(Extra&&... extra) {
+    template <typename... Extra> explicit PageRig(Extra&&... extra)
+    {
         port->select("sim");
         port->open();
         session = std::make_unique<Session>(*port, clock, dialogs);
@@ -42,21 +43,25 @@ template <typename PageType> struct PageRig {
 struct Window {
     RecordingDialogs dialogs;
     KestrelConfig w{nullptr, &dialogs};
-    explicit Window(bool open = true) {
+    explicit Window(bool open = true)
+    {
         w.show();
         if (open)
             openPort("sim");
     }
-    void openPort(const QString& name) {
+    void openPort(const QString& name)
+    {
         w.ComboPort->setEditText(name);
         QTest::keyClick(w.ComboPort, Qt::Key_Return);
     }
     // Runs a whole-module job from its button and waits for it to end.
-    void job(QPushButton* button) {
+    void job(QPushButton* button)
+    {
         QTest::mouseClick(button, Qt::LeftButton);
         waitIdle();
     }
-    void waitIdle() {
+    void waitIdle()
+    {
         ASSERT_TRUE(
             QTest::qWaitFor([&] { return !w.LabelAction->isVisible() && w.jobs.PendingJob.empty(); }, 60000));
     }
@@ -64,14 +69,16 @@ struct Window {
     QString status() const { return w.LabelStatusJob->text(); }
 };
 
-template <typename W> W* child(QWidget& w, const QString& name) {
+template <typename W> W* child(QWidget& w, const QString& name)
+{
     W* found = w.findChild<W*>(name);
     EXPECT_NE(found, nullptr) << name.toStdString();
     return found;
 }
 
 // Text put into a box and the box left (as the page's handlers see it).
-inline void enter(QLineEdit* box, const QString& text) {
+inline void enter(QLineEdit* box, const QString& text)
+{
     box->setText(text);
     emit box->editingFinished();
 }

@@ -1,11 +1,11 @@
 // The pin-configuration page bound to a session on the built-in simulated module.
-#include "link/Clock.h"
-#include "ops/PinConfigTransfer.h"
-#include "session/Session.h"
-#include "shell/BuiltInSim.h"
 #include "shell/PinConfigPage.h"
 #include "gui/GuiRig.h"
+#include "link/Clock.h"
+#include "ops/PinConfigTransfer.h"
 #include "pins/PinConfig.h"
+#include "session/Session.h"
+#include "shell/BuiltInSim.h"
 
 #include <QCheckBox>
 #include <QRadioButton>
@@ -17,7 +17,8 @@ using namespace kestrel::test;
 
 using PinConfigRig = PageRig<PinConfigPage>;
 
-TEST(PinConfigPage, TheServoIsReadAndClampedEditsAreWrittenToFlashAndReadBack) {
+TEST(PinConfigPage, TheServoIsReadAndClampedEditsAreWrittenToFlashAndReadBack)
+{
     PinConfigRig rig;
     enter(rig.page->TextPCFGPin, "8");
     EXPECT_EQ(rig.session->config.CurrentPin, 8);
@@ -71,7 +72,8 @@ TEST(PinConfigPage, TheServoIsReadAndClampedEditsAreWrittenToFlashAndReadBack) {
               std::tuple(1, "127", "-64", "12", true, true));
 }
 
-TEST(PinConfigPage, LivePositionIsClampedSentAndReadBackAsTheActivePosition) {
+TEST(PinConfigPage, LivePositionIsClampedSentAndReadBackAsTheActivePosition)
+{
     PinConfigRig rig;
     enter(rig.page->TextPCFGPin, "8");
     // The module's active parameters start empty: read flash, then set them active.
@@ -96,7 +98,8 @@ TEST(PinConfigPage, LivePositionIsClampedSentAndReadBackAsTheActivePosition) {
     EXPECT_TRUE(rig.dialogs.messages.empty()) << rig.dialogs.messages[0].text;
 }
 
-TEST(PinConfigPage, PwmAndInputPagesWithTheHardwareWarning) {
+TEST(PinConfigPage, PwmAndInputPagesWithTheHardwareWarning)
+{
     PinConfigRig rig;
     enter(rig.page->TextPCFGPin, "12");
     QTest::mouseClick(rig.page->CommandPCFGGetParam[1], Qt::LeftButton);
@@ -119,7 +122,8 @@ TEST(PinConfigPage, PwmAndInputPagesWithTheHardwareWarning) {
     EXPECT_EQ(rig.pin(5).P(4), 31);
 }
 
-TEST(PinConfigPage, AnUnknownModeIsReportedAndLeavesThePage) {
+TEST(PinConfigPage, AnUnknownModeIsReportedAndLeavesThePage)
+{
     PinConfigRig rig;
     rig.pin(20).ConfigMode = kModeServo;
     rig.session->config.CurrentPin = 20;

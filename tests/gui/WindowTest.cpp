@@ -1,8 +1,8 @@
 // The whole window as a user drives it: typed and ticked edits reach Write All, Verify All
 // and Save; nothing typed or pressed ends the program; the port opens again and again;
 // a message raised during a job is above its progress dialog.
-#include "files/ConfigurationFile.h"
 #include "base/ProgramFault.h"
+#include "files/ConfigurationFile.h"
 #include "gui/GuiRig.h"
 #include "shell/EventPage.h"
 #include "shell/GeneralPage.h"
@@ -26,7 +26,8 @@ using namespace kestrel::test;
 namespace {
 
 // Types into a box as a user does: everything selected, the new text typed, Return.
-void type(QLineEdit* box, const QString& text) {
+void type(QLineEdit* box, const QString& text)
+{
     box->setFocus();
     box->selectAll();
     QTest::keyClick(box, Qt::Key_Backspace);
@@ -37,7 +38,8 @@ void type(QLineEdit* box, const QString& text) {
 
 } // namespace
 
-TEST(Window, GeneralPageEditsReachWriteAllVerifyAllAndTheDataFile) {
+TEST(Window, GeneralPageEditsReachWriteAllVerifyAllAndTheDataFile)
+{
     Window m;
     QTest::mouseClick(m.w.CommandReadAll, Qt::LeftButton); // the job waits for the timer
     EXPECT_EQ(std::tuple(m.w.LabelAction->isVisible(), m.w.jobs.PendingJob), std::tuple(true, "ReadAll"));
@@ -107,7 +109,8 @@ TEST(Window, GeneralPageEditsReachWriteAllVerifyAllAndTheDataFile) {
     EXPECT_TRUE(m.dialogs.messages.empty()) << m.dialogs.messages[0].text;
 }
 
-TEST(Window, UnsavedChangesAreAskedAboutBeforeTheyAreLost) {
+TEST(Window, UnsavedChangesAreAskedAboutBeforeTheyAreLost)
+{
     Window m;
     type(m.w.generalPage->TextGenIDString, "Changed");
     EXPECT_TRUE(m.w.unsavedChanges());
@@ -130,7 +133,8 @@ TEST(Window, UnsavedChangesAreAskedAboutBeforeTheyAreLost) {
     EXPECT_TRUE(m.w.close());
 }
 
-TEST(Window, NothingTypedOrPressedEndsTheProgram) {
+TEST(Window, NothingTypedOrPressedEndsTheProgram)
+{
     Window m;
     m.dialogs.defaultAnswer = Answer::Discard; // Read All and Load go ahead; warnings say no
 
@@ -154,8 +158,8 @@ TEST(Window, NothingTypedOrPressedEndsTheProgram) {
     }
     // Only messages the module's rules give, or the guard's.
     for (const std::string& text : texts) {
-        const bool known = text.rfind(programFaultMessage("").substr(0, 40), 0) == 0 || text == "Select Devicename to load" ||
-                           text.rfind("ID string cut", 0) == 0 ||
+        const bool known = text.rfind(programFaultMessage("").substr(0, 40), 0) == 0 ||
+                           text == "Select Devicename to load" || text.rfind("ID string cut", 0) == 0 ||
                            text.rfind("Unknown configuration", 0) == 0 ||
                            text == "No Device Configuration file selected";
         EXPECT_TRUE(known) << text;
@@ -163,7 +167,8 @@ TEST(Window, NothingTypedOrPressedEndsTheProgram) {
     EXPECT_TRUE(m.w.isVisible());
 }
 
-TEST(Window, PseudoTerminalsOpenAgainAtAnyRateAndAfterAnother) {
+TEST(Window, PseudoTerminalsOpenAgainAtAnyRateAndAfterAnother)
+{
     test::SimProcess first({"--version", "1.1.1.1"});
     test::SimProcess second({"--version", "2.2.2.2"});
     Window m;
@@ -204,7 +209,8 @@ TEST(Window, PseudoTerminalsOpenAgainAtAnyRateAndAfterAnother) {
         << m.status().toStdString();
 }
 
-TEST(Window, AMessageDuringAJobIsAboveItsProgressDialog) {
+TEST(Window, AMessageDuringAJobIsAboveItsProgressDialog)
+{
     // Real message boxes: nobody answers at address 9, after the progress dialog is up.
     KestrelConfig w;
     w.show();
@@ -232,7 +238,8 @@ TEST(Window, AMessageDuringAJobIsAboveItsProgressDialog) {
         << w.LabelStatusJob->text().toStdString();
 }
 
-TEST(Window, SavedNamesGetTheirSuffix) {
+TEST(Window, SavedNamesGetTheirSuffix)
+{
     EXPECT_EQ(QtDialogs::withDefaultSuffix("/tmp/mylayout", "Kestrel Config Data|*.dat"),
               "/tmp/mylayout.dat");
     EXPECT_EQ(QtDialogs::withDefaultSuffix("/tmp/my.def", "Kestrel Config Data|*.dat"), "/tmp/my.def");
@@ -240,7 +247,8 @@ TEST(Window, SavedNamesGetTheirSuffix) {
     EXPECT_EQ(QtDialogs::withDefaultSuffix("", "Kestrel Device Definitions|*.def"), "");
 }
 
-TEST(Window, AProgramFaultIsToldOnceAndLeavesTheConfigurationAsItWas) {
+TEST(Window, AProgramFaultIsToldOnceAndLeavesTheConfigurationAsItWas)
+{
     Window m;
     Session& s = m.w.session();
     s.config.pin(3).Description = "kept";
@@ -260,7 +268,8 @@ TEST(Window, AProgramFaultIsToldOnceAndLeavesTheConfigurationAsItWas) {
     EXPECT_EQ(after, 1);
 }
 
-TEST(Window, RequestVersionAndTheLinkArea) {
+TEST(Window, RequestVersionAndTheLinkArea)
+{
     Window m(false);
     m.w.ComboPort->setCurrentIndex(m.w.ComboPort->findText("sim"));
     m.w.ComboPort_Click();
@@ -296,7 +305,8 @@ TEST(Window, RequestVersionAndTheLinkArea) {
     EXPECT_EQ(m.dialogs.texts(), std::vector<std::string>{"Select communications port"});
 }
 
-TEST(Window, ExtendedAddressControlsFollowTheCheckBox) {
+TEST(Window, ExtendedAddressControlsFollowTheCheckBox)
+{
     Window m(false);
     m.dialogs.answers = {Answer::Cancel, Answer::Ok};
     auto* check = child<QCheckBox>(m.w, "CheckXaddress");
@@ -313,7 +323,8 @@ TEST(Window, ExtendedAddressControlsFollowTheCheckBox) {
     EXPECT_EQ(std::tuple(x->text(), m.w.session().link.settings.TargetXAddress), std::tuple("15", 15));
 }
 
-TEST(Window, StandardDevicesAreListedAndLoadOntoTheChosenPin) {
+TEST(Window, StandardDevicesAreListedAndLoadOntoTheChosenPin)
+{
     Window m(false);
     KestrelConfig& window = m.w;
     test::RecordingDialogs& dialogs = m.dialogs;

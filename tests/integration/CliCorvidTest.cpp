@@ -5,7 +5,8 @@
 
 using namespace kestrel::test;
 
-TEST(CliThroughCorvid, TunnelThenTransparentModeThenDirect) {
+TEST(CliThroughCorvid, TunnelThenTransparentModeThenDirect)
+{
     SimProcess sim({"--corvid", "--address", "0,20", "--version", "3.1.4.1", "--unit", "linkbox",
                     "--unit-version", "1030"});
     const std::string cli = binPath("kestrel-cli");
@@ -27,7 +28,8 @@ TEST(CliThroughCorvid, TunnelThenTransparentModeThenDirect) {
     EXPECT_EQ(r.out, "3.1.4.1\n");
 }
 
-TEST(CliThroughCorvid, OldSystemRefusesTheTunnel) {
+TEST(CliThroughCorvid, OldSystemRefusesTheTunnel)
+{
     SimProcess sim({"--corvid", "--system-version", "3.0"});
     auto r = runProgram(binPath("kestrel-cli"), {"--port", sim.pty(), "--corvid", "version"});
     EXPECT_EQ(r.status, 1);

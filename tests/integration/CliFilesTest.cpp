@@ -12,19 +12,19 @@
 using namespace kestrel::test;
 
 namespace {
-std::string slurp(const std::string& path) {
+std::string slurp(const std::string& path)
+{
     std::ifstream in(path, std::ios::binary);
     std::stringstream s;
     s << in.rdbuf();
     return s.str();
 }
 
-std::string tempPath(const char* name) {
-    return "/tmp/kestrel-it-" + std::to_string(getpid()) + "-" + name;
-}
+std::string tempPath(const char* name) { return "/tmp/kestrel-it-" + std::to_string(getpid()) + "-" + name; }
 } // namespace
 
-TEST(CliFiles, ReadFromBuiltInThenWriteVerifyAndReadBackThroughThePty) {
+TEST(CliFiles, ReadFromBuiltInThenWriteVerifyAndReadBackThroughThePty)
+{
     const std::string cli = binPath("kestrel-cli");
     const std::string demo = tempPath("demo.dat"), back = tempPath("back.dat");
 
@@ -71,7 +71,8 @@ TEST(CliFiles, ReadFromBuiltInThenWriteVerifyAndReadBackThroughThePty) {
     std::remove(back.c_str());
 }
 
-TEST(CliFiles, BadFilesAndAddressesAreUsageErrorsAndNothingIsSent) {
+TEST(CliFiles, BadFilesAndAddressesAreUsageErrorsAndNothingIsSent)
+{
     const std::string cli = binPath("kestrel-cli");
     const std::string bad = tempPath("bad.dat");
     const std::string head = "\"KestrelConfiguration 3100\"\r\n";
@@ -121,7 +122,8 @@ TEST(CliFiles, BadFilesAndAddressesAreUsageErrorsAndNothingIsSent) {
     std::remove(bad.c_str());
 }
 
-TEST(CliFiles, AJobThatCannotCompleteFailsAndSaysWhatWasIncomplete) {
+TEST(CliFiles, AJobThatCannotCompleteFailsAndSaysWhatWasIncomplete)
+{
     const std::string cli = binPath("kestrel-cli");
     const std::string demo = tempPath("incomplete.dat"), fifo = tempPath("fifo.dat");
     ASSERT_EQ(runProgram(cli, {"read", demo}).status, 0);
@@ -168,7 +170,8 @@ TEST(CliFiles, AJobThatCannotCompleteFailsAndSaysWhatWasIncomplete) {
     std::remove(fifo.c_str());
 }
 
-TEST(CliFiles, SimulatorSeededFromAFile) {
+TEST(CliFiles, SimulatorSeededFromAFile)
+{
     const std::string cli = binPath("kestrel-cli");
     const std::string demo = tempPath("seed.dat");
     ASSERT_EQ(runProgram(cli, {"read", demo}).status, 0);

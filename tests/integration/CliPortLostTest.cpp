@@ -13,17 +13,14 @@ using namespace kestrel::test;
 
 namespace {
 
-std::string tempPath(const char* name) {
-    return "/tmp/kestrel-it-" + std::to_string(getpid()) + "-" + name;
-}
+std::string tempPath(const char* name) { return "/tmp/kestrel-it-" + std::to_string(getpid()) + "-" + name; }
 
-bool exists(const std::string& path) {
-    return access(path.c_str(), F_OK) == 0;
-}
+bool exists(const std::string& path) { return access(path.c_str(), F_OK) == 0; }
 
 // Runs kestrel-cli with args against a paced kestrel-sim and stops the simulator a second
 // after the job has started.
-CommandResult runAndPullThePort(const std::vector<std::string>& args, std::string& pty) {
+CommandResult runAndPullThePort(const std::vector<std::string>& args, std::string& pty)
+{
     SimProcess sim({"--pace-baud", "9600"});
     pty = sim.pty();
     std::vector<std::string> all{"--port", sim.pty(), "--baud", "9600"};
@@ -39,7 +36,8 @@ CommandResult runAndPullThePort(const std::vector<std::string>& args, std::strin
 
 } // namespace
 
-TEST(CliPortLost, ReadEndsWithOneMessageAndNoFile) {
+TEST(CliPortLost, ReadEndsWithOneMessageAndNoFile)
+{
     const std::string file = tempPath("lost-read.dat");
     std::remove(file.c_str());
     std::string pty;
@@ -62,7 +60,8 @@ TEST(CliPortLost, ReadEndsWithOneMessageAndNoFile) {
     std::remove(file.c_str());
 }
 
-TEST(CliPortLost, WriteEndsWithOneMessage) {
+TEST(CliPortLost, WriteEndsWithOneMessage)
+{
     // The demonstration configuration of the built-in module, to write.
     const std::string file = tempPath("lost-write.dat");
     const CommandResult saved = runProgram(binPath("kestrel-cli"), {"--port", "sim", "read", file});

@@ -5,7 +5,8 @@
 
 using namespace kestrel::test;
 
-TEST(CliAgainstSimProcess, VersionAtEachBitRateAndAddress) {
+TEST(CliAgainstSimProcess, VersionAtEachBitRateAndAddress)
+{
     SimProcess sim({"--address", "0", "--address", "5", "--version", "9.8.7.6"});
     const std::string cli = binPath("kestrel-cli");
     for (const char* baud : {"9600", "19200", "38400"}) {
@@ -28,7 +29,8 @@ TEST(CliAgainstSimProcess, VersionAtEachBitRateAndAddress) {
     EXPECT_NE(stats.find("exchanges"), std::string::npos) << stats;
 }
 
-TEST(CliAgainstSimProcess, UsageAndPortErrorsExitWithTwo) {
+TEST(CliAgainstSimProcess, UsageAndPortErrorsExitWithTwo)
+{
     const std::string cli = binPath("kestrel-cli");
     auto r = runProgram(cli, {"--port", "/dev/kestrel-no-such-port", "version"});
     EXPECT_EQ(r.status, 2);
@@ -42,7 +44,8 @@ TEST(CliAgainstSimProcess, UsageAndPortErrorsExitWithTwo) {
     EXPECT_EQ(r.out, "1.2.3.4\n");
 }
 
-TEST(CliAgainstSimProcess, FaultSwitchesOfTheSimulator) {
+TEST(CliAgainstSimProcess, FaultSwitchesOfTheSimulator)
+{
     const std::string cli = binPath("kestrel-cli");
     {
         SimProcess sim({"--refuse", "112,0:length"});

@@ -1,8 +1,8 @@
 // The tunnel route and the Corvid switches: exact frames against a scripted port, whole
 // exchanges against the simulated Corvid system.
+#include "base/Text.h"
 #include "link/CorvidControl.h"
 #include "link/Link.h"
-#include "base/Text.h"
 #include "sim/SimBus.h"
 #include "sim/SimCorvid.h"
 #include "sim/SimPort.h"
@@ -28,7 +28,8 @@ struct Simulated : ::testing::Test {
     int base = 0;
     LinkControl control{link, base};
     CorvidControl corvid{link, control};
-    Simulated() {
+    Simulated()
+    {
         clock.tick = 0.005;
         port.setWaitHook([this](int ms) { clock.advance(ms / 1000.0); });
         port.open();
@@ -39,7 +40,8 @@ struct Simulated : ::testing::Test {
 
 } // namespace
 
-TEST_F(Scripted, FramesLogLinesAndSystemVersionAccepted) {
+TEST_F(Scripted, FramesLogLinesAndSystemVersionAccepted)
+{
     port.queue(corvidFrame({}, 1));                 // answer to the poll
     port.queue(corvidFrame({1, 2, 0x30, 0x25}, 0)); // system version 6045
     port.queue(corvidFrame({}, 1));                 // answer to the final poll
@@ -57,7 +59,8 @@ TEST_F(Scripted, FramesLogLinesAndSystemVersionAccepted) {
     EXPECT_EQ(CorvidControl::versionFrom(0x30, 0x25), 6045);
 }
 
-TEST_F(Scripted, OldSystemRefusedWithProtocolText) {
+TEST_F(Scripted, OldSystemRefusedWithProtocolText)
+{
     port.queue(corvidFrame({}, 1));
     port.queue(corvidFrame({1, 2, 0x18, 0x00}));
     port.queue(corvidFrame({}, 1));
@@ -69,7 +72,8 @@ TEST_F(Scripted, OldSystemRefusedWithProtocolText) {
     EXPECT_EQ(port.take().size(), 8u); // the final poll is sent all the same
 }
 
-TEST_F(Scripted, NoAnswerAndBadCheckByte) {
+TEST_F(Scripted, NoAnswerAndBadCheckByte)
+{
     EXPECT_FALSE(corvid.CheckCorvid_Click(true)); // nothing answers the poll
     ASSERT_EQ(dialogs.messages.size(), 1u);
     EXPECT_EQ(dialogs.messages[0].text, "No answer from Corvid");
@@ -109,7 +113,8 @@ TEST_F(Scripted, NoAnswerAndBadCheckByte) {
     EXPECT_EQ(link.settings.TargetAddress, 15); // clamped back to the direct route's range
 }
 
-TEST_F(Scripted, TunnelledWriteAndRequestBytes) {
+TEST_F(Scripted, TunnelledWriteAndRequestBytes)
+{
     link.settings.CheckCorvid = true;
     link.state.CorvidToggle = 0;
     link.settings.TargetAddress = 2;
@@ -133,7 +138,8 @@ TEST_F(Scripted, TunnelledWriteAndRequestBytes) {
               (std::vector<int>{45, 128, 226, 240, 161, 133}));
 }
 
-TEST_F(Scripted, TimeOutAfterGoodPollsLeavesReplyValid) {
+TEST_F(Scripted, TimeOutAfterGoodPollsLeavesReplyValid)
+{
     link.settings.CheckCorvid = true;
     clock.tick = 0.05;
     // Every frame is answered with an empty frame; no module reply ever comes.
@@ -145,7 +151,8 @@ TEST_F(Scripted, TimeOutAfterGoodPollsLeavesReplyValid) {
     EXPECT_TRUE(dialogs.messages.empty());
 }
 
-TEST_F(Simulated, TunnelledVersionOfTwoModules) {
+TEST_F(Simulated, TunnelledVersionOfTwoModules)
+{
     system.setSystemVersion(6045);
     link.state.LinkToggle = 128;
     ASSERT_TRUE(corvid.CheckCorvid_Click(true));
@@ -160,7 +167,8 @@ TEST_F(Simulated, TunnelledVersionOfTwoModules) {
     EXPECT_NE(link.txtCorvidCommunication.find("\r\n< "), std::string::npos);
 }
 
-TEST_F(Simulated, TransparentModeByUnitTypeAndVersion) {
+TEST_F(Simulated, TransparentModeByUnitTypeAndVersion)
+{
     struct Case {
         sim::CorvidUnit unit;
         int version;
@@ -196,7 +204,8 @@ TEST_F(Simulated, TransparentModeByUnitTypeAndVersion) {
     }
 }
 
-TEST_F(Simulated, TransparentModeAsksOnNewSystemsThenDirectRouteWorks) {
+TEST_F(Simulated, TransparentModeAsksOnNewSystemsThenDirectRouteWorks)
+{
     system.setSystemVersion(3200);
     system.setUnit(sim::CorvidUnit::HubB, 1000);
     dialogs.answers = {Answer::No};

@@ -10,7 +10,8 @@ struct LinkControlFixture : ScriptedLink {
 };
 } // namespace
 
-TEST_F(LinkControlFixture, AddressClampsWithNumberingAndTunneling) {
+TEST_F(LinkControlFixture, AddressClampsWithNumberingAndTunneling)
+{
     base = 1;
     EXPECT_EQ(control.TextAddress_Click("0"), "1");
     EXPECT_EQ(link.settings.TargetAddress, 0);
@@ -29,7 +30,8 @@ TEST_F(LinkControlFixture, AddressClampsWithNumberingAndTunneling) {
     EXPECT_EQ(control.addressText(), "7");
 }
 
-TEST_F(LinkControlFixture, ExtendedAddressKeepsThe95To15PairingAndLeavesToggle) {
+TEST_F(LinkControlFixture, ExtendedAddressKeepsThe95To15PairingAndLeavesToggle)
+{
     link.state.LinkToggle = 64;
     EXPECT_EQ(control.txtXaddr_Click("200"), "15");
     EXPECT_EQ(link.settings.TargetXAddress, 15);
@@ -42,7 +44,8 @@ TEST_F(LinkControlFixture, ExtendedAddressKeepsThe95To15PairingAndLeavesToggle) 
     EXPECT_EQ(link.state.LinkToggle, 64);
 }
 
-TEST_F(LinkControlFixture, ExtendedAddressingAsksFirst) {
+TEST_F(LinkControlFixture, ExtendedAddressingAsksFirst)
+{
     dialogs.answers = {Answer::Cancel, Answer::Ok};
     EXPECT_FALSE(control.CheckXaddress_Click(true));
     EXPECT_EQ(control.addressLabel(), "Module Address");
@@ -55,7 +58,8 @@ TEST_F(LinkControlFixture, ExtendedAddressingAsksFirst) {
     EXPECT_EQ(dialogs.questions.size(), 2u);
 }
 
-TEST_F(LinkControlFixture, BitRateAndPortChoice) {
+TEST_F(LinkControlFixture, BitRateAndPortChoice)
+{
     // No port chosen: only the settings string changes; nothing opens, the link is left alone.
     link.state.LinkToggle = 64;
     EXPECT_TRUE(control.OptionBitRate_Click(0));

@@ -1,6 +1,6 @@
 // The direct route, byte for byte, against a scripted port and a fake clock.
-#include "link/Link.h"
 #include "base/ProgramFault.h"
+#include "link/Link.h"
 #include "support/Frames.h"
 #include "support/RecordingDialogs.h"
 #include "support/ScriptedLink.h"
@@ -15,14 +15,16 @@ namespace {
 
 const std::vector<int> kBurst = {0, 0, 0, 255, 255, 255, 170, 170, 170};
 
-std::vector<int> concat(std::initializer_list<std::vector<int>> parts) {
+std::vector<int> concat(std::initializer_list<std::vector<int>> parts)
+{
     std::vector<int> out;
     for (const auto& p : parts)
         out.insert(out.end(), p.begin(), p.end());
     return out;
 }
 
-std::vector<int> reply(int addressByte, std::vector<int> data, int header = -1) {
+std::vector<int> reply(int addressByte, std::vector<int> data, int header = -1)
+{
     return moduleReply(addressByte, data, header);
 }
 
@@ -30,7 +32,8 @@ using DirectRoute = ScriptedLink;
 
 } // namespace
 
-TEST_F(DirectRoute, RequestVersionWorkedExampleWithBurstAndEmptyFrame) {
+TEST_F(DirectRoute, RequestVersionWorkedExampleWithBurstAndEmptyFrame)
+{
     port.queue(reply(67, {112, 0, 1, 2, 3, 4}));
     EXPECT_TRUE(link.GetVersion());
     // Burst, empty frame to address 0 (3, 192, 189), then 67, 226, 240, 128, 235.
@@ -52,7 +55,8 @@ TEST_F(DirectRoute, RequestVersionWorkedExampleWithBurstAndEmptyFrame) {
     EXPECT_EQ(port.take().front(), 67);
 }
 
-TEST_F(DirectRoute, AddressChangeResynchronisesAndHeaderBits) {
+TEST_F(DirectRoute, AddressChangeResynchronisesAndHeaderBits)
+{
     link.settings.CheckKestrelBD = false;
     link.settings.TargetAddress = 5; // A = 23
     EXPECT_TRUE(link.SendKestrelMessage(false, 0, {}));
@@ -74,7 +78,8 @@ TEST_F(DirectRoute, AddressChangeResynchronisesAndHeaderBits) {
     EXPECT_EQ(bytes[12], 64 + 23);
 }
 
-TEST_F(DirectRoute, SizeOverrunAndClosedPortSendNothing) {
+TEST_F(DirectRoute, SizeOverrunAndClosedPortSendNothing)
+{
     EXPECT_FALSE(link.SendKestrelMessage(true, 16, {}));
     EXPECT_EQ(dialogs.texts(),
               std::vector<std::string>{"SendKestrelMessage: Message Size Overrun, size = 16"});
@@ -87,13 +92,15 @@ TEST_F(DirectRoute, SizeOverrunAndClosedPortSendNothing) {
     EXPECT_TRUE(port.written.empty());
 }
 
-TEST_F(DirectRoute, DataByteAbove127IsProgramFaultAndNothingIsWritten) {
+TEST_F(DirectRoute, DataByteAbove127IsProgramFaultAndNothingIsWritten)
+{
     EXPECT_THROW(link.SendKestrelMessage(false, 3, {96, 10, 200}), ProgramFault);
     EXPECT_TRUE(port.written.empty());
     EXPECT_THROW(link.SendKestrelMessage(false, 1, {-1}), ProgramFault);
 }
 
-TEST_F(DirectRoute, CorruptedCopyThenGoodCopyAndFrameRestart) {
+TEST_F(DirectRoute, CorruptedCopyThenGoodCopyAndFrameRestart)
+{
     link.state.LinkToggle = 64;
     auto bad = reply(67, {112, 0, 9, 9, 9, 9});
     bad.back() ^= 1;
@@ -106,7 +113,8 @@ TEST_F(DirectRoute, CorruptedCopyThenGoodCopyAndFrameRestart) {
     EXPECT_TRUE(dialogs.messages.empty());
 }
 
-TEST_F(DirectRoute, TimeoutUnchecksBidirectionalAndWaitsTwoSeconds) {
+TEST_F(DirectRoute, TimeoutUnchecksBidirectionalAndWaitsTwoSeconds)
+{
     link.state.LinkToggle = 64;
     int changed = 0;
     link.onSettingsChanged = [&] { ++changed; };
@@ -127,7 +135,8 @@ TEST_F(DirectRoute, TimeoutUnchecksBidirectionalAndWaitsTwoSeconds) {
     EXPECT_TRUE(dialogs.messages.empty());
 }
 
-TEST_F(DirectRoute, MidnightEndsTheWait) {
+TEST_F(DirectRoute, MidnightEndsTheWait)
+{
     link.state.LinkToggle = 64;
     clock.wrapAtMidnight = true;
     clock.now = 86399.9;
@@ -138,7 +147,8 @@ TEST_F(DirectRoute, MidnightEndsTheWait) {
     EXPECT_FALSE(link.state.ReplyValid);
 }
 
-TEST_F(DirectRoute, InvalidReplyMessagesAndExtendedAddressBytes) {
+TEST_F(DirectRoute, InvalidReplyMessagesAndExtendedAddressBytes)
+{
     link.state.LinkToggle = 64;
     // A reply with the wrong toggle: the expected address is shown without it.
     port.queue(reply(3, {112, 0, 1, 2, 3, 4}));
@@ -168,7 +178,8 @@ TEST_F(DirectRoute, InvalidReplyMessagesAndExtendedAddressBytes) {
               std::vector<std::string>{"Incorrect eXtended Address byte \r\nReceived 7 Expected 9"});
 }
 
-TEST_F(DirectRoute, GetVersionRejectsWrongSizeAndEcho) {
+TEST_F(DirectRoute, GetVersionRejectsWrongSizeAndEcho)
+{
     link.state.LinkToggle = 64;
     port.queue(reply(67, {112, 0, 1, 2, 3}));
     EXPECT_FALSE(link.GetVersion());
@@ -179,7 +190,8 @@ TEST_F(DirectRoute, GetVersionRejectsWrongSizeAndEcho) {
     EXPECT_EQ(link.VersionText, "Unknown");
 }
 
-TEST_F(DirectRoute, LynxMessageFramesWithoutToggle) {
+TEST_F(DirectRoute, LynxMessageFramesWithoutToggle)
+{
     link.SendLynxMessage(20, 1, 2, 3);
     // Burst, the empty legacy frame 20,128,128,128,236, then 20,129,130,131 and its checksum.
     // 20+129=149, +130=279->23, +131=154; 256-154=102 -> 230.
@@ -190,7 +202,8 @@ TEST_F(DirectRoute, LynxMessageFramesWithoutToggle) {
     EXPECT_EQ(link.state.LinkToggle, 64);
 }
 
-TEST_F(DirectRoute, PortLostMidExchangeReportsOnceAndFails) {
+TEST_F(DirectRoute, PortLostMidExchangeReportsOnceAndFails)
+{
     link.state.LinkToggle = 64;
     port.writesFail = true;
     EXPECT_FALSE(link.SendKestrelMessage(true, 2, {112, 0}));
@@ -200,7 +213,8 @@ TEST_F(DirectRoute, PortLostMidExchangeReportsOnceAndFails) {
     EXPECT_EQ(link.state.LinkToggle, 128);
 }
 
-TEST_F(DirectRoute, EveryFrameIsHandedToTheWireWhenComplete) {
+TEST_F(DirectRoute, EveryFrameIsHandedToTheWireWhenComplete)
+{
     // A port may gather a frame's bytes; the link flushes after each frame's checksum, so
     // nothing written ever waits in a buffer (an erase frame is the last thing a run sends).
     link.settings.CheckKestrelBD = false;

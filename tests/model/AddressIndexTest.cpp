@@ -5,7 +5,8 @@
 
 using namespace kestrel;
 
-TEST(AddressIndex, RunningSumsOverAllRecords) {
+TEST(AddressIndex, RunningSumsOverAllRecords)
+{
     Configuration c;
     c.Pins[0].DccCount = 2;
     c.Pins[1].DccCount = 0;
@@ -26,7 +27,8 @@ TEST(AddressIndex, RunningSumsOverAllRecords) {
     EXPECT_EQ(c.DccTotal, 10);
 }
 
-TEST(AddressIndex, OverflowThrowsAndKeepsNoPartialResult) {
+TEST(AddressIndex, OverflowThrowsAndKeepsNoPartialResult)
+{
     Configuration c;
     c.Pins[0].DccCount = 1;
     c.Pins[0].LynxCount = 3;

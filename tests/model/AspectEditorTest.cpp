@@ -9,12 +9,14 @@ using namespace kestrel;
 
 namespace {
 
-StepRecord mark(int n) {
+StepRecord mark(int n)
+{
     return StepRecord{9, 0, static_cast<std::uint8_t>(n), static_cast<std::uint8_t>(n), 0, 0};
 }
 
 // Fills steps 0..9 of the selected aspect with distinct "On" steps (Par0 = Par1 = step).
-AspectRecord& filledAspect(Configuration& c) {
+AspectRecord& filledAspect(Configuration& c)
+{
     AspectRecord& a = c.Pins[c.CurrentPin].Aspects[c.CurrentAspect];
     for (int s = 0; s < kStepRecords; ++s)
         a.Steps[s] = mark(s);
@@ -23,7 +25,8 @@ AspectRecord& filledAspect(Configuration& c) {
 
 } // namespace
 
-TEST(AspectEditor, ShowAspectFillsThePage) {
+TEST(AspectEditor, ShowAspectFillsThePage)
+{
     Configuration c;
     c.NumberingBase = 1;
     c.CurrentPin = 4;
@@ -63,7 +66,8 @@ TEST(AspectEditor, ShowAspectFillsThePage) {
     EXPECT_EQ(p.DeviceDescription, "");
 }
 
-TEST(AspectEditor, LayoutChanges) {
+TEST(AspectEditor, LayoutChanges)
+{
     Configuration c;
     c.CurrentPin = 2;
     PinRecord& p = c.Pins[2];
@@ -86,7 +90,8 @@ TEST(AspectEditor, LayoutChanges) {
     EXPECT_THROW(changeLayout(c, 3), ProgramFault);
 }
 
-TEST(AspectEditor, SelectorsClamp) {
+TEST(AspectEditor, SelectorsClamp)
+{
     Configuration c;
     c.NumberingBase = 1;
     EXPECT_EQ(selectPin(c, "0").text, "1");
@@ -120,7 +125,8 @@ TEST(AspectEditor, SelectorsClamp) {
     EXPECT_EQ(c.Pins[6].DccCount, 7);
 }
 
-TEST(AspectEditor, RowEdits) {
+TEST(AspectEditor, RowEdits)
+{
     Configuration c;
     c.CurrentPin = 30;
     c.Pins[30].AspectLayout = 3;
@@ -142,7 +148,8 @@ TEST(AspectEditor, RowEdits) {
     EXPECT_THROW(setInstruction(c, 9, 9), ProgramFault);
 }
 
-TEST(AspectEditor, StepToolInsertAndDelete) {
+TEST(AspectEditor, StepToolInsertAndDelete)
+{
     Configuration c;
     c.CurrentPin = 1;
     c.CurrentAspect = 2;
@@ -197,7 +204,8 @@ TEST(AspectEditor, StepToolInsertAndDelete) {
     EXPECT_THROW(selectStepRow(c, 9), ProgramFault);
 }
 
-TEST(AspectEditor, AspectTool) {
+TEST(AspectEditor, AspectTool)
+{
     Configuration c;
     test::RecordingDialogs dialogs;
     AspectTool tool;
@@ -229,7 +237,8 @@ TEST(AspectEditor, AspectTool) {
     EXPECT_EQ(c.Pins[0].Aspects[5].AspectMark, -1);
 }
 
-TEST(AspectEditor, NumberingAndHelpDecision) {
+TEST(AspectEditor, NumberingAndHelpDecision)
+{
     Configuration c;
     c.CurrentPin = 9;
     NumberingView on = setNumbering(c, true);

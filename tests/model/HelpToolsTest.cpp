@@ -6,7 +6,8 @@
 
 using namespace kestrel;
 
-TEST(HelpTools, TimeTool) {
+TEST(HelpTools, TimeTool)
+{
     TimeTool t;
     EXPECT_EQ(t.maxTimeText(), "00:00.00");
     EXPECT_EQ(t.timeText(), "00:00.00");
@@ -32,7 +33,8 @@ TEST(HelpTools, TimeTool) {
     EXPECT_EQ(target, (StepRecord{102, 0, 0, 0, 10, 2}));
 }
 
-TEST(HelpTools, PatternTool) {
+TEST(HelpTools, PatternTool)
+{
     PatternTool t;
     StepRecord step{15, 0, 0, 3, 0, 0}; // "Multibit 5", pattern 3
     t.open(step);
@@ -77,7 +79,8 @@ TEST(HelpTools, PatternTool) {
     EXPECT_THROW(t.open({9, 0, 0, 0, 0, 0}), ProgramFault);
 }
 
-TEST(HelpTools, EventPatternRoundTripsEveryValue) {
+TEST(HelpTools, EventPatternRoundTripsEveryValue)
+{
     std::set<int> seen;
     for (int events = 0; events < 16; ++events)
         for (int option = -1; option < 6; ++option) {
@@ -116,7 +119,8 @@ TEST(HelpTools, EventPatternRoundTripsEveryValue) {
     EXPECT_THROW(t.setOption(6), ProgramFault);
 }
 
-TEST(HelpTools, LevelTool) {
+TEST(HelpTools, LevelTool)
+{
     LevelTool t;
     t.open(37);
     EXPECT_EQ(t.level(), 2);

@@ -5,7 +5,8 @@
 
 using namespace kestrel;
 
-TEST(InstructionSet, CodesBeyondTheTableAreProgramFaultsAndTheListKeepsItsOrder) {
+TEST(InstructionSet, CodesBeyondTheTableAreProgramFaultsAndTheListKeepsItsOrder)
+{
     EXPECT_THROW(instructionInfo(129), ProgramFault);
     EXPECT_THROW(instructionInfo(-1), ProgramFault);
     EXPECT_TRUE(instructionInfo(128).Name.empty());
@@ -24,7 +25,8 @@ TEST(InstructionSet, CodesBeyondTheTableAreProgramFaultsAndTheListKeepsItsOrder)
     EXPECT_EQ(InstructionTable::instance().listIndexOf(50), 0);
 }
 
-TEST(InstructionSet, NormaliseStep) {
+TEST(InstructionSet, NormaliseStep)
+{
     StepRecord wait{102, 1, 5, 7, 20, 2};
     const NormalisedStep n = normaliseStep(wait);
     EXPECT_EQ(wait, (StepRecord{102, 0, 0, 0, 20, 2}));

@@ -6,7 +6,8 @@
 
 using namespace kestrel;
 
-TEST(PinTools, DeviceHeadLookup) {
+TEST(PinTools, DeviceHeadLookup)
+{
     Configuration c;
     c.Pins[0].DeviceDescription = "Signal";
     c.Pins[3].DeviceOffset = -3;
@@ -25,7 +26,8 @@ TEST(PinTools, DeviceHeadLookup) {
     EXPECT_THROW(deviceHead(c, 2), ProgramFault);
 }
 
-TEST(PinTools, ClearLeavesStepNineAndAspectTwelve) {
+TEST(PinTools, ClearLeavesStepNineAndAspectTwelve)
+{
     Configuration c;
     PinRecord& p = c.Pins[6];
     p.Description = "pin";
@@ -58,7 +60,8 @@ TEST(PinTools, ClearLeavesStepNineAndAspectTwelve) {
               std::tuple("asp", 0, (StepRecord{9, 1, 2, 3, 4, 5}), PinRecord{}, PinRecord{}));
 }
 
-TEST(PinTools, CopyPasteReaimsDeviceOffset) {
+TEST(PinTools, CopyPasteReaimsDeviceOffset)
+{
     Configuration c;
     test::RecordingDialogs dialogs;
     PinTool tool;

@@ -5,7 +5,8 @@
 
 using namespace kestrel;
 
-TEST(StepCodec, EveryInstructionRoundTripsWithAndWithoutFade) {
+TEST(StepCodec, EveryInstructionRoundTripsWithAndWithoutFade)
+{
     for (int code = 0; code < 128; ++code) {
         const InstructionInfo& info = instructionInfo(code);
         if (info.Name.empty())
@@ -28,7 +29,8 @@ TEST(StepCodec, EveryInstructionRoundTripsWithAndWithoutFade) {
     }
 }
 
-TEST(StepCodec, CodeByteSplit) {
+TEST(StepCodec, CodeByteSplit)
+{
     struct Case {
         int byte, instruction, fade;
     } cases[] = {
@@ -50,7 +52,8 @@ TEST(StepCodec, CodeByteSplit) {
     }
 }
 
-TEST(StepCodec, SendSerialPacksEightBitValues) {
+TEST(StepCodec, SendSerialPacksEightBitValues)
+{
     const StepRecord two{5, 0, 0, 200, 129, 7};
     EXPECT_EQ(encodeStep(two), (std::array<int, 5>{5, 3, 72, 1, 7}));
     EXPECT_EQ(decodeStep({5, 3, 72, 1, 7}), two);

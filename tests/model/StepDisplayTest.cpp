@@ -7,7 +7,8 @@ using namespace kestrel;
 
 namespace {
 
-std::string shown(const StepRecord& s, int par, int pin, int base = 0) {
+std::string shown(const StepRecord& s, int par, int pin, int base = 0)
+{
     return showParameter(s, par, pin, base).text;
 }
 
@@ -23,7 +24,8 @@ struct Typed {
 
 } // namespace
 
-TEST(StepDisplay, ShowRules) {
+TEST(StepDisplay, ShowRules)
+{
     const StepRecord on{9, 0, 31, 0, 0, 0};
     EXPECT_EQ(shown(on, 0, 31), "-1"); // pin 31: offset 31 reaches pin 30
     EXPECT_EQ(shown(on, 0, 0), "31");
@@ -46,7 +48,8 @@ TEST(StepDisplay, ShowRules) {
     EXPECT_THROW(showParameter(on, 0, 32, 0), ProgramFault);
 }
 
-TEST(StepDisplay, AcceptRules) {
+TEST(StepDisplay, AcceptRules)
+{
     const Typed cases[] = {
         {9, 0, 1, 0, "-3", "-1", 31},   // P.O. on pin 1 cannot reach below pin 0
         {9, 0, 30, 0, "5", "1", 1},     // ... nor above pin 31 from pin 30
@@ -75,7 +78,8 @@ TEST(StepDisplay, AcceptRules) {
     }
 }
 
-TEST(StepDisplay, StoredValuesReadBackAsTyped) {
+TEST(StepDisplay, StoredValuesReadBackAsTyped)
+{
     // "If" values -64..63, Accel -1..31 and P.O. within the pins read back as typed.
     for (int code = 104; code <= 107; ++code)
         for (int v = -64; v <= 63; ++v) {
@@ -94,7 +98,8 @@ TEST(StepDisplay, StoredValuesReadBackAsTyped) {
         }
 }
 
-TEST(StepDisplay, StepTime) {
+TEST(StepDisplay, StepTime)
+{
     EXPECT_EQ(stepTimeText({102, 0, 0, 0, 63, 3}), "10:45.12"); // 32256 ticks
     EXPECT_EQ(stepTimeText({102, 0, 0, 0, 0, 3}), "00:00.00");
     EXPECT_EQ(durationText(1325), "00:26.50");

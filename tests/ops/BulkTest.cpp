@@ -21,7 +21,8 @@ namespace {
 struct BulkSim : ::testing::Test {
     SimSession sim;
     Session& s = sim.session;
-    void SetUp() override {
+    void SetUp() override
+    {
         s.general = fullGeneralSettings();
         s.config = fullConfiguration();
         ASSERT_TRUE(WriteAll(s));
@@ -31,7 +32,8 @@ struct BulkSim : ::testing::Test {
 
 } // namespace
 
-TEST_F(BulkSim, AnotherIdOnTheModuleStopsAfterTheGeneralStage) {
+TEST_F(BulkSim, AnotherIdOnTheModuleStopsAfterTheGeneralStage)
+{
     int shown = 0;
     s.onShowVerification = [&] { ++shown; };
     s.report.line("left from an earlier run");
@@ -44,7 +46,8 @@ TEST_F(BulkSim, AnotherIdOnTheModuleStopsAfterTheGeneralStage) {
               "Verification Stopped\r\n");
 }
 
-TEST_F(BulkSim, GeneralMismatchesAreAllListedInOrder) {
+TEST_F(BulkSim, GeneralMismatchesAreAllListedInOrder)
+{
     s.config.NumberingBase = 1; // display only; the verification compares what is written
     s.general.ChkGenHWCSink[3] = 1;
     s.general.TextGenXDCCAddress = "1024";
@@ -67,7 +70,8 @@ TEST_F(BulkSim, GeneralMismatchesAreAllListedInOrder) {
                                         "Verification Stopped\r\n");
 }
 
-TEST_F(BulkSim, ReplyErrorsStopTheGeneralStageExceptAWrongDccAddressLength) {
+TEST_F(BulkSim, ReplyErrorsStopTheGeneralStageExceptAWrongDccAddressLength)
+{
     struct Case {
         sim::Refusal refusal;
         int item;
@@ -96,7 +100,8 @@ TEST_F(BulkSim, ReplyErrorsStopTheGeneralStageExceptAWrongDccAddressLength) {
     }
 }
 
-TEST_F(BulkSim, EventMismatchStopsBeforeThePins) {
+TEST_F(BulkSim, EventMismatchStopsBeforeThePins)
+{
     sim.memory().pins[9].eventOn[1] = 0x1F;
     EXPECT_FALSE(VerifyAll(s));
     const int configured = s.config.events(9).OnEvent[1];
@@ -110,7 +115,8 @@ TEST_F(BulkSim, EventMismatchStopsBeforeThePins) {
 
 // ---- order and stopping, on a scripted module ----
 
-TEST(BulkScripted, ModuleThatAnswersNothingEndsReadAllAfterTheVersionRequest) {
+TEST(BulkScripted, ModuleThatAnswersNothingEndsReadAllAfterTheVersionRequest)
+{
     ScriptedModule m;
     int refreshed = 0;
     m.session.onConfigurationChanged = [&] { ++refreshed; };
@@ -121,7 +127,8 @@ TEST(BulkScripted, ModuleThatAnswersNothingEndsReadAllAfterTheVersionRequest) {
     EXPECT_EQ(m.session.general.LabelGenVersionString, "Unknown");
 }
 
-TEST(BulkScripted, WriteAllSendsSerialAddressingLast) {
+TEST(BulkScripted, WriteAllSendsSerialAddressingLast)
+{
     ScriptedModule m;
     m.session.link.settings.CheckKestrelBD = false; // nothing answers; writes are paced
     EXPECT_TRUE(WriteAll(m.session));
@@ -163,7 +170,8 @@ struct CancelAfter : Progress {
 };
 } // namespace
 
-TEST_F(BulkSim, CancelledReadAllKeepsWhatWasReadAndStopsQuietly) {
+TEST_F(BulkSim, CancelledReadAllKeepsWhatWasReadAndStopsQuietly)
+{
     auto fresh = sim.fresh();
     CancelAfter cancel(2); // version and ID string
     fresh->link.setProgress(&cancel);
@@ -180,7 +188,8 @@ TEST_F(BulkSim, CancelledReadAllKeepsWhatWasReadAndStopsQuietly) {
 
 // Every write checks all it will send before its first byte: a value the wire cannot
 // carry is told once, naming where it is, and the module hears nothing.
-TEST_F(BulkSim, AValueThatCannotBeSentStopsTheWriteBeforeItsFirstByte) {
+TEST_F(BulkSim, AValueThatCannotBeSentStopsTheWriteBeforeItsFirstByte)
+{
     struct Case {
         std::function<void(Session&)> spoil;
         std::function<bool(Session&)> write;

@@ -1,8 +1,8 @@
 // Event control: slot bytes, single and bulk transfer, the entry boxes, the enable
 // maps and the verification lines.
 #include "ops/EventControl.h"
-#include "support/ScriptedModule.h"
 #include "forms/EventControlForm.h"
+#include "support/ScriptedModule.h"
 #include "support/SimSession.h"
 
 #include <gtest/gtest.h>
@@ -10,7 +10,8 @@
 using namespace kestrel;
 using namespace kestrel::test;
 
-TEST(EventSlotByte, HighNibbleIsTheSlotAndFifteenMeansNone) {
+TEST(EventSlotByte, HighNibbleIsTheSlotAndFifteenMeansNone)
+{
     EXPECT_EQ(decodeEventSlot(2, 0x2F), -1);
     EXPECT_EQ(decodeEventSlot(3, 0x25), -1); // slot number 2 in slot 3
     EXPECT_EQ(decodeEventSlot(2, 0x25), 5);
@@ -27,7 +28,8 @@ struct EventScripted : ::testing::Test {
 };
 } // namespace
 
-TEST_F(EventScripted, WriteSinglePinSendsOnThenOffSlots) {
+TEST_F(EventScripted, WriteSinglePinSendsOnThenOffSlots)
+{
     s.config.NumberingBase = 1;
     s.eventControl.TextECpin = "8"; // pin 7
     s.config.events(7).OnEvent = {3, -1, 11, 0, 0};
@@ -37,7 +39,8 @@ TEST_F(EventScripted, WriteSinglePinSendsOnThenOffSlots) {
               (std::vector<Data>{{100, 7, 0x03, 0x1F, 0x2B, 0x30}, {101, 7, 0x0F, 0x1F, 0x2F, 0x32}}));
 }
 
-TEST_F(EventScripted, ReadSinglePinUsesTheDifferentReplyLayoutsAndShowsTheEntries) {
+TEST_F(EventScripted, ReadSinglePinUsesTheDifferentReplyLayoutsAndShowsTheEntries)
+{
     s.eventControl.TextECpin = "40"; // clamped to pin 31
     // Event-On: length 7, an initial aspect entry before the slots; Event-Off: length 6.
     m.answer({116, 31, 0x7F, 0x01, 0x1F, 0x25, 0x3A});
@@ -55,7 +58,8 @@ TEST_F(EventScripted, ReadSinglePinUsesTheDifferentReplyLayoutsAndShowsTheEntrie
     EXPECT_EQ(m.dialogs.texts(), (std::vector<std::string>{"Function not supported by Device"}));
 }
 
-TEST_F(EventScripted, EntryBoxesClampToMinusOneAndElevenAndCopyToAll) {
+TEST_F(EventScripted, EntryBoxesClampToMinusOneAndElevenAndCopyToAll)
+{
     s.eventControl.TextECpin = "3";
     s.eventControl.TextECon[1] = "-5";
     EditEventEntry(s, EventSide::On, 1);
@@ -79,7 +83,8 @@ TEST_F(EventScripted, EntryBoxesClampToMinusOneAndElevenAndCopyToAll) {
     }
 }
 
-TEST_F(EventScripted, EnableMapsAreTheInverseOfTheBoxes) {
+TEST_F(EventScripted, EnableMapsAreTheInverseOfTheBoxes)
+{
     s.general.CheckInitEE = {1, 1, 1, 1, 1, 1, 1, 1};
     WriteEnableMaps(s);
     s.general.CheckInitEE = {0, 0, 0, 0, 0, 0, 0, 0};
@@ -111,7 +116,8 @@ struct EventSim : ::testing::Test {
 };
 } // namespace
 
-TEST_F(EventSim, ModuleWithoutEventOnGivesOneMessageAndEventOffStillRuns) {
+TEST_F(EventSim, ModuleWithoutEventOnGivesOneMessageAndEventOffStillRuns)
+{
     sim.module.faults.refuse(116, sim::Refusal::WrongEcho);
     sim.memory().pins[4].eventOff = {0x0F, 0x13, 0x2F, 0x3F};
     EXPECT_TRUE(ReadAllEvents(s));
@@ -120,7 +126,8 @@ TEST_F(EventSim, ModuleWithoutEventOnGivesOneMessageAndEventOffStillRuns) {
     EXPECT_EQ(s.config.events(4).OffEvent, (std::array<std::int16_t, 5>{-1, 3, -1, -1, 0}));
 }
 
-TEST_F(EventSim, VerifyWritesOneLinePerDifferingSlotAndTheMaskLines) {
+TEST_F(EventSim, VerifyWritesOneLinePerDifferingSlotAndTheMaskLines)
+{
     s.config.NumberingBase = 1;
     ASSERT_TRUE(WriteAllEvents(s));
     ASSERT_TRUE(WriteEnableMaps(s));

@@ -1,8 +1,7 @@
 // General page readers and writers against a scripted module: the requests byte for
 // byte, the reply checks and every message text.
-#include "forms/GeneralForm.h"
-#include "support/ScriptedModule.h"
 #include "ops/GeneralCommands.h"
+#include "forms/GeneralForm.h"
 #include "support/ScriptedModule.h"
 
 #include <gtest/gtest.h>
@@ -23,7 +22,8 @@ struct GeneralCommands : ::testing::Test {
 
 // ---- ID string ----
 
-TEST_F(GeneralCommands, IdStringIsCutToTwelveSentWithItsLengthAndReadAsLengthMinusTwo) {
+TEST_F(GeneralCommands, IdStringIsCutToTwelveSentWithItsLengthAndReadAsLengthMinusTwo)
+{
     g.TextGenIDString = "Signalbox East1"; // 15 characters
     EXPECT_TRUE(WriteIDString(s));
     EXPECT_EQ(g.TextGenIDString, "Signalbox Ea");
@@ -54,7 +54,8 @@ TEST_F(GeneralCommands, IdStringIsCutToTwelveSentWithItsLengthAndReadAsLengthMin
 
 // ---- DCC settings ----
 
-TEST_F(GeneralCommands, DccAddressIsSixBitsLowAndTheRestHighBothWays) {
+TEST_F(GeneralCommands, DccAddressIsSixBitsLowAndTheRestHighBothWays)
+{
     int refreshed = 0;
     s.onDccAddressChanged = [&] { ++refreshed; };
     m.answer({112, 5, 2 + 4 + 8}); // 125ms, inverted basic packet state, address 0 allowed
@@ -72,7 +73,8 @@ TEST_F(GeneralCommands, DccAddressIsSixBitsLowAndTheRestHighBothWays) {
     EXPECT_EQ(m.requests, (std::vector<Data>{{96, 5, 2 + 8}, {96, 4, 10, 3}, {96, 12, 5, 1}}));
 }
 
-TEST_F(GeneralCommands, DccReaderGoesOnAfterContentErrorsAndStopsWithoutReply) {
+TEST_F(GeneralCommands, DccReaderGoesOnAfterContentErrorsAndStopsWithoutReply)
+{
     m.answer({112, 5});              // length 2
     m.answer({112, 3, 10, 3});       // wrong echo
     m.answer({112, 12, 5});          // length 3
@@ -99,7 +101,8 @@ TEST_F(GeneralCommands, DccReaderGoesOnAfterContentErrorsAndStopsWithoutReply) {
 
 // ---- Serial addressing ----
 
-TEST_F(GeneralCommands, SerialAddressingNativeBitOnlyCountsWithFlexAddressingOff) {
+TEST_F(GeneralCommands, SerialAddressingNativeBitOnlyCountsWithFlexAddressingOff)
+{
     int refreshed = 0;
     s.onPinAddressDisplayChanged = [&] { ++refreshed; };
     s.config.NumberingBase = 1;
@@ -128,7 +131,8 @@ TEST_F(GeneralCommands, SerialAddressingNativeBitOnlyCountsWithFlexAddressingOff
     EXPECT_TRUE(messages().empty());
 }
 
-TEST_F(GeneralCommands, SerialAddressingMessagesAndGoingOn) {
+TEST_F(GeneralCommands, SerialAddressingMessagesAndGoingOn)
+{
     m.answer({112, 8, 0});             // length 3
     m.answer({112, 9, 5});             // wrong echo
     m.answer({112, 3, 0, 0, 0, 0, 0}); // length 7
@@ -138,7 +142,8 @@ TEST_F(GeneralCommands, SerialAddressingMessagesAndGoingOn) {
                                                     "No valid response, size = 7 expected = 6"}));
 }
 
-TEST_F(GeneralCommands, SerialAddressingWritesChainOnSuccess) {
+TEST_F(GeneralCommands, SerialAddressingWritesChainOnSuccess)
+{
     g.CheckGenKestrelNative = 1;
     g.LynxFlexAddress = 9;
     g.ExtendedAddress = 33;
@@ -159,7 +164,8 @@ TEST_F(GeneralCommands, SerialAddressingWritesChainOnSuccess) {
     EXPECT_EQ(messages(), (std::vector<std::string>{"Select communications port"}));
 }
 
-TEST_F(GeneralCommands, FlexAddressingWarningUnlessSuppressed) {
+TEST_F(GeneralCommands, FlexAddressingWarningUnlessSuppressed)
+{
     m.dialogs.answers = {Answer::Cancel};
     g.CheckGenLynxaddr = 1;
     CheckGenLynxaddr_Click(s);
@@ -197,7 +203,8 @@ TEST_F(GeneralCommands, FlexAddressingWarningUnlessSuppressed) {
 
 // ---- Hardware configuration ----
 
-TEST_F(GeneralCommands, HardwareConfigurationBadByteStopsAndKeepsEarlierGroupsOtherErrorsAreOnlyTold) {
+TEST_F(GeneralCommands, HardwareConfigurationBadByteStopsAndKeepsEarlierGroupsOtherErrorsAreOnlyTold)
+{
     g.ChkGenHWCSink = {0, 1, 0, 1};
     g.ChkGenHWCSource = {0, 0, 0, 1};
     m.answer({112, 1, 1, 2, 4, 0}); // group 2 carries 4
@@ -228,7 +235,8 @@ TEST_F(GeneralCommands, HardwareConfigurationBadByteStopsAndKeepsEarlierGroupsOt
 
 // ---- LED control ----
 
-TEST_F(GeneralCommands, LedByteZeroMeansElementSevenAndBitSevenIsIgnored) {
+TEST_F(GeneralCommands, LedByteZeroMeansElementSevenAndBitSevenIsIgnored)
+{
     g.CheckLCGreen = {1, 1, 1, 1, 1, 1, 1, 0};
     g.CheckLCOrange = {1, 0, 1, 0, 1, 0, 1, 1};
     m.answer({112, 6, 0});
@@ -275,7 +283,8 @@ struct MultiFrameWriter {
 };
 } // namespace
 
-TEST_F(GeneralCommands, MultiFrameWritersSendEveryFrameUnlessTheyChainOnSuccess) {
+TEST_F(GeneralCommands, MultiFrameWritersSendEveryFrameUnlessTheyChainOnSuccess)
+{
     g.OptGenDCC_PRP = 1;
     g.TextGenDCCAddress = "202"; // low 10, high 3
     g.TextGenXDCCAddress = "69"; // low 5, high 1
@@ -312,7 +321,8 @@ TEST_F(GeneralCommands, MultiFrameWritersSendEveryFrameUnlessTheyChainOnSuccess)
 
 // ---- The module's serial port ----
 
-TEST_F(GeneralCommands, SerialPortLineByteAndParityCodes) {
+TEST_F(GeneralCommands, SerialPortLineByteAndParityCodes)
+{
     // Baud code 4 ("38400"), 8 = data bits index 1, 32 = parity 2, 64 = stop index 1.
     m.answer({112, 13, 1, 4 + 8 + 32 + 64});
     EXPECT_TRUE(ReadSerialPortSettings(s));
@@ -352,7 +362,8 @@ const std::string kEraseSecond =
     "Do you want to cancel this operation?";
 } // namespace
 
-TEST_F(GeneralCommands, EraseAsksTwiceAndOkAtTheSecondQuestionCancels) {
+TEST_F(GeneralCommands, EraseAsksTwiceAndOkAtTheSecondQuestionCancels)
+{
     m.dialogs.answers = {Answer::Cancel};
     EXPECT_FALSE(EraseFlash(s));
     m.dialogs.answers = {Answer::Ok, Answer::Ok};
@@ -364,7 +375,8 @@ TEST_F(GeneralCommands, EraseAsksTwiceAndOkAtTheSecondQuestionCancels) {
         std::tuple(kEraseFirst, kEraseSecond, Icon::Warning));
 }
 
-TEST_F(GeneralCommands, EraseSendsTheConfirmationWithoutWaitingAndRestoresBidirectional) {
+TEST_F(GeneralCommands, EraseSendsTheConfirmationWithoutWaitingAndRestoresBidirectional)
+{
     int changes = 0;
     s.link.onSettingsChanged = [&] { ++changes; };
     m.dialogs.answers = {Answer::Ok, Answer::Cancel};

@@ -4,7 +4,8 @@
 
 using namespace kestrel;
 
-TEST(JobDispatcher, RunsTheLastRequestOnceAndDropsUnknownNames) {
+TEST(JobDispatcher, RunsTheLastRequestOnceAndDropsUnknownNames)
+{
     JobDispatcher d;
     std::vector<std::string> ran;
     d.add(Jobs::ReadAll, [&] { ran.push_back("ReadAll"); });
@@ -23,7 +24,8 @@ TEST(JobDispatcher, RunsTheLastRequestOnceAndDropsUnknownNames) {
     EXPECT_EQ(ran.size(), 1u);
 }
 
-TEST(JobDispatcher, TickDuringAJobDoesNothingAndAFailingJobStillClears) {
+TEST(JobDispatcher, TickDuringAJobDoesNothingAndAFailingJobStillClears)
+{
     JobDispatcher d;
     int inner = 0;
     d.add(Jobs::VerifyAll, [&] {

@@ -1,8 +1,8 @@
+#include "pins/PinConfig.h"
 #include "forms/PinConfigView.h"
 #include "forms/PinEdits.h"
 #include "ops/LiveOutput.h"
 #include "ops/PinConfigTransfer.h"
-#include "pins/PinConfig.h"
 #include "support/ScriptedModule.h"
 
 #include <gtest/gtest.h>
@@ -10,7 +10,8 @@
 using namespace kestrel;
 using namespace kestrel::test;
 
-TEST(ReadPinConfig, ActiveReplyPutsSecondByteIntoOutputValueFlashIntoP1) {
+TEST(ReadPinConfig, ActiveReplyPutsSecondByteIntoOutputValueFlashIntoP1)
+{
     for (int source : {0, 1}) {
         ScriptedModule rig;
         rig.session.link.settings.CheckKestrelBD = false; // a read switches it on
@@ -26,7 +27,8 @@ TEST(ReadPinConfig, ActiveReplyPutsSecondByteIntoOutputValueFlashIntoP1) {
     }
 }
 
-TEST(ReadPinConfig, ModeChangeClearsAndRepliesAreNormalised) {
+TEST(ReadPinConfig, ModeChangeClearsAndRepliesAreNormalised)
+{
     PinRecord pin;
     pin.ConfigMode = 2;
     pin.ConfigParams.fill(9);
@@ -49,7 +51,8 @@ TEST(ReadPinConfig, ModeChangeClearsAndRepliesAreNormalised) {
     EXPECT_EQ(pin.P(2), 56);
 }
 
-TEST(ReadPinConfig, WrongPinOrCommandIsNoValidResponse) {
+TEST(ReadPinConfig, WrongPinOrCommandIsNoValidResponse)
+{
     ScriptedModule rig;
     rig.answer({'q', 8, 1, 64});
     rig.answer({'r', 7, 1, 64});
@@ -60,7 +63,8 @@ TEST(ReadPinConfig, WrongPinOrCommandIsNoValidResponse) {
     EXPECT_EQ(rig.dialogs.texts(), std::vector<std::string>(3, "No valid response"));
 }
 
-TEST(SendPinConfig, EveryModeWithItsSizeAndValue) {
+TEST(SendPinConfig, EveryModeWithItsSizeAndValue)
+{
     ScriptedModule rig;
     rig.session.link.settings.CheckKestrelBD = false;
     PinRecord& pin = rig.session.config.Pins[2];
@@ -85,7 +89,8 @@ TEST(SendPinConfig, EveryModeWithItsSizeAndValue) {
                                              {'A', 2, 0}}));
 }
 
-TEST(LiveOutput, ServoAndPwmSubCommands) {
+TEST(LiveOutput, ServoAndPwmSubCommands)
+{
     ScriptedModule rig;
     rig.session.link.settings.CheckKestrelBD = false;
     rig.session.config.CurrentPin = 12;
@@ -103,7 +108,8 @@ TEST(LiveOutput, ServoAndPwmSubCommands) {
     EXPECT_EQ(rig.take(), expected);
 }
 
-TEST(PinEdits, BoxesClampToTheirRangesAndStoreTheirEncoding) {
+TEST(PinEdits, BoxesClampToTheirRangesAndStoreTheirEncoding)
+{
     struct Case {
         PinField field;
         const char* typed;
@@ -135,7 +141,8 @@ TEST(PinEdits, BoxesClampToTheirRangesAndStoreTheirEncoding) {
               std::tuple("127", "99", 127, 0));
 }
 
-TEST(ShowPinConfig, PagesControlsAndHardwareWarning) {
+TEST(ShowPinConfig, PagesControlsAndHardwareWarning)
+{
     Configuration config;
     GeneralSettings general;
     config.CurrentPin = 9;

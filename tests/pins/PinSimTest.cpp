@@ -10,7 +10,8 @@ using namespace kestrel::test;
 namespace {
 
 // Pins 4 and 5 with something in every field that pin transfer carries.
-void fillPins(Configuration& config) {
+void fillPins(Configuration& config)
+{
     PinRecord& a = config.Pins[4];
     a.AspectLayout = 3;
     a.InitAspect = 2;
@@ -29,7 +30,8 @@ void fillPins(Configuration& config) {
     b.ConfigParams = {10, 1, 5, 0, 31, 0, 0, 0, 0, 0, 0, 0};
 }
 
-std::vector<std::string> reportLines(const Session& session) {
+std::vector<std::string> reportLines(const Session& session)
+{
     std::vector<std::string> lines;
     const std::string& t = session.report.txtVerification;
     for (std::size_t at = 0, end; (end = t.find("\r\n", at)) != std::string::npos; at = end + 2)
@@ -48,7 +50,8 @@ public:
 
 } // namespace
 
-TEST(PinTransferSim, WriteThenReadGivesThePinsBack) {
+TEST(PinTransferSim, WriteThenReadGivesThePinsBack)
+{
     SimSession rig;
     fillPins(rig.session.config);
     ASSERT_TRUE(WritePin(rig.session, 4, true));
@@ -75,7 +78,8 @@ TEST(PinTransferSim, WriteThenReadGivesThePinsBack) {
     EXPECT_TRUE(rig.dialogs.messages.empty());
 }
 
-TEST(PinTransferSim, VerifyReportsEachDifferenceOnceConfigurationFirst) {
+TEST(PinTransferSim, VerifyReportsEachDifferenceOnceConfigurationFirst)
+{
     SimSession rig;
     fillPins(rig.session.config);
     rig.session.config.Pins[11].ConfigMode = 2; // PWM whose module answers only five bytes
@@ -115,7 +119,8 @@ TEST(PinTransferSim, VerifyReportsEachDifferenceOnceConfigurationFirst) {
                                         }));
 }
 
-TEST(PinTransferSim, VerifyWrongAndMissingReplies) {
+TEST(PinTransferSim, VerifyWrongAndMissingReplies)
+{
     SimSession rig;
     rig.module.faults.refuse(118, sim::Refusal::WrongEcho, 2);
     rig.module.faults.refuse(113, sim::Refusal::NoReply, 3);
@@ -127,7 +132,8 @@ TEST(PinTransferSim, VerifyWrongAndMissingReplies) {
                   "No valid response"}));
 }
 
-TEST(PinTransferSim, DeviceIsItsHeadAndTheFollowingPinsThatPointAtIt) {
+TEST(PinTransferSim, DeviceIsItsHeadAndTheFollowingPinsThatPointAtIt)
+{
     SimSession rig;
     for (int p = 3; p <= 7; ++p)
         rig.modulePin(p).aspectLayout = 3;
@@ -175,7 +181,8 @@ TEST(PinTransferSim, DeviceIsItsHeadAndTheFollowingPinsThatPointAtIt) {
     EXPECT_EQ(rig.dialogs.texts(), (std::vector<std::string>{"Cannot read DevicePointer from Pin 7"}));
 }
 
-TEST(PinTransferSim, AllPinsReportProgressAndStopWhenCancelled) {
+TEST(PinTransferSim, AllPinsReportProgressAndStopWhenCancelled)
+{
     SimSession rig;
     CancelAt progress(3);
     rig.session.link.setProgress(&progress);

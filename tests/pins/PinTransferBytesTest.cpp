@@ -13,7 +13,8 @@ using Frames = std::vector<std::vector<int>>;
 // Replies for a layout-2 pin whose steps are all empty except the given code bytes in
 // aspect 0, then the initial aspect entry and the three address bytes.
 void scriptPinRead(ScriptedModule& rig, int pin, std::vector<int> codes, int initEntry,
-                   std::vector<int> address) {
+                   std::vector<int> address)
+{
     rig.answer({114, pin, 2});
     for (int a = 0; a < 12; ++a)
         for (int s = 0; s < 3; ++s) {
@@ -26,7 +27,8 @@ void scriptPinRead(ScriptedModule& rig, int pin, std::vector<int> codes, int ini
 
 } // namespace
 
-TEST(PinRead, CodeBytesFadeAndAspectMajorOrder) {
+TEST(PinRead, CodeBytesFadeAndAspectMajorOrder)
+{
     ScriptedModule rig;
     scriptPinRead(rig, 5, {0x13, 0x12, 0x43}, 0x73, {0x02, 0x11, 0x40});
     ASSERT_TRUE(PAspReadPin(rig.session, 5));
@@ -49,7 +51,8 @@ TEST(PinRead, CodeBytesFadeAndAspectMajorOrder) {
     EXPECT_EQ(f[38], (std::vector<int>{118, 5}));
 }
 
-TEST(PinRead, AddressBytesInAnyOrderAndDevicePointer) {
+TEST(PinRead, AddressBytesInAnyOrderAndDevicePointer)
+{
     struct Case {
         int pin;
         std::vector<int> bytes;
@@ -68,7 +71,8 @@ TEST(PinRead, AddressBytesInAnyOrderAndDevicePointer) {
     }
 }
 
-TEST(PinRead, LayoutOtherThanTwoOrThreeReadsNoStepsAndBadRepliesFail) {
+TEST(PinRead, LayoutOtherThanTwoOrThreeReadsNoStepsAndBadRepliesFail)
+{
     ScriptedModule rig;
     rig.answer({114, 3, 5});
     rig.answer({116, 3, 0x65, 0x0F, 0x1F, 0x2F, 0x3F}); // tag 6: no initial aspect
@@ -88,7 +92,8 @@ TEST(PinRead, LayoutOtherThanTwoOrThreeReadsNoStepsAndBadRepliesFail) {
     EXPECT_EQ(echo.dialogs.texts(), (std::vector<std::string>{"No valid response"}));
 }
 
-TEST(PinWrite, ExactRequestsAndPacingWhenOneWay) {
+TEST(PinWrite, ExactRequestsAndPacingWhenOneWay)
+{
     ScriptedModule rig;
     rig.session.link.settings.CheckKestrelBD = false;
     PinRecord& pin = rig.session.config.Pins[30];

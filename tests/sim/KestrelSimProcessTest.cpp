@@ -14,7 +14,8 @@ namespace {
 using Bytes = std::vector<std::uint8_t>;
 
 // Opens the pseudo-terminal raw, writes `out` and collects up to `expect` bytes (3 s at most).
-Bytes exchange(const std::string& path, const Bytes& out, std::size_t expect) {
+Bytes exchange(const std::string& path, const Bytes& out, std::size_t expect)
+{
     const int fd = open(path.c_str(), O_RDWR | O_NOCTTY);
     EXPECT_GE(fd, 0) << path;
     if (fd < 0)
@@ -41,7 +42,8 @@ Bytes exchange(const std::string& path, const Bytes& out, std::size_t expect) {
 
 } // namespace
 
-TEST(KestrelSimProcess, AnswersThroughItsPseudoTerminalAcrossReopen) {
+TEST(KestrelSimProcess, AnswersThroughItsPseudoTerminalAcrossReopen)
+{
     kestrel::test::SimProcess sim({"--address", "2", "--version", "9.8.7.6", "--pace-baud", "38400"});
     // Burst, empty frame to address 2 (11, 192, 192 - 11), then Request Version with
     // toggle 64: 75, 226, 240, 128 and check 75 + 98 + 112 = 285 = 2 * 128 + 29 -> 99 + 128.

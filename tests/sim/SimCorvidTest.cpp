@@ -14,7 +14,8 @@ using Bytes = std::vector<std::uint8_t>;
 
 namespace {
 
-Bytes feed(SimEndpoint& e, const Bytes& bytes) {
+Bytes feed(SimEndpoint& e, const Bytes& bytes)
+{
     for (auto b : bytes)
         e.write(b);
     Bytes out;
@@ -24,7 +25,8 @@ Bytes feed(SimEndpoint& e, const Bytes& bytes) {
 }
 
 // Data of one Corvid answer; checks header form, length and check byte.
-Bytes answerData(const Bytes& frame) {
+Bytes answerData(const Bytes& frame)
+{
     EXPECT_FALSE(frame.empty());
     if (frame.empty())
         return {};
@@ -44,21 +46,24 @@ Bytes answerData(const Bytes& frame) {
 struct Rig {
     SimBus bus;
     SimCorvid corvid{bus};
-    Bytes exchange(const std::vector<int>& data, bool toggle = false) {
+    Bytes exchange(const std::vector<int>& data, bool toggle = false)
+    {
         return answerData(feed(corvid, corvidRequest(data, toggle)));
     }
 };
 
 } // namespace
 
-TEST(SimCorvid, PollWithNothingPendingGetsAnEmptyFrameWithTheToggle) {
+TEST(SimCorvid, PollWithNothingPendingGetsAnEmptyFrameWithTheToggle)
+{
     Rig rig;
     // Header 40 + 64 = 104; check byte 128 + (128 - 104) = 152.
     EXPECT_EQ(feed(rig.corvid, {104, 152}), (Bytes{104, 152}));
     EXPECT_EQ(feed(rig.corvid, {40, 216}), (Bytes{40, 216}));
 }
 
-TEST(SimCorvid, SystemVersionAndInterfaceUnit) {
+TEST(SimCorvid, SystemVersionAndInterfaceUnit)
+{
     Rig rig;
     rig.corvid.setSystemVersion(6045);
     EXPECT_EQ(rig.exchange({1, 2}), (Bytes{1, 2, 0x30, 0x25}));
@@ -73,7 +78,8 @@ TEST(SimCorvid, SystemVersionAndInterfaceUnit) {
     EXPECT_THROW(encodeCorvidVersion(1029), std::invalid_argument);
 }
 
-TEST(SimCorvid, TunnelledRequestIsAnsweredOnALaterPoll) {
+TEST(SimCorvid, TunnelledRequestIsAnsweredOnALaterPoll)
+{
     Rig rig;
     rig.bus.addModule(0, std::nullopt, {1, 2, 3, 4});
     EXPECT_TRUE(rig.exchange({0, 96, 96, 112, 0}).empty());
@@ -91,7 +97,8 @@ TEST(SimCorvid, TunnelledRequestIsAnsweredOnALaterPoll) {
     EXPECT_EQ(rig.exchange({}).size(), 9u);
 }
 
-TEST(SimCorvid, TunnelReachesHighAddressesAndExtendedAddresses) {
+TEST(SimCorvid, TunnelReachesHighAddressesAndExtendedAddresses)
+{
     Rig rig;
     rig.bus.addModule(20, 17);
     rig.exchange({0, 116, 112, 17, 114, 3});
@@ -102,7 +109,8 @@ TEST(SimCorvid, TunnelReachesHighAddressesAndExtendedAddresses) {
     EXPECT_EQ(rig.corvid.pendingReplies(), 0u);
 }
 
-TEST(SimCorvid, TunnelledWritesChangeTheModuleAndAreAcknowledged) {
+TEST(SimCorvid, TunnelledWritesChangeTheModuleAndAreAcknowledged)
+{
     Rig rig;
     SimModule& m = rig.bus.addModule(3);
     rig.exchange({0, 99, 96, 96, 10, 'Y', 'a', 'r', 'd'});
@@ -110,7 +118,8 @@ TEST(SimCorvid, TunnelledWritesChangeTheModuleAndAreAcknowledged) {
     EXPECT_EQ(rig.exchange({}), (Bytes{0, 99, 98, 96, 10}));
 }
 
-TEST(SimCorvid, TransparentModePassesBytesThrough) {
+TEST(SimCorvid, TransparentModePassesBytesThrough)
+{
     Rig rig;
     rig.bus.addModule(0);
     EXPECT_EQ(rig.exchange({1, 5, 16}), (Bytes{1, 5, 16}));
@@ -122,7 +131,8 @@ TEST(SimCorvid, TransparentModePassesBytesThrough) {
               (Bytes{67, 230, 240, 128, 129, 130, 131, 132, 221}));
 }
 
-TEST(SimCorvid, DamagedFramesAndFaults) {
+TEST(SimCorvid, DamagedFramesAndFaults)
+{
     Rig rig;
     Bytes poll = corvidRequest({});
     poll.back() ^= 1;
@@ -138,7 +148,8 @@ TEST(SimCorvid, DamagedFramesAndFaults) {
     EXPECT_EQ(rig.exchange({1, 2}).size(), 4u);
 }
 
-TEST(SimCorvid, LongRequestHeaderForms) {
+TEST(SimCorvid, LongRequestHeaderForms)
+{
     Rig rig;
     rig.bus.addModule(1);
     // Sixteen data bytes: header 16 (bit 4 set, bit 3 clear). The servo send to flash.

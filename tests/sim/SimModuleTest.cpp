@@ -10,7 +10,8 @@ using Bytes = std::vector<std::uint8_t>;
 
 namespace {
 
-Bytes feed(SimBus& bus, const Bytes& bytes) {
+Bytes feed(SimBus& bus, const Bytes& bytes)
+{
     for (auto b : bytes)
         bus.write(b);
     Bytes out;
@@ -20,7 +21,8 @@ Bytes feed(SimBus& bus, const Bytes& bytes) {
 }
 
 // Data bytes (7-bit) of a single reply frame without eXtended address; checks framing.
-Bytes replyData(const Bytes& frame) {
+Bytes replyData(const Bytes& frame)
+{
     EXPECT_GE(frame.size(), 3u);
     EXPECT_TRUE(sumsToZero(frame));
     const int n = frame[1] & 15;
@@ -31,7 +33,8 @@ Bytes replyData(const Bytes& frame) {
     return data;
 }
 
-Bytes ask(SimBus& bus, int address, const std::vector<int>& data) {
+Bytes ask(SimBus& bus, int address, const std::vector<int>& data)
+{
     return replyData(feed(bus, busRequest(address, 0, data)));
 }
 
@@ -39,7 +42,8 @@ Bytes ask(SimBus& bus, int address, const std::vector<int>& data) {
 
 // ---- framing and addressing ----
 
-TEST(SimModuleFraming, VersionRequestWorkedExampleAfterBurstAndEmptyFrame) {
+TEST(SimModuleFraming, VersionRequestWorkedExampleAfterBurstAndEmptyFrame)
+{
     SimBus bus;
     SimModule& m = bus.addModule(0);
     EXPECT_TRUE(feed(bus, {0, 0, 0, 255, 255, 255, 170, 170, 170, 3, 192, 189}).empty());
@@ -54,7 +58,8 @@ TEST(SimModuleFraming, VersionRequestWorkedExampleAfterBurstAndEmptyFrame) {
     EXPECT_EQ(m.stats().checksumErrors, 1);
 }
 
-TEST(SimModuleFraming, AnswersOnlyItsOwnAddressWithTheToggleEchoed) {
+TEST(SimModuleFraming, AnswersOnlyItsOwnAddressWithTheToggleEchoed)
+{
     SimBus bus;
     bus.addModule(2);
     bus.addModule(5);
@@ -71,7 +76,8 @@ TEST(SimModuleFraming, AnswersOnlyItsOwnAddressWithTheToggleEchoed) {
     EXPECT_TRUE(feed(bus, busRequest(2, 0, {114, 32})).empty());
 }
 
-TEST(SimModuleFraming, WithoutBidirectionalBitWritesApplyButNothingIsSent) {
+TEST(SimModuleFraming, WithoutBidirectionalBitWritesApplyButNothingIsSent)
+{
     SimBus bus;
     SimModule& m = bus.addModule(0);
     EXPECT_TRUE(feed(bus, busRequest(0, 0, {96, 6, 5}, false)).empty());
@@ -79,7 +85,8 @@ TEST(SimModuleFraming, WithoutBidirectionalBitWritesApplyButNothingIsSent) {
     EXPECT_TRUE(feed(bus, busRequest(0, 0, {112, 6}, false)).empty());
 }
 
-TEST(SimModuleFraming, ExtendedAddressMatchMismatchAndReaddressing) {
+TEST(SimModuleFraming, ExtendedAddressMatchMismatchAndReaddressing)
+{
     SimBus bus;
     bus.addModule(1, 17);
     bus.addModule(1); // same bus address, no eXtended address
@@ -99,7 +106,8 @@ TEST(SimModuleFraming, ExtendedAddressMatchMismatchAndReaddressing) {
 
 // ---- general settings (each item's round trip runs in the fault matrix) ----
 
-TEST(SimModuleGeneral, WritesWithTheWrongLengthChangeNothing) {
+TEST(SimModuleGeneral, WritesWithTheWrongLengthChangeNothing)
+{
     SimBus bus;
     SimModule& m = bus.addModule(0);
     EXPECT_TRUE(feed(bus, busRequest(0, 0, {96, 1, 1, 2, 3})).empty());
@@ -110,7 +118,8 @@ TEST(SimModuleGeneral, WritesWithTheWrongLengthChangeNothing) {
     EXPECT_EQ(ask(bus, 0, {112, 10}), (Bytes{112, 10})); // empty ID string: length 2
 }
 
-TEST(SimModuleGeneral, EraseNeedsTheConfirmationAndKeepsTheVersion) {
+TEST(SimModuleGeneral, EraseNeedsTheConfirmationAndKeepsTheVersion)
+{
     SimBus bus;
     SimModule& m = bus.addModule(0, std::nullopt, {3, 1, 0, 9});
     m.memory().idString = "Yard";
@@ -127,7 +136,8 @@ TEST(SimModuleGeneral, EraseNeedsTheConfirmationAndKeepsTheVersion) {
 
 // ---- pins ----
 
-TEST(SimModulePins, StepBytesAreKeptByteForByte) {
+TEST(SimModulePins, StepBytesAreKeptByteForByte)
+{
     SimBus bus;
     bus.addModule(0);
     // Instruction 4 with Par1 = 200, Par2 = 5 travels as 1, 72, 5; code 0x13 = 3 faded.
@@ -142,7 +152,8 @@ TEST(SimModulePins, StepBytesAreKeptByteForByte) {
     EXPECT_EQ(ask(bus, 0, {114, 5}), (Bytes{114, 5, 3}));
 }
 
-TEST(SimModulePins, AddressConfigurationTagsInAnyOrder) {
+TEST(SimModulePins, AddressConfigurationTagsInAnyOrder)
+{
     SimBus bus;
     SimModule& m = bus.addModule(0);
     // Pin 30, device starting at pin 1: offset (1 - 30) & 31 = 3, sent 64 + 3; the bytes
@@ -161,7 +172,8 @@ TEST(SimModulePins, AddressConfigurationTagsInAnyOrder) {
     EXPECT_EQ(m.memory().pins[30].lynxCount, 4);
 }
 
-TEST(SimModulePins, InitialAspectAndEventSlots) {
+TEST(SimModulePins, InitialAspectAndEventSlots)
+{
     SimBus bus;
     bus.addModule(0);
     // Factory: no initial aspect (127) and no actions (slot * 16 + 15).
@@ -176,7 +188,8 @@ TEST(SimModulePins, InitialAspectAndEventSlots) {
     EXPECT_EQ(ask(bus, 0, {116, 9})[2], 127);
 }
 
-TEST(SimModulePins, PinConfigurationPerModeInFlashAndActive) {
+TEST(SimModulePins, PinConfigurationPerModeInFlashAndActive)
+{
     SimBus bus;
     SimModule& m = bus.addModule(0);
     const std::vector<int> servo{97, 4, 1, 70, 43, 64, 10, 20, 30, 40, 66, 5, 60, 7};
@@ -202,7 +215,8 @@ TEST(SimModulePins, PinConfigurationPerModeInFlashAndActive) {
 
 // The fault switches whose effect the client must shrug off: the fault matrix would pass
 // if they did nothing, so their bytes are checked here.
-TEST(SimModuleFaults, CorruptedCopyAndGarbageBeforeTheGoodReply) {
+TEST(SimModuleFaults, CorruptedCopyAndGarbageBeforeTheGoodReply)
+{
     SimBus bus;
     SimModule& m = bus.addModule(0);
     const Bytes good{67, 230, 240, 128, 129, 130, 131, 132, 221};

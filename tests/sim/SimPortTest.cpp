@@ -11,7 +11,8 @@ using namespace kestrel::sim;
 using kestrel::sim::test::busRequest;
 using Bytes = std::vector<std::uint8_t>;
 
-TEST(SimFraming, RunningSumCheckSatisfiesTheReceiverRule) {
+TEST(SimFraming, RunningSumCheckSatisfiesTheReceiverRule)
+{
     // Worked example: 67, 226, 240, 128 -> running sum 67, 37, 21, 149; 256 - 149 = 107,
     // below 128, so 235.
     const Bytes request{67, 226, 240, 128};
@@ -28,7 +29,8 @@ TEST(SimFraming, RunningSumCheckSatisfiesTheReceiverRule) {
     }
 }
 
-TEST(SimPort, ReplyIsReadableAsSoonAsTheFrameCompletes) {
+TEST(SimPort, ReplyIsReadableAsSoonAsTheFrameCompletes)
+{
     SimBus bus;
     bus.addModule(0);
     SimPort port(bus);
@@ -46,7 +48,8 @@ TEST(SimPort, ReplyIsReadableAsSoonAsTheFrameCompletes) {
     EXPECT_EQ(bus.stats().exchanges, 1);
 }
 
-TEST(SimPort, EmptyWaitReturnsAtOnceThroughTheHook) {
+TEST(SimPort, EmptyWaitReturnsAtOnceThroughTheHook)
+{
     SimBus bus;
     SimPort port(bus);
     port.open();
@@ -57,7 +60,8 @@ TEST(SimPort, EmptyWaitReturnsAtOnceThroughTheHook) {
     EXPECT_EQ(port.emptyWaits(), 1);
 }
 
-TEST(SimPort, SettingsOpenCloseAndVanishing) {
+TEST(SimPort, SettingsOpenCloseAndVanishing)
+{
     SimBus bus;
     bus.addModule(0);
     SimPort port(bus);

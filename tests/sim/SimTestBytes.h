@@ -13,7 +13,8 @@ using kestrel::test::sumsToZero;
 
 // A bus request to module `address` with toggle 0 or 64.
 inline Bytes busRequest(int address, int toggle, const std::vector<int>& data, bool bidirectional = true,
-                        std::optional<int> xaddress = std::nullopt) {
+                        std::optional<int> xaddress = std::nullopt)
+{
     Bytes f{static_cast<std::uint8_t>(address * 4 + 3 + toggle),
             static_cast<std::uint8_t>(192 + (bidirectional ? 32 : 0) + (xaddress ? 16 : 0) + data.size())};
     if (xaddress)
@@ -21,7 +22,8 @@ inline Bytes busRequest(int address, int toggle, const std::vector<int>& data, b
     return kestrel::test::frame(f, data);
 }
 
-inline Bytes corvidRequest(const std::vector<int>& data, bool toggle = false) {
+inline Bytes corvidRequest(const std::vector<int>& data, bool toggle = false)
+{
     return kestrel::test::corvidFrame<Bytes>(data, toggle);
 }
 

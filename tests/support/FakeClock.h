@@ -9,11 +9,13 @@ public:
     double now = 12 * 3600.0;
     bool wrapAtMidnight = false;
     double tick = 0; // seconds that pass at every reading (an exchange takes time on a real wire)
-    double secondsSinceMidnight() override {
+    double secondsSinceMidnight() override
+    {
         now += tick;
         return wrapAtMidnight && now >= 86400.0 ? now - 86400.0 : now;
     }
-    void sleepMs(int ms) override {
+    void sleepMs(int ms) override
+    {
         now += ms / 1000.0;
         slept += ms;
     }

@@ -12,7 +12,8 @@
 namespace kestrel::test {
 
 namespace {
-std::string readAll(int fd) {
+std::string readAll(int fd)
+{
     std::string out;
     char buf[4096];
     for (;;) {
@@ -27,7 +28,8 @@ std::string readAll(int fd) {
     return out;
 }
 
-std::vector<char*> argv(const std::string& program, const std::vector<std::string>& args) {
+std::vector<char*> argv(const std::string& program, const std::vector<std::string>& args)
+{
     std::vector<char*> v;
     v.push_back(const_cast<char*>(program.c_str()));
     for (const auto& a : args)
@@ -37,7 +39,8 @@ std::vector<char*> argv(const std::string& program, const std::vector<std::strin
 }
 } // namespace
 
-std::string binPath(const std::string& program) {
+std::string binPath(const std::string& program)
+{
     // KESTREL_BIN_DIR if set, else the folder of the running test (the build's bin/).
     if (const char* dir = std::getenv("KESTREL_BIN_DIR"))
         return std::string(dir) + "/" + program;
@@ -47,7 +50,8 @@ std::string binPath(const std::string& program) {
     return path.substr(0, path.rfind('/')) + "/" + program;
 }
 
-SimProcess::SimProcess(const std::vector<std::string>& args) {
+SimProcess::SimProcess(const std::vector<std::string>& args)
+{
     int outPipe[2], errPipe[2];
     if (pipe(outPipe) != 0 || pipe(errPipe) != 0)
         throw std::runtime_error("pipe failed");
@@ -77,11 +81,10 @@ SimProcess::SimProcess(const std::vector<std::string>& args) {
     }
 }
 
-SimProcess::~SimProcess() {
-    stop();
-}
+SimProcess::~SimProcess() { stop(); }
 
-std::string SimProcess::stop() {
+std::string SimProcess::stop()
+{
     std::string err;
     if (pid > 0) {
         kill(pid, SIGTERM);
@@ -97,7 +100,8 @@ std::string SimProcess::stop() {
     return err;
 }
 
-CommandResult runProgram(const std::string& program, const std::vector<std::string>& args) {
+CommandResult runProgram(const std::string& program, const std::vector<std::string>& args)
+{
     int outPipe[2], errPipe[2];
     if (pipe(outPipe) != 0 || pipe(errPipe) != 0)
         throw std::runtime_error("pipe failed");

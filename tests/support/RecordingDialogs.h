@@ -21,7 +21,8 @@ public:
     std::deque<std::string> fileNames;
 
     void message(const std::string& text, Icon icon) override { messages.push_back({text, icon}); }
-    Answer ask(const std::string& text, Buttons, Icon icon) override {
+    Answer ask(const std::string& text, Buttons, Icon icon) override
+    {
         questions.push_back({text, icon});
         if (answers.empty())
             return defaultAnswer;
@@ -29,26 +30,31 @@ public:
         answers.pop_front();
         return a;
     }
-    std::string openFileName(const std::string&, const std::string&, const std::string&) override {
+    std::string openFileName(const std::string&, const std::string&, const std::string&) override
+    {
         return next();
     }
-    std::string saveFileName(const std::string&, const std::string&, const std::string&) override {
+    std::string saveFileName(const std::string&, const std::string&, const std::string&) override
+    {
         return next();
     }
 
-    std::vector<std::string> texts() const {
+    std::vector<std::string> texts() const
+    {
         std::vector<std::string> out;
         for (const auto& m : messages)
             out.push_back(m.text);
         return out;
     }
-    void clear() {
+    void clear()
+    {
         messages.clear();
         questions.clear();
     }
 
 private:
-    std::string next() {
+    std::string next()
+    {
         if (fileNames.empty())
             return {};
         auto n = fileNames.front();

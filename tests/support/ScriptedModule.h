@@ -3,7 +3,6 @@
 // decoded into its data bytes (command, item or pin, values); a frame that asks for a
 // reply gets the next scripted reply, or silence; with nothing scripted it is
 // acknowledged with its first two bytes, as a module acknowledges a write.
-#include "session/Session.h"
 #include "FakeClock.h"
 #include "Frames.h"
 #include "RecordingDialogs.h"
@@ -28,14 +27,16 @@ struct ScriptedModule {
     std::vector<bool> waited;   // its bidirectional bit
     std::deque<std::optional<Data>> replies;
 
-    ScriptedModule() {
+    ScriptedModule()
+    {
         port.onWrite = [this](ScriptedPort&, int b) { onByte(b); };
     }
 
     void answer(Data data) { replies.push_back(std::move(data)); }
     void silence() { replies.push_back(std::nullopt); }
     // The requests so far, forgotten as they are handed out.
-    std::vector<Data> take() {
+    std::vector<Data> take()
+    {
         auto out = std::move(requests);
         requests.clear();
         waited.clear();
@@ -45,7 +46,8 @@ struct ScriptedModule {
     static Data replyFrame(int addressByte, const Data& data) { return moduleReply(addressByte, data); }
 
 private:
-    void onByte(int b) {
+    void onByte(int b)
+    {
         if (b < 128) {
             address = b;
             phase = Phase::Header;

@@ -31,7 +31,8 @@ public:
     void queue(std::vector<int> bytes) { chunks.push_back(std::move(bytes)); }
     void feed(const std::vector<int>& bytes) { input.insert(input.end(), bytes.begin(), bytes.end()); }
     // Takes and returns what was written so far.
-    std::vector<int> take() {
+    std::vector<int> take()
+    {
         auto out = written;
         written.clear();
         return out;
@@ -39,7 +40,8 @@ public:
 
     void select(const std::string& n) override { name = n; }
     std::string selected() const override { return name; }
-    bool open() override {
+    bool open() override
+    {
         if (failOpen)
             return false;
         opened = true;
@@ -49,7 +51,8 @@ public:
     bool isOpen() const override { return opened; }
     void setSettings(const std::string& s) override { settingsText = s; }
     std::string settings() const override { return settingsText; }
-    bool writeByte(std::uint8_t b) override {
+    bool writeByte(std::uint8_t b) override
+    {
         if (writesFail || !opened)
             return false;
         written.push_back(b);
@@ -58,14 +61,16 @@ public:
         return true;
     }
     int bytesWaiting() override { return static_cast<int>(input.size()); }
-    int readByte() override {
+    int readByte() override
+    {
         if (input.empty())
             return -1;
         const int b = input.front();
         input.pop_front();
         return b;
     }
-    bool waitForBytes(int timeoutMs) override {
+    bool waitForBytes(int timeoutMs) override
+    {
         ++waits;
         if (input.empty() && !chunks.empty()) {
             feed(chunks.front());
@@ -82,7 +87,8 @@ public:
     // Where in `written` each flush happened, and the last reply-length hint.
     std::vector<std::size_t> flushedAt;
     int hint = 0;
-    bool flush() override {
+    bool flush() override
+    {
         flushedAt.push_back(written.size());
         return opened && !writesFail;
     }

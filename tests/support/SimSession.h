@@ -24,7 +24,8 @@ struct SimSession {
     Session& session = *owned;
 
     // A new session on the same port, as after a restart of the program.
-    std::unique_ptr<Session> fresh() {
+    std::unique_ptr<Session> fresh()
+    {
         port.open();
         port.setWaitHook([this](int ms) { clock.advance(ms / 1000.0); });
         return std::make_unique<Session>(port, clock, dialogs);
@@ -34,7 +35,8 @@ struct SimSession {
 };
 
 // Every general setting away from its start-up value, in the form a read leaves it.
-inline GeneralSettings fullGeneralSettings() {
+inline GeneralSettings fullGeneralSettings()
+{
     GeneralSettings g;
     g.TextGenIDString = "Up Main 7";
     g.TextGenDCCAddress = "202";
@@ -68,7 +70,8 @@ inline GeneralSettings fullGeneralSettings() {
 
 // Every pin used: layouts 3, 2 and none in turn, every step of a layout filled, distinct
 // initial aspects, address counts and events, and one device of three pins (5 to 7).
-inline Configuration fullConfiguration() {
+inline Configuration fullConfiguration()
+{
     Configuration c;
     for (int p = 0; p < kPinCount; ++p) {
         auto& pin = c.pin(p);
