@@ -237,8 +237,9 @@ TEST(DataFileReading, InsOpSplitsOnlyFrom19To63)
     for (int i = 0; i < 7; ++i) {
         const StepRecord& st = l.config.Pins[2].Aspects[0].Steps[i];
         EXPECT_EQ(st.Instruction, want[i][0]) << i;
-        if (i != 2 && i != 3)
+        if (i != 2 && i != 3) {
             EXPECT_EQ(st.Fade, want[i][1]) << i;
+        }
     }
 }
 
