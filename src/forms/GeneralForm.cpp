@@ -3,24 +3,6 @@
 #include "session/Session.h"
 
 namespace kestrel {
-namespace {
-// The module has new addresses to show, or a new serial addressing mode: the window
-// refreshes what shows them.
-void dccAddressChanged(Session& s)
-{
-    if (s.onDccAddressChanged)
-        s.onDccAddressChanged();
-}
-
-void pinAddressDisplayChanged(Session& s)
-{
-    if (s.onPinAddressDisplayChanged)
-        s.onPinAddressDisplayChanged();
-}
-} // namespace
-} // namespace kestrel
-
-namespace kestrel {
 
 void CheckGenLynxaddr_Click(Session& session)
 {
@@ -34,16 +16,16 @@ void CheckGenLynxaddr_Click(Session& session)
             g.CheckGenLynxaddr = 0;
     }
     applyAddressingVisibility(g);
-    pinAddressDisplayChanged(session);
+    session.pinAddressDisplayChanged();
 }
 
 void CheckGenKestrelNative_Click(Session& session)
 {
     auto& g = session.general;
     g.CheckGenLynxaddrVisible = g.CheckGenKestrelNative != 1;
-    pinAddressDisplayChanged(session);
+    session.pinAddressDisplayChanged();
 }
 
-void ChkGenDCCAllow0_Click(Session& session) { dccAddressChanged(session); }
+void ChkGenDCCAllow0_Click(Session& session) { session.dccAddressChanged(); }
 
 } // namespace kestrel

@@ -31,18 +31,6 @@ std::string msgMessage(Session& s, int item)
            " expected = 112," + std::to_string(item);
 }
 
-void dccAddressChanged(Session& s)
-{
-    if (s.onDccAddressChanged)
-        s.onDccAddressChanged();
-}
-
-void pinAddressDisplayChanged(Session& s)
-{
-    if (s.onPinAddressDisplayChanged)
-        s.onPinAddressDisplayChanged();
-}
-
 int bit(int value, int k) { return (value >> k) & 1; }
 
 } // namespace
@@ -114,7 +102,7 @@ bool ReadDCCSettings(Session& session)
         say(session, "Get DCC Address: No valid response");
     else {
         g.TextGenDCCAddress = std::to_string(reply(session)[5] * 64 + reply(session)[4]);
-        dccAddressChanged(session);
+        session.dccAddressChanged();
     }
 
     if (!requestItem(session, kItemXDccAddress))
@@ -123,7 +111,7 @@ bool ReadDCCSettings(Session& session)
         say(session, "No valid response");
     else {
         g.TextGenXDCCAddress = std::to_string(reply(session)[5] * 64 + reply(session)[4]);
-        dccAddressChanged(session);
+        session.dccAddressChanged();
     }
     return true;
 }
@@ -177,7 +165,7 @@ bool ReadSerialAddressing(Session& session)
         }
         g.TextGenLynxaddr = std::to_string(g.LynxFlexAddress * 4 + base);
         applyAddressingVisibility(g);
-        pinAddressDisplayChanged(session);
+        session.pinAddressDisplayChanged();
     }
 
     if (!requestItem(session, kItemExtendedAddress))

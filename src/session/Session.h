@@ -97,6 +97,17 @@ public:
     std::function<void()> onDccAddressChanged;
     // The serial addressing mode changed: refresh the address display of the pin list.
     std::function<void()> onPinAddressDisplayChanged;
+    // Tell the observers above, when there are any.
+    void dccAddressChanged()
+    {
+        if (onDccAddressChanged)
+            onDccAddressChanged();
+    }
+    void pinAddressDisplayChanged()
+    {
+        if (onPinAddressDisplayChanged)
+            onPinAddressDisplayChanged();
+    }
     // Verify All has written its report: show the verification window.
     std::function<void()> onShowVerification;
 };
