@@ -352,6 +352,12 @@ HelpToolKind helpToolFor(const StepRecord& step, HelpBox box, UserDialogs& dialo
             return HelpToolKind::EventPattern;
         break;
     }
+    if (box != HelpBox::Time) {
+        const int parameter = box == HelpBox::Par1 ? 1 : box == HelpBox::Par2 ? 2 : 3;
+        const InstructionInfo& info = instructionInfo(step.Instruction);
+        if (info.used(parameter) && info.caption(parameter) == "Level")
+            return HelpToolKind::Level;
+    }
     dialogs.message("Help tool not available for this box with the selected command");
     return HelpToolKind::None;
 }

@@ -145,9 +145,12 @@ NumberingView setNumbering(Configuration& config, bool checked);
 
 // Double-click on a box of a step row.
 enum class HelpBox { Time, Par1, Par2, Par3 };
-enum class HelpToolKind { None, Time, Pattern, EventPattern };
+enum class HelpToolKind { None, Time, Pattern, EventPattern, Level };
 // The tool to open; None after telling the user
-// "Help tool not available for this box with the selected command".
+// "Help tool not available for this box with the selected command". Besides the time,
+// pattern and event-pattern tools that the instruction's HelpTool names, every parameter
+// box captioned "Level" offers the level tool (its value is then taken as if typed, so
+// it keeps the box's range).
 HelpToolKind helpToolFor(const StepRecord& step, HelpBox box, UserDialogs& dialogs);
 HelpToolKind helpToolForRow(Configuration& config, int row, HelpBox box, UserDialogs& dialogs);
 

@@ -36,6 +36,8 @@ struct Jobs {
     static constexpr JobName ECWriteAll{"ECWriteAll"};
     static constexpr JobName ECReadAll{"ECReadAll"};
     static constexpr JobName ECVerify{"ECVerify"};
+    // The aspect page's "Write Aspect": the selected aspect's steps only.
+    static constexpr JobName PAspWriteAspect{"PAspWriteAspect"};
 };
 
 // Long operations are not run in the button's handler: the handler shows the busy

@@ -148,6 +148,17 @@ bool readPinAspects(Session& session, int pin)
     return ok;
 }
 
+// Steps 0 .. steps-1 of one aspect (99), in order.
+bool writeSteps(Session& session, int pin, int aspect, int steps)
+{
+    for (int s = 0; s < steps; ++s) {
+        const auto b = encodeStep(session.config.step(pin, aspect, s));
+        if (!paced(session, session.link.send({kWriteStep, pin, aspect, s, b[0], b[1], b[2], b[3], b[4]})))
+            return false;
+    }
+    return true;
+}
+
 void reportStep(Session& session, int done, const std::string& what)
 {
     session.reportStep(done, kPinCount, what);
@@ -177,16 +188,26 @@ bool WritePin(Session& session, int pin, bool withPinConfig)
                link.send({kWriteAddrConfig, pin, counts, 16 + rec.LynxCount, 64 + (rec.DeviceOffset & 31)})))
         return false;
     const LayoutSlots slots = layoutSlots(rec.AspectLayout);
-    for (int a = 0; a < slots.aspects; ++a) {
-        for (int s = 0; s < slots.steps; ++s) {
-            const auto b = encodeStep(session.config.step(pin, a, s));
-            if (!paced(session, link.send({kWriteStep, pin, a, s, b[0], b[1], b[2], b[3], b[4]})))
-                return false;
-        }
-    }
+    for (int a = 0; a < slots.aspects; ++a)
+        if (!writeSteps(session, pin, a, slots.steps))
+            return false;
     if (withPinConfig && !paced(session, SendPinConfig(session, 1, pin)))
         return false;
     return true;
+}
+
+bool WriteAspect(Session& session, int pin, int aspect)
+{
+    const LayoutSlots slots = layoutSlots(session.config.pin(pin).AspectLayout);
+    if (aspect < 0 || aspect >= slots.aspects) {
+        session.dialogs().message("Pin " + shownPin(session, pin) + " has no aspect " +
+                                      std::to_string(aspect) + " in its layout: nothing was written",
+                                  Icon::Warning);
+        return false;
+    }
+    if (!sendable(session, unsendableAspect(session.config, pin, aspect)))
+        return false;
+    return writeSteps(session, pin, aspect, slots.steps);
 }
 
 bool ReadAllPins(Session& session)

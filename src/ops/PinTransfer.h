@@ -24,6 +24,11 @@ bool PAspReadPin(Session& session, int pin);
 // While CheckKestrelBD is unchecked each write is followed by a 100 ms pause.
 bool WritePin(Session& session, int pin, bool withPinConfig = false);
 
+// The aspect page's "Write Aspect": only the steps of one aspect (99, the layout's steps),
+// checked before the first byte. An aspect outside the pin's layout sends nothing and
+// says so.
+bool WriteAspect(Session& session, int pin, int aspect);
+
 // Pins 0 to 31 in order, stopping at the first failure; Progress::step before each pin.
 bool ReadAllPins(Session& session);
 bool WriteAllPins(Session& session, bool withPinConfig = false);

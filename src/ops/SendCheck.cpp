@@ -65,17 +65,28 @@ std::string unsendablePin(const Configuration& config, int p, bool withPinConfig
     if (!problem.empty())
         return withPlace(place, problem);
     const LayoutSlots slots = layoutSlots(r.AspectLayout);
-    for (int a = 0; a < slots.aspects; ++a)
-        for (int s = 0; s < slots.steps; ++s) {
-            problem = unsendableStep(config.step(p, a, s));
-            if (!problem.empty())
-                return withPlace(place + ", aspect " + std::to_string(a) + ", step " + std::to_string(s),
-                                 problem);
-        }
+    for (int a = 0; a < slots.aspects; ++a) {
+        problem = unsendableAspect(config, p, a);
+        if (!problem.empty())
+            return problem;
+    }
     return withPinConfig ? unsendablePinConfig(config, p, 1) : std::string();
 }
 
 } // namespace
+
+std::string unsendableAspect(const Configuration& config, int pin, int aspect)
+{
+    const LayoutSlots slots = layoutSlots(config.pin(pin).AspectLayout);
+    for (int s = 0; s < slots.steps; ++s) {
+        const std::string problem = unsendableStep(config.step(pin, aspect, s));
+        if (!problem.empty())
+            return withPlace(shownPin(config, pin) + ", aspect " + std::to_string(aspect) + ", step " +
+                                 std::to_string(s),
+                             problem);
+    }
+    return {};
+}
 
 std::vector<int> allPins()
 {

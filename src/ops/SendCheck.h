@@ -26,6 +26,8 @@ std::string unsendableGeneral(const GeneralSettings& g);
 // Layout, initial aspect, address configuration and the steps of the layout of each
 // pin; with withPinConfig also the pin configuration to flash.
 std::string unsendablePins(const Configuration& config, const std::vector<int>& pins, bool withPinConfig);
+// The steps of one aspect of a pin, as WriteAspect sends them.
+std::string unsendableAspect(const Configuration& config, int pin, int aspect);
 // The pin configuration as SendPinConfig(target, pin) sends it.
 std::string unsendablePinConfig(const Configuration& config, int pin, int target);
 // The Event-On and Event-Off entries of each pin.

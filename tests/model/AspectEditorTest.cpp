@@ -254,6 +254,7 @@ TEST(AspectEditor, NumberingAndHelpDecision)
     EXPECT_EQ(helpToolFor({13, 0, 0, 0, 0, 0}, HelpBox::Par1, dialogs), HelpToolKind::Pattern);
     EXPECT_EQ(helpToolFor({37, 0, 0, 0, 0, 0}, HelpBox::Par1, dialogs), HelpToolKind::Pattern);
     EXPECT_EQ(helpToolFor({16, 0, 0, 0, 0, 0}, HelpBox::Par1, dialogs), HelpToolKind::EventPattern);
+    EXPECT_EQ(helpToolFor({38, 0, 0, 0, 0, 0}, HelpBox::Par1, dialogs), HelpToolKind::Level); // "Set Level"
     EXPECT_TRUE(dialogs.messages.empty());
     EXPECT_EQ(helpToolFor({102, 0, 0, 0, 0, 0}, HelpBox::Par1, dialogs), HelpToolKind::None);
     EXPECT_EQ(helpToolFor({13, 0, 0, 0, 0, 0}, HelpBox::Par2, dialogs), HelpToolKind::None);

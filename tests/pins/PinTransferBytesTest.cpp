@@ -124,4 +124,15 @@ TEST(PinWrite, ExactRequestsAndPacingWhenOneWay)
     EXPECT_EQ(g[1], (std::vector<int>{100, 30, 123}));
     EXPECT_EQ(g[3], (std::vector<int>{97, 30, 0})); // pin configuration to flash, mode 0
     EXPECT_EQ(rig.clock.slept, 39 * 100 + 4 * 100);
+
+    // "Write Aspect": the steps of one aspect only, and nothing for an aspect outside the layout.
+    pin.AspectLayout = 3;
+    ASSERT_TRUE(WriteAspect(rig.session, 30, 3));
+    const Frames h = rig.take();
+    ASSERT_EQ(h.size(), 9u);
+    EXPECT_EQ(h[0], (std::vector<int>{99, 30, 3, 0, 0, 0, 0, 0, 0}));
+    EXPECT_EQ(h[8], (std::vector<int>{99, 30, 3, 8, 25, 2, 10, 0, 0}));
+    EXPECT_FALSE(WriteAspect(rig.session, 30, 4));
+    EXPECT_TRUE(rig.take().empty());
+    EXPECT_EQ(rig.dialogs.texts().back(), "Pin 30 has no aspect 4 in its layout: nothing was written");
 }
