@@ -69,11 +69,13 @@ long baseAddress(const GeneralSettings& general, AddressKind kind)
 {
     if (kind == AddressKind::Lynx)
         return general.CheckGenLynxaddr == 1 ? 4L * general.LynxFlexAddress : 0;
-    const long typed = valInt(kind == AddressKind::Dcc ? general.TextGenDCCAddress : general.TextGenXDCCAddress);
+    const long typed =
+        valInt(kind == AddressKind::Dcc ? general.TextGenDCCAddress : general.TextGenXDCCAddress);
     return std::max(typed, general.ChkGenDCCAllow0 == 1 ? 0L : 1L);
 }
 
-std::string addressText(const Configuration& config, const GeneralSettings& general, int pin, AddressKind kind)
+std::string addressText(const Configuration& config, const GeneralSettings& general, int pin,
+                        AddressKind kind)
 {
     const int count = countOf(config.pin(pin), kind);
     if (count == 0)

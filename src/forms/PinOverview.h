@@ -24,11 +24,12 @@ struct PinOverviewRow {
 // `count` addresses: first = base + FirstIndex[pin], last = first + count - 1 (the running
 // sums are RecalcAddressIndex's, read as they stand).
 //   DCC and eXtended DCC: the base is the number in TextGenDCCAddress or
-//     TextGenXDCCAddress (as the page and the writer take it, clamped to 0..8191), shown
-//     as the module and the command station count them, without NumberingBase. Address 0
-//     is answered only while ChkGenDCCAllow0 is checked; otherwise a base of 0 starts the
-//     block at 1. The largest address is 8191, the most the module's two address bytes
-//     carry (6 bits low, 7 high).
+//     TextGenXDCCAddress as the writer takes it (the page clamps it to 0..8191; a larger
+//     one from elsewhere shows as an overflow), shown as the module and the command
+//     station count them, without NumberingBase. Address 0 is answered only while
+//     ChkGenDCCAllow0 is checked; otherwise a base of 0 starts the block at 1. The
+//     largest address is 8191, the most the module's two address bytes carry (6 bits
+//     low, 7 high).
 //   Serial (Lynx): with flex-addressing on (CheckGenLynxaddr) the base is LynxFlexAddress
 //     x 4; otherwise (native mode or none) the module answers on its own bus address and
 //     the base is 0. Shown with NumberingBase added, as TextGenLynxaddr shows the
@@ -50,6 +51,7 @@ std::string modeName(int configMode);
 
 // The 32 pins, read-only: the model is not changed (stale running sums are shown as they
 // stand; whoever changes a count runs RecalcAddressIndex).
-std::array<PinOverviewRow, kPinCount> pinOverview(const Configuration& config, const GeneralSettings& general);
+std::array<PinOverviewRow, kPinCount> pinOverview(const Configuration& config,
+                                                  const GeneralSettings& general);
 
 } // namespace kestrel

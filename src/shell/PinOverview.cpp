@@ -59,8 +59,8 @@ void PinOverviewPage::refresh()
     }
     const int current = session.config.CurrentPin;
     if (current >= 0 && current < kPinCount && TablePinOverview->currentRow() != current)
-        TablePinOverview->setCurrentCell(current, TablePinOverview->currentColumn() < 0 ? 0
-                                                                                      : TablePinOverview->currentColumn());
+        TablePinOverview->setCurrentCell(
+            current, TablePinOverview->currentColumn() < 0 ? 0 : TablePinOverview->currentColumn());
 }
 
 void PinOverviewPage::choose(int row)

@@ -19,7 +19,8 @@ TEST(PinOverviewPage, ShowsTheNewSumsAfterACountChangesAndChoosesTheRowsPin)
     for (int c = 0; c < table->columnCount(); ++c)
         headings << table->horizontalHeaderItem(c)->text();
     EXPECT_EQ(table->accessibleName(), "Pin overview");
-    EXPECT_EQ(headings, QStringList({"Pin", "Description", "Mode", "Layout", "Device", "DCC", "eXtd DCC", "Serial"}));
+    EXPECT_EQ(headings,
+              QStringList({"Pin", "Description", "Mode", "Layout", "Device", "DCC", "eXtd DCC", "Serial"}));
 
     rig.session->general.TextGenDCCAddress = "10";
     rig.pin(0).DccCount = 2;
