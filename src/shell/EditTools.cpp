@@ -59,7 +59,9 @@ ToolDialog::ToolDialog(const QString& name, const QString& title, QWidget* paren
 bool ToolDialog::runModal()
 {
     fault = nullptr;
+    running = true;
     const bool accepted = exec() == QDialog::Accepted;
+    running = false;
     if (fault)
         std::rethrow_exception(std::exchange(fault, nullptr));
     return accepted;
@@ -70,6 +72,8 @@ void ToolDialog::command(const std::function<void()>& action)
     try {
         action();
     } catch (...) {
+        if (!running)
+            throw; // called directly, not from the modal loop
         fault = std::current_exception();
         reject();
     }

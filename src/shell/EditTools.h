@@ -14,7 +14,7 @@ namespace kestrel {
 
 // A small modal tool of the aspect page, created once by its owner and kept, so that its
 // state (a clipboard, the values last shown) lasts as long as the program. Its commands
-// run inside the modal loop, where nothing may be thrown through Qt: a program fault
+// run inside the modal loop, where nothing may be thrown through Qt: a program fault there
 // closes the tool and is thrown again when runModal() returns, to the caller's guard.
 class ToolDialog : public QDialog {
     Q_OBJECT
@@ -29,6 +29,7 @@ protected:
 
 private:
     std::exception_ptr fault;
+    bool running = false; // inside runModal()
 };
 
 // The pin tool: copy, paste and clear CurrentPin.
