@@ -1,0 +1,106 @@
+#pragma once
+#include "forms/AspectEditor.h"
+#include "model/PinTools.h"
+#include "session/Session.h"
+
+#include <QDialog>
+#include <exception>
+#include <functional>
+
+class QLabel;
+class QPushButton;
+
+namespace kestrel {
+
+// A small modal tool of the aspect page, created once by its owner and kept, so that its
+// state (a clipboard, the values last shown) lasts as long as the program. Its commands
+// run inside the modal loop, where nothing may be thrown through Qt: a program fault there
+// closes the tool and is thrown again when runModal() returns, to the caller's guard.
+class ToolDialog : public QDialog {
+    Q_OBJECT
+public:
+    ToolDialog(const QString& name, const QString& title, QWidget* parent);
+
+protected:
+    // Shows the tool modally until it closes; true when it was accepted.
+    bool runModal();
+    // One command of the tool (a click, a finished entry).
+    void command(const std::function<void()>& action);
+
+private:
+    std::exception_ptr fault;
+    bool running = false; // inside runModal()
+};
+
+// The pin tool: copy, paste and clear CurrentPin.
+class EditPinDialog : public ToolDialog {
+    Q_OBJECT
+public:
+    EditPinDialog(Session& session, QWidget* parent = nullptr);
+    // Shows the tool on CurrentPin until a command closes it.
+    void run();
+
+    PinTool tool;
+    QLabel* LabelTarget; // "Pin 5"
+    QPushButton* CommandCopyPin;
+    QPushButton* CommandPastePin;
+    QPushButton* CommandClearPin;
+    QPushButton* commandCancel;
+
+public slots:
+    void CommandCopyPin_Click();
+    void CommandPastePin_Click();
+    void CommandClearPin_Click();
+
+private:
+    Session& session;
+};
+
+// The aspect tool: copy, paste, clear and clean the selected aspect.
+class EditAspectDialog : public ToolDialog {
+    Q_OBJECT
+public:
+    EditAspectDialog(Session& session, QWidget* parent = nullptr);
+    // Shows the tool on CurrentPin and CurrentAspect until a command closes it.
+    void run();
+
+    AspectTool tool;
+    QLabel* LabelTarget; // "Pin 5, aspect 2"
+    QPushButton* CommandCopy;
+    QPushButton* CommandPaste;
+    QPushButton* CommandClear;
+    QPushButton* CommandClean;
+    QPushButton* commandCancel;
+
+public slots:
+    void CommandCopy_Click();
+    void CommandPaste_Click();
+    void CommandClear_Click();
+    void CommandClean_Click();
+
+private:
+    Session& session;
+};
+
+// The step tool: insert or delete CurrentStep of the selected aspect.
+class EditStepDialog : public ToolDialog {
+    Q_OBJECT
+public:
+    EditStepDialog(Session& session, QWidget* parent = nullptr);
+    // Shows the tool on CurrentStep until a command closes it.
+    void run();
+
+    QLabel* LabelTarget; // "Pin 5, aspect 2, step 3"
+    QPushButton* commandInsert;
+    QPushButton* commandDelete;
+    QPushButton* commandCancel;
+
+public slots:
+    void commandInsert_Click();
+    void commandDelete_Click();
+
+private:
+    Session& session;
+};
+
+} // namespace kestrel

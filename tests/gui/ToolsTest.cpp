@@ -1,0 +1,278 @@
+// The aspect page's modal tools through their windows, driven as a user drives them while
+// their modal loop runs.
+#include "base/ProgramFault.h"
+#include "gui/GuiRig.h"
+#include "shell/EditTools.h"
+#include "shell/HelpToolDialogs.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QRadioButton>
+#include <QSlider>
+#include <QSpinBox>
+#include <QTimer>
+
+#include <functional>
+
+using namespace kestrel;
+using namespace kestrel::test;
+
+namespace {
+// Lets `user` act on the window once the tool's modal run (called next) has opened it; what
+// the user leaves open is cancelled, so a failed expectation cannot leave the test waiting.
+void onOpen(QDialog& dialog, const std::function<void()>& user)
+{
+    QTimer::singleShot(0, &dialog, [&dialog, user] {
+        EXPECT_EQ(QApplication::activeModalWidget(), &dialog);
+        user();
+        if (dialog.isVisible())
+            dialog.reject();
+    });
+}
+
+void click(QAbstractButton* button) { QTest::mouseClick(button, Qt::LeftButton); }
+
+// The edit tools on one session (the pin tool is the rig's page) and the help tools.
+struct ToolRig : PageRig<EditPinDialog> {
+    EditAspectDialog aspectTool{*session};
+    EditStepDialog stepTool{*session};
+    TimeToolDialog time;
+    PatternToolDialog pattern;
+    EventPatternToolDialog event;
+    LevelToolDialog level;
+    Configuration& config = session->config;
+    ToolRig() { page->hide(); }
+};
+} // namespace
+
+TEST(EditTools, PinToolPastesOnlyWhatWasCopiedAndKeepsTheDeviceHead)
+{
+    ToolRig rig;
+    EditPinDialog& tool = *rig.page;
+    Configuration& c = rig.config;
+    c.pin(3).DeviceOffset = -3; // its device head is pin 0
+    c.pin(3).Description = "Signal B";
+    c.CurrentPin = 5;
+    c.NumberingBase = 1;
+    onOpen(tool, [&] {
+        EXPECT_EQ(tool.LabelTarget->text(), "Pin 6");
+        click(tool.CommandPastePin);
+        EXPECT_EQ(rig.dialogs.texts(), std::vector<std::string>{"Nothing to Paste"});
+        EXPECT_TRUE(tool.isVisible());
+        click(tool.commandCancel);
+    });
+    tool.run();
+    EXPECT_EQ(c.pin(5), PinRecord{});
+
+    c.CurrentPin = 3;
+    onOpen(tool, [&] { click(tool.CommandCopyPin); });
+    tool.run();
+    c.CurrentPin = 5;
+    onOpen(tool, [&] { click(tool.CommandPastePin); });
+    tool.run();
+    EXPECT_EQ(std::tuple(c.pin(5).DeviceOffset, c.pin(5).Description), std::tuple(-5, "Signal B"));
+
+    // A fault inside the modal loop closes the tool and reaches the caller's guard.
+    c.CurrentPin = 99;
+    onOpen(tool, [&] { click(tool.CommandClearPin); });
+    EXPECT_THROW(tool.run(), ProgramFault);
+    EXPECT_FALSE(tool.isVisible());
+}
+
+TEST(EditTools, AspectToolCleansAfterTheFirstEmptyStepAndStepToolInsertsAtRowZero)
+{
+    ToolRig rig;
+    Configuration& c = rig.config;
+    c.CurrentPin = 4;
+    c.CurrentAspect = 2;
+    AspectRecord& aspect = c.pin(4).Aspects[2];
+    aspect.Description = "Route";
+    const StepRecord on{9, 1, 0, 5, 0, 0}, off{8, 0, 1, 7, 0, 0};
+    aspect.Steps = {on, {0, 1, 1, 2, 3, 4}, off}; // "On", "-" with parameters, "Off"
+    onOpen(rig.aspectTool, [&] {
+        EXPECT_EQ(rig.aspectTool.LabelTarget->text(), "Pin 4, aspect 2");
+        click(rig.aspectTool.CommandClean);
+    });
+    rig.aspectTool.run();
+    EXPECT_EQ(
+        std::tuple(aspect.Description, aspect.AspectMark, aspect.Steps[0], aspect.Steps[1], aspect.Steps[2]),
+        std::tuple("", kAllOnes, on, StepRecord{}, StepRecord{}));
+
+    // Layout "12": rows 0 and 1 move down, the old row 2 is lost, row 3 is not touched.
+    c.pin(4).AspectLayout = 2;
+    const StepRecord a{9, 0, 0, 1, 0, 0}, b{8, 0, 0, 2, 0, 0}, d{11, 0, 0, 4, 0, 0};
+    aspect.Steps = {a, b, {10, 0, 0, 3, 0, 0}, d};
+    selectStepRow(c, 0);
+    onOpen(rig.stepTool, [&] {
+        EXPECT_EQ(rig.stepTool.LabelTarget->text(), "Pin 4, aspect 2, step 0");
+        click(rig.stepTool.commandInsert);
+    });
+    rig.stepTool.run();
+    EXPECT_EQ(std::tuple(aspect.Steps[0], aspect.Steps[1], aspect.Steps[2], aspect.Steps[3]),
+              std::tuple(StepRecord{}, a, b, d));
+}
+
+TEST(HelpTools, PatternToolComposesTheParameterFromItsBoxes)
+{
+    PatternToolDialog tool;
+    StepRecord step{15, 0, 0, 0, 0, 0}; // "Multibit 5"
+    onOpen(tool, [&] {
+        EXPECT_TRUE(tool.chkUitgang[5]->isHidden());
+        tool.chkUitgang[0]->click();
+        tool.chkUitgang[2]->click();
+        tool.chkAllDark->click();
+        EXPECT_EQ(tool.txtParameter->text(), "37");
+        tool.chkNoDark->click();
+        EXPECT_EQ(
+            std::tuple(tool.chkAllDark->isChecked(), tool.txtParameter->text(), tool.txtOriginal->text()),
+            std::tuple(false, "69", "0"));
+        click(tool.OKButton);
+    });
+    EXPECT_TRUE(tool.run(step));
+    EXPECT_EQ(step.Par1, 69);
+
+    // With six outputs bit 5 is output +5, so "All Dark" cannot be chosen.
+    step = {32, 0, 0, 0, 0, 0}; // "Multibit 6"
+    onOpen(tool, [&] {
+        EXPECT_EQ(std::tuple(tool.chkUitgang[5]->isHidden(), tool.chkAllDark->isEnabled(),
+                             tool.chkNoDark->isEnabled()),
+                  std::tuple(false, false, true));
+    });
+    tool.run(step);
+}
+
+TEST(HelpTools, TimeToolShowsTheDurationsAndOkSetsTimeAndBase)
+{
+    TimeToolDialog tool;
+    struct Case {
+        QString typed, base;
+        int slider;
+        QString maxTime, time;
+    };
+    for (const Case& k :
+         {Case{"3", "3", 63, "10:45.12", "10:45.12"}, Case{"0", "0", 50, "00:01.26", "00:01.00"},
+          Case{"7", "3", 1, "10:45.12", "00:10.24"}}) {
+        StepRecord step{102, 0, 0, 0, 5, 1}; // "Wait"
+        onOpen(tool, [&] {
+            enter(tool.TextCTBase, k.typed);
+            tool.SliderCTTime->setValue(k.slider);
+            EXPECT_EQ(std::tuple(tool.TextCTBase->text(), tool.UpDownCTBase->value(),
+                                 tool.LabelCTMaxTimeValue->text(), tool.LabelCTTimeValue->text()),
+                      std::tuple(k.base, k.base.toInt(), k.maxTime, k.time))
+                << k.typed.toStdString();
+            click(tool.OKButton);
+        });
+        EXPECT_TRUE(tool.run(step));
+        EXPECT_EQ(std::tuple(step.Par2, step.Par3), std::tuple(k.slider, k.base.toInt()));
+    }
+}
+
+namespace {
+template <typename Tool> bool runOn(Tool& tool, StepRecord& step) { return tool.run(step); }
+bool runOn(LevelToolDialog& tool, StepRecord& step)
+{
+    int parameter = step.Par1;
+    const bool ok = tool.run(parameter);
+    step.Par1 = static_cast<std::uint8_t>(parameter);
+    return ok;
+}
+
+// Edits everything, then Cancel or the window's close: false, and the step as it was.
+template <typename Tool>
+void expectCancelKeeps(Tool& tool, const StepRecord& original, std::function<void()> edit)
+{
+    for (bool byButton : {true, false}) {
+        StepRecord step = original;
+        onOpen(tool, [&] {
+            edit();
+            byButton ? click(tool.CancelButton) : (void)tool.close();
+        });
+        const bool ok = runOn(tool, step);
+        EXPECT_EQ(std::tuple(ok, step), std::tuple(false, original)) << tool.objectName().toStdString();
+    }
+}
+} // namespace
+
+TEST(HelpTools, CancelOrClosingLeavesTheStepAsItWas)
+{
+    ToolRig rig;
+    // Time and Base out of their ranges, which the tool brings into them while it is open.
+    expectCancelKeeps(rig.time, {102, 1, 2, 3, 70, 9}, [&] {
+        enter(rig.time.TextCTBase, "0");
+        rig.time.SliderCTTime->setValue(10);
+    });
+    expectCancelKeeps(rig.pattern, {13, 1, 2, 5, 6, 7}, [&] {
+        rig.pattern.chkUitgang[1]->click();
+        rig.pattern.chkNoDark->click();
+    });
+    expectCancelKeeps(rig.event, {16, 0, 3, 101, 9, 9}, [&] {
+        rig.event.optEvent[0]->click();
+        rig.event.chkEvent[3]->click();
+    });
+    expectCancelKeeps(rig.level, {18, 0, 3, 100, 0, 0}, [&] { enter(rig.level.txtLevel, "3"); });
+}
+
+TEST(HelpTools, EventPatternToolShowsEveryChoiceItComposedWhenOpenedOnIt)
+{
+    EventPatternToolDialog tool;
+    for (int option = EventPatternTool::kNoOption; option < 6; ++option) {
+        QAbstractButton* chosen = option < 0 ? tool.optNoEvent : tool.optEvent[option];
+        StepRecord step{16, 0, 0, 0, 0, 0};
+        // Composed by clicking from an empty value ...
+        onOpen(tool, [&] {
+            tool.chkEvent[0]->click();
+            tool.chkEvent[2]->click();
+            chosen->click();
+            click(tool.OKButton);
+        });
+        tool.run(step);
+        EXPECT_EQ(step.Par1, EventPatternTool::encode({{true, false, true, false}, option}));
+        // ... and shown the same way when opened on it.
+        onOpen(tool, [&] {
+            EXPECT_EQ(std::tuple(chosen->isChecked(), tool.chkEvent[0]->isChecked(),
+                                 tool.chkEvent[1]->isChecked(), tool.chkEvent[2]->isChecked(),
+                                 tool.txtParameter->text().toInt()),
+                      std::tuple(true, true, false, true, step.Par1))
+                << option;
+        });
+        tool.run(step);
+    }
+}
+
+TEST(HelpTools, LevelToolClampsEachBoxAndTheOthersFollow)
+{
+    LevelToolDialog tool;
+    int parameter = 100; // level 6, time index 4
+    onOpen(tool, [&] {
+        enter(tool.txtLevel, "9"); // 9 x 16 + 4 is above 127
+        EXPECT_EQ(std::tuple(tool.txtLevel->text(), tool.txtParameter->text(), tool.txtDelay->text()),
+                  std::tuple("7", "116", "00:00.08"));
+        enter(tool.txtTimeIndex, "15");
+        EXPECT_EQ(std::tuple(tool.txtParameter->text(), tool.txtDelay->text()),
+                  std::tuple("127", "00:03.84"));
+        tool.txtParameter->setText("20"); // typed, and OK pressed without leaving the box
+        click(tool.OKButton);
+    });
+    EXPECT_TRUE(tool.run(parameter));
+    EXPECT_EQ(parameter, 20);
+}
+
+TEST(Tools, EveryInputIsNamedAfterItsLabelAndEveryButtonHasAMnemonic)
+{
+    ToolRig rig;
+    for (QDialog* d : std::initializer_list<QDialog*>{rig.page.get(), &rig.aspectTool, &rig.stepTool,
+                                                      &rig.time, &rig.pattern, &rig.event, &rig.level}) {
+        for (QLabel* label : d->findChildren<QLabel*>())
+            EXPECT_TRUE(!label->buddy() || label->buddy()->accessibleName() == label->text().remove('&'))
+                << label->text().toStdString();
+        for (QWidget* w : d->findChildren<QWidget*>()) {
+            const bool input = w->inherits("QAbstractSpinBox") || w->inherits("QAbstractSlider") ||
+                               (w->inherits("QLineEdit") && !w->objectName().startsWith("qt_"));
+            EXPECT_TRUE(!input || !w->accessibleName().isEmpty()) << w->objectName().toStdString();
+        }
+        for (QAbstractButton* b : d->findChildren<QAbstractButton*>())
+            EXPECT_TRUE(b->text().contains('&')) << b->objectName().toStdString();
+        auto* ok = d->findChild<QPushButton*>("OKButton");
+        EXPECT_TRUE(!ok || ok->isDefault()) << d->objectName().toStdString();
+    }
+}
