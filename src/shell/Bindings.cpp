@@ -6,6 +6,7 @@
 #include <QButtonGroup>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QRegularExpressionValidator>
 #include <QSignalBlocker>
 #include <QSpinBox>
@@ -20,6 +21,15 @@ QString latin1(const std::string& s)
 }
 
 std::string fromLatin1(const QString& s) { return s.toLatin1().toStdString(); }
+
+std::pair<int, int> pressOf(const QMouseEvent* mouse)
+{
+    const int button = mouse->button() == Qt::LeftButton ? 1 : mouse->button() == Qt::RightButton ? 2 : 4;
+    const auto keys = mouse->modifiers();
+    const int shift = (keys & Qt::ShiftModifier ? 1 : 0) | (keys & Qt::ControlModifier ? 2 : 0) |
+                      (keys & Qt::AltModifier ? 4 : 0);
+    return {button, shift};
+}
 
 void numericInput(QLineEdit* box, int digits)
 {
@@ -90,16 +100,23 @@ void Bindings::combo(QComboBox* box, int& field, std::function<void()> changed)
 
 void Bindings::text(QLineEdit* box, std::string& field, std::function<void()> changed)
 {
+    text(
+        box, [&field]() -> std::string& { return field; }, std::move(changed));
+}
+
+void Bindings::text(QLineEdit* box, std::function<std::string&()> field, std::function<void()> changed)
+{
     // textChanged, not textEdited: a text set from outside (a screen reader, a test) is an
     // edit too; showing blocks the signal.
-    QObject::connect(box, &QLineEdit::textChanged, box, [this, &field, changed](const QString& typed) {
-        commitNow([&field, typed] { field = fromLatin1(typed); }, changed);
+    QObject::connect(box, &QLineEdit::textChanged, box, [this, field, changed](const QString& typed) {
+        commitNow([&field, typed] { field() = fromLatin1(typed); }, changed);
     });
-    items.push_back({[box, &field] {
-                         if (box->text() == latin1(field))
+    items.push_back({[box, field] {
+                         const QString shown = latin1(field());
+                         if (box->text() == shown)
                              return; // keeps the cursor where the user is typing
                          const QSignalBlocker block(box);
-                         box->setText(latin1(field));
+                         box->setText(shown);
                      },
                      {}});
 }

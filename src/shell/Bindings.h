@@ -3,12 +3,14 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 class QAbstractButton;
 class QButtonGroup;
 class QComboBox;
 class QLineEdit;
+class QMouseEvent;
 class QSpinBox;
 
 namespace kestrel {
@@ -34,6 +36,8 @@ public:
     void combo(QComboBox* box, int& field, std::function<void()> changed = {});
     // Latin-1 text, committed as it is typed.
     void text(QLineEdit* box, std::string& field, std::function<void()> changed = {});
+    // The same for a field that moves with the selection (the selected pin's description).
+    void text(QLineEdit* box, std::function<std::string&()> field, std::function<void()> changed = {});
     // A clamped entry: `show` gives the box's text from the model, `commit` takes the typed
     // text into the model (clamping it); the box then shows the model again.
     void entry(QLineEdit* box, std::function<std::string()> show,
@@ -42,6 +46,10 @@ public:
     void spinner(QSpinBox* spin, QLineEdit* box, std::function<int()> show);
     // Something shown from the model that takes no input (labels, visibility, ranges).
     void display(std::function<void()> show);
+    // A change that a page's own handler takes (an instruction chosen from a list whose
+    // items carry codes, a layout option): guarded like every commit, and ignored while
+    // the page is showing the model.
+    void edit(const std::function<void()>& take) { commitNow(take, {}); }
 
     void show();
     void commitPending();
@@ -61,6 +69,10 @@ private:
 
 // Entry-box input rules: digits and an optional sign only, at most `digits` digits.
 void numericInput(QLineEdit* box, int digits = 6);
+
+// The mouse button and the keys held, as the buttons' press handlers take them: button 1
+// left, 2 right, 4 middle; Shift 1, Ctrl 2, Alt 4 added together.
+std::pair<int, int> pressOf(const QMouseEvent* mouse);
 
 QString latin1(const std::string& s);
 std::string fromLatin1(const QString& s);

@@ -8,11 +8,13 @@
 #include "ops/Bulk.h"
 #include "ops/EventControl.h"
 #include "ops/PinTransfer.h"
+#include "shell/AspectsPage.h"
 #include "shell/Bindings.h"
 #include "shell/BuiltInSim.h"
 #include "shell/EventPage.h"
 #include "shell/GeneralPage.h"
 #include "shell/PinConfigPage.h"
+#include "shell/PinOverview.h"
 #include "shell/ProgramSession.h"
 #include "shell/QtProgress.h"
 #include "shell/QtSerialPort.h"
@@ -119,10 +121,21 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     CommandSave->setToolTip("Shift+Save File to save compact");
     CommandSave->installEventFilter(this);
     CommandLoad = named(new QPushButton("Load File"), "CommandLoad");
-    for (QWidget* w : {static_cast<QWidget*>(CommandReadAll), static_cast<QWidget*>(CommandWriteAll),
-                       static_cast<QWidget*>(CommandVerifyAll), static_cast<QWidget*>(CheckWritePinConfig),
-                       static_cast<QWidget*>(CommandSave), static_cast<QWidget*>(CommandLoad)})
+    CommandReadAllPins = named(new QPushButton("Read All Pins"), "CommandReadAllPins");
+    CommandReadAllPins->setToolTip(
+        "Reads the 32 pins from the module, without the general settings and events");
+    CommandWriteAllPins = named(new QPushButton("Write All Pins"), "CommandWriteAllPins");
+    CommandWriteAllPins->setToolTip(
+        "Writes the 32 pins to the module, without the general settings and events");
+    CommandVerifyAllPins = named(new QPushButton("Verify All Pins"), "CommandVerifyAllPins");
+    CommandVerifyAllPins->setToolTip("Compares the 32 pins of the module with the configuration");
+    for (QWidget* w : std::initializer_list<QWidget*>{
+             CommandReadAll, CommandWriteAll, CommandVerifyAll, CommandReadAllPins, CommandWriteAllPins,
+             CommandVerifyAllPins, CheckWritePinConfig, CommandSave, CommandLoad})
         bulk->addWidget(w);
+    connect(CommandReadAllPins, &QPushButton::clicked, this, [this] { startJob(Jobs::ReadAllPins); });
+    connect(CommandWriteAllPins, &QPushButton::clicked, this, [this] { startJob(Jobs::WriteAllPins); });
+    connect(CommandVerifyAllPins, &QPushButton::clicked, this, [this] { startJob(Jobs::VerifyAllPins); });
     connect(CommandLoad, &QPushButton::clicked, this,
             [this] { guard->operator()([this] { CommandLoad_Click(); }); });
     bulk->addStretch();
@@ -138,11 +151,25 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     tabs->addTab(eventPage, "Event Control");
     pinConfigPage = new PinConfigPage(*core, guard.get());
     tabs->addTab(pinConfigPage, "Pin Configuration");
-    tabs->addTab(buildDevicesPage(), "Devices");
+    aspectsPage = new AspectsPage(
+        *core, devices, [this](JobName job) { startJob(job); }, guard.get());
+    tabs->addTab(aspectsPage, "Aspects");
+    pinOverviewPage = new PinOverviewPage(*core);
+    tabs->addTab(pinOverviewPage, "Pin Overview");
     layout->addWidget(tabs, 1);
     // One pin selection for the whole window: a pin chosen on one page is shown on all.
     eventPage->onPinChosen = [this] { refreshAll(); };
     pinConfigPage->onPinChosen = [this] { refreshAll(); };
+    aspectsPage->onPinChosen = [this] { refreshAll(); };
+    pinOverviewPage->onPinChosen = [this] {
+        refreshAll();
+        tabs->setCurrentWidget(aspectsPage); // a pin picked from the overview is shown with its aspects
+    };
+    aspectsPage->onDetailsChanged = [this](bool shown) {
+        for (QPushButton* b : {pinConfigPage->CommandPCFGGetParam[0], pinConfigPage->CommandPCFGGetParam[1],
+                               pinConfigPage->CommandPCFGSetParam[0], pinConfigPage->CommandPCFGSetParam[1]})
+            b->setVisible(shown);
+    };
     connect(tabs, &QTabWidget::currentChanged, this, [this] { refreshAll(); });
 
     LabelAction = named(new QLabel("Working ... Please WAIT"), "LabelAction");
@@ -262,6 +289,9 @@ void KestrelConfig::addJobs()
             "Read All Events", [&s] { return ReadAllEvents(s); }, true);
     });
     jobs.add(Jobs::ECVerify, [this, verify] { runJob("Verify Event Control", verify(&VerifyEventControl)); });
+    jobs.add(Jobs::PAspWriteAspect, [this, &s] {
+        runJob("Write Aspect", [&s] { return WriteAspect(s, s.config.CurrentPin, s.config.CurrentAspect); });
+    });
 }
 
 void KestrelConfig::startJob(JobName name)
@@ -325,7 +355,8 @@ void KestrelConfig::commitAll()
     generalPage->commit();
     eventPage->commitPending();
     pinConfigPage->commitPending();
-    for (QLineEdit* box : {TextAddress, txtXaddr, TextPAspOutput, TextDeviceDescription})
+    aspectsPage->commitPending();
+    for (QLineEdit* box : {TextAddress, txtXaddr})
         if (box->isModified())
             emit box->editingFinished();
 }
@@ -337,7 +368,8 @@ void KestrelConfig::refreshAll()
     generalPage->refresh();
     eventPage->refresh();
     pinConfigPage->refresh();
-    refreshDevices();
+    aspectsPage->refresh();
+    (*guard)([this] { pinOverviewPage->refresh(); });
     updateWindowState();
 }
 
@@ -601,109 +633,6 @@ QWidget* KestrelConfig::buildGeneralPage()
     return generalPage;
 }
 
-QWidget* KestrelConfig::buildDevicesPage()
-{
-    auto* page = named(new QWidget, "PageDevices");
-    auto* grid = new QGridLayout(page);
-    TextPAspOutput = named(new QLineEdit("0"), "TextPAspOutput");
-    TextPAspOutput->setMaximumWidth(50);
-    numericInput(TextPAspOutput, 3);
-    TextDevicePin = named(new QLineEdit, "TextDevicePin");
-    TextDevicePin->setReadOnly(true);
-    TextDevicePin->setMaximumWidth(50);
-    TextDeviceDescription = named(new QLineEdit, "TextDeviceDescription");
-    TextDeviceDescription->setToolTip("The device's name, kept by its first pin");
-    cboDevice = named(new QComboBox, "cboDevice");
-    cboDevice->setMinimumWidth(220);
-    lblDDVersion = named(new QLabel, "lblDDVersion");
-    CommandReloadDD = named(new QPushButton("Reload DD"), "CommandReloadDD");
-    CommandReloadDD->setToolTip("Reload DD to load new file, Shift + Reload DD to append");
-    CommandReloadDD->installEventFilter(this);
-    CommandPAspPreLoad = named(new QPushButton("Load Device"), "CommandPAspPreLoad");
-    CommandSaveDevice = named(new QPushButton("Save Device"), "CommandSaveDevice");
-
-    auto* pinLabel = new QLabel("Pin");
-    pinLabel->setBuddy(TextPAspOutput);
-    auto* deviceLabel = new QLabel("Device");
-    deviceLabel->setBuddy(TextDeviceDescription);
-    grid->addWidget(pinLabel, 0, 0);
-    grid->addWidget(TextPAspOutput, 0, 1);
-    grid->addWidget(deviceLabel, 0, 2);
-    grid->addWidget(TextDevicePin, 0, 3);
-    grid->addWidget(TextDeviceDescription, 0, 4, 1, 2);
-    grid->addWidget(cboDevice, 1, 0, 1, 3);
-    grid->addWidget(CommandPAspPreLoad, 1, 3);
-    grid->addWidget(CommandSaveDevice, 1, 4);
-    grid->addWidget(CommandReloadDD, 1, 5);
-    grid->addWidget(lblDDVersion, 2, 0, 1, 6);
-    grid->setColumnStretch(4, 1);
-    grid->setRowStretch(3, 1);
-
-    connect(TextPAspOutput, &QLineEdit::editingFinished, this, &KestrelConfig::TextPAspOutput_Click);
-    connect(TextDeviceDescription, &QLineEdit::textEdited, this,
-            &KestrelConfig::TextDeviceDescription_Change);
-    connect(cboDevice, &QComboBox::activated, this, [this](int index) { devices.selected = index; });
-    connect(CommandPAspPreLoad, &QPushButton::clicked, this, &KestrelConfig::CommandPAspPreLoad_Click);
-    connect(CommandSaveDevice, &QPushButton::clicked, this, &KestrelConfig::CommandSaveDevice_Click);
-    return page;
-}
-
-void KestrelConfig::refreshDevices()
-{
-    const QSignalBlocker blockList(cboDevice);
-    const QSignalBlocker blockPin(TextPAspOutput);
-    const QSignalBlocker blockDescription(TextDeviceDescription);
-    cboDevice->clear();
-    for (const auto& name : devices.cboDevice)
-        cboDevice->addItem(latin1(name));
-    cboDevice->setCurrentIndex(devices.selected);
-    lblDDVersion->setText(latin1(devices.lblDDVersion));
-    const Configuration& c = core->config;
-    const int pin = std::clamp(c.CurrentPin, 0, kPinCount - 1);
-    TextPAspOutput->setText(QString::number(pin + c.NumberingBase));
-    TextPAspOutput->setModified(false);
-    TextDevicePin->setText(QString::number(deviceHead(c, pin) + c.NumberingBase));
-    const QString description = latin1(deviceDescriptionText(c, pin));
-    if (TextDeviceDescription->text() != description)
-        TextDeviceDescription->setText(description);
-    TextDeviceDescription->setModified(false);
-    // Only the device's head holds its name; a member shows it and leaves it alone.
-    TextDeviceDescription->setReadOnly(c.pin(pin).DeviceOffset != 0);
-}
-
-void KestrelConfig::TextPAspOutput_Click()
-{
-    TextPAspOutput->setModified(false);
-    (*guard)([this] { selectPin(core->config, fromLatin1(TextPAspOutput->text())); });
-    refreshAll();
-}
-
-void KestrelConfig::TextDeviceDescription_Change()
-{
-    TextDeviceDescription->setModified(false);
-    (*guard)([this] { setDeviceDescription(core->config, fromLatin1(TextDeviceDescription->text())); });
-}
-
-void KestrelConfig::CommandPAspPreLoad_Click()
-{
-    commitAll();
-    devices.selected = cboDevice->currentIndex();
-    (*guard)([this] { kestrel::CommandPAspPreLoad_Click(devices, core->config, core->dialogs()); });
-    refreshAll();
-}
-
-void KestrelConfig::CommandSaveDevice_Click()
-{
-    commitAll();
-    (*guard)([this] { kestrel::CommandSaveDevice_Click(core->config, core->dialogs()); });
-}
-
-void KestrelConfig::CommandReloadDD_MouseDown(int button, int shift)
-{
-    (*guard)([&] { kestrel::CommandReloadDD_MouseDown(devices, core->dialogs(), button, shift); });
-    refreshDevices();
-}
-
 void KestrelConfig::fillPortList()
 {
     core->linkControl.ScanPorts();
@@ -800,33 +729,16 @@ void KestrelConfig::LabelPort_DblClick() { FrameBitrate->setVisible(!FrameBitrat
 
 void KestrelConfig::CommandGenVersion_Click() { generalPage->CommandGenVersion_Click(); }
 
-namespace {
-// The mouse button and the keys held, as the buttons' handlers take them: button 1 left,
-// 2 right, 4 middle; Shift 1, Ctrl 2, Alt 4 added together.
-std::pair<int, int> pressOf(const QMouseEvent* mouse)
-{
-    const int button = mouse->button() == Qt::LeftButton ? 1 : mouse->button() == Qt::RightButton ? 2 : 4;
-    const auto keys = mouse->modifiers();
-    const int shift = (keys & Qt::ShiftModifier ? 1 : 0) | (keys & Qt::ControlModifier ? 2 : 0) |
-                      (keys & Qt::AltModifier ? 4 : 0);
-    return {button, shift};
-}
-} // namespace
-
 bool KestrelConfig::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == LabelPort && event->type() == QEvent::MouseButtonDblClick) {
         LabelPort_DblClick();
         return true;
     }
-    // Reload DD and Save act on the press, where the keys held decide: Shift alone appends
-    // a definitions file or saves the compact file.
-    if ((watched == CommandReloadDD || watched == CommandSave) && event->type() == QEvent::MouseButtonPress) {
+    // Save acts on the press, where the keys held decide: Shift alone saves the compact file.
+    if (watched == CommandSave && event->type() == QEvent::MouseButtonPress) {
         const auto [button, shift] = pressOf(static_cast<QMouseEvent*>(event));
-        if (watched == CommandReloadDD)
-            CommandReloadDD_MouseDown(button, shift);
-        else
-            CommandSave_MouseDown(button, shift);
+        CommandSave_MouseDown(button, shift);
         return false;
     }
     return QMainWindow::eventFilter(watched, event);

@@ -29,6 +29,8 @@ struct ProgramSession;
 class GeneralPage;
 class EventPage;
 class PinConfigPage;
+class AspectsPage;
+class PinOverviewPage;
 } // namespace kestrel
 
 namespace kestrel {
@@ -74,6 +76,9 @@ public:
     QPushButton* CommandReadAll;
     QPushButton* CommandWriteAll;
     QPushButton* CommandVerifyAll;
+    QPushButton* CommandReadAllPins;
+    QPushButton* CommandWriteAllPins;
+    QPushButton* CommandVerifyAllPins;
     QCheckBox* CheckWritePinConfig; // also send each pin's configuration to flash
     QPushButton* CommandSave;
     QPushButton* CommandLoad;
@@ -91,15 +96,9 @@ public:
     QPushButton* CommandGenVersion;
     QLabel* LabelGenVersionString;
 
-    // Devices page
-    QLineEdit* TextPAspOutput;
-    QLineEdit* TextDevicePin;
-    QLineEdit* TextDeviceDescription;
-    QComboBox* cboDevice;
-    QLabel* lblDDVersion;
-    QPushButton* CommandReloadDD;
-    QPushButton* CommandPAspPreLoad;
-    QPushButton* CommandSaveDevice;
+    // The aspect page, with the device definitions
+    AspectsPage* aspectsPage;
+    PinOverviewPage* pinOverviewPage; // every pin at a glance, updated with the others
     DeviceList devices;
 
     // The verification report window
@@ -131,11 +130,6 @@ public slots:
     void CommandLoad_Click();
     // Plain click: the full file; Shift: the compact one; other buttons or keys: nothing.
     void CommandSave_MouseDown(int button, int shift);
-    void CommandReloadDD_MouseDown(int button, int shift);
-    void TextDeviceDescription_Change();
-    void TextPAspOutput_Click();
-    void CommandPAspPreLoad_Click();
-    void CommandSaveDevice_Click();
     void CommandReadAll_Click();
     void CommandWriteAll_Click();
     void CommandVerifyAll_Click();
@@ -148,8 +142,6 @@ protected:
 private:
     void buildLinkArea(QWidget* host);
     QWidget* buildGeneralPage();
-    QWidget* buildDevicesPage();
-    void refreshDevices();
     void refreshLinkDisplays();
     void fillPortList();
     void addJobs();

@@ -8,12 +8,15 @@
 #include "support/RecordingDialogs.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -81,6 +84,43 @@ inline void enter(QLineEdit* box, const QString& text)
 {
     box->setText(text);
     emit box->editingFinished();
+}
+
+// Types into a box as a user does: everything selected, the new text typed, Return.
+inline void type(QLineEdit* box, const QString& text)
+{
+    box->setFocus();
+    box->selectAll();
+    QTest::keyClick(box, Qt::Key_Backspace);
+    for (QChar c : text) // a character beyond ASCII comes as a key event with its text
+        QTest::sendKeyEvent(QTest::Click, box, Qt::Key_unknown, QString(c), Qt::NoModifier);
+    QTest::keyClick(box, Qt::Key_Return);
+}
+
+// What a user does in the modal dialog `name` once it is up (the call that opens it does
+// not return before it closes). `act` must close it.
+inline void onModal(const QString& name, std::function<void(QDialog&)> act)
+{
+    auto* poll = new QTimer;
+    QObject::connect(poll, &QTimer::timeout, poll, [poll, name, act] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (!dialog || dialog->objectName() != name)
+            return;
+        poll->deleteLater();
+        poll->stop();
+        act(*dialog);
+    });
+    poll->start(10);
+}
+
+// Clicks the button `name` of the modal dialog `dialog` once it is up.
+inline void clickInModal(const QString& dialog, const QString& button)
+{
+    onModal(dialog, [button](QDialog& d) {
+        auto* b = d.findChild<QAbstractButton*>(button);
+        ASSERT_NE(b, nullptr) << button.toStdString();
+        QTest::mouseClick(b, Qt::LeftButton);
+    });
 }
 
 } // namespace kestrel::test

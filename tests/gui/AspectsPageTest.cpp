@@ -1,0 +1,265 @@
+// The aspect page as a user drives it: step rows that follow their instruction and clamp
+// what is typed, the layout options, the pin, aspect, step and help tools behind labels
+// and boxes, device loading, and every pin job from its button against the simulated module.
+#include "gui/GuiRig.h"
+#include "model/PinTools.h"
+#include "shell/AspectsPage.h"
+#include "shell/EventPage.h"
+
+#include <QCheckBox>
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QRadioButton>
+#include <QSlider>
+#include <QTabWidget>
+
+using namespace kestrel;
+using namespace kestrel::test;
+
+namespace {
+
+struct AspectsRig : Window {
+    AspectsPage& page = *w.aspectsPage;
+    Configuration& config = w.session().config;
+    AspectsRig()
+    {
+        w.tabs->setCurrentWidget(&page);
+        pickPin(1);
+    }
+    void pickPin(int pin) { type(page.TextPAspOutput, QString::number(pin + config.NumberingBase)); }
+    StepRecord& step(int row) { return config.step(config.CurrentPin, config.CurrentAspect, row); }
+    // Chooses an instruction from a row's list with the keyboard: the list opened, the name typed, Return.
+    void choose(int row, const QString& name)
+    {
+        QComboBox* list = page.ComboPAspInst[row];
+        list->setFocus();
+        list->showPopup();
+        QWidget* popup = list->view();
+        const int index = list->findText(name);
+        ASSERT_GE(index, 0) << name.toStdString();
+        list->view()->setCurrentIndex(list->model()->index(index, 0));
+        QTest::keyClick(popup, Qt::Key_Return);
+    }
+    void doubleClick(QWidget* box) { QTest::mouseDClick(box, Qt::LeftButton); }
+};
+
+} // namespace
+
+TEST(AspectsPage, StepRowsFollowTheirInstructionAndClampWhatIsTyped)
+{
+    AspectsRig m;
+    QTest::mouseClick(m.page.OptionPAspConf[1], Qt::LeftButton); // "4": aspects 0..3 of nine steps
+    EXPECT_EQ(m.config.pin(1).AspectLayout, 3);
+    EXPECT_TRUE(m.page.ComboPAspInst[8]->isVisible());
+
+    m.choose(0, "On");
+    EXPECT_EQ(m.step(0).Instruction, 9);
+    EXPECT_EQ(std::tuple(m.page.LabelPAspOffset->text(), m.page.LabelPAspHParam1->text(),
+                         m.page.TextPAspPar2[0]->isEnabled(), m.page.CheckPAspFade[0]->isVisible()),
+              std::tuple("P.O.", "T(/60)", false, true));
+    type(m.page.TextPAspOffset[0], "-3"); // pin 1 has no pin three below it
+    EXPECT_EQ(m.page.TextPAspOffset[0]->text(), "-1");
+    type(m.page.TextPAspPar1[0], "200");
+    EXPECT_EQ(m.page.TextPAspPar1[0]->text(), "127");
+    QTest::mouseClick(m.page.CheckPAspFade[0], Qt::LeftButton);
+    EXPECT_EQ(m.step(0).Fade, 1);
+
+    // A time instruction shows its duration; the headings follow the row changed last.
+    m.choose(1, "Wait");
+    type(m.page.TextPAspPar2[1], "50");
+    EXPECT_EQ(m.page.LabelPAspTime[1]->text(), "00:01.00");
+    EXPECT_EQ(m.page.LabelPASpHParam2->text(), "Time");
+
+    // What was typed is what the model holds when the pin is shown again.
+    m.pickPin(2);
+    m.pickPin(1);
+    EXPECT_EQ(std::tuple(m.page.TextPAspOffset[0]->text(), m.page.TextPAspPar1[0]->text(),
+                         m.page.ComboPAspInst[1]->currentText()),
+              std::tuple("-1", "127", "Wait"));
+
+    // Descriptions are typed into the pin and the aspect.
+    QTest::keyClicks(m.page.TextPAspDesc, "Home signal");
+    QTest::keyClicks(m.page.TextPAspAspDesc, "Stop");
+    EXPECT_EQ(std::tuple(m.config.pin(1).Description, m.config.aspect(1, 0).Description),
+              std::tuple("Home signal", "Stop"));
+}
+
+TEST(AspectsPage, LayoutOptionsClampTheSelectionAndShowTheirRows)
+{
+    AspectsRig m;
+    QTest::mouseClick(m.page.OptionPAspConf[2], Qt::LeftButton); // "12"
+    EXPECT_FALSE(m.page.ComboPAspInst[3]->isVisible());
+    type(m.page.TextPAspAspect, "7");
+    type(m.page.TextPAspInit, "9");
+    QTest::mouseClick(m.page.OptionPAspConf[1], Qt::LeftButton); // "4"
+    EXPECT_EQ(std::tuple(m.page.TextPAspAspect->text(), m.page.TextPAspInit->text(), m.config.CurrentAspect,
+                         int(m.config.pin(1).InitAspect), m.page.ComboPAspInst[3]->isVisible()),
+              std::tuple("3", "-1", 3, 0, true));
+    type(m.page.TextPAspAspect, "9");
+    EXPECT_EQ(m.page.TextPAspAspect->text(), "3");
+
+    QTest::mouseClick(m.page.OptionPAspConf[0], Qt::LeftButton); // "0": no aspects
+    EXPECT_FALSE(m.page.TextPAspAspect->isVisible());
+    EXPECT_FALSE(m.page.ComboPAspInst[0]->isVisible());
+    m.config.pin(1).AspectLayout = 1; // a layout the page does not offer shows as "0" and is stored so
+    m.pickPin(1);
+    EXPECT_EQ(std::tuple(m.page.OptionPAspConf[0]->isChecked(), int(m.config.pin(1).AspectLayout)),
+              std::tuple(true, 0));
+
+    // Address counts clamp to what the module takes.
+    type(m.page.TextPaspDCCn, "9");
+    type(m.page.TextPAspXDCCn, "3");
+    EXPECT_EQ(std::tuple(m.page.TextPaspDCCn->text(), m.page.TextPAspXDCCn->text()), std::tuple("7", "1"));
+}
+
+TEST(AspectsPage, EditToolsBehindTheLabels)
+{
+    AspectsRig m;
+    QTest::mouseClick(m.page.OptionPAspConf[2], Qt::LeftButton); // "12": three steps an aspect
+    const StepRecord on{9, 0, 0, 5, 0, 0}, off{8, 0, 0, 6, 0, 0}, invert{10, 0, 0, 7, 0, 0};
+    m.step(0) = on;
+    m.step(1) = off;
+    m.step(2) = invert;
+    m.step(3) = on; // beyond the layout: never touched
+    clickInModal("dlgEditStep", "commandInsert");
+    QTest::mouseClick(m.page.LabelPAspStep[0], Qt::LeftButton);
+    EXPECT_EQ(std::tuple(m.step(0), m.step(1), m.step(2), m.step(3)), std::tuple(StepRecord{}, on, off, on));
+    EXPECT_EQ(m.page.ComboPAspInst[1]->currentText(), "On");
+
+    // Clean keeps the steps before the first empty one and clears the rest.
+    m.step(0) = on;
+    m.step(1) = StepRecord{0, 1, 2, 3, 4, 5};
+    m.step(2) = off;
+    m.config.aspect(1, 0).Description = "Clear";
+    clickInModal("dlgEditAspect", "CommandClean");
+    QTest::mouseClick(m.page.LabelPAspAspect, Qt::LeftButton);
+    EXPECT_EQ(std::tuple(m.step(0), m.step(1), m.step(2), m.config.aspect(1, 0).Description),
+              std::tuple(on, StepRecord{}, StepRecord{}, ""));
+
+    // A pin of a device copied onto another pin still refers to the same head.
+    m.config.pin(3).DeviceOffset = -3;
+    m.pickPin(3);
+    clickInModal("dlgEditPin", "CommandCopyPin");
+    QTest::mouseClick(m.page.LabelPAspOutput, Qt::LeftButton);
+    m.pickPin(5);
+    clickInModal("dlgEditPin", "CommandPastePin");
+    QTest::mouseClick(m.page.LabelPAspOutput, Qt::LeftButton);
+    EXPECT_EQ(std::tuple(int(m.config.pin(5).DeviceOffset), m.page.TextDevicePin->text()), std::tuple(-5, "0"));
+}
+
+TEST(AspectsPage, HelpToolsFromTheParameterBoxes)
+{
+    AspectsRig m;
+    QTest::mouseClick(m.page.OptionPAspConf[1], Qt::LeftButton);
+    m.choose(0, "Multibit 5");
+    onModal("dlgKestrelCalcPattern", [](QDialog& d) {
+        for (const char* box : {"chkUitgang_0", "chkUitgang_2", "chkAllDark"})
+            QTest::mouseClick(d.findChild<QCheckBox*>(box), Qt::LeftButton);
+        QTest::mouseClick(d.findChild<QAbstractButton*>("OKButton"), Qt::LeftButton);
+    });
+    m.doubleClick(m.page.TextPAspPar1[0]);
+    EXPECT_EQ(std::tuple(int(m.step(0).Par1), m.page.TextPAspPar1[0]->text()), std::tuple(37, "37"));
+
+    // The time tool from the keyboard: Cancel leaves the step as it was, OK hands Time and Base back.
+    m.choose(1, "Wait");
+    type(m.page.TextPAspPar2[1], "10");
+    const StepRecord before = m.step(1);
+    for (const char* button : {"CancelButton", "OKButton"}) {
+        onModal("dlgCT", [button](QDialog& d) {
+            d.findChild<QSlider*>("SliderCTTime")->setValue(63);
+            QTest::mouseClick(d.findChild<QAbstractButton*>(button), Qt::LeftButton);
+        });
+        QTest::keyClick(m.page.TextPAspPar2[1], Qt::Key_F2);
+        if (std::string(button) == "CancelButton")
+            EXPECT_EQ(m.step(1), before);
+    }
+    EXPECT_EQ(std::tuple(int(m.step(1).Par2), m.page.TextPAspPar2[1]->text()), std::tuple(63, "63"));
+
+    // A box whose instruction has no tool says so.
+    m.choose(2, "On");
+    m.doubleClick(m.page.TextPAspPar1[2]);
+    EXPECT_EQ(m.dialogs.texts().back(), "Help tool not available for this box with the selected command");
+}
+
+TEST(AspectsPage, DevicesAreListedAndLoadOntoTheChosenPin)
+{
+    AspectsRig m;
+    AspectsPage& page = m.page;
+    EXPECT_TRUE(m.dialogs.messages.empty()); // KestrelDevices.def lies beside the program
+    ASSERT_GE(page.cboDevice->count(), 5);
+    EXPECT_EQ(page.lblDDVersion->text(), "Kestrel standard devices 2026-11-21");
+
+    // A three-pin signal placed on pin 31 wraps round to pins 0 and 1.
+    m.pickPin(31);
+    page.cboDevice->setCurrentIndex(page.cboDevice->findText("Colour light signal, 3 aspects"));
+    QTest::mouseClick(page.CommandPAspPreLoad, Qt::LeftButton);
+    const auto& pins = m.config.Pins;
+    EXPECT_EQ(std::tuple(pins[31].DeviceOffset, pins[0].DeviceOffset, pins[1].DeviceOffset,
+                         pins[31].DeviceDescription, page.TextDeviceDescription->text().toStdString()),
+              std::tuple(0, 31, 30, "Colour light signal, 3 aspects", "Colour light signal, 3 aspects"));
+    m.pickPin(1);
+    EXPECT_EQ(page.TextDevicePin->text(), "31");
+    EXPECT_FALSE(page.TextDeviceDescription->isEnabled()); // a member: the name is its head's
+
+    // One pin selection for the window: the pin chosen on the Event Control page is the one
+    // the device goes onto, and its head's name can be typed.
+    m.w.tabs->setCurrentWidget(m.w.eventPage);
+    type(m.w.eventPage->TextECpin, "7");
+    m.w.tabs->setCurrentWidget(&page);
+    EXPECT_EQ(page.TextPAspOutput->text(), "7");
+    QTest::mouseClick(page.CommandPAspPreLoad, Qt::LeftButton);
+    ASSERT_TRUE(page.TextDeviceDescription->isEnabled());
+    page.TextDeviceDescription->selectAll();
+    QTest::keyClicks(page.TextDeviceDescription, "Home");
+    EXPECT_EQ(pins[7].DeviceDescription, "Home");
+
+    // Shift alone appends the chosen definitions; Shift with Ctrl replaces.
+    const int count = page.cboDevice->count();
+    const std::string standard = QCoreApplication::applicationDirPath().toStdString() + "/KestrelDevices.def";
+    m.dialogs.fileNames = {standard, standard};
+    QTest::mousePress(page.CommandReloadDD, Qt::LeftButton, Qt::ShiftModifier);
+    EXPECT_EQ(page.cboDevice->count(), 2 * count);
+    QTest::mousePress(page.CommandReloadDD, Qt::LeftButton, Qt::ShiftModifier | Qt::ControlModifier);
+    EXPECT_EQ(page.cboDevice->count(), count);
+}
+
+TEST(AspectsPage, EveryPinJobRunsFromItsButton)
+{
+    AspectsRig m;
+    QTest::mouseClick(m.page.OptionPAspConf[1], Qt::LeftButton);
+    m.choose(0, "On");
+    type(m.page.TextPAspPar1[0], "25");
+    type(m.page.TextPAspAspect, "3");
+    m.choose(8, "Wait");
+    type(m.page.TextPAspPar2[8], "40");
+    const PinRecord written = m.config.pin(1);
+
+    // "Write Asp's", the pin cleared here, "Read Asp's": the module gave it all back.
+    m.job(m.page.CommandPAspWritePin);
+    EXPECT_TRUE(m.status().startsWith("Write Pin done")) << m.status().toStdString();
+    clearPin(m.config, 1);
+    m.job(m.page.CommandPAspReadPin);
+    const auto sameSteps = [&] {
+        for (int a = 0; a < 4; ++a)
+            EXPECT_EQ(m.config.pin(1).Aspects[a].Steps, written.Aspects[a].Steps) << "aspect " << a;
+    };
+    sameSteps();
+    EXPECT_EQ(m.page.ComboPAspInst[8]->currentText(), "Wait");
+
+    struct Case {
+        QPushButton* button;
+        const char* outcome;
+    };
+    const Case cases[] = {
+        {m.page.CommandPAspWriteAspect, "Write Aspect done"}, {m.page.CommandReadPin, "Read Pin done"},
+        {m.page.CommandWritePin, "Write Pin done"},           {m.page.CommandReadDevice, "Read Device done"},
+        {m.page.CommandWriteDevice, "Write Device done"},     {m.w.CommandWriteAllPins, "Write All Pins done"},
+        {m.w.CommandReadAllPins, "Read All Pins done"},       {m.w.CommandVerifyAllPins, "Verify All Pins done"},
+    };
+    for (const Case& c : cases) {
+        m.job(c.button);
+        EXPECT_TRUE(m.status().startsWith(c.outcome)) << c.outcome << ": " << m.status().toStdString();
+    }
+    sameSteps();
+    EXPECT_FALSE(m.page.CommandPAspTestAspect->isEnabled()); // the module has no test command
+}
