@@ -1,7 +1,73 @@
+#include "shell/AspectsPage.h"
+#include "shell/EditTools.h"
+#include "shell/HelpToolDialogs.h"
 #include "shell/KestrelConfig.h"
 
 #include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabWidget>
 #include <QTimer>
+
+namespace {
+
+// --screenshots DIR: the window on the simulated module after Read All, one picture a
+// page (named after the page's objectName) and one a tool, then quit.
+void takeScreenshots(kestrel::KestrelConfig& window, const QString& folder)
+{
+    using namespace kestrel;
+    QDir().mkpath(folder);
+    window.ComboPort->setEditText("sim");
+    window.ComboPort_Click();
+    window.CommandReadAll->click();
+    auto* poll = new QTimer(&window);
+    QObject::connect(poll, &QTimer::timeout, &window, [&window, poll, folder] {
+        if (window.LabelAction->isVisible() || !window.jobs.PendingJob.empty())
+            return;
+        poll->stop();
+        AspectsPage& page = *window.aspectsPage;
+        page.TextPAspOutput->setText("3"); // a signal with a two-step program
+        emit page.TextPAspOutput->editingFinished();
+        for (int t = 0; t < window.tabs->count(); ++t) {
+            window.tabs->setCurrentIndex(t);
+            QApplication::processEvents();
+            window.grab().save(folder + "/" + window.tabs->widget(t)->objectName() + ".png");
+        }
+        Session& s = window.session();
+        StepRecord step = s.config.step(3, 0, 0);
+        StepRecord multibit{15, 0, 0, 37, 0, 0};
+        StepRecord wait{102, 0, 0, 0, 50, 1};
+        QList<QDialog*> tools{new EditPinDialog(s, &page),   new EditAspectDialog(s, &page),
+                              new EditStepDialog(s, &page),  new TimeToolDialog(&page),
+                              new PatternToolDialog(&page),  new EventPatternToolDialog(&page),
+                              new LevelToolDialog(&page)};
+        for (QDialog* tool : tools) {
+            // Each tool shown as its run() shows it, grabbed, then closed from a timer.
+            QTimer::singleShot(300, tool, [tool, folder] {
+                tool->grab().save(folder + "/" + tool->objectName() + ".png");
+                tool->reject();
+            });
+            if (auto* t = qobject_cast<TimeToolDialog*>(tool))
+                t->run(wait);
+            else if (auto* p = qobject_cast<PatternToolDialog*>(tool))
+                p->run(multibit);
+            else if (auto* e = qobject_cast<EventPatternToolDialog*>(tool))
+                e->run(step);
+            else if (auto* l = qobject_cast<LevelToolDialog*>(tool)) {
+                int level = 37;
+                l->run(level);
+            } else
+                tool->exec();
+        }
+        QApplication::quit();
+    });
+    poll->start(100);
+}
+
+} // namespace
 
 int main(int argc, char** argv)
 {
@@ -21,5 +87,8 @@ int main(int argc, char** argv)
             QApplication::quit();
         });
     }
+    const int all = args.indexOf("--screenshots");
+    if (all > 0 && all + 1 < args.size())
+        QTimer::singleShot(500, &window, [&window, folder = args[all + 1]] { takeScreenshots(window, folder); });
     return app.exec();
 }
