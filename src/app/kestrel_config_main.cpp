@@ -40,9 +40,9 @@ void takeScreenshots(kestrel::KestrelConfig& window, const QString& folder)
         StepRecord step = s.config.step(3, 0, 0);
         StepRecord multibit{15, 0, 0, 37, 0, 0};
         StepRecord wait{102, 0, 0, 0, 50, 1};
-        QList<QDialog*> tools{new EditPinDialog(s, &page),   new EditAspectDialog(s, &page),
-                              new EditStepDialog(s, &page),  new TimeToolDialog(&page),
-                              new PatternToolDialog(&page),  new EventPatternToolDialog(&page),
+        QList<QDialog*> tools{new EditPinDialog(s, &page),  new EditAspectDialog(s, &page),
+                              new EditStepDialog(s, &page), new TimeToolDialog(&page),
+                              new PatternToolDialog(&page), new EventPatternToolDialog(&page),
                               new LevelToolDialog(&page)};
         for (QDialog* tool : tools) {
             // Each tool shown as its run() shows it, grabbed, then closed from a timer.
@@ -89,6 +89,7 @@ int main(int argc, char** argv)
     }
     const int all = args.indexOf("--screenshots");
     if (all > 0 && all + 1 < args.size())
-        QTimer::singleShot(500, &window, [&window, folder = args[all + 1]] { takeScreenshots(window, folder); });
+        QTimer::singleShot(500, &window,
+                           [&window, folder = args[all + 1]] { takeScreenshots(window, folder); });
     return app.exec();
 }

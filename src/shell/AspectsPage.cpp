@@ -73,8 +73,9 @@ QHBoxLayout* boxWithSpinner(QLineEdit* box, QSpinBox* spinner)
 
 const char* const kToolTip = "Click for copy/paste tools";
 const char* const kHelpTip = "Double-click for help-tool\nF2 opens it from the keyboard";
-const char* const kLevelHelpTip = "Double-click for help-tool\nF2 opens it from the keyboard; a \"Level\" box "
-                                  "opens the level tool";
+const char* const kLevelHelpTip =
+    "Double-click for help-tool\nF2 opens it from the keyboard; a \"Level\" box "
+    "opens the level tool";
 const char* const kTestTip = "The module has no command to test an aspect, so this is not available";
 } // namespace
 
@@ -287,7 +288,8 @@ QWidget* AspectsPage::buildAspectArea()
     CommandPAspTestAspect->setEnabled(false);
     CommandPAspTestAspect->setToolTip(kTestTip);
     buttons->addWidget(CheckPAspShowDetails);
-    for (QPushButton* b : {CommandPAspReadPin, CommandPAspWritePin, CommandPAspWriteAspect, CommandPAspTestAspect})
+    for (QPushButton* b :
+         {CommandPAspReadPin, CommandPAspWritePin, CommandPAspWriteAspect, CommandPAspTestAspect})
         buttons->addWidget(b);
     buttons->addStretch();
     layout->addLayout(buttons);
@@ -367,9 +369,10 @@ void AspectsPage::bind()
         AddressKind kind;
         std::string AspectView::*text;
     };
-    for (const Count& n : {Count{TextPaspDCCn, UpDownPaspDCCn, AddressKind::Dcc, &AspectView::dccCount},
-                           Count{TextPAspXDCCn, UpDownPAspXDCCn, AddressKind::XDcc, &AspectView::xdccCount},
-                           Count{TextPaspLynxn, UpDownPaspLynxn, AddressKind::Lynx, &AspectView::lynxCount}}) {
+    for (const Count& n :
+         {Count{TextPaspDCCn, UpDownPaspDCCn, AddressKind::Dcc, &AspectView::dccCount},
+          Count{TextPAspXDCCn, UpDownPAspXDCCn, AddressKind::XDcc, &AspectView::xdccCount},
+          Count{TextPaspLynxn, UpDownPaspLynxn, AddressKind::Lynx, &AspectView::lynxCount}}) {
         n.spin->setRange(0, addressCountMaximum(n.kind));
         b.entry(
             n.box, [this, n] { return view.*n.text; },
@@ -378,7 +381,8 @@ void AspectsPage::bind()
     }
 
     b.text(TextPAspDesc, [&c]() -> std::string& { return c.pin(c.CurrentPin).Description; });
-    b.text(TextPAspAspDesc, [&c]() -> std::string& { return c.aspect(c.CurrentPin, c.CurrentAspect).Description; });
+    b.text(TextPAspAspDesc,
+           [&c]() -> std::string& { return c.aspect(c.CurrentPin, c.CurrentAspect).Description; });
     // Only the device's head keeps its name; on a member the box shows the head's and is closed.
     connect(TextDeviceDescription, &QLineEdit::textChanged, this, [this, &c](const QString& typed) {
         bindings.edit([&] {
@@ -419,9 +423,9 @@ void AspectsPage::bind()
         }
         const bool aspects = view.layout.aspectControlsVisible;
         for (QWidget* w : std::initializer_list<QWidget*>{
-                 LabelPAspAspect, TextPAspAspect, UpDownPAspAspect, LabelPAspAspDesc, TextPAspAspDesc, LabelPAspInit,
-                 TextPAspInit, UpDownPAspInit, LabelPAspHFade, LabelPAspOffset, LabelPAspHParam1, LabelPASpHParam2,
-                 LabelPAspHParam3, LabelPAspHTime, CheckPAspShowDetails})
+                 LabelPAspAspect, TextPAspAspect, UpDownPAspAspect, LabelPAspAspDesc, TextPAspAspDesc,
+                 LabelPAspInit, TextPAspInit, UpDownPAspInit, LabelPAspHFade, LabelPAspOffset,
+                 LabelPAspHParam1, LabelPASpHParam2, LabelPAspHParam3, LabelPAspHTime, CheckPAspShowDetails})
             w->setVisible(aspects);
         showHeadings();
         showDetails();
@@ -445,9 +449,9 @@ void AspectsPage::showRow(int r)
 {
     const StepRowView& row = view.rows[r];
     const bool visible = view.layout.aspectControlsVisible && view.layout.rowVisible[r];
-    for (QWidget* w : std::initializer_list<QWidget*>{LabelPAspStep[r], ComboPAspInst[r], TextPAspOffset[r],
-                                                      TextPAspPar1[r], TextPAspPar2[r], TextPAspPar3[r],
-                                                      LabelPAspTime[r]})
+    for (QWidget* w :
+         std::initializer_list<QWidget*>{LabelPAspStep[r], ComboPAspInst[r], TextPAspOffset[r],
+                                         TextPAspPar1[r], TextPAspPar2[r], TextPAspPar3[r], LabelPAspTime[r]})
         w->setVisible(visible);
     {
         const QSignalBlocker block(ComboPAspInst[r]);
@@ -464,7 +468,9 @@ void AspectsPage::showRow(int r)
         boxes[p]->setEnabled(row.parameters[p].used);
         const std::string& caption = info.caption(p);
         boxes[p]->setAccessibleName(
-            QString("%1, step %2").arg(caption.empty() ? QString("Parameter %1").arg(p) : latin1(caption)).arg(r));
+            QString("%1, step %2")
+                .arg(caption.empty() ? QString("Parameter %1").arg(p) : latin1(caption))
+                .arg(r));
         if (p > 0)
             boxes[p]->setToolTip(row.parameters[p].used && caption == "Level" ? kLevelHelpTip : kHelpTip);
     }
@@ -485,8 +491,8 @@ void AspectsPage::showDetails()
     const bool aspects = view.layout.aspectControlsVisible;
     CommandPAspReadPin->setVisible(details);
     CommandPAspWritePin->setVisible(details);
-    for (QWidget* w : std::initializer_list<QWidget*>{CommandPAspWriteAspect, CommandPAspTestAspect, LabelPAspHStep,
-                                                      LabelPAspHInst})
+    for (QWidget* w : std::initializer_list<QWidget*>{CommandPAspWriteAspect, CommandPAspTestAspect,
+                                                      LabelPAspHStep, LabelPAspHInst})
         w->setVisible(details && aspects);
 }
 

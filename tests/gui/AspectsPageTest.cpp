@@ -1,13 +1,13 @@
 // The aspect page as a user drives it: step rows that follow their instruction and clamp
 // what is typed, the layout options, the pin, aspect, step and help tools behind labels
 // and boxes, device loading, and every pin job from its button against the simulated module.
+#include "shell/AspectsPage.h"
 #include "gui/GuiRig.h"
 #include "model/PinTools.h"
-#include "shell/AspectsPage.h"
 #include "shell/EventPage.h"
 
-#include <QCheckBox>
 #include <QAbstractItemView>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QRadioButton>
 #include <QSlider>
@@ -57,6 +57,15 @@ TEST(AspectsPage, StepRowsFollowTheirInstructionAndClampWhatIsTyped)
     EXPECT_EQ(std::tuple(m.page.LabelPAspOffset->text(), m.page.LabelPAspHParam1->text(),
                          m.page.TextPAspPar2[0]->isEnabled(), m.page.CheckPAspFade[0]->isVisible()),
               std::tuple("P.O.", "T(/60)", false, true));
+    // Tab goes through a row left to right, then to the next row.
+    QWidget* at = m.page.ComboPAspInst[0];
+    for (QWidget* next : std::initializer_list<QWidget*>{m.page.CheckPAspFade[0], m.page.TextPAspOffset[0],
+                                                         m.page.TextPAspPar1[0], m.page.ComboPAspInst[1]}) {
+        do
+            at = at->nextInFocusChain();
+        while (!(at->focusPolicy() & Qt::TabFocus) || !at->isVisible() || !at->isEnabled());
+        EXPECT_EQ(at, next) << at->objectName().toStdString();
+    }
     type(m.page.TextPAspOffset[0], "-3"); // pin 1 has no pin three below it
     EXPECT_EQ(m.page.TextPAspOffset[0]->text(), "-1");
     type(m.page.TextPAspPar1[0], "200");
@@ -144,7 +153,8 @@ TEST(AspectsPage, EditToolsBehindTheLabels)
     m.pickPin(5);
     clickInModal("dlgEditPin", "CommandPastePin");
     QTest::mouseClick(m.page.LabelPAspOutput, Qt::LeftButton);
-    EXPECT_EQ(std::tuple(int(m.config.pin(5).DeviceOffset), m.page.TextDevicePin->text()), std::tuple(-5, "0"));
+    EXPECT_EQ(std::tuple(int(m.config.pin(5).DeviceOffset), m.page.TextDevicePin->text()),
+              std::tuple(-5, "0"));
 }
 
 TEST(AspectsPage, HelpToolsFromTheParameterBoxes)
@@ -251,10 +261,14 @@ TEST(AspectsPage, EveryPinJobRunsFromItsButton)
         const char* outcome;
     };
     const Case cases[] = {
-        {m.page.CommandPAspWriteAspect, "Write Aspect done"}, {m.page.CommandReadPin, "Read Pin done"},
-        {m.page.CommandWritePin, "Write Pin done"},           {m.page.CommandReadDevice, "Read Device done"},
-        {m.page.CommandWriteDevice, "Write Device done"},     {m.w.CommandWriteAllPins, "Write All Pins done"},
-        {m.w.CommandReadAllPins, "Read All Pins done"},       {m.w.CommandVerifyAllPins, "Verify All Pins done"},
+        {m.page.CommandPAspWriteAspect, "Write Aspect done"},
+        {m.page.CommandReadPin, "Read Pin done"},
+        {m.page.CommandWritePin, "Write Pin done"},
+        {m.page.CommandReadDevice, "Read Device done"},
+        {m.page.CommandWriteDevice, "Write Device done"},
+        {m.w.CommandWriteAllPins, "Write All Pins done"},
+        {m.w.CommandReadAllPins, "Read All Pins done"},
+        {m.w.CommandVerifyAllPins, "Verify All Pins done"},
     };
     for (const Case& c : cases) {
         m.job(c.button);
