@@ -32,7 +32,8 @@ void onOpen(QDialog& dialog, const std::function<void()>& user)
 
 void click(QAbstractButton* button) { QTest::mouseClick(button, Qt::LeftButton); }
 
-// The edit tools on one session (the pin tool is the rig's page) and the help tools.
+// The pin tool on one session (the rig's page) and the help tools. Copy, paste, clean and
+// insert are driven through the aspect page's labels in AspectsPageTest.
 struct ToolRig : PageRig<EditPinDialog> {
     EditAspectDialog aspectTool{*session};
     EditStepDialog stepTool{*session};
@@ -45,7 +46,7 @@ struct ToolRig : PageRig<EditPinDialog> {
 };
 } // namespace
 
-TEST(EditTools, PinToolPastesOnlyWhatWasCopiedAndKeepsTheDeviceHead)
+TEST(EditTools, PinToolHasNothingToPasteBeforeACopyAndPassesFaultsOn)
 {
     ToolRig rig;
     EditPinDialog& tool = *rig.page;
@@ -64,52 +65,11 @@ TEST(EditTools, PinToolPastesOnlyWhatWasCopiedAndKeepsTheDeviceHead)
     tool.run();
     EXPECT_EQ(c.pin(5), PinRecord{});
 
-    c.CurrentPin = 3;
-    onOpen(tool, [&] { click(tool.CommandCopyPin); });
-    tool.run();
-    c.CurrentPin = 5;
-    onOpen(tool, [&] { click(tool.CommandPastePin); });
-    tool.run();
-    EXPECT_EQ(std::tuple(c.pin(5).DeviceOffset, c.pin(5).Description), std::tuple(-5, "Signal B"));
-
     // A fault inside the modal loop closes the tool and reaches the caller's guard.
     c.CurrentPin = 99;
     onOpen(tool, [&] { click(tool.CommandClearPin); });
     EXPECT_THROW(tool.run(), ProgramFault);
     EXPECT_FALSE(tool.isVisible());
-}
-
-TEST(EditTools, AspectToolCleansAfterTheFirstEmptyStepAndStepToolInsertsAtRowZero)
-{
-    ToolRig rig;
-    Configuration& c = rig.config;
-    c.CurrentPin = 4;
-    c.CurrentAspect = 2;
-    AspectRecord& aspect = c.pin(4).Aspects[2];
-    aspect.Description = "Route";
-    const StepRecord on{9, 1, 0, 5, 0, 0}, off{8, 0, 1, 7, 0, 0};
-    aspect.Steps = {on, {0, 1, 1, 2, 3, 4}, off}; // "On", "-" with parameters, "Off"
-    onOpen(rig.aspectTool, [&] {
-        EXPECT_EQ(rig.aspectTool.LabelTarget->text(), "Pin 4, aspect 2");
-        click(rig.aspectTool.CommandClean);
-    });
-    rig.aspectTool.run();
-    EXPECT_EQ(
-        std::tuple(aspect.Description, aspect.AspectMark, aspect.Steps[0], aspect.Steps[1], aspect.Steps[2]),
-        std::tuple("", kAllOnes, on, StepRecord{}, StepRecord{}));
-
-    // Layout "12": rows 0 and 1 move down, the old row 2 is lost, row 3 is not touched.
-    c.pin(4).AspectLayout = 2;
-    const StepRecord a{9, 0, 0, 1, 0, 0}, b{8, 0, 0, 2, 0, 0}, d{11, 0, 0, 4, 0, 0};
-    aspect.Steps = {a, b, {10, 0, 0, 3, 0, 0}, d};
-    selectStepRow(c, 0);
-    onOpen(rig.stepTool, [&] {
-        EXPECT_EQ(rig.stepTool.LabelTarget->text(), "Pin 4, aspect 2, step 0");
-        click(rig.stepTool.commandInsert);
-    });
-    rig.stepTool.run();
-    EXPECT_EQ(std::tuple(aspect.Steps[0], aspect.Steps[1], aspect.Steps[2], aspect.Steps[3]),
-              std::tuple(StepRecord{}, a, b, d));
 }
 
 TEST(HelpTools, PatternToolComposesTheParameterFromItsBoxes)
