@@ -102,23 +102,9 @@ const char* const kConfigParameterNames[12] = {
 void writeCfgRecord(ItemWriter& w, int indent, PinRecord& pin)
 {
     w.line(indent).text("Cfg").number(pin.ConfigMode);
-    int count = 0;
-    switch (pin.ConfigMode) {
-    case 1:
+    const int count = configParameterCount(pin.ConfigMode);
+    if (pin.ConfigMode == 1)
         pin.P(2) = servoModeToStore(pin.P(2));
-        count = 11;
-        break;
-    case 2:
-    case 3:
-        count = 5;
-        break;
-    case 4:
-    case 5:
-        count = 4;
-        break;
-    default:
-        break;
-    }
     for (int n = 1; n <= count; ++n)
         w.number(pin.P(n));
     w.end();
@@ -421,13 +407,12 @@ private:
             if (version >= 20) {
                 p[4] = nextParameter(4);
                 p[5] = nextParameter(5);
-            } else {
-                p[4] = 0;
-                p[5] = 31;
             }
             r.ConfigMode = static_cast<std::uint8_t>(mode);
             for (int n = 1; n <= 11; ++n)
                 r.P(n) = static_cast<std::uint8_t>(p[n]);
+            if (version < 20)
+                setOlderPwmLimits(r);
             break;
         case 4:
         case 5:

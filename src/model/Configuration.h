@@ -61,6 +61,14 @@ struct PinRecord {
 std::uint8_t currentServoMode(std::uint8_t p2);
 constexpr std::uint8_t servoModeToStore(std::uint8_t p2) { return p2 & 63; }
 
+// The configuration parameters a pin mode carries, after the mode byte, on the wire and in
+// the data and definitions files alike: a servo (1) P1..P11, PWM (2, 3) P1..P5, an input
+// (4, 5) P1..P4, any other mode none.
+int configParameterCount(int mode);
+// PWM parameters 4 and 5 of a module or data file of the older three-parameter form, which
+// carries neither: 0 and 31.
+void setOlderPwmLimits(PinRecord& pin);
+
 // Event-On and Event-Off actions of one pin: entries for input slots 0..3 (a fifth is
 // never used); -1 = no action. All entries start at 0.
 struct EventRecord {

@@ -7,7 +7,8 @@ namespace kestrel {
 
 namespace {
 
-const std::array<int, 21>& reply(Session& s) { return s.link.state.ReplyBuffer; }
+// Data byte i of the last reply (after the echoed command and item).
+int data(Session& s, int i) { return s.link.lastReply().data(i); }
 int replyLength(Session& s) { return s.link.lastReply().length(); }
 bool echoes(Session& s, int command, int item) { return s.link.lastReply().echoes(command, item); }
 
@@ -27,7 +28,8 @@ std::string sizeMessage(int n, int expected)
 
 std::string msgMessage(Session& s, int item)
 {
-    return "No valid response, msg = " + std::to_string(reply(s)[2]) + "," + std::to_string(reply(s)[3]) +
+    const KestrelReply& r = s.link.lastReply();
+    return "No valid response, msg = " + std::to_string(r.command()) + "," + std::to_string(r.item()) +
            " expected = 112," + std::to_string(item);
 }
 
@@ -56,7 +58,7 @@ bool ReadIDString(Session& session)
     }
     std::string text;
     for (int i = 0; i < n - 2; ++i)
-        text += static_cast<char>(static_cast<unsigned char>(reply(session)[4 + i]));
+        text += static_cast<char>(static_cast<unsigned char>(data(session, i)));
     session.general.TextGenIDString = text;
     return true;
 }
@@ -88,7 +90,7 @@ bool ReadDCCSettings(Session& session)
     else if (!echoes(session, kGeneralRead, kItemDccOptions))
         say(session, "Received Address: No valid response");
     else {
-        const int b = reply(session)[4];
+        const int b = data(session, 0);
         g.OptGenDCC_PRP = b & 3;
         g.ChkGenDCC_BPSI = bit(b, 2);
         g.ChkGenDCCAllow0 = bit(b, 3);
@@ -101,7 +103,7 @@ bool ReadDCCSettings(Session& session)
     else if (!echoes(session, kGeneralRead, kItemDccAddress))
         say(session, "Get DCC Address: No valid response");
     else {
-        g.TextGenDCCAddress = std::to_string(reply(session)[5] * 64 + reply(session)[4]);
+        g.TextGenDCCAddress = std::to_string(data(session, 1) * 64 + data(session, 0));
         session.dccAddressChanged();
     }
 
@@ -110,7 +112,7 @@ bool ReadDCCSettings(Session& session)
     if (replyLength(session) != 4 || !echoes(session, kGeneralRead, kItemXDccAddress))
         say(session, "No valid response");
     else {
-        g.TextGenXDCCAddress = std::to_string(reply(session)[5] * 64 + reply(session)[4]);
+        g.TextGenXDCCAddress = std::to_string(data(session, 1) * 64 + data(session, 0));
         session.dccAddressChanged();
     }
     return true;
@@ -154,13 +156,13 @@ bool ReadSerialAddressing(Session& session)
     else if (!echoes(session, kGeneralRead, kItemSerialAddressing))
         say(session, msgMessage(session, kItemSerialAddressing));
     else {
-        if (reply(session)[4] != 0) {
+        if (data(session, 0) != 0) {
             g.CheckGenLynxaddr = 1;
             g.CheckGenKestrelNative = 0;
-            g.LynxFlexAddress = reply(session)[5];
+            g.LynxFlexAddress = data(session, 1);
         } else {
             g.CheckGenLynxaddr = 0;
-            g.CheckGenKestrelNative = bit(reply(session)[5], 6);
+            g.CheckGenKestrelNative = bit(data(session, 1), 6);
             g.LynxFlexAddress = 0;
         }
         g.TextGenLynxaddr = std::to_string(g.LynxFlexAddress * 4 + base);
@@ -175,7 +177,7 @@ bool ReadSerialAddressing(Session& session)
     else if (!echoes(session, kGeneralRead, kItemExtendedAddress))
         say(session, msgMessage(session, kItemExtendedAddress));
     else {
-        g.ExtendedAddress = reply(session)[4];
+        g.ExtendedAddress = data(session, 0);
         g.TextGenXaddr = std::to_string(g.ExtendedAddress + base);
     }
 
@@ -188,7 +190,7 @@ bool ReadSerialAddressing(Session& session)
     else {
         for (int grp = 0; grp < 4; ++grp)
             for (int k = 0; k < 4; ++k)
-                g.CheckGenXGM[4 * grp + k] = bit(reply(session)[4 + grp], k);
+                g.CheckGenXGM[4 * grp + k] = bit(data(session, grp), k);
     }
     return true;
 }
@@ -234,7 +236,7 @@ bool ReadHardwareConfig(Session& session)
         return true;
     }
     for (int grp = 0; grp < 4; ++grp) {
-        const int v = reply(session)[4 + grp];
+        const int v = data(session, grp);
         if (v < 0 || v > 3) {
             say(session, "No valid response byte");
             return false;
@@ -265,7 +267,7 @@ bool ReadLEDControl(Session& session)
             say(session, "No valid response");
             continue;
         }
-        setLedBoxes(*boxes, reply(session)[4]);
+        setLedBoxes(*boxes, data(session, 0));
     }
     return true;
 }
@@ -295,8 +297,8 @@ bool ReadSerialPortSettings(Session& session)
         say(session, msgMessage(session, kItemSerialPort));
         return false;
     }
-    g.CheckGenSerialEnable = reply(session)[4] != 0 ? 1 : 0;
-    const int s = reply(session)[5];
+    g.CheckGenSerialEnable = data(session, 0) != 0 ? 1 : 0;
+    const int s = data(session, 1);
     g.ComboGenBaud = s & 7;
     g.OptionGenSerialDatabits = bit(s, 3);
     g.OptionGenSerialStop = bit(s, 6);

@@ -26,18 +26,10 @@ constexpr int kPacingMs = 100;
 const char* const kNoValidResponse = "No valid response";
 const char* const kAddrConfigInvalid = "Read Pin Address Configuration: Invalid Response";
 
-int replyLength(const Link& link) { return link.lastReply().length(); }
-
-bool replyIs(const Link& link, int length, int command, int pin)
+// The five step bytes of a 115 reply, after the echoed aspect and step.
+std::array<int, 5> stepBytes(const KestrelReply& r)
 {
-    return link.lastReply().is(length, command, pin);
-}
-
-// The five step bytes of a 115 reply.
-std::array<int, 5> replyStepBytes(const Link& link)
-{
-    const auto& r = link.state.ReplyBuffer;
-    return {r[6], r[7], r[8], r[9], r[10]};
+    return {r.data(2), r.data(3), r.data(4), r.data(5), r.data(6)};
 }
 
 // The initial aspect as stored (0 = none) from the tag-7 entry; 0 for any other tag.
@@ -73,12 +65,12 @@ std::optional<int> readDeviceHead(Session& session, int pin, bool& answered)
 {
     Link& link = session.link;
     link.setBidirectional(true);
-    link.request({kReadAddrConfig, pin});
-    answered = link.state.ReplyValid;
-    if (!answered || !replyIs(link, 5, kReadAddrConfig, pin))
+    const KestrelReply r = link.request({kReadAddrConfig, pin});
+    answered = r.valid;
+    if (!answered || !r.is(5, kReadAddrConfig, pin))
         return std::nullopt;
     for (int i = 4; i <= 6; ++i) {
-        const int b = link.state.ReplyBuffer[i];
+        const int b = r.bytes[i];
         if (b >= 64 && b < 96)
             return pin + decodeDeviceOffset(b, pin);
     }
@@ -91,47 +83,48 @@ bool readPinAspects(Session& session, int pin)
     Link& link = session.link;
     UserDialogs& ui = link.dialogs();
     PinRecord& rec = session.config.pin(pin);
-    const auto& r = link.state.ReplyBuffer;
+    KestrelReply r;
 
     link.setBidirectional(true);
-    link.request({kReadLayout, pin});
-    if (!link.state.ReplyValid)
+    r = link.request({kReadLayout, pin});
+    if (!r.valid)
         return false;
-    if (!replyIs(link, 3, kReadLayout, pin)) {
+    if (!r.is(3, kReadLayout, pin)) {
         ui.message(kNoValidResponse);
         return false;
     }
-    rec.AspectLayout = static_cast<std::uint8_t>(r[4]);
+    rec.AspectLayout = static_cast<std::uint8_t>(r.data(0));
 
     const LayoutSlots slots = layoutSlots(rec.AspectLayout);
     for (int a = 0; a < slots.aspects; ++a) {
         for (int s = 0; s < slots.steps; ++s) {
-            link.request({kReadStep, pin, a, s});
-            if (!link.state.ReplyValid)
+            r = link.request({kReadStep, pin, a, s});
+            if (!r.valid)
                 return false;
-            if (!replyIs(link, 9, kReadStep, pin) || r[4] != a || r[5] != s) {
+            if (!r.is(9, kReadStep, pin) || r.data(0) != a || r.data(1) != s) {
                 ui.message(kNoValidResponse);
                 return false;
             }
-            session.config.step(pin, a, s) = decodeStep(replyStepBytes(link));
+            session.config.step(pin, a, s) = decodeStep(stepBytes(r));
         }
     }
 
-    if (!link.request({kReadEventOn, pin}).sent)
+    r = link.request({kReadEventOn, pin});
+    if (!r.sent)
         return false;
-    const bool initOk = link.state.ReplyValid && replyIs(link, 7, kReadEventOn, pin);
-    rec.InitAspect = static_cast<std::uint8_t>(initOk ? decodeInitEntry(r[4]) : 0);
+    const bool initOk = r.is(7, kReadEventOn, pin);
+    rec.InitAspect = static_cast<std::uint8_t>(initOk ? decodeInitEntry(r.data(0)) : 0);
 
-    link.request({kReadAddrConfig, pin});
-    if (!link.state.ReplyValid)
+    r = link.request({kReadAddrConfig, pin});
+    if (!r.valid)
         return false;
-    if (!replyIs(link, 5, kReadAddrConfig, pin)) {
+    if (!r.is(5, kReadAddrConfig, pin)) {
         ui.message(kAddrConfigInvalid);
         return false;
     }
     bool ok = true;
     for (int i = 4; i <= 6 && ok; ++i) {
-        const int b = r[i];
+        const int b = r.bytes[i];
         if (b < 16) {
             rec.DccCount = static_cast<std::uint8_t>(b & 7);
             rec.XDccCount = static_cast<std::uint8_t>((b >> 3) & 1);
@@ -297,7 +290,7 @@ bool verifyPin(Session& session, int pin, bool& stopped)
     Link& link = session.link;
     Report& report = session.report;
     const PinRecord& rec = session.config.pin(pin);
-    const auto& r = link.state.ReplyBuffer;
+    KestrelReply r;
     const std::string prefix = "Pin " + shownPin(session, pin);
     bool same = true;
     auto mismatch = [&](const std::string& what) {
@@ -311,31 +304,32 @@ bool verifyPin(Session& session, int pin, bool& stopped)
     };
 
     // The pin configuration comes first, then what ReadPin reads, in its order.
-    link.request({kReadFlashConfig, pin});
-    if (!link.state.ReplyValid)
+    r = link.request({kReadFlashConfig, pin});
+    if (!r.valid)
         return stop();
-    const int lengthField = replyLength(link);
-    if (lengthField < 3 || r[2] != kReadFlashConfig || r[3] != pin)
+    const int lengthField = r.length();
+    if (lengthField < 3 || r.command() != kReadFlashConfig || r.item() != pin)
         return stop();
     PinRecord flash; // a cleared record, filled as ReadPinConfig(1, pin) would fill it
-    storePinConfigReply(flash, 1, std::vector<int>(r.begin() + 4, r.begin() + 2 + lengthField), lengthField);
+    storePinConfigReply(flash, 1, std::vector<int>(r.bytes.begin() + 4, r.bytes.begin() + 2 + lengthField),
+                        lengthField);
     if (pinConfigBytes(flash, 1) != pinConfigBytes(rec, 1))
         mismatch(": Pinconfig does not compare");
 
-    link.request({kReadLayout, pin});
-    if (!link.state.ReplyValid || !replyIs(link, 3, kReadLayout, pin))
+    r = link.request({kReadLayout, pin});
+    if (!r.valid || !r.is(3, kReadLayout, pin))
         return stop();
-    if (r[4] != rec.AspectLayout) {
+    if (r.data(0) != rec.AspectLayout) {
         mismatch(": Aspectconfig does not compare");
     } else {
         const LayoutSlots slots = layoutSlots(rec.AspectLayout);
         for (int a = 0; a < slots.aspects; ++a) {
             bool aspectSame = true;
             for (int s = 0; s < slots.steps; ++s) {
-                link.request({kReadStep, pin, a, s});
-                if (!link.state.ReplyValid || !replyIs(link, 9, kReadStep, pin) || r[4] != a || r[5] != s)
+                r = link.request({kReadStep, pin, a, s});
+                if (!r.valid || !r.is(9, kReadStep, pin) || r.data(0) != a || r.data(1) != s)
                     return stop();
-                if (replyStepBytes(link) != encodeStep(session.config.step(pin, a, s)))
+                if (stepBytes(r) != encodeStep(session.config.step(pin, a, s)))
                     aspectSame = false;
             }
             if (!aspectSame)
@@ -343,25 +337,25 @@ bool verifyPin(Session& session, int pin, bool& stopped)
         }
     }
 
-    link.request({kReadEventOn, pin});
-    if (!link.state.ReplyValid)
+    r = link.request({kReadEventOn, pin});
+    if (!r.valid)
         return stop();
-    const int init = replyIs(link, 7, kReadEventOn, pin) ? decodeInitEntry(r[4]) : 0;
+    const int init = r.is(7, kReadEventOn, pin) ? decodeInitEntry(r.data(0)) : 0;
     if (init != rec.InitAspect)
         mismatch(": Init does not compare");
 
-    link.request({kReadAddrConfig, pin});
-    if (!link.state.ReplyValid)
+    r = link.request({kReadAddrConfig, pin});
+    if (!r.valid)
         return stop();
-    if (!replyIs(link, 5, kReadAddrConfig, pin)) {
+    if (!r.is(5, kReadAddrConfig, pin)) {
         report.line("Pin Address Configuration: Invalid Response, expected 5,118," + std::to_string(pin) +
-                    ", received " + std::to_string(replyLength(link)) + "," + std::to_string(r[2]) + "," +
-                    std::to_string(r[3]));
+                    ", received " + std::to_string(r.length()) + "," + std::to_string(r.command()) + "," +
+                    std::to_string(r.item()));
         same = false;
     } else {
         std::optional<int> dcc, lynx, device;
         for (int i = 4; i <= 6; ++i) {
-            const int b = r[i];
+            const int b = r.bytes[i];
             if (b < 16)
                 dcc = b;
             else if (b < 32)

@@ -25,29 +25,23 @@ void storePinConfigReply(PinRecord& rec, int source, const std::vector<int>& byt
         else
             rec.P(i) = b;
     }
-    if ((rec.ConfigMode == kModePwm || rec.ConfigMode == kModePwm + 1) && lengthField < 8) {
-        rec.P(4) = 0;
-        rec.P(5) = 31;
-    }
+    if ((rec.ConfigMode == kModePwm || rec.ConfigMode == kModePwm + 1) && lengthField < 8)
+        setOlderPwmLimits(rec);
     if (rec.ConfigMode == kModeServo)
         rec.P(2) = currentServoMode(rec.P(2));
 }
 
 std::vector<int> pinConfigBytes(const PinRecord& rec, int target)
 {
-    const int value = target == 0 ? rec.OutputValue : rec.P(1);
-    const int mode = rec.ConfigMode;
-    if (mode == kModeServo) {
-        std::vector<int> out{kModeServo, value, servoModeToStore(rec.P(2))};
-        for (int n = 3; n <= 11; ++n)
-            out.push_back(rec.P(n));
-        return out;
-    }
-    if (mode == kModePwm || mode == kModePwm + 1)
-        return {mode, value, rec.P(2), rec.P(3), rec.P(4), rec.P(5)};
-    if (mode == kModeInput || mode == kModeInput + 1)
-        return {mode, value, rec.P(2), rec.P(3), rec.P(4)};
-    return {kModeNone};
+    // The mode, then its parameters as the files hold them, but P1 is the live position or
+    // level for the active set and a servo's mode byte goes without its status bits.
+    const int count = configParameterCount(rec.ConfigMode);
+    if (count == 0)
+        return {kModeNone};
+    std::vector<int> out{rec.ConfigMode, target == 0 ? rec.OutputValue : rec.P(1)};
+    for (int n = 2; n <= count; ++n)
+        out.push_back(n == 2 && rec.ConfigMode == kModeServo ? servoModeToStore(rec.P(2)) : rec.P(n));
+    return out;
 }
 
 } // namespace kestrel
