@@ -15,8 +15,7 @@ bool echoes(Session& s, int command, int item) { return s.link.lastReply().echoe
 // One read request (True, 2, 112, item); True when a valid reply came back.
 bool requestItem(Session& s, int item)
 {
-    s.link.request({kGeneralRead, item});
-    return s.link.state.ReplyValid;
+    return s.link.request({kGeneralRead, item}).valid;
 }
 
 void say(Session& s, const std::string& text) { s.dialogs().message(text, Icon::None); }
