@@ -13,10 +13,7 @@ int replyLength(Session& s) { return s.link.lastReply().length(); }
 bool echoes(Session& s, int command, int item) { return s.link.lastReply().echoes(command, item); }
 
 // One read request (True, 2, 112, item); True when a valid reply came back.
-bool requestItem(Session& s, int item)
-{
-    return s.link.request({kGeneralRead, item}).valid;
-}
+bool requestItem(Session& s, int item) { return s.link.request({kGeneralRead, item}).valid; }
 
 void say(Session& s, const std::string& text) { s.dialogs().message(text, Icon::None); }
 

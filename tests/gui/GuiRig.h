@@ -1,10 +1,9 @@
 #pragma once
 // Rigs of the window tests: a session on the built-in simulated module (the demonstration
 // configuration at bus address 0) for one page, and the whole window on it.
-#include "link/Clock.h"
 #include "session/Session.h"
-#include "shell/BuiltInSim.h"
 #include "shell/KestrelConfig.h"
+#include "shell/ProgramSession.h"
 #include "support/RecordingDialogs.h"
 
 #include <QAbstractButton>
@@ -23,19 +22,18 @@
 
 namespace kestrel::test {
 
-// One page of the window (PageType(Session&, extra...)), shown, on its own session.
+// One page of the window (PageType(Session&, extra...)), shown, on a session set up as the
+// programs set up theirs, with the built-in module chosen as its port.
 template <typename PageType> struct PageRig {
-    std::unique_ptr<SerialPort> port = makeBuiltInSimPort();
-    SystemClock clock;
     RecordingDialogs dialogs;
-    std::unique_ptr<Session> session;
+    ProgramSession program{dialogs};
+    std::unique_ptr<Session>& session = program.session;
     std::unique_ptr<PageType> page;
 
     template <typename... Extra> explicit PageRig(Extra&&... extra)
     {
-        port->select("sim");
-        port->open();
-        session = std::make_unique<Session>(*port, clock, dialogs);
+        program.port.select("sim");
+        program.port.open();
         page = std::make_unique<PageType>(*session, std::forward<Extra>(extra)...);
         page->show();
     }
