@@ -129,6 +129,13 @@ PinConfigPage::PinConfigPage(Session& s, Guard* sharedGuard, QWidget* parent)
     SSTabPCFG->addTab(buildServoPage(), "Servo");
     SSTabPCFG->addTab(buildPwmPage(), "PWM");
     SSTabPCFG->addTab(buildInputPage(), "Input");
+    static const char* const modeTips[4] = {"the pin no longer drives anything", "the pin drives a servo",
+                                            "the pin drives a PWM output", "the pin reads an input"};
+    for (int i = 0; i < 4; ++i)
+        SSTabPCFG->setTabToolTip(i,
+                                 QString("Picking this page changes the pin's mode: %1. It asks first when "
+                                         "the pin's parameters would be replaced.")
+                                     .arg(modeTips[i]));
     layout->addWidget(SSTabPCFG, 1);
 
     auto* transfer = named(new QGroupBox("Pin Configuration"), "FramePCFGTransfer");
@@ -526,12 +533,25 @@ void PinConfigPage::TextPCFGPin_Click()
 
 void PinConfigPage::SSTabPCFG_Click(int page)
 {
-    if (page < 0 || page == pageOfMode(pin().ConfigMode))
+    const int shownPage = pageOfMode(pin().ConfigMode);
+    if (page < 0 || page == shownPage)
         return;
     // The page chosen by hand gives the pin its mode; the parameters start afresh, as
-    // when the module reports a new mode without parameters.
+    // when the module reports a new mode without parameters. A configured pin loses its
+    // parameters so, which is asked first; Cancel goes back to the pin's own page.
+    if (shownPage > 0) {
+        const std::string question =
+            "Pin " + std::to_string(session.config.CurrentPin + session.config.NumberingBase) + " becomes " +
+            SSTabPCFG->tabText(page).toStdString() + ": its " + SSTabPCFG->tabText(shownPage).toStdString() +
+            " parameters are replaced by cleared ones.\r\nChange the pin's mode?";
+        if (session.dialogs().ask(question, Buttons::OkCancel, Icon::Question) != Answer::Ok) {
+            const QSignalBlocker block(SSTabPCFG);
+            SSTabPCFG->setCurrentIndex(shownPage);
+            return;
+        }
+    }
     static const int modeOfPage[4] = {kModeNone, kModeServo, kModePwm, kModeInput};
-    storePinConfigReply(pin(), 1, {modeOfPage[page]}, 3);
+    guard([&] { storePinConfigReply(pin(), 1, {modeOfPage[page]}, 3); });
     refresh();
 }
 

@@ -30,7 +30,8 @@ namespace kestrel {
 //
 // Choosing another page of SSTabPCFG by hand gives the pin that page's mode (servo,
 // PWM, input or none); a pin whose mode changes so starts with cleared parameters, as
-// when a module reports a new mode (a servo at position 0).
+// when a module reports a new mode (a servo at position 0). A configured pin asks first
+// (OK / Cancel); Cancel shows the pin's own page again and changes nothing.
 class PinConfigPage : public QWidget {
     Q_OBJECT
 public:

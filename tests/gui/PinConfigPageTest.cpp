@@ -10,6 +10,7 @@
 #include <QCheckBox>
 #include <QRadioButton>
 #include <QSlider>
+#include <QTabBar>
 #include <QTabWidget>
 
 using namespace kestrel;
@@ -107,6 +108,19 @@ TEST(PinConfigPage, PwmAndInputPagesWithTheHardwareWarning)
     EXPECT_FALSE(rig.page->CheckPWMInverted->isChecked());
     rig.page->CheckPWMInverted->click();
     EXPECT_EQ(rig.pin(12).ConfigMode, 3);
+
+    // Picking another mode's page by hand asks first: Cancel keeps the pin and its page.
+    const PinRecord pwm = rig.pin(12);
+    rig.dialogs.answers = {Answer::Cancel, Answer::Ok};
+    QTabBar* modes = rig.page->SSTabPCFG->tabBar();
+    QTest::mouseClick(modes, Qt::LeftButton, {}, modes->tabRect(1).center());
+    EXPECT_EQ(std::tuple(rig.pin(12), rig.page->SSTabPCFG->currentIndex()), std::tuple(pwm, 2));
+    EXPECT_EQ(rig.dialogs.questions.back().text,
+              "Pin 12 becomes Servo: its PWM parameters are replaced by cleared "
+              "ones.\r\nChange the pin's mode?");
+    QTest::mouseClick(modes, Qt::LeftButton, {}, modes->tabRect(1).center());
+    EXPECT_EQ(std::tuple(int(rig.pin(12).ConfigMode), rig.page->SSTabPCFG->currentIndex()),
+              std::tuple(kModeServo, 1));
 
     // Pin 5 is not configured; choosing the input page makes it an input.
     rig.session->general.ChkGenHWCSource[0] = 1;
