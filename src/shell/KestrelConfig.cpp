@@ -32,11 +32,15 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
+#include <QSettings>
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QStatusBar>
@@ -174,6 +178,9 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
 
     LabelAction = named(new QLabel("Working ... Please WAIT"), "LabelAction");
     LabelAction->setStyleSheet("color: #b00000; font-weight: bold;");
+    QSizePolicy keepRoom = LabelAction->sizePolicy();
+    keepRoom.setRetainSizeWhenHidden(true); // the notice does not resize the window
+    LabelAction->setSizePolicy(keepRoom);
     LabelAction->hide();
     layout->addWidget(LabelAction);
     setCentralWidget(central);
@@ -190,7 +197,9 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     core->link.onCorvidLog = [this](const std::string& line) {
         ensureCorvidWindow();
         txtCorvidCommunication->appendPlainText(latin1(line));
-        if (!frmCorvidComm->isVisible())
+        // Shown when first written to; once the user has closed it, it stays closed
+        // until View > Corvid Log opens it again.
+        if (!frmCorvidComm->isVisible() && !corvidLogDismissed)
             frmCorvidComm->show();
     };
 
@@ -227,6 +236,8 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     (*guard)([this] {
         loadStandardDeviceList(devices, QApplication::applicationDirPath().toStdString(), core->dialogs());
     });
+    buildMenus();
+    loadSettings();
     markClean();
     refreshAll();
 }
@@ -427,23 +438,191 @@ void KestrelConfig::closeEvent(QCloseEvent* event)
 {
     bool leave = false;
     (*guard)([&] { leave = keepChangesSafe("Closing the window"); });
-    if (leave)
+    if (leave) {
+        saveSettings();
         event->accept();
-    else
+    } else
         event->ignore();
 }
 
 void KestrelConfig::CommandSave_MouseDown(int button, int shift)
 {
+    if (button == 1 && (shift == 0 || shift == 1))
+        saveFile(QString(), shift == 1);
+}
+
+void KestrelConfig::saveFile(const QString& path, bool compact)
+{
     commitAll();
     (*guard)([&] {
-        const std::string path = kestrel::CommandSave_MouseDown(*core, button, shift);
-        if (path.empty())
+        std::string written = path.toStdString();
+        if (written.empty())
+            written = kestrel::CommandSave_MouseDown(*core, 1, compact ? 1 : 0);
+        else if (!saveConfigurationTo(*core, written, compact ? SaveForm::Compact : SaveForm::Full))
+            written.clear();
+        if (written.empty())
             return;
-        fileName = QString::fromStdString(path);
+        fileName = QString::fromStdString(written);
         markClean();
-        LabelStatusJob->setText(QString("Saved %1%2").arg(fileName, shift == 1 ? " (compact)" : ""));
+        remember(fileName);
+        LabelStatusJob->setText(QString("Saved %1%2").arg(fileName, compact ? " (compact)" : ""));
     });
+}
+
+void KestrelConfig::buildMenus()
+{
+    menuFile = menuBar()->addMenu("&File");
+    auto add = [this](QMenu* menu, const QString& text, auto handler, QKeySequence keys = {}) {
+        QAction* action = menu->addAction(text, this, handler);
+        action->setShortcut(keys);
+        return action;
+    };
+    add(
+        menuFile, "&Load File...", [this] { loadFile(QString()); }, QKeySequence::Open);
+    actionSave = add(
+        menuFile, "&Save", [this] { saveFile(fileName, false); }, QKeySequence::Save);
+    add(menuFile, "Save &Compact...", [this] { saveFile(QString(), true); });
+    add(
+        menuFile, "Save &As...", [this] { saveFile(QString(), false); }, QKeySequence::SaveAs);
+    menuFile->addSeparator();
+    for (int i = 0; i < 5; ++i) {
+        actionRecent[i] = menuFile->addAction(QString(), this, [this, i] {
+            if (i < recent.size())
+                loadFile(recent[i]);
+        });
+        actionRecent[i]->setVisible(false);
+    }
+    menuFile->addSeparator();
+    actionForgetSettings = add(menuFile, "&Forget Remembered Settings", [this] {
+        forgetSettings = true;
+        QSettings("Kestrel", "Kestrel Config").clear();
+        recent.clear();
+        showRecent();
+        LabelStatusJob->setText("The program starts afresh next time: port, addresses, window and files "
+                                "are forgotten");
+    });
+    add(
+        menuFile, "E&xit", [this] { close(); }, QKeySequence::Quit);
+
+    menuModule = menuBar()->addMenu("&Module");
+    auto press = [](QAbstractButton* b) { return [b] { b->click(); }; };
+    add(menuModule, "Request &Version", press(CommandGenVersion));
+    add(menuModule, "&Read All", press(CommandReadAll), QKeySequence("Ctrl+R"));
+    add(menuModule, "&Write All", press(CommandWriteAll), QKeySequence("Ctrl+W"));
+    add(menuModule, "Verify &All", press(CommandVerifyAll));
+    add(menuModule, "&Erase Flash...", press(generalPage->CommandGenEraseFlash));
+    menuModule->addSeparator();
+    add(menuModule, "Read &Pin", press(aspectsPage->CommandReadPin));
+    add(menuModule, "Write P&in", press(aspectsPage->CommandWritePin));
+    add(menuModule, "Read &Device", press(aspectsPage->CommandReadDevice));
+    add(menuModule, "Write Devi&ce", press(aspectsPage->CommandWriteDevice));
+    add(menuModule, "Read Aspe&cts of the Pin", press(aspectsPage->CommandPAspReadPin));
+    add(menuModule, "Write Aspects o&f the Pin", press(aspectsPage->CommandPAspWritePin));
+    add(menuModule, "Write the Selected Asp&ect", press(aspectsPage->CommandPAspWriteAspect));
+    add(menuModule, "Read All Pi&ns", press(CommandReadAllPins));
+    add(menuModule, "Write All Pin&s", press(CommandWriteAllPins));
+    add(menuModule, "Verify All Pins", press(CommandVerifyAllPins));
+    menuModule->addSeparator();
+    add(menuModule, "Read Event Control", press(eventPage->CommandECRead));
+    add(menuModule, "Write Event Control", press(eventPage->CommandECWrite));
+    add(menuModule, "Verify Event Control", press(eventPage->CommandECVerify));
+
+    menuView = menuBar()->addMenu("&View");
+    add(menuView, "&Corvid Log", [this] {
+        ensureCorvidWindow();
+        corvidLogDismissed = false;
+        frmCorvidComm->show();
+        frmCorvidComm->raise();
+    });
+    add(menuView, "&Pin Overview", [this] { tabs->setCurrentWidget(pinOverviewPage); });
+
+    menuHelp = menuBar()->addMenu("&Help");
+    add(
+        menuHelp, "&About Kestrel Config", [this] { about(); }, QKeySequence::HelpContents);
+}
+
+void KestrelConfig::about()
+{
+    QMessageBox box(this);
+    box.setObjectName("dlgAbout");
+    box.setWindowTitle("About Kestrel Config");
+    box.setIconPixmap(windowIcon().pixmap(64, 64));
+    box.setText(QString("<b>Kestrel Config %1</b>").arg(KESTREL_VERSION));
+    box.setInformativeText(
+        QString("Reads, edits, writes back and verifies what a Kestrel accessory module stores.<br><br>"
+                "Build: %1, Qt %2, %3<br><br>"
+                "The README (how to start, the command-line tool, the data-file format and the "
+                "Aspects page) lies in the program's source folder, README.md; the data-file "
+                "keywords are described in its section \"kestrel-cli\".")
+            .arg(QString(KESTREL_BUILD_TYPE).isEmpty() ? QString("default") : QString(KESTREL_BUILD_TYPE),
+                 qVersion(), __DATE__));
+    box.exec();
+}
+
+void KestrelConfig::remember(const QString& path)
+{
+    const QString full = QFileInfo(path).absoluteFilePath();
+    recent.removeAll(full);
+    recent.prepend(full);
+    while (recent.size() > 5)
+        recent.removeLast();
+    showRecent();
+}
+
+void KestrelConfig::showRecent()
+{
+    for (int i = 0; i < 5; ++i) {
+        const bool used = i < recent.size();
+        actionRecent[i]->setVisible(used);
+        if (used)
+            actionRecent[i]->setText(QString("&%1 %2").arg(i + 1).arg(QFileInfo(recent[i]).fileName()));
+    }
+}
+
+void KestrelConfig::loadSettings()
+{
+    QSettings store("Kestrel", "Kestrel Config");
+    restoreGeometry(store.value("window/geometry").toByteArray());
+    auto& lc = core->linkControl;
+    auto& link = core->link.settings;
+    const int rate = std::clamp(store.value("link/bitRate", lc.OptionBitRate).toInt(), 0, 2);
+    (*guard)([&] { lc.OptionBitRate_Click(rate); });
+    OptionBitRate[rate]->setChecked(true);
+    if (store.value("link/numbering", 0).toInt() == 1) {
+        CheckKLnumber->setChecked(true);
+        CheckKLnumber_Click();
+    }
+    link.TargetAddress = std::clamp(store.value("link/address", 0).toInt(), 0, 15);
+    link.CheckXaddress = store.value("link/extended", false).toBool(); // asked about when it was first set
+    link.TargetXAddress = std::clamp(store.value("link/extendedAddress", 0).toInt(), 0, 95);
+    boxes.setFolder(store.value("files/folder").toString());
+    recent = store.value("files/recent").toStringList().mid(0, 5);
+    showRecent();
+    refreshLinkDisplays();
+    // The last port (or, on a first start, the simulated module), shown but not yet opened.
+    ComboPort->setEditText(store.value("link/port", "sim").toString());
+    ComboPort->setToolTip("The serial port; \"sim\" is a simulated module built into the program. "
+                          "Return or a choice from the list opens it.");
+}
+
+void KestrelConfig::saveSettings()
+{
+    if (forgetSettings)
+        return;
+    QSettings store("Kestrel", "Kestrel Config");
+    store.setValue("window/geometry", saveGeometry());
+    const auto& lc = core->linkControl;
+    const auto& link = core->link.settings;
+    store.setValue("link/port",
+                   QString::fromStdString(lc.ComboPortText.empty() ? ComboPort->currentText().toStdString()
+                                                                   : lc.ComboPortText));
+    store.setValue("link/bitRate", lc.OptionBitRate);
+    store.setValue("link/numbering", core->config.NumberingBase);
+    store.setValue("link/address", link.TargetAddress);
+    store.setValue("link/extended", link.CheckXaddress);
+    store.setValue("link/extendedAddress", link.TargetXAddress);
+    store.setValue("files/folder", boxes.folder());
+    store.setValue("files/recent", recent);
 }
 
 void KestrelConfig::ensureVerificationWindow()
@@ -477,6 +656,7 @@ void KestrelConfig::ensureCorvidWindow()
         core->link.txtCorvidCommunication.clear();
     });
     frmCorvidComm->resize(480, 360);
+    connect(frmCorvidComm, &QDialog::finished, this, [this] { corvidLogDismissed = true; });
 }
 
 void KestrelConfig::CheckCorvid_Click()
@@ -499,12 +679,15 @@ void KestrelConfig::cmdSetTM_Click()
     refreshLinkDisplays();
 }
 
-void KestrelConfig::CommandLoad_Click()
+void KestrelConfig::CommandLoad_Click() { loadFile(QString()); }
+
+void KestrelConfig::loadFile(const QString& path)
 {
     if (!keepChangesSafe("Loading a file"))
         return;
-    (*guard)([this] {
-        const LoadOutcome loaded = kestrel::CommandLoad_Click(*core);
+    (*guard)([this, &path] {
+        const LoadOutcome loaded = path.isEmpty() ? kestrel::CommandLoad_Click(*core)
+                                                  : loadConfigurationFrom(*core, path.toStdString());
         if (loaded.path.empty())
             return;
         const QString name = QString::fromStdString(loaded.path);
@@ -512,6 +695,7 @@ void KestrelConfig::CommandLoad_Click()
         case LoadResult::Loaded:
             fileName = name;
             markClean();
+            remember(name);
             LabelStatusJob->setText("Loaded " + name);
             break;
         case LoadResult::FormatError:

@@ -23,6 +23,8 @@ class QSpinBox;
 class QTabWidget;
 class QTimer;
 class QCloseEvent;
+class QAction;
+class QMenu;
 
 namespace kestrel {
 struct ProgramSession;
@@ -112,6 +114,22 @@ public:
     JobDispatcher jobs;
     QTimer* Timer1;
 
+    // The menus: every entry calls the same handler as its button.
+    QMenu* menuFile;
+    QMenu* menuModule;
+    QMenu* menuView;
+    QMenu* menuHelp;
+    QAction* actionSave;           // Ctrl+S: the current file, or asks like Save File
+    QAction* actionRecent[5];      // the last five files loaded or saved
+    QAction* actionForgetSettings; // start afresh next time
+
+    // The last files, newest first (at most five).
+    QStringList recentFiles() const { return recent; }
+    // Loads a file already chosen, as Load File does after its dialog.
+    void loadFile(const QString& path);
+    // Saves to a file already chosen; asks for one when path is empty.
+    void saveFile(const QString& path, bool compact);
+
 public slots:
     void ComboPort_Click();
     void cmdRefreshComm_Click();
@@ -134,6 +152,7 @@ public slots:
     void CommandWriteAll_Click();
     void CommandVerifyAll_Click();
     void Timer1_Timer();
+    void about();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -162,6 +181,13 @@ private:
     void startJob(JobName name);
     void ensureVerificationWindow();
     void ensureCorvidWindow();
+    void buildMenus();
+    // What the program remembers between runs (QSettings): the port, bit rate, module and
+    // eXtended address, numbering, window geometry, the last folder and the last files.
+    void loadSettings();
+    void saveSettings();
+    void remember(const QString& path); // a file loaded or saved joins the recent files
+    void showRecent();
 
     QtDialogs boxes;
     std::unique_ptr<ProgramSession> program;
@@ -170,7 +196,10 @@ private:
     std::unique_ptr<Guard> guard;
     QGroupBox* linkFrame = nullptr; // the frame LabelPort's double-click shows and hides
     QString fileName;
-    Configuration cleanConfig; // as last loaded, saved, read or written
+    QStringList recent;
+    bool forgetSettings = false;
+    bool corvidLogDismissed = false; // closed by the user: new lines do not force it open
+    Configuration cleanConfig;       // as last loaded, saved, read or written
     GeneralSettings cleanGeneral;
 };
 

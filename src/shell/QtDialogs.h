@@ -22,6 +22,10 @@ public:
     std::string saveFileName(const std::string& title, const std::string& filter,
                              const std::string& defaultName) override;
 
+    // The folder the file dialogs start in: the one a file was last chosen in.
+    QString folder() const { return lastFolder; }
+    void setFolder(const QString& f) { lastFolder = f; }
+
     // The folder an open dialog for definitions files starts in (the standard file's).
     QString definitionsFolder;
 

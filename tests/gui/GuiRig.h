@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QSettings>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -43,6 +44,10 @@ template <typename PageType> struct PageRig {
 // The window with the built-in module chosen as its port.
 struct Window {
     RecordingDialogs dialogs;
+    // Every window starts as on a first start: nothing remembered from an earlier test.
+    struct Fresh {
+        Fresh() { QSettings("Kestrel", "Kestrel Config").clear(); }
+    } fresh;
     KestrelConfig w{nullptr, &dialogs};
     explicit Window(bool open = true)
     {
