@@ -415,17 +415,6 @@ std::string expectedMessage(const std::string& text, const FaultRig& rig)
     return replaceAll(text, "{address}", std::to_string(claimed));
 }
 
-std::vector<std::string> reportLines(const std::string& text)
-{
-    std::vector<std::string> lines;
-    std::size_t from = 0;
-    for (auto at = text.find("\r\n"); at != std::string::npos; at = text.find("\r\n", from)) {
-        lines.push_back(text.substr(from, at - from));
-        from = at + 2;
-    }
-    return lines;
-}
-
 // For failure output.
 void PrintTo(const Case& c, std::ostream* os) { *os << c.family->name << " / " << faultName(c.cell.fault); }
 
@@ -463,7 +452,7 @@ TEST_P(FaultMatrix, EndsAsItShould)
         EXPECT_EQ(rig.session.link.settings.CheckKestrelBD, expected.empty() || expected[0] != kNoResponse);
     }
     if (!cell.report.empty()) {
-        EXPECT_EQ(reportLines(rig.session.report.txtVerification), cell.report);
+        EXPECT_EQ(reportLines(rig.session), cell.report);
     }
     family.check(rig, cell.model);
 

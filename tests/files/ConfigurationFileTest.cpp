@@ -1,16 +1,15 @@
 #include "files/ConfigurationFile.h"
-#include "files/FilesTestSupport.h"
 #include "files/TextFile.h"
 #include "forms/MainWindowForm.h"
 #include "ops/Bulk.h"
 #include "ops/SendCheck.h"
 #include "session/Session.h"
+#include "support/Files.h"
 #include "support/ScriptedModule.h"
 #include "support/SimSession.h"
 
 #include <gtest/gtest.h>
 
-#include <locale>
 #include <sys/stat.h>
 
 using namespace kestrel;
@@ -226,10 +225,12 @@ TEST(DataFileReading, InsOpSplitsOnlyFrom19To63)
 {
     // op = 16 x Fade + Instruction; only 19..63 are split, by bit 4.
     Loader l;
-    ASSERT_EQ(l.load(crlf({"\"KestrelConfiguration 3100\"", "\"Pin\",2,3,0,\"x\"", "\"Asp\",0,\"a\"",
-                           "\"Ins\",0,17,0,1,0,0", "\"Ins\",1,35,0,5,0,0", "\"Ins\",2,112,0,0,3,1",
-                           "\"Ins\",3,16,0,0,0,0", "\"Ins\",4,38,0,1,0,0", "\"Ins\",5,51,0,5,0,0",
-                           "\"Ins\",6,26,0,9,0,0", "\"End\""})),
+    // Before any "Pin" record the step is not cleared first, and op 17 leaves its fade.
+    l.config.Pins[0].Aspects[0].Steps[0].Fade = 1;
+    ASSERT_EQ(l.load(crlf({"\"KestrelConfiguration 3100\"", "\"Ins\",0,17,0,1,0,0", "\"Pin\",2,3,0,\"x\"",
+                           "\"Asp\",0,\"a\"", "\"Ins\",0,17,0,1,0,0", "\"Ins\",1,35,0,5,0,0",
+                           "\"Ins\",2,112,0,0,3,1", "\"Ins\",3,16,0,0,0,0", "\"Ins\",4,38,0,1,0,0",
+                           "\"Ins\",5,51,0,5,0,0", "\"Ins\",6,26,0,9,0,0", "\"End\""})),
               LoadResult::Loaded);
     // 17 is "Feedback", never a faded "Jump"; 35 and 38 have bit 4 clear; 51 = 16 + 35 and
     // 26 = 16 + 10 ("Invert") fade.
@@ -241,15 +242,6 @@ TEST(DataFileReading, InsOpSplitsOnlyFrom19To63)
             EXPECT_EQ(st.Fade, want[i][1]) << i;
         }
     }
-}
-
-TEST(DataFileReading, FadeOutside19To63StaysAsItWas)
-{
-    Loader l;
-    // No "Pin" record: the step is not cleared first, and op 17 leaves its fade.
-    l.config.Pins[0].Aspects[0].Steps[0].Fade = 1;
-    ASSERT_EQ(l.load(crlf({"\"KestrelConfiguration 3100\"", "\"Ins\",0,17,0,1,0,0", "\"End\""})),
-              LoadResult::Loaded);
     EXPECT_EQ((StepRecord{17, 1, 0, 1, 0, 0}), l.config.Pins[0].Aspects[0].Steps[0]);
 }
 
@@ -485,10 +477,7 @@ TEST(DataFileSaving, WritesBesideAndReplacesOnlyWhenComplete)
 
 TEST(DataFileSaving, DccNumbersKeepTheirPointUnderACommaDecimalLocale)
 {
-    struct CommaDecimal : std::numpunct<char> {
-        char do_decimal_point() const override { return ','; }
-    };
-    const std::locale old = std::locale::global(std::locale(std::locale::classic(), new CommaDecimal));
+    CommaDecimalLocale comma;
     // A fraction is written as typed, without the noise of its binary value.
     for (const std::string number : {"12.5", "0.3", "1.1"}) {
         Configuration c;
@@ -500,7 +489,6 @@ TEST(DataFileSaving, DccNumbersKeepTheirPointUnderACommaDecimalLocale)
         EXPECT_NE(text.find("\"DCC\"," + number + ",0,0\r\n"), std::string::npos) << text;
         EXPECT_EQ(l.general.TextGenDCCAddress, number);
     }
-    std::locale::global(old);
 }
 
 TEST(DataFileCommands, SaveAndLoadThroughTheFileDialog)

@@ -1,21 +1,18 @@
 // kestrel-cli loses its port in the middle of a job: kestrel-sim, paced like a 9600 baud
 // wire so that the job takes a few seconds, is stopped while the job runs, and its
 // pseudo-terminal goes with it. The job ends at once with one message and status 1.
+#include "support/Files.h"
 #include "support/Process.h"
 
 #include <algorithm>
 #include <chrono>
 #include <gtest/gtest.h>
 #include <thread>
-#include <unistd.h>
 
 using namespace kestrel::test;
+using std::filesystem::exists;
 
 namespace {
-
-std::string tempPath(const char* name) { return "/tmp/kestrel-it-" + std::to_string(getpid()) + "-" + name; }
-
-bool exists(const std::string& path) { return access(path.c_str(), F_OK) == 0; }
 
 // Runs kestrel-cli with args against a paced kestrel-sim and stops the simulator a second
 // after the job has started.
@@ -38,8 +35,8 @@ CommandResult runAndPullThePort(const std::vector<std::string>& args, std::strin
 
 TEST(CliPortLost, ReadEndsWithOneMessageAndNoFile)
 {
-    const std::string file = tempPath("lost-read.dat");
-    std::remove(file.c_str());
+    ScratchDir dir("lost-read");
+    const std::string file = dir.file("lost-read.dat");
     std::string pty;
     const CommandResult r = runAndPullThePort({"read", file}, pty);
     EXPECT_EQ(r.status, 1);
@@ -57,13 +54,13 @@ TEST(CliPortLost, ReadEndsWithOneMessageAndNoFile)
     EXPECT_EQ(again.status, 0) << again.err;
     EXPECT_EQ(again.err, "");
     EXPECT_TRUE(exists(file));
-    std::remove(file.c_str());
 }
 
 TEST(CliPortLost, WriteEndsWithOneMessage)
 {
     // The demonstration configuration of the built-in module, to write.
-    const std::string file = tempPath("lost-write.dat");
+    ScratchDir dir("lost-write");
+    const std::string file = dir.file("lost-write.dat");
     const CommandResult saved = runProgram(binPath("kestrel-cli"), {"--port", "sim", "read", file});
     ASSERT_EQ(saved.status, 0) << saved.err;
 
@@ -76,5 +73,4 @@ TEST(CliPortLost, WriteEndsWithOneMessage)
     EXPECT_EQ(r.err.rfind("Warning: Communications port lost: " + pty + " (", 0), 0u) << r.err;
     EXPECT_NE(r.err.find(")\nWrite All stopped at Writing "), std::string::npos) << r.err;
     EXPECT_EQ(std::count(r.err.begin(), r.err.end(), '\n'), 2) << r.err;
-    std::remove(file.c_str());
 }

@@ -153,54 +153,30 @@ TEST(AspectEditor, StepToolInsertAndDelete)
     Configuration c;
     c.CurrentPin = 1;
     c.CurrentAspect = 2;
-    c.Pins[1].AspectLayout = 2;
-
-    AspectRecord& a = filledAspect(c);
-    selectStepRow(c, 0);
-    insertStep(c);
-    EXPECT_EQ(a.Steps[0], StepRecord{});
-    EXPECT_EQ(a.Steps[1], mark(0));
-    EXPECT_EQ(a.Steps[2], mark(1)); // old row 2 is lost
-    for (int s = 3; s < kStepRecords; ++s)
-        EXPECT_EQ(a.Steps[s], mark(s));
-
-    filledAspect(c);
-    selectStepRow(c, 2);
-    insertStep(c);
-    EXPECT_EQ(a.Steps[1], mark(1));
-    EXPECT_EQ(a.Steps[2], StepRecord{});
-    EXPECT_EQ(a.Steps[3], mark(3));
-
-    filledAspect(c);
-    selectStepRow(c, 0);
-    deleteStep(c);
-    EXPECT_EQ(a.Steps[0], mark(1));
-    EXPECT_EQ(a.Steps[1], mark(2));
-    EXPECT_EQ(a.Steps[2], StepRecord{});
-    EXPECT_EQ(a.Steps[3], mark(3));
-
-    c.Pins[1].AspectLayout = 3;
-    filledAspect(c);
-    selectStepRow(c, 8);
-    deleteStep(c); // only row 8 is cleared
-    for (int s = 0; s < 8; ++s)
-        EXPECT_EQ(a.Steps[s], mark(s));
-    EXPECT_EQ(a.Steps[8], StepRecord{});
-    EXPECT_EQ(a.Steps[9], mark(9));
-
-    filledAspect(c);
-    selectStepRow(c, 0);
-    insertStep(c);
-    EXPECT_EQ(a.Steps[8], mark(7));
-    EXPECT_EQ(a.Steps[9], mark(9));
-
-    filledAspect(c);
-    selectStepRow(c, 3);
-    deleteStep(c);
-    EXPECT_EQ(a.Steps[2], mark(2));
-    EXPECT_EQ(a.Steps[3], mark(4));
-    EXPECT_EQ(a.Steps[7], mark(8));
-    EXPECT_EQ(a.Steps[8], StepRecord{});
+    // The steps after the edit, as the mark they hold (-1: empty). Layout 2 shows three
+    // rows, layout 3 nine: the edit stays within them, steps below are untouched.
+    struct Case {
+        int layout, row;
+        void (*edit)(Configuration&);
+        std::array<int, kStepRecords> steps;
+    };
+    const Case cases[] = {
+        {2, 0, insertStep, {-1, 0, 1, 3, 4, 5, 6, 7, 8, 9}}, // old row 2 is lost
+        {2, 2, insertStep, {0, 1, -1, 3, 4, 5, 6, 7, 8, 9}},
+        {2, 0, deleteStep, {1, 2, -1, 3, 4, 5, 6, 7, 8, 9}},
+        {3, 8, deleteStep, {0, 1, 2, 3, 4, 5, 6, 7, -1, 9}}, // only row 8 is cleared
+        {3, 0, insertStep, {-1, 0, 1, 2, 3, 4, 5, 6, 7, 9}},
+        {3, 3, deleteStep, {0, 1, 2, 4, 5, 6, 7, 8, -1, 9}},
+    };
+    for (const Case& k : cases) {
+        c.Pins[1].AspectLayout = static_cast<std::uint8_t>(k.layout);
+        const AspectRecord& a = filledAspect(c);
+        selectStepRow(c, k.row);
+        k.edit(c);
+        for (int s = 0; s < kStepRecords; ++s)
+            EXPECT_EQ(a.Steps[s], k.steps[s] < 0 ? StepRecord{} : mark(k.steps[s]))
+                << "layout " << k.layout << " row " << k.row << " step " << s;
+    }
     EXPECT_THROW(selectStepRow(c, 9), ProgramFault);
 }
 
@@ -248,16 +224,15 @@ TEST(AspectEditor, NumberingAndHelpDecision)
     EXPECT_EQ(std::tuple(off.legend, off.view.pinText, c.NumberingBase),
               std::tuple("Pin       0..7         8..15      16..23       24..31", "9", 0));
 
+    const std::tuple<int, HelpBox, HelpToolKind> help[] = {
+        {102, HelpBox::Time, HelpToolKind::Time},        {120, HelpBox::Par3, HelpToolKind::Time},
+        {13, HelpBox::Par1, HelpToolKind::Pattern},      {37, HelpBox::Par1, HelpToolKind::Pattern},
+        {16, HelpBox::Par1, HelpToolKind::EventPattern}, // then the two without a tool:
+        {102, HelpBox::Par1, HelpToolKind::None},        {13, HelpBox::Par2, HelpToolKind::None}};
     test::RecordingDialogs dialogs;
-    EXPECT_EQ(helpToolFor({102, 0, 0, 0, 0, 0}, HelpBox::Time, dialogs), HelpToolKind::Time);
-    EXPECT_EQ(helpToolFor({120, 0, 0, 0, 0, 0}, HelpBox::Par3, dialogs), HelpToolKind::Time);
-    EXPECT_EQ(helpToolFor({13, 0, 0, 0, 0, 0}, HelpBox::Par1, dialogs), HelpToolKind::Pattern);
-    EXPECT_EQ(helpToolFor({37, 0, 0, 0, 0, 0}, HelpBox::Par1, dialogs), HelpToolKind::Pattern);
-    EXPECT_EQ(helpToolFor({16, 0, 0, 0, 0, 0}, HelpBox::Par1, dialogs), HelpToolKind::EventPattern);
-    EXPECT_TRUE(dialogs.messages.empty());
-    EXPECT_EQ(helpToolFor({102, 0, 0, 0, 0, 0}, HelpBox::Par1, dialogs), HelpToolKind::None);
-    EXPECT_EQ(helpToolFor({13, 0, 0, 0, 0, 0}, HelpBox::Par2, dialogs), HelpToolKind::None);
+    for (const auto& [instruction, box, kind] : help)
+        EXPECT_EQ(helpToolFor({static_cast<std::uint8_t>(instruction), 0, 0, 0, 0, 0}, box, dialogs), kind)
+            << instruction;
     EXPECT_EQ(dialogs.texts(),
-              (std::vector<std::string>{"Help tool not available for this box with the selected command",
-                                        "Help tool not available for this box with the selected command"}));
+              std::vector<std::string>(2, "Help tool not available for this box with the selected command"));
 }

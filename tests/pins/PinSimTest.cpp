@@ -30,15 +30,6 @@ void fillPins(Configuration& config)
     b.ConfigParams = {10, 1, 5, 0, 31, 0, 0, 0, 0, 0, 0, 0};
 }
 
-std::vector<std::string> reportLines(const Session& session)
-{
-    std::vector<std::string> lines;
-    const std::string& t = session.report.txtVerification;
-    for (std::size_t at = 0, end; (end = t.find("\r\n", at)) != std::string::npos; at = end + 2)
-        lines.push_back(t.substr(at, end - at));
-    return lines;
-}
-
 class CancelAt : public Progress {
 public:
     explicit CancelAt(int pin) : pin(pin) {}

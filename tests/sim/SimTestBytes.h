@@ -1,5 +1,6 @@
 #pragma once
 // Test-side byte helpers for the simulator's tests (see support/Frames.h).
+#include "sim/SimEndpoint.h"
 #include "support/Frames.h"
 
 #include <cstdint>
@@ -20,6 +21,17 @@ inline Bytes busRequest(int address, int toggle, const std::vector<int>& data, b
     if (xaddress)
         f.push_back(static_cast<std::uint8_t>(128 + *xaddress));
     return kestrel::test::frame(f, data);
+}
+
+// Writes the bytes to the bus (or the Corvid system) and takes all it answers.
+inline Bytes feed(SimEndpoint& e, const Bytes& bytes)
+{
+    for (auto b : bytes)
+        e.write(b);
+    Bytes out;
+    while (e.available())
+        out.push_back(static_cast<std::uint8_t>(e.read()));
+    return out;
 }
 
 inline Bytes corvidRequest(const std::vector<int>& data, bool toggle = false)
