@@ -22,7 +22,7 @@ Bytes answerData(const Bytes& frame)
     if (frame.empty())
         return {};
     const int h = frame[0];
-    const std::size_t n = (h & 8) ? (h & 7) : 8 + ((h & 16) ? 8 : 0) + (h & 7);
+    const auto n = static_cast<std::size_t>(kestrel::test::corvidLength(h));
     if (n < 8) {
         EXPECT_EQ(h & 0x3F, 40 + static_cast<int>(n)) << "short form expected";
     }
