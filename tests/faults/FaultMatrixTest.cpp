@@ -109,15 +109,14 @@ void checkDccSettings(FaultRig& rig, Model m)
     const GeneralSettings& g = rig.session.general;
     const GeneralSettings& src = rig.sourceGeneral;
     const GeneralSettings def;
-    // The options come first and are read in every case.
-    EXPECT_EQ(g.OptGenDCC_PRP, src.OptGenDCC_PRP);
-    EXPECT_EQ(g.ChkGenDCC_BPSI, src.ChkGenDCC_BPSI);
-    EXPECT_EQ(g.ChkGenDCCAllow0, src.ChkGenDCCAllow0);
+    // The options come first and are read in every case; the ID string is not part of the job.
     const bool address = m == Model::Whole;
     const bool xaddress = m == Model::Whole || m == Model::AllButTarget;
-    EXPECT_EQ(g.TextGenDCCAddress, address ? src.TextGenDCCAddress : def.TextGenDCCAddress);
-    EXPECT_EQ(g.TextGenXDCCAddress, xaddress ? src.TextGenXDCCAddress : def.TextGenXDCCAddress);
-    EXPECT_EQ(g.TextGenIDString, def.TextGenIDString); // not part of the job
+    EXPECT_EQ(std::tuple(g.OptGenDCC_PRP, g.ChkGenDCC_BPSI, g.ChkGenDCCAllow0, g.TextGenDCCAddress,
+                         g.TextGenXDCCAddress, g.TextGenIDString),
+              std::tuple(src.OptGenDCC_PRP, src.ChkGenDCC_BPSI, src.ChkGenDCCAllow0,
+                         address ? src.TextGenDCCAddress : def.TextGenDCCAddress,
+                         xaddress ? src.TextGenXDCCAddress : def.TextGenXDCCAddress, def.TextGenIDString));
 }
 
 // Pin 3 has layout 3 (4 aspects of 9 steps); the request hit is the step read or write
@@ -140,9 +139,8 @@ void checkPinRead(FaultRig& rig, Model m)
                 EXPECT_EQ(pin.Aspects[a].Steps[s],
                           a * 9 + s < kHitStep ? src.Aspects[a].Steps[s] : def.pin(kPin).Aspects[a].Steps[s])
                     << a << "/" << s;
-        EXPECT_EQ(pin.InitAspect, def.pin(kPin).InitAspect);
-        EXPECT_EQ(pin.DccCount, def.pin(kPin).DccCount);
-        EXPECT_EQ(pin.LynxCount, def.pin(kPin).LynxCount);
+        EXPECT_EQ(std::tuple(pin.InitAspect, pin.DccCount, pin.LynxCount),
+                  std::tuple(def.pin(kPin).InitAspect, def.pin(kPin).DccCount, def.pin(kPin).LynxCount));
     }
     EXPECT_EQ(rig.session.config.pin(kPin - 1), def.pin(kPin - 1));
     EXPECT_EQ(rig.session.config.pin(kPin + 1), def.pin(kPin + 1));
@@ -161,10 +159,8 @@ void checkPinWrite(FaultRig& rig, Model m)
         ASSERT_TRUE(m == Model::BeforeTarget || m == Model::ThroughTarget);
         const int written = kHitStep + (m == Model::ThroughTarget ? 1 : 0);
         // Layout, initial aspect and address configuration go before the steps.
-        EXPECT_EQ(pin.aspectLayout, seeded.aspectLayout);
-        EXPECT_EQ(pin.initialAspect, seeded.initialAspect);
-        EXPECT_EQ(pin.dccCount, seeded.dccCount);
-        EXPECT_EQ(pin.lynxCount, seeded.lynxCount);
+        EXPECT_EQ(std::tuple(pin.aspectLayout, pin.initialAspect, pin.dccCount, pin.lynxCount),
+                  std::tuple(seeded.aspectLayout, seeded.initialAspect, seeded.dccCount, seeded.lynxCount));
         for (int a = 0; a < 4; ++a)
             for (int s = 0; s < 9; ++s)
                 EXPECT_EQ(pin.steps[a][s], a * 9 + s < written ? seeded.steps[a][s] : factory.steps[a][s])
