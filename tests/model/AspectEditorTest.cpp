@@ -61,9 +61,8 @@ TEST(AspectEditor, ShowAspectFillsThePage)
               std::tuple(2, true, 11, true, false, ""));
 
     p.InitAspect = 12;
-    EXPECT_EQ(ShowAspect(c).initText, "11");
-    setDeviceDescription(c, "ignored");
-    EXPECT_EQ(p.DeviceDescription, "");
+    setDeviceDescription(c, "ignored"); // a member's device name is its head's
+    EXPECT_EQ(std::tuple(ShowAspect(c).initText, p.DeviceDescription), std::tuple("11", ""));
 }
 
 TEST(AspectEditor, LayoutChanges)
@@ -85,8 +84,7 @@ TEST(AspectEditor, LayoutChanges)
 
     p.AspectLayout = 1; // shown as option 0 and stored as 0
     const AspectView one = ShowAspect(c);
-    EXPECT_EQ(one.layout.option, 0);
-    EXPECT_EQ(p.AspectLayout, 0);
+    EXPECT_EQ(std::tuple(one.layout.option, p.AspectLayout), std::tuple(0, 0));
     EXPECT_THROW(changeLayout(c, 3), ProgramFault);
 }
 
@@ -105,17 +103,19 @@ TEST(AspectEditor, SelectorsClamp)
     EXPECT_EQ(selectAspect(c, "9").text, "3");
     EXPECT_EQ(c.CurrentAspect, 3);
     EXPECT_EQ(selectAspect(c, "-4").text, "0");
-    EXPECT_EQ(setInitAspect(c, "-5"), "-1");
-    EXPECT_EQ(c.Pins[6].InitAspect, 0);
-    EXPECT_EQ(setInitAspect(c, "8"), "3");
-    EXPECT_EQ(c.Pins[6].InitAspect, 4);
-    c.Pins[6].AspectLayout = 2;
-    EXPECT_EQ(setInitAspect(c, "11"), "11");
-    EXPECT_EQ(c.Pins[6].InitAspect, 12);
+    // Typed, layout, shown, stored (the initial aspect is kept plus one).
+    const std::tuple<const char*, int, const char*, int> init[] = {
+        {"-5", 3, "-1", 0}, {"8", 3, "3", 4}, {"11", 2, "11", 12}};
+    for (const auto& [typed, layout, shown, stored] : init) {
+        c.Pins[6].AspectLayout = static_cast<std::uint8_t>(layout);
+        EXPECT_EQ(setInitAspect(c, typed), shown);
+        EXPECT_EQ(c.Pins[6].InitAspect, stored) << typed;
+    }
 
-    EXPECT_EQ(setAddressCount(c, AddressKind::Dcc, "9"), "7");
-    EXPECT_EQ(setAddressCount(c, AddressKind::XDcc, "3"), "1");
-    EXPECT_EQ(setAddressCount(c, AddressKind::Lynx, "2"), "2");
+    EXPECT_EQ(std::tuple(setAddressCount(c, AddressKind::Dcc, "9"),
+                         setAddressCount(c, AddressKind::XDcc, "3"),
+                         setAddressCount(c, AddressKind::Lynx, "2")),
+              std::tuple("7", "1", "2"));
     EXPECT_EQ(std::tuple(c.DccFirstIndex[7], c.XDccTotal, c.LynxFirstIndex[6], c.LynxTotal),
               std::tuple(7, 1, 0, 2));
 
@@ -131,19 +131,17 @@ TEST(AspectEditor, RowEdits)
     c.CurrentPin = 30;
     c.Pins[30].AspectLayout = 3;
     const RowEdit wait = setInstruction(c, 4, 102);
-    EXPECT_EQ(wait.headings, (std::array<std::string, 4>{"", "", "Time", "Base"}));
-    EXPECT_FALSE(wait.row.fadeVisible);
+    EXPECT_EQ(std::tuple(wait.headings, wait.row.fadeVisible),
+              std::tuple(std::array<std::string, 4>{"", "", "Time", "Base"}, false));
     const ParameterEdit time = setParameter(c, 4, 2, "70");
-    EXPECT_EQ(time.text, "63");
-    EXPECT_EQ(time.timeText, "00:01.26");
+    EXPECT_EQ(std::tuple(time.text, time.timeText), std::tuple("63", "00:01.26"));
     EXPECT_EQ(setParameter(c, 4, 3, "1").timeText, "00:10.08");
 
     setInstruction(c, 0, 9);
     EXPECT_EQ(setParameter(c, 0, 0, "5").text, "1");
     const RowEdit faded = setFade(c, 0, true);
-    EXPECT_TRUE(faded.row.fadeChecked);
-    EXPECT_EQ(faded.row.fadeCaption, "Fade");
-    EXPECT_EQ(c.Pins[30].Aspects[0].Steps[0], (StepRecord{9, 1, 1, 0, 0, 0}));
+    EXPECT_EQ(std::tuple(faded.row.fadeChecked, faded.row.fadeCaption, c.Pins[30].Aspects[0].Steps[0]),
+              std::tuple(true, "Fade", StepRecord{9, 1, 1, 0, 0, 0}));
     EXPECT_FALSE(setInstruction(c, 0, 96).row.fadeChecked); // no fade for this one
     EXPECT_THROW(setInstruction(c, 9, 9), ProgramFault);
 }
