@@ -97,6 +97,11 @@ std::string generalAndEventLines()
     return out;
 }
 
+// Pin 5 up to its first step.
+const std::string kPin5 = crlf({"\"Pin\",5,3,2,\"Signal, home\"", "  \"Dev\",0,\"Home signal\"",
+                                "  \"Cfg\",1,64,8,64,4,5,6,7,68,9,60,11", "  \"PAM\",1,2,3",
+                                "  \"Asp\",0,\"Danger\"", "    \"Ins\",0,55,0,24,0,0"});
+
 const std::string kPin6And7 =
     crlf({"\"Pin\",6,0,0,\"Signal lamp\"", "  \"Dev\",-1,\"\"", "  \"Cfg\",2,0,3,8,0,31", "  \"PAM\",0,0,0",
           "\"Pin\",7,0,0,\"Button\"", "  \"Dev\",0,\"\"", "  \"Cfg\",4,1,2,3,4", "  \"PAM\",0,0,0"});
@@ -128,12 +133,9 @@ TEST(DataFileWriting, CompactHoldsOnlyDescribedPinsAspectsAndSteps)
 {
     Configuration c = sampleConfig();
     const std::string expected =
-        generalAndEventLines() +
-        crlf({"\"Pin\",5,3,2,\"Signal, home\"", "  \"Dev\",0,\"Home signal\"",
-              "  \"Cfg\",1,64,8,64,4,5,6,7,68,9,60,11", "  \"PAM\",1,2,3", "  \"Asp\",0,\"Danger\"",
-              "    \"Ins\",0,55,0,24,0,0", "    \"Ins\",2,127,0,0,25,1", "  \"Asp\",2,\"Clear\"",
-              "    \"Ins\",0,9,1,0,0,0"}) +
-        kPin6And7 + "\"End\"\r\n";
+        generalAndEventLines() + kPin5 +
+        crlf({"    \"Ins\",2,127,0,0,25,1", "  \"Asp\",2,\"Clear\"", "    \"Ins\",0,9,1,0,0,0"}) + kPin6And7 +
+        "\"End\"\r\n";
     EXPECT_EQ(writeConfigurationText(c, sampleGeneral(), SaveForm::Compact), expected);
     // Servo parameter 2 of 200 was written as 200 AND 63 = 8 and is 8 in memory as well.
     EXPECT_EQ(c.Pins[5].P(2), 8);
@@ -145,9 +147,7 @@ TEST(DataFileWriting, FullHoldsEveryPinEveryAspectOfTheLayoutAndEveryStep)
     std::string expected = generalAndEventLines();
     for (int p = 0; p < 5; ++p)
         expected += emptyPin(p);
-    expected += crlf({"\"Pin\",5,3,2,\"Signal, home\"", "  \"Dev\",0,\"Home signal\"",
-                      "  \"Cfg\",1,64,8,64,4,5,6,7,68,9,60,11", "  \"PAM\",1,2,3", "  \"Asp\",0,\"Danger\"",
-                      "    \"Ins\",0,55,0,24,0,0", "    \"Ins\",1,0,0,0,0,0", "    \"Ins\",2,127,0,0,25,1"});
+    expected += kPin5 + crlf({"    \"Ins\",1,0,0,0,0,0", "    \"Ins\",2,127,0,0,25,1"});
     expected += emptySteps(3, 8);
     expected += crlf({"  \"Asp\",1,\"\"", "    \"Ins\",0,8,0,0,0,0"}) + emptySteps(1, 8);
     expected += crlf({"  \"Asp\",2,\"Clear\"", "    \"Ins\",0,9,1,0,0,0"}) + emptySteps(1, 8);

@@ -13,31 +13,20 @@ using namespace kestrel::test;
 
 namespace {
 
-// Two devices: a three-pin "Signal" (head with layout 2 and two aspects, members PWM)
-// and a one-pin "Button" in input mode.
-const std::string kTwoDevices = crlf({
-    "\"KestrelDeviceDefinitions Test set\"",
-    "\"Dev\",\"Signal\"",
-    "  \"Pin\",0,2,1,\"red\"",
-    "    \"Cfg\",2,0,3,8,0,31",
-    "    \"PAM\",1,2,1",
-    "    \"Asp\",0,\"Stop\"",
-    "      \"Ins\",0,29,0,1,0,0",
-    "    \"Asp\",1,\"Clear\"",
-    "      \"Ins\",0,29,0,4,0,0",
-    "      \"Ins\",1,17,0,1,0,0",
-    "  \"Pin\",1,0,0,\"yellow\"",
-    "    \"Cfg\",2,0,3,8,0,31",
-    "    \"PAM\",0,0,0",
-    "  \"Pin\",2,0,0,\"green\"",
-    "    \"Cfg\",2,0,3,8,0,31",
-    "    \"PAM\",0,0,0",
-    "\"Dev\",\"Button\"",
-    "  \"Pin\",0,0,0,\"push\"",
-    "    \"Cfg\",4,1,2,3,4",
-    "    \"PAM\",0,0,0",
-    "\"End\"",
-});
+// The three-pin "Signal": a head with layout 2 and two aspects, members PWM.
+std::string signalDevice(const std::string& headConfig = "    \"Cfg\",2,0,3,8,0,31")
+{
+    return crlf({"\"Dev\",\"Signal\"", "  \"Pin\",0,2,1,\"red\"", headConfig, "    \"PAM\",1,2,1",
+                 "    \"Asp\",0,\"Stop\"", "      \"Ins\",0,29,0,1,0,0", "    \"Asp\",1,\"Clear\"",
+                 "      \"Ins\",0,29,0,4,0,0", "      \"Ins\",1,17,0,1,0,0", "  \"Pin\",1,0,0,\"yellow\"",
+                 "    \"Cfg\",2,0,3,8,0,31", "    \"PAM\",0,0,0", "  \"Pin\",2,0,0,\"green\"",
+                 "    \"Cfg\",2,0,3,8,0,31", "    \"PAM\",0,0,0"});
+}
+
+// Two devices: the "Signal" and a one-pin "Button" in input mode.
+const std::string kTwoDevices = crlf({"\"KestrelDeviceDefinitions Test set\""}) + signalDevice() +
+                                crlf({"\"Dev\",\"Button\"", "  \"Pin\",0,0,0,\"push\"",
+                                      "    \"Cfg\",4,1,2,3,4", "    \"PAM\",0,0,0", "\"End\""});
 
 std::string standardFile()
 {
@@ -268,25 +257,9 @@ TEST(DeviceSaving, SavingFromAMemberWritesTheWholeDeviceFromItsHead)
     r.config.CurrentPin = 1; // a member
     r.dialogs.fileNames = {dir.file("mine.def")};
     ASSERT_TRUE(CommandSaveDevice_Click(r.config, r.dialogs));
-    const std::string expected = crlf({
-        "\"KestrelDeviceDefinitions Signal\"",
-        "\"Dev\",\"Signal\"",
-        "  \"Pin\",0,2,1,\"red\"",
-        "    \"Cfg\",1,64,8,64,1,2,3,4,64,0,64,0",
-        "    \"PAM\",1,2,1",
-        "    \"Asp\",0,\"Stop\"",
-        "      \"Ins\",0,29,0,1,0,0",
-        "    \"Asp\",1,\"Clear\"",
-        "      \"Ins\",0,29,0,4,0,0",
-        "      \"Ins\",1,17,0,1,0,0",
-        "  \"Pin\",1,0,0,\"yellow\"",
-        "    \"Cfg\",2,0,3,8,0,31",
-        "    \"PAM\",0,0,0",
-        "  \"Pin\",2,0,0,\"green\"",
-        "    \"Cfg\",2,0,3,8,0,31",
-        "    \"PAM\",0,0,0",
-        "\"End\"",
-    });
+    // The servo's parameter 2 is written in the current layout (200 AND 63).
+    const std::string expected = crlf({"\"KestrelDeviceDefinitions Signal\""}) +
+                                 signalDevice("    \"Cfg\",1,64,8,64,1,2,3,4,64,0,64,0") + "\"End\"\r\n";
     EXPECT_EQ(slurp(dir.file("mine.def")), expected);
     EXPECT_EQ(r.config.Pins[31].P(2), 8);
 
