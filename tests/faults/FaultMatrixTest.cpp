@@ -288,7 +288,10 @@ const std::vector<std::string> kVerifyNotSupported{
     "Read Event-On: Function not supported by Device", "Verification Stopped"};
 
 // Reads that end at a missing reply, with the header of the reply that OtherAddress sends.
-std::vector<Case> readCells(const Family& f, int replyHeader, std::vector<Cell> contentErrors)
+// A wrong echo, then a wrong length, give the read's own message (the same for both when
+// `length` is empty; none when `echo` is) and end the read or let it go on.
+std::vector<Case> readCells(const Family& f, int replyHeader, bool goesOn, Model m, const std::string& echo,
+                            const std::string& length = {})
 {
     std::vector<Case> cases{
         {&f, {Fault::NoReply, false, {kNoResponse}, 1, Model::BeforeTarget}},
@@ -299,8 +302,11 @@ std::vector<Case> readCells(const Family& f, int replyHeader, std::vector<Cell> 
         {&f, {Fault::PortGoneWaiting, false, {kPortLost}, 0, Model::BeforeTarget}},
         {&f, {Fault::PortGoneWriting, false, {kPortLost}, 0, Model::BeforeTarget}},
     };
-    for (auto& c : contentErrors)
-        cases.push_back({&f, std::move(c)});
+    for (const auto& [fault, text] : {std::pair{Fault::WrongEcho, echo}, {Fault::WrongLength, length}}) {
+        const std::string shown = text.empty() ? echo : text;
+        cases.push_back(
+            {&f, {fault, goesOn, shown.empty() ? std::vector<std::string>{} : std::vector{shown}, 0, m}});
+    }
     return cases;
 }
 
@@ -325,32 +331,15 @@ std::vector<Case> matrix()
     std::vector<Case> all;
     auto add = [&](std::vector<Case> cases) { all.insert(all.end(), cases.begin(), cases.end()); };
 
-    add(readCells(kGeneralRead, 100,
-                  {{Fault::WrongEcho, true, {"Get DCC Address: No valid response"}, 0, Model::AllButTarget},
-                   {Fault::WrongLength,
-                    true,
-                    {"Get DCC Address: No valid response, size <> 4"},
-                    0,
-                    Model::AllButTarget}}));
-    add(readCells(kPinRead, 105,
-                  {{Fault::WrongEcho, false, {"No valid response"}, 0, Model::BeforeTarget},
-                   {Fault::WrongLength, false, {"No valid response"}, 0, Model::BeforeTarget}}));
+    add(readCells(kGeneralRead, 100, true, Model::AllButTarget, "Get DCC Address: No valid response",
+                  "Get DCC Address: No valid response, size <> 4"));
+    add(readCells(kPinRead, 105, false, Model::BeforeTarget, "No valid response"));
     add(writeCells(kPinWrite));
-    add(readCells(kEventsRead, 103,
-                  {{Fault::WrongEcho,
-                    true,
-                    {"Read Event-On: Function not supported by Device"},
-                    0,
-                    Model::AllButTarget},
-                   {Fault::WrongLength,
-                    true,
-                    {"Read Event-On: Function not supported by Device"},
-                    0,
-                    Model::AllButTarget}}));
+    add(readCells(kEventsRead, 103, true, Model::AllButTarget,
+                  "Read Event-On: Function not supported by Device"));
     add(writeCells(kEventsWrite));
-    add(readCells(kMapsRead, 100,
-                  {{Fault::WrongEcho, false, {"No valid response type"}, 0, Model::Untouched},
-                   {Fault::WrongLength, false, {"No valid response size"}, 0, Model::Untouched}}));
+    add(readCells(kMapsRead, 100, false, Model::Untouched, "No valid response type",
+                  "No valid response size"));
     // A single write: when the port goes while its acknowledgement is awaited, it is done.
     for (Case c : writeCells(kMapsWrite)) {
         if (c.cell.model == Model::ThroughTarget)
@@ -359,15 +348,12 @@ std::vector<Case> matrix()
             c.cell.model = Model::Untouched;
         all.push_back(c);
     }
-    add(readCells(kReadAll, 99,
-                  {{Fault::WrongEcho, false, {"No valid response"}, 0, Model::BeforeTarget},
-                   {Fault::WrongLength, false, {"No valid response"}, 0, Model::BeforeTarget}}));
+    add(readCells(kReadAll, 99, false, Model::BeforeTarget, "No valid response"));
     add(writeCells(kWriteAll));
-    for (Case c : readCells(kVerifyAll, 103,
-                            {{Fault::WrongEcho, false, {}, 0, Model::Untouched, kVerifyNotSupported},
-                             {Fault::WrongLength, false, {}, 0, Model::Untouched, kVerifyNotSupported}})) {
-        if (c.cell.report.empty())
-            c.cell.report = c.cell.result ? kVerifyOk : kVerifyStopped;
+    // Verify All tells a content error in its report.
+    for (Case c : readCells(kVerifyAll, 103, false, Model::Untouched, "")) {
+        const bool content = c.cell.fault == Fault::WrongEcho || c.cell.fault == Fault::WrongLength;
+        c.cell.report = content ? kVerifyNotSupported : c.cell.result ? kVerifyOk : kVerifyStopped;
         all.push_back(c);
     }
     // The tunnel: a reply that never comes (or is for another module) shows as an empty
