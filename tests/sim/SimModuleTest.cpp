@@ -6,6 +6,8 @@
 using namespace kestrel::sim;
 using kestrel::sim::test::busRequest;
 using kestrel::sim::test::feed;
+using kestrel::sim::test::kVersionReply;
+using kestrel::sim::test::kVersionRequest;
 using kestrel::sim::test::sumsToZero;
 using Bytes = std::vector<std::uint8_t>;
 
@@ -42,9 +44,8 @@ TEST(SimModuleFraming, VersionRequestWorkedExampleAfterBurstAndEmptyFrame)
     // (128 + 64 + 32 + size 2), 240 (128 + 112), 128 (item 0), check byte 235.
     // Reply: 67 (toggle echoed), header 128 + 96 + 6 = 230, 112, 0, version 1.2.3.4,
     // check byte: 67 + 102 + 112 + 0 + 1 + 2 + 3 + 4 = 291 = 2 * 128 + 35, so 93 + 128.
-    const Bytes reply{67, 230, 240, 128, 129, 130, 131, 132, 221};
-    EXPECT_EQ(feed(bus, {67, 226, 240, 128, 235}), reply);
-    EXPECT_EQ(feed(bus, {67, 226, 240, /* restart */ 67, 226, 240, 128, 235}), reply);
+    EXPECT_EQ(feed(bus, kVersionRequest), (Bytes{67, 230, 240, 128, 129, 130, 131, 132, 221}));
+    EXPECT_EQ(feed(bus, {67, 226, 240, /* restart */ 67, 226, 240, 128, 235}), kVersionReply);
     EXPECT_TRUE(feed(bus, {67, 226, 240, 128, 236}).empty()); // bad check byte: dropped silently
     EXPECT_EQ(m.stats().checksumErrors, 1);
 }
@@ -200,17 +201,16 @@ TEST(SimModuleFaults, CorruptedCopyAndGarbageBeforeTheGoodReply)
 {
     SimBus bus;
     SimModule& m = bus.addModule(0);
-    const Bytes good{67, 230, 240, 128, 129, 130, 131, 132, 221};
     m.faults.corruptCopies = 1;
-    Bytes out = feed(bus, {67, 226, 240, 128, 235});
+    Bytes out = feed(bus, kVersionRequest);
     ASSERT_EQ(out.size(), 18u);
     const Bytes bad(out.begin(), out.begin() + 9);
     EXPECT_FALSE(sumsToZero(bad));
     EXPECT_GE(bad.back(), 128);
-    EXPECT_EQ(Bytes(out.begin() + 9, out.end()), good);
-    EXPECT_EQ(feed(bus, {67, 226, 240, 128, 235}), good); // only the next one
+    EXPECT_EQ(Bytes(out.begin() + 9, out.end()), kVersionReply);
+    EXPECT_EQ(feed(bus, kVersionRequest), kVersionReply); // only the next one
 
     m.faults.garbage = {0xAA, 0x05};
-    out = feed(bus, {67, 226, 240, 128, 235});
+    out = feed(bus, kVersionRequest);
     EXPECT_EQ(out, (Bytes{0xAA, 0x85, 67, 230, 240, 128, 129, 130, 131, 132, 221})); // bit 7 forced
 }

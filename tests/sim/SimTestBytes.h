@@ -12,6 +12,11 @@ namespace kestrel::sim::test {
 using Bytes = std::vector<std::uint8_t>;
 using kestrel::test::sumsToZero;
 
+// Request Version to address 0 with toggle 64, and the reply of a module of version 1.2.3.4
+// (the worked example of the module tests).
+const Bytes kVersionRequest{67, 226, 240, 128, 235};
+const Bytes kVersionReply{67, 230, 240, 128, 129, 130, 131, 132, 221};
+
 // A bus request to module `address` with toggle 0 or 64.
 inline Bytes busRequest(int address, int toggle, const std::vector<int>& data, bool bidirectional = true,
                         std::optional<int> xaddress = std::nullopt)
