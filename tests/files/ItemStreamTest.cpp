@@ -92,16 +92,14 @@ TEST(ItemReader, NumbersAreCheckedForFormAndRange)
     EXPECT_FALSE(isNumberItem("-"));
 }
 
-TEST(ItemWriter, WritesQuotedTextNumbersIndentationAndCrLf)
+TEST(ItemWriter, WritesQuotedTextNumbersIndentationAndCrLfWhateverTheLocale)
 {
     ItemWriter w;
     w.line().text("Pin").number(5).number(-1).text("a, b").end();
     w.line(4).text("Ins").real(12.5).real(202).real(-0.0).end();
     EXPECT_EQ(w.result(), "\"Pin\",5,-1,\"a, b\"\r\n    \"Ins\",12.5,202,0\r\n");
-}
 
-TEST(ItemWriter, NumbersKeepThePointUnderACommaDecimalLocale)
-{
+    // Numbers keep their point under a comma-decimal locale.
     test::CommaDecimalLocale comma;
     std::ostringstream probe;
     probe << 1234.5;
