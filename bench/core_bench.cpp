@@ -8,6 +8,7 @@
 #include "link/Link.h"
 #include "support/FakeClock.h"
 #include "support/Frames.h"
+#include "support/RecordingDialogs.h"
 
 #include <benchmark/benchmark.h>
 
@@ -22,21 +23,6 @@
 using namespace kestrel;
 
 namespace {
-
-class SilentDialogs : public UserDialogs {
-public:
-    int shown = 0;
-    void message(const std::string&, Icon) override { ++shown; }
-    Answer ask(const std::string&, Buttons, Icon) override { return Answer::Ok; }
-    std::string openFileName(const std::string&, const std::string&, const std::string&) override
-    {
-        return {};
-    }
-    std::string saveFileName(const std::string&, const std::string&, const std::string&) override
-    {
-        return {};
-    }
-};
 
 // A port in memory. Bytes written are discarded, except that a whole request frame with
 // the bidirectional bit is answered at once with a reply from the same address and toggle
@@ -57,25 +43,9 @@ public:
     std::string settings() const override { return "19200,o,8,1"; }
     bool writeByte(std::uint8_t b) override
     {
-        if (!answer)
-            return true;
-        if (b < 128) {
-            first = b;
-            position = 1;
-            return true;
-        }
-        if (position == 1) {
-            header = b;
-            left = (b & 15) + ((b & 16) ? 1 : 0) + 1;
-            position = 2;
-            return true;
-        }
-        if (position >= 2 && --left == 0) {
-            position = 0;
-            if ((header & 32) && (header & 15) > 0) {
-                const auto& r = replies[(first & 64) ? 1 : 0];
-                input.insert(input.end(), r.begin(), r.end());
-            }
+        if (answer && frames.push(b) && frames.wantsReply() && !frames.data.empty()) {
+            const auto& r = replies[(frames.first & 64) ? 1 : 0];
+            input.insert(input.end(), r.begin(), r.end());
         }
         return true;
     }
@@ -95,7 +65,7 @@ private:
     bool answer;
     std::array<std::vector<int>, 2> replies;
     std::deque<int> input;
-    int first = 0, header = 0, position = 0, left = 0;
+    test::FrameReader frames;
 };
 
 // The running-sum checksum over a step-write frame (address, header, nine data bytes).
@@ -118,7 +88,7 @@ void BM_FrameRequest(benchmark::State& state)
 {
     MemoryPort port(false);
     test::FakeClock clock; // stands still: every reply is already there
-    SilentDialogs dialogs;
+    test::RecordingDialogs dialogs;
     Link link(port, clock, dialogs);
     link.settings.CheckKestrelBD = false;
     for (auto _ : state)
@@ -132,7 +102,7 @@ void BM_RequestReply(benchmark::State& state)
 {
     MemoryPort port(true);
     test::FakeClock clock; // stands still: every reply is already there
-    SilentDialogs dialogs;
+    test::RecordingDialogs dialogs;
     Link link(port, clock, dialogs);
     for (auto _ : state) {
         link.SendKestrelMessage(true, 2, {112, 0});
@@ -167,7 +137,7 @@ void BM_DataFileRead(benchmark::State& state)
     GeneralSettings general;
     bench::fillFullConfiguration(config, general);
     const std::string text = writeConfigurationText(config, general, SaveForm::Full);
-    SilentDialogs dialogs;
+    test::RecordingDialogs dialogs;
     for (auto _ : state) {
         Configuration loaded;
         GeneralSettings loadedGeneral;
@@ -207,7 +177,7 @@ void reportPeak(benchmark::State& state, std::size_t bytes)
 void BM_LargestDataFileRead(benchmark::State& state)
 {
     const std::string text = largestDataFile();
-    SilentDialogs dialogs;
+    test::RecordingDialogs dialogs;
     for (auto _ : state) {
         Configuration loaded;
         GeneralSettings loadedGeneral;
@@ -225,7 +195,7 @@ void BM_LargestDefinitionsList(benchmark::State& state)
     for (int i = 0; text.size() + 40 < kTextFileLimit; ++i)
         text += "\"Dev\",\"D" + std::to_string(i) + "\"\r\n";
     text += "\"End\"\r\n";
-    SilentDialogs dialogs;
+    test::RecordingDialogs dialogs;
     const std::string path = "/usr/share/kestrel-config/KestrelDevices.def";
     for (auto _ : state) {
         DeviceList list;

@@ -85,14 +85,6 @@ inline void expectBusFrames(const std::vector<int>& bytes, bool replies, const c
     }
 }
 
-// Number of data bytes that a Corvid header announces.
-inline std::size_t corvidLength(int header)
-{
-    if (header & 8)
-        return static_cast<std::size_t>(header & 7);
-    return static_cast<std::size_t>(8 + 8 * ((header >> 4) & 1) + (header & 7));
-}
-
 // The same for Corvid frames: header (bit 7 clear), the announced data bytes, check byte.
 inline void expectCorvidFrames(const std::vector<int>& bytes, const char* who)
 {
@@ -100,7 +92,7 @@ inline void expectCorvidFrames(const std::vector<int>& bytes, const char* who)
     while (i < bytes.size()) {
         if (bytes[i] >= 128)
             finding(std::string(who) + ": Corvid byte with bit 7 set outside a frame");
-        const std::size_t length = 1 + corvidLength(bytes[i]) + 1;
+        const std::size_t length = 1 + static_cast<std::size_t>(kestrel::test::corvidLength(bytes[i])) + 1;
         if (i + length > bytes.size())
             finding(std::string(who) + ": Corvid frame cut short");
         std::vector<int> frame(bytes.begin() + static_cast<std::ptrdiff_t>(i),

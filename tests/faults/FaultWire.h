@@ -9,6 +9,7 @@
 #include "sim/SimBus.h"
 #include "sim/SimCorvid.h"
 #include "sim/SimPort.h"
+#include "support/Frames.h"
 
 #include <cstdint>
 #include <deque>
@@ -93,45 +94,21 @@ private:
     // Follows the client's frames; true when b ends one (its check byte).
     bool parse(std::uint8_t b)
     {
-        if (b < 128) {
-            first = b;
-            data.clear();
+        frames.corvid = tunnel;
+        const std::size_t had = frames.data.size();
+        const bool ends = frames.push(b);
+        if (b < 128)
             hitInThisFrame = false;
-            if (tunnel) {
-                size = (b & 8) ? (b & 7) : 8 + 8 * ((b >> 4) & 1) + (b & 7);
-                stage = size ? Stage::Data : Stage::Check;
-            } else {
-                stage = Stage::Header;
-            }
-            return false;
-        }
-        switch (stage) {
-        case Stage::Header:
-            size = b & 15;
-            stage = (b & 16) ? Stage::XAddress : (size ? Stage::Data : Stage::Check);
-            return false;
-        case Stage::XAddress:
-            stage = size ? Stage::Data : Stage::Check;
-            return false;
-        case Stage::Data:
-            data.push_back(b & 127);
-            if (static_cast<int>(data.size()) == size)
-                stage = Stage::Check;
+        else if (frames.data.size() > had)
             matchRequest();
-            return false;
-        case Stage::Check:
-            stage = Stage::Idle;
-            return true;
-        case Stage::Idle:
-            return false;
-        }
-        return false;
+        return ends;
     }
 
     // The module's request inside the frame so far (the tunnel wraps it as 0, T, inner
     // header, [eXtended address], request).
     std::vector<int> request() const
     {
+        const std::vector<int>& data = frames.data;
         if (!tunnel)
             return data;
         if (data.size() < 3 || data[0] != 0)
@@ -153,7 +130,7 @@ private:
             return;
         ++hits;
         hitInThisFrame = true;
-        hitFirst = first;
+        hitFirst = frames.first;
         auto& mf = module.faults;
         switch (fault) {
         case Fault::NoReply:
@@ -215,8 +192,6 @@ private:
             out.push_back(static_cast<std::uint8_t>(inner.read()));
     }
 
-    enum class Stage { Idle, Header, XAddress, Data, Check };
-
     sim::SimBus& bus;
     sim::SimCorvid& corvid;
     sim::SimModule& module;
@@ -227,10 +202,7 @@ private:
     int wanted = 1;
     int seen = 0;
 
-    Stage stage = Stage::Idle;
-    int first = 0;
-    int size = 0;
-    std::vector<int> data;
+    FrameReader frames;
     bool hitInThisFrame = false;
 };
 

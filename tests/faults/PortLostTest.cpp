@@ -37,15 +37,16 @@ TEST(PortLost, DuringATimeOutIsTheOnlyMessage)
     const double start = rig.clock.now;
     EXPECT_FALSE(ReadAll(rig.session));
     EXPECT_EQ(rig.dialogs.texts(), std::vector<std::string>{kPortLost});
-    EXPECT_NEAR(rig.clock.now - start, 0.5, 1e-6);         // not the rest of the 2 s
-    EXPECT_TRUE(rig.session.link.settings.CheckKestrelBD); // no time-out: nothing reset
-    EXPECT_EQ(rig.session.general.LabelGenVersionString, "Unknown");
+    EXPECT_NEAR(rig.clock.now - start, 0.5, 1e-6); // not the rest of the 2 s
+    // No time-out: nothing reset.
+    EXPECT_EQ(std::tuple(rig.session.link.settings.CheckKestrelBD, rig.session.general.LabelGenVersionString),
+              std::tuple(true, "Unknown"));
 
     rig.port.setWaitHook([&](int ms) { rig.clock.advance(ms / 1000.0); });
     bringBack(rig);
     EXPECT_TRUE(ReadAll(rig.session));
-    EXPECT_EQ(rig.dialogs.texts(), std::vector<std::string>{});
-    EXPECT_EQ(rig.session.general, rig.sourceGeneral);
+    EXPECT_EQ(std::tuple(rig.dialogs.texts(), rig.session.general),
+              std::tuple(std::vector<std::string>{}, rig.sourceGeneral));
 }
 
 TEST(PortLost, OneWayWriteAllStopsAtTheFirstFailedWrite)
@@ -61,8 +62,8 @@ TEST(PortLost, OneWayWriteAllStopsAtTheFirstFailedWrite)
     const double start = rig.clock.now;
     const long slept = rig.clock.slept;
     EXPECT_FALSE(WriteAll(rig.session));
-    EXPECT_EQ(rig.wire.hits, 1);
-    EXPECT_EQ(rig.dialogs.texts(), std::vector<std::string>{kPortLost});
+    EXPECT_EQ(std::tuple(rig.wire.hits, rig.dialogs.texts()),
+              std::tuple(1, std::vector<std::string>{kPortLost}));
     // Only the pauses that pace one-way writes have passed: no reply was waited for.
     EXPECT_NEAR(rig.clock.now - start, (rig.clock.slept - slept) / 1000.0, 1e-6);
     for (int p = 0; p < kPinCount; ++p)
@@ -115,8 +116,8 @@ TEST(PortLost, TunnelledReadAllAndTheNextJob)
     // The step read of pin 9, aspect 2, step 1 is on its way when the adapter goes.
     rig.wire.arm(Fault::PortGoneWaiting, {115, 9, 2, 1});
     EXPECT_FALSE(ReadAll(rig.session));
-    EXPECT_EQ(rig.wire.hits, 1);
-    EXPECT_EQ(rig.dialogs.texts(), std::vector<std::string>{kPortLost});
+    EXPECT_EQ(std::tuple(rig.wire.hits, rig.dialogs.texts()),
+              std::tuple(1, std::vector<std::string>{kPortLost}));
     EXPECT_EQ(std::tuple(rig.session.general.TextGenIDString, rig.session.config.pin(8),
                          rig.session.config.pin(10)),
               std::tuple(rig.sourceGeneral.TextGenIDString, rig.source.pin(8), Configuration{}.pin(10)));
@@ -144,14 +145,14 @@ TEST(TunnelResync, AFailedCorvidFrameLeavesNoStaleReplyForTheNextRequest)
     rig.wire.arm(Fault::CorruptNoGoodCopy, {112, 10});
     EXPECT_FALSE(ReadIDString(rig.session));
     ASSERT_EQ(rig.dialogs.texts().size(), 2u);
-    EXPECT_EQ(rig.dialogs.texts()[1], "No answer from Corvid");
-    EXPECT_EQ(rig.corvid.pendingReplies(), 1u);
+    EXPECT_EQ(std::tuple(rig.dialogs.texts()[1], rig.corvid.pendingReplies()),
+              std::tuple("No answer from Corvid", 1u));
     rig.dialogs.clear();
 
     EXPECT_TRUE(RequestVersion(rig.session));
-    EXPECT_EQ(rig.session.general.LabelGenVersionString, "1.2.3.4");
-    EXPECT_EQ(rig.dialogs.texts(), std::vector<std::string>{});
-    EXPECT_EQ(rig.corvid.pendingReplies(), 0u);
+    EXPECT_EQ(std::tuple(rig.session.general.LabelGenVersionString, rig.dialogs.texts(),
+                         rig.corvid.pendingReplies()),
+              std::tuple("1.2.3.4", std::vector<std::string>{}, 0u));
     EXPECT_TRUE(ReadIDString(rig.session));
     EXPECT_EQ(rig.session.general.TextGenIDString, rig.sourceGeneral.TextGenIDString);
 }

@@ -1,9 +1,9 @@
 #include "files/DeviceDefinitions.h"
-#include "files/FilesTestSupport.h"
 #include "files/TextFile.h"
 #include "forms/DevicesForm.h"
 #include "model/AddressIndex.h"
 #include "model/InstructionSet.h"
+#include "support/Files.h"
 #include "support/RecordingDialogs.h"
 
 #include <gtest/gtest.h>
@@ -13,31 +13,20 @@ using namespace kestrel::test;
 
 namespace {
 
-// Two devices: a three-pin "Signal" (head with layout 2 and two aspects, members PWM)
-// and a one-pin "Button" in input mode.
-const std::string kTwoDevices = crlf({
-    "\"KestrelDeviceDefinitions Test set\"",
-    "\"Dev\",\"Signal\"",
-    "  \"Pin\",0,2,1,\"red\"",
-    "    \"Cfg\",2,0,3,8,0,31",
-    "    \"PAM\",1,2,1",
-    "    \"Asp\",0,\"Stop\"",
-    "      \"Ins\",0,29,0,1,0,0",
-    "    \"Asp\",1,\"Clear\"",
-    "      \"Ins\",0,29,0,4,0,0",
-    "      \"Ins\",1,17,0,1,0,0",
-    "  \"Pin\",1,0,0,\"yellow\"",
-    "    \"Cfg\",2,0,3,8,0,31",
-    "    \"PAM\",0,0,0",
-    "  \"Pin\",2,0,0,\"green\"",
-    "    \"Cfg\",2,0,3,8,0,31",
-    "    \"PAM\",0,0,0",
-    "\"Dev\",\"Button\"",
-    "  \"Pin\",0,0,0,\"push\"",
-    "    \"Cfg\",4,1,2,3,4",
-    "    \"PAM\",0,0,0",
-    "\"End\"",
-});
+// The three-pin "Signal": a head with layout 2 and two aspects, members PWM.
+std::string signalDevice(const std::string& headConfig = "    \"Cfg\",2,0,3,8,0,31")
+{
+    return crlf({"\"Dev\",\"Signal\"", "  \"Pin\",0,2,1,\"red\"", headConfig, "    \"PAM\",1,2,1",
+                 "    \"Asp\",0,\"Stop\"", "      \"Ins\",0,29,0,1,0,0", "    \"Asp\",1,\"Clear\"",
+                 "      \"Ins\",0,29,0,4,0,0", "      \"Ins\",1,17,0,1,0,0", "  \"Pin\",1,0,0,\"yellow\"",
+                 "    \"Cfg\",2,0,3,8,0,31", "    \"PAM\",0,0,0", "  \"Pin\",2,0,0,\"green\"",
+                 "    \"Cfg\",2,0,3,8,0,31", "    \"PAM\",0,0,0"});
+}
+
+// Two devices: the "Signal" and a one-pin "Button" in input mode.
+const std::string kTwoDevices = crlf({"\"KestrelDeviceDefinitions Test set\""}) + signalDevice() +
+                                crlf({"\"Dev\",\"Button\"", "  \"Pin\",0,0,0,\"push\"",
+                                      "    \"Cfg\",4,1,2,3,4", "    \"PAM\",0,0,0", "\"End\""});
 
 std::string standardFile()
 {
@@ -84,11 +73,12 @@ TEST(DeviceLoading, PinsGetClearedAspectsAndAWarningWhenAlreadyUsed)
     r.config.Pins[7].Aspects[4].Steps[2].Instruction = 9;
     ASSERT_TRUE(r.load(kTwoDevices, "Signal", 5));
     ASSERT_EQ(r.dialogs.messages.size(), 1u);
-    EXPECT_EQ(r.dialogs.messages[0].text, "The following Pin numbers were already used: \r\n 6, 8");
-    EXPECT_EQ(r.dialogs.messages[0].icon, Icon::Warning);
-    EXPECT_EQ(r.config.Pins[7].Description, "green"); // overwritten all the same
-    EXPECT_EQ(r.config.Pins[7].Aspects[4].Description, "");
-    EXPECT_EQ(r.config.Pins[7].Aspects[4].Steps[2].Instruction, 0);
+    // Overwritten all the same, the old aspects cleared.
+    const PinRecord& p = r.config.Pins[7];
+    EXPECT_EQ(
+        std::tuple(r.dialogs.messages[0].text, r.dialogs.messages[0].icon, p.Description,
+                   p.Aspects[4].Description, p.Aspects[4].Steps[2].Instruction),
+        std::tuple("The following Pin numbers were already used: \r\n 6, 8", Icon::Warning, "green", "", 0));
 }
 
 TEST(DeviceLoading, DissolvesTheOldDeviceAtTheHeadAndAtEachTarget)
@@ -121,23 +111,20 @@ TEST(DeviceLoading, DissolvesTheOldDeviceAtTheHeadAndAtEachTarget)
 TEST(DeviceLoading, OnlyServoAndPwmReadParameters)
 {
     Rig r;
-    r.config.Pins[3].ConfigParams = {9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9};
-    r.config.Pins[4].ConfigParams = {9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9};
-    r.config.Pins[5].ConfigParams = {9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9};
+    for (int p : {3, 4, 5})
+        r.config.Pins[p].ConfigParams.fill(9);
     const std::string text =
         crlf({"\"KestrelDeviceDefinitions x\"", "\"Dev\",\"Mixed\"", "  \"Pin\",0,0,0,\"input\"",
               "    \"Cfg\",4,1,2,3,4", "    \"PAM\",0,3,0", "  \"Pin\",1,0,0,\"old PWM\"",
               "    \"Cfg\",2,5,1,8", "    \"PAM\",0,4,0", "  \"Pin\",2,0,0,\"servo\"",
               "    \"Cfg\",1,70,48,64,1,1,1,1,64,0,64,0", "\"End\""});
     ASSERT_TRUE(r.load(text, "Mixed", 3));
-    EXPECT_EQ(r.config.Pins[3].ConfigMode, 4);
-    EXPECT_EQ(r.config.Pins[3].P(1), 9); // the old parameters stay, the items were passed over
-    EXPECT_EQ(r.config.Pins[3].DccCount, 3);
-    EXPECT_EQ(r.config.Pins[4].P(3), 8); // three-parameter PWM: "PAM" is the next keyword
-    EXPECT_EQ(r.config.Pins[4].P(4), 9);
-    EXPECT_EQ(r.config.Pins[4].DccCount, 4);
-    EXPECT_EQ(r.config.Pins[5].P(2), 48); // no servo conversion here
-    EXPECT_EQ(r.config.Pins[5].P(11), 0);
+    // The input keeps its old parameters (the items were passed over); the three-parameter
+    // PWM ends at "PAM"; the servo's parameter 2 is not converted here.
+    const auto& pins = r.config.Pins;
+    EXPECT_EQ(std::tuple(pins[3].ConfigMode, pins[3].P(1), pins[3].DccCount, pins[4].P(3), pins[4].P(4),
+                         pins[4].DccCount, pins[5].P(2), pins[5].P(11)),
+              std::tuple(4, 9, 3, 8, 9, 4, 48, 0));
 }
 
 TEST(DeviceLoading, MissingDeviceNoSelectionAndBrokenBlocks)
@@ -270,25 +257,9 @@ TEST(DeviceSaving, SavingFromAMemberWritesTheWholeDeviceFromItsHead)
     r.config.CurrentPin = 1; // a member
     r.dialogs.fileNames = {dir.file("mine.def")};
     ASSERT_TRUE(CommandSaveDevice_Click(r.config, r.dialogs));
-    const std::string expected = crlf({
-        "\"KestrelDeviceDefinitions Signal\"",
-        "\"Dev\",\"Signal\"",
-        "  \"Pin\",0,2,1,\"red\"",
-        "    \"Cfg\",1,64,8,64,1,2,3,4,64,0,64,0",
-        "    \"PAM\",1,2,1",
-        "    \"Asp\",0,\"Stop\"",
-        "      \"Ins\",0,29,0,1,0,0",
-        "    \"Asp\",1,\"Clear\"",
-        "      \"Ins\",0,29,0,4,0,0",
-        "      \"Ins\",1,17,0,1,0,0",
-        "  \"Pin\",1,0,0,\"yellow\"",
-        "    \"Cfg\",2,0,3,8,0,31",
-        "    \"PAM\",0,0,0",
-        "  \"Pin\",2,0,0,\"green\"",
-        "    \"Cfg\",2,0,3,8,0,31",
-        "    \"PAM\",0,0,0",
-        "\"End\"",
-    });
+    // The servo's parameter 2 is written in the current layout (200 AND 63).
+    const std::string expected = crlf({"\"KestrelDeviceDefinitions Signal\""}) +
+                                 signalDevice("    \"Cfg\",1,64,8,64,1,2,3,4,64,0,64,0") + "\"End\"\r\n";
     EXPECT_EQ(slurp(dir.file("mine.def")), expected);
     EXPECT_EQ(r.config.Pins[31].P(2), 8);
 

@@ -1,8 +1,8 @@
 #include "files/ItemStream.h"
+#include "support/Files.h"
 
 #include <gtest/gtest.h>
 
-#include <locale>
 #include <sstream>
 #include <vector>
 
@@ -92,30 +92,15 @@ TEST(ItemReader, NumbersAreCheckedForFormAndRange)
     EXPECT_FALSE(isNumberItem("-"));
 }
 
-TEST(ItemWriter, WritesQuotedTextNumbersIndentationAndCrLf)
+TEST(ItemWriter, WritesQuotedTextNumbersIndentationAndCrLfWhateverTheLocale)
 {
     ItemWriter w;
     w.line().text("Pin").number(5).number(-1).text("a, b").end();
     w.line(4).text("Ins").real(12.5).real(202).real(-0.0).end();
     EXPECT_EQ(w.result(), "\"Pin\",5,-1,\"a, b\"\r\n    \"Ins\",12.5,202,0\r\n");
-}
 
-namespace {
-
-// A locale that writes numbers with a decimal comma and groups thousands with points.
-struct CommaDecimal : std::numpunct<char> {
-    char do_decimal_point() const override { return ','; }
-    char do_thousands_sep() const override { return '.'; }
-    std::string do_grouping() const override { return "\3"; }
-};
-
-} // namespace
-
-TEST(ItemWriter, NumbersKeepThePointUnderACommaDecimalLocale)
-{
-    // No comma-decimal locale is installed on every machine; a numpunct facet made
-    // global has the same effect on every stream made afterwards.
-    const std::locale old = std::locale::global(std::locale(std::locale::classic(), new CommaDecimal));
+    // Numbers keep their point under a comma-decimal locale.
+    test::CommaDecimalLocale comma;
     std::ostringstream probe;
     probe << 1234.5;
     EXPECT_EQ(probe.str(), "1.234,5"); // the locale is really in force
@@ -124,5 +109,4 @@ TEST(ItemWriter, NumbersKeepThePointUnderACommaDecimalLocale)
     EXPECT_EQ(formatNumber(12345L), "12345");
     ItemReader in("1234.5");
     EXPECT_DOUBLE_EQ(in.nextReal(), 1234.5);
-    std::locale::global(old);
 }

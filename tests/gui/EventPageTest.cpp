@@ -2,9 +2,6 @@
 #include "shell/EventPage.h"
 #include "forms/EventControlForm.h"
 #include "gui/GuiRig.h"
-#include "link/Clock.h"
-#include "session/Session.h"
-#include "shell/BuiltInSim.h"
 
 #include <QCheckBox>
 #include <QSpinBox>

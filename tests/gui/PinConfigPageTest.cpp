@@ -1,11 +1,8 @@
 // The pin-configuration page bound to a session on the built-in simulated module.
 #include "shell/PinConfigPage.h"
 #include "gui/GuiRig.h"
-#include "link/Clock.h"
 #include "ops/PinConfigTransfer.h"
 #include "pins/PinConfig.h"
-#include "session/Session.h"
-#include "shell/BuiltInSim.h"
 
 #include <QCheckBox>
 #include <QRadioButton>

@@ -224,15 +224,6 @@ TEST(Window, AMessageDuringAJobIsAboveItsProgressDialog)
         << w.LabelStatusJob->text().toStdString();
 }
 
-TEST(Window, SavedNamesGetTheirSuffix)
-{
-    EXPECT_EQ(QtDialogs::withDefaultSuffix("/tmp/mylayout", "Kestrel Config Data|*.dat"),
-              "/tmp/mylayout.dat");
-    EXPECT_EQ(QtDialogs::withDefaultSuffix("/tmp/my.def", "Kestrel Config Data|*.dat"), "/tmp/my.def");
-    EXPECT_EQ(QtDialogs::withDefaultSuffix("dev", "Kestrel Device Definitions|*.def"), "dev.def");
-    EXPECT_EQ(QtDialogs::withDefaultSuffix("", "Kestrel Device Definitions|*.def"), "");
-}
-
 TEST(Window, AProgramFaultIsToldOnceAndLeavesTheConfigurationAsItWas)
 {
     Window m;
@@ -254,7 +245,7 @@ TEST(Window, AProgramFaultIsToldOnceAndLeavesTheConfigurationAsItWas)
     EXPECT_EQ(after, 1);
 }
 
-TEST(Window, RequestVersionAndTheLinkArea)
+TEST(Window, RequestVersionTheLinkAreaAndTheExtendedAddress)
 {
     Window m(false);
     m.w.ComboPort->setCurrentIndex(m.w.ComboPort->findText("sim"));
@@ -289,11 +280,8 @@ TEST(Window, RequestVersionAndTheLinkArea)
     m.dialogs.clear();
     m.job(m.w.CommandWriteAll);
     EXPECT_EQ(m.dialogs.texts(), std::vector<std::string>{"Select communications port"});
-}
 
-TEST(Window, ExtendedAddressControlsFollowTheCheckBox)
-{
-    Window m(false);
+    // The eXtended address controls follow their check box, which asks first.
     m.dialogs.answers = {Answer::Cancel, Answer::Ok};
     auto* check = child<QCheckBox>(m.w, "CheckXaddress");
     auto* x = child<QLineEdit>(m.w, "txtXaddr");
@@ -306,5 +294,13 @@ TEST(Window, ExtendedAddressControlsFollowTheCheckBox)
               std::tuple(true, "Channel Number", true));
     x->setText("200");
     m.w.txtXaddr_Click();
-    EXPECT_EQ(std::tuple(x->text(), m.w.session().link.settings.TargetXAddress), std::tuple("15", 15));
+    // Clamped to channel 15, shown numbered from one as the module address is.
+    EXPECT_EQ(std::tuple(x->text(), m.w.session().link.settings.TargetXAddress), std::tuple("16", 15));
+
+    // Names typed without a suffix get the filter's.
+    EXPECT_EQ(std::tuple(QtDialogs::withDefaultSuffix("/tmp/mylayout", "Kestrel Config Data|*.dat"),
+                         QtDialogs::withDefaultSuffix("/tmp/my.def", "Kestrel Config Data|*.dat"),
+                         QtDialogs::withDefaultSuffix("dev", "Kestrel Device Definitions|*.def"),
+                         QtDialogs::withDefaultSuffix("", "Kestrel Device Definitions|*.def")),
+              std::tuple("/tmp/mylayout.dat", "/tmp/my.def", "dev.def", ""));
 }

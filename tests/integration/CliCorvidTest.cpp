@@ -5,7 +5,7 @@
 
 using namespace kestrel::test;
 
-TEST(CliThroughCorvid, TunnelThenTransparentModeThenDirect)
+TEST(CliThroughCorvid, TunnelThenTransparentModeThenDirectAndAnOldSystemRefusesTheTunnel)
 {
     SimProcess sim({"--corvid", "--address", "0,20", "--version", "3.1.4.1", "--unit", "linkbox",
                     "--unit-version", "1030"});
@@ -26,12 +26,10 @@ TEST(CliThroughCorvid, TunnelThenTransparentModeThenDirect)
     r = runProgram(cli, {"--port", sim.pty(), "version"});
     EXPECT_EQ(r.status, 0) << r.err;
     EXPECT_EQ(r.out, "3.1.4.1\n");
-}
 
-TEST(CliThroughCorvid, OldSystemRefusesTheTunnel)
-{
-    SimProcess sim({"--corvid", "--system-version", "3.0"});
-    auto r = runProgram(binPath("kestrel-cli"), {"--port", sim.pty(), "--corvid", "version"});
+    // An old system refuses the tunnel.
+    SimProcess old({"--corvid", "--system-version", "3.0"});
+    r = runProgram(cli, {"--port", old.pty(), "--corvid", "version"});
     EXPECT_EQ(r.status, 1);
     EXPECT_NE(r.err.find("Your system does not support this function\nProtocol = 3.0"), std::string::npos)
         << r.err;

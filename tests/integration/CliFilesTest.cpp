@@ -1,32 +1,18 @@
 // read / write / verify / erase through kestrel-sim on a pseudo-terminal.
+#include "support/Files.h"
 #include "support/Process.h"
 
 #include <chrono>
-#include <cstdio>
-#include <fstream>
 #include <gtest/gtest.h>
-#include <sstream>
 #include <sys/stat.h>
-#include <unistd.h>
 
 using namespace kestrel::test;
-
-namespace {
-std::string slurp(const std::string& path)
-{
-    std::ifstream in(path, std::ios::binary);
-    std::stringstream s;
-    s << in.rdbuf();
-    return s.str();
-}
-
-std::string tempPath(const char* name) { return "/tmp/kestrel-it-" + std::to_string(getpid()) + "-" + name; }
-} // namespace
 
 TEST(CliFiles, ReadFromBuiltInThenWriteVerifyAndReadBackThroughThePty)
 {
     const std::string cli = binPath("kestrel-cli");
-    const std::string demo = tempPath("demo.dat"), back = tempPath("back.dat");
+    ScratchDir dir("cli-files");
+    const std::string demo = dir.file("demo.dat"), back = dir.file("back.dat");
 
     // The built-in module starts with the demonstration configuration.
     auto r = runProgram(cli, {"--port", "sim", "read", demo});
@@ -67,14 +53,19 @@ TEST(CliFiles, ReadFromBuiltInThenWriteVerifyAndReadBackThroughThePty)
     r = runProgram(cli, {"--port", sim.pty(), "--address", "2", "verify", demo});
     EXPECT_EQ(r.status, 1);
 
-    std::remove(demo.c_str());
-    std::remove(back.c_str());
+    // A simulator seeded from the file holds it at each of its addresses.
+    SimProcess seeded({"--load", demo, "--address", "0,7"});
+    for (const char* address : {"0", "7"}) {
+        r = runProgram(cli, {"--port", seeded.pty(), "--address", address, "verify", demo});
+        EXPECT_EQ(r.status, 0) << address << r.out << r.err;
+    }
 }
 
 TEST(CliFiles, BadFilesAndAddressesAreUsageErrorsAndNothingIsSent)
 {
     const std::string cli = binPath("kestrel-cli");
-    const std::string bad = tempPath("bad.dat");
+    ScratchDir dir("cli-bad");
+    const std::string bad = dir.file("bad.dat"), missing = dir.file("missing.dat");
     const std::string head = "\"KestrelConfiguration 3100\"\r\n";
     const std::string pin0 = head + "\"Pin\",0,3,0,\"\"\r\n\"Asp\",0,\"\"\r\n";
     struct Case {
@@ -85,9 +76,7 @@ TEST(CliFiles, BadFilesAndAddressesAreUsageErrorsAndNothingIsSent)
     const Case cases[] = {
         {{"write", bad}, "\"KestrelConfig 3100\"\r\n\"End\"\r\n", "Invalid configuration file"},
         {{"verify", bad}, head + "\"Pin\",3,0,0,\"x\"\r\n", "The file ends before \"End\" at line 2, item 6"},
-        {{"verify", tempPath("missing.dat")},
-         "",
-         "Cannot read " + tempPath("missing.dat") + ": No such file"},
+        {{"verify", missing}, "", "Cannot read " + missing + ": No such file"},
         {{"write", bad},
          head + "\"DCC\",9000,0,0\r\n\"End\"\r\n",
          "DCC address 9000 cannot be sent: 0..8191"},
@@ -111,7 +100,7 @@ TEST(CliFiles, BadFilesAndAddressesAreUsageErrorsAndNothingIsSent)
     SimProcess sim({"--address", "0,3,15"});
     for (const Case& c : cases) {
         if (!c.file.empty())
-            std::ofstream(bad, std::ios::binary) << c.file;
+            spit(bad, c.file);
         std::vector<std::string> args{"--port", sim.pty()};
         args.insert(args.end(), c.args.begin(), c.args.end());
         const auto r = runProgram(cli, args);
@@ -119,13 +108,13 @@ TEST(CliFiles, BadFilesAndAddressesAreUsageErrorsAndNothingIsSent)
         EXPECT_NE(r.err.find(c.err), std::string::npos) << r.err;
     }
     EXPECT_NE(sim.stop().find("kestrel-sim-stats: exchanges=0 bytes_in=0 "), std::string::npos);
-    std::remove(bad.c_str());
 }
 
 TEST(CliFiles, AJobThatCannotCompleteFailsAndSaysWhatWasIncomplete)
 {
     const std::string cli = binPath("kestrel-cli");
-    const std::string demo = tempPath("incomplete.dat"), fifo = tempPath("fifo.dat");
+    ScratchDir dir("cli-incomplete");
+    const std::string demo = dir.file("incomplete.dat"), fifo = dir.file("fifo.dat");
     ASSERT_EQ(runProgram(cli, {"read", demo}).status, 0);
 
     // A module that never answers: the write stops at its first exchange instead of going on
@@ -142,7 +131,7 @@ TEST(CliFiles, AJobThatCannotCompleteFailsAndSaysWhatWasIncomplete)
     // A module that does not know one read: the read runs through and is saved, and fails.
     {
         SimProcess sim({"--refuse", "117:echo"});
-        std::remove(demo.c_str());
+        std::filesystem::remove(demo);
         const auto r = runProgram(cli, {"--port", sim.pty(), "read", demo});
         EXPECT_EQ(r.status, 1);
         EXPECT_EQ(r.err, "Read Event-Off: Function not supported by Device\nRead All incomplete: 1 problem "
@@ -156,29 +145,13 @@ TEST(CliFiles, AJobThatCannotCompleteFailsAndSaysWhatWasIncomplete)
     EXPECT_NE(r.err.find("Cannot save " + fifo + ": Can not replace " + fifo + ": Not a regular file"),
               std::string::npos)
         << r.err;
-    struct stat st {};
-    EXPECT_TRUE(stat(fifo.c_str(), &st) == 0 && S_ISFIFO(st.st_mode));
+    EXPECT_EQ(std::filesystem::status(fifo).type(), std::filesystem::file_type::fifo);
 
     // A control character of the ID reaches stdout escaped.
-    std::ofstream(demo, std::ios::binary) << "\"KestrelConfiguration 3100\"\r\n\"ID$\",\"A\x01"
-                                             "B\"\r\n\"End\"\r\n";
+    spit(demo, "\"KestrelConfiguration 3100\"\r\n\"ID$\",\"A\x01"
+               "B\"\r\n\"End\"\r\n");
     const auto v = runProgram(cli, {"verify", demo});
     EXPECT_EQ(v.status, 1);
     EXPECT_NE(v.out.find("ID does not compare: KestrelConfig = <A\\x01B> Kestrel = <"), std::string::npos)
         << v.out;
-    std::remove(demo.c_str());
-    std::remove(fifo.c_str());
-}
-
-TEST(CliFiles, SimulatorSeededFromAFile)
-{
-    const std::string cli = binPath("kestrel-cli");
-    const std::string demo = tempPath("seed.dat");
-    ASSERT_EQ(runProgram(cli, {"read", demo}).status, 0);
-    SimProcess sim({"--load", demo, "--address", "0,7"});
-    for (const char* address : {"0", "7"}) {
-        auto r = runProgram(cli, {"--port", sim.pty(), "--address", address, "verify", demo});
-        EXPECT_EQ(r.status, 0) << address << r.out << r.err;
-    }
-    std::remove(demo.c_str());
 }

@@ -1,21 +1,18 @@
 // kestrel-cli loses its port in the middle of a job: kestrel-sim, paced like a 9600 baud
 // wire so that the job takes a few seconds, is stopped while the job runs, and its
 // pseudo-terminal goes with it. The job ends at once with one message and status 1.
+#include "support/Files.h"
 #include "support/Process.h"
 
 #include <algorithm>
 #include <chrono>
 #include <gtest/gtest.h>
 #include <thread>
-#include <unistd.h>
 
 using namespace kestrel::test;
+using std::filesystem::exists;
 
 namespace {
-
-std::string tempPath(const char* name) { return "/tmp/kestrel-it-" + std::to_string(getpid()) + "-" + name; }
-
-bool exists(const std::string& path) { return access(path.c_str(), F_OK) == 0; }
 
 // Runs kestrel-cli with args against a paced kestrel-sim and stops the simulator a second
 // after the job has started.
@@ -36,45 +33,32 @@ CommandResult runAndPullThePort(const std::vector<std::string>& args, std::strin
 
 } // namespace
 
-TEST(CliPortLost, ReadEndsWithOneMessageAndNoFile)
+TEST(CliPortLost, ReadAndWriteEndWithOneMessageAndThePortServesAgain)
 {
-    const std::string file = tempPath("lost-read.dat");
-    std::remove(file.c_str());
-    std::string pty;
-    const CommandResult r = runAndPullThePort({"read", file}, pty);
-    EXPECT_EQ(r.status, 1);
-    EXPECT_EQ(r.out, "");
-    // Not "No response received ...", nothing for the rest of the job, and last where it stopped.
-    // The reason is the system's: "the port hung up" or "Input/output error", as the pty went.
-    EXPECT_EQ(r.err.rfind("Warning: Communications port lost: " + pty + " (", 0), 0u) << r.err;
-    EXPECT_NE(r.err.find(")\nRead All stopped at Reading pin "), std::string::npos) << r.err;
-    EXPECT_EQ(std::count(r.err.begin(), r.err.end(), '\n'), 2) << r.err;
-    EXPECT_FALSE(exists(file));
+    ScratchDir dir("lost");
+    const std::string lost = dir.file("lost-read.dat"), demo = dir.file("demo.dat");
+    // The demonstration configuration of the built-in module, to write.
+    const CommandResult saved = runProgram(binPath("kestrel-cli"), {"--port", "sim", "read", demo});
+    ASSERT_EQ(saved.status, 0) << saved.err;
+
+    // Not "No response received ...", no "Select communications port" for each item left,
+    // and last where the job stopped. The reason is the system's: "the port hung up" or
+    // "Input/output error", as the pty went.
+    for (const auto& [args, stopped] :
+         {std::pair{std::vector<std::string>{"read", lost}, ")\nRead All stopped at Reading pin "},
+          {std::vector<std::string>{"write", demo}, ")\nWrite All stopped at Writing "}}) {
+        std::string pty;
+        const CommandResult r = runAndPullThePort(args, pty);
+        EXPECT_EQ(std::tuple(r.status, r.out), std::tuple(1, "")) << args[0];
+        EXPECT_EQ(r.err.rfind("Warning: Communications port lost: " + pty + " (", 0), 0u) << r.err;
+        EXPECT_NE(r.err.find(stopped), std::string::npos) << r.err;
+        EXPECT_EQ(std::count(r.err.begin(), r.err.end(), '\n'), 2) << r.err;
+    }
+    EXPECT_FALSE(exists(lost)); // the read saved nothing
 
     // A port that is there again serves the next job.
     SimProcess sim;
-    const CommandResult again = runProgram(binPath("kestrel-cli"), {"--port", sim.pty(), "read", file});
-    EXPECT_EQ(again.status, 0) << again.err;
-    EXPECT_EQ(again.err, "");
-    EXPECT_TRUE(exists(file));
-    std::remove(file.c_str());
-}
-
-TEST(CliPortLost, WriteEndsWithOneMessage)
-{
-    // The demonstration configuration of the built-in module, to write.
-    const std::string file = tempPath("lost-write.dat");
-    const CommandResult saved = runProgram(binPath("kestrel-cli"), {"--port", "sim", "read", file});
-    ASSERT_EQ(saved.status, 0) << saved.err;
-
-    std::string pty;
-    const CommandResult r = runAndPullThePort({"write", file}, pty);
-    EXPECT_EQ(r.status, 1);
-    EXPECT_EQ(r.out, "");
-    // In particular no "Select communications port" for each item left to write.
-    // The reason is the system's: "the port hung up" or "Input/output error", as the pty went.
-    EXPECT_EQ(r.err.rfind("Warning: Communications port lost: " + pty + " (", 0), 0u) << r.err;
-    EXPECT_NE(r.err.find(")\nWrite All stopped at Writing "), std::string::npos) << r.err;
-    EXPECT_EQ(std::count(r.err.begin(), r.err.end(), '\n'), 2) << r.err;
-    std::remove(file.c_str());
+    const CommandResult again = runProgram(binPath("kestrel-cli"), {"--port", sim.pty(), "read", lost});
+    EXPECT_EQ(std::tuple(again.status, again.err), std::tuple(0, ""));
+    EXPECT_TRUE(exists(lost));
 }

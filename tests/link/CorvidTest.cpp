@@ -46,10 +46,9 @@ TEST_F(Scripted, FramesLogLinesAndSystemVersionAccepted)
     port.queue(corvidFrame({1, 2, 0x30, 0x25}, 0)); // system version 6045
     port.queue(corvidFrame({}, 1));                 // answer to the final poll
     EXPECT_TRUE(corvid.CheckCorvid_Click(true));
-    EXPECT_TRUE(link.settings.CheckCorvid);
-    EXPECT_FALSE(corvid.cmdSetTMVisible);
-    EXPECT_EQ(control.addressMaximum(), 31);
-    EXPECT_TRUE(dialogs.messages.empty());
+    EXPECT_EQ(std::tuple(link.settings.CheckCorvid, corvid.cmdSetTMVisible, control.addressMaximum(),
+                         dialogs.messages.size()),
+              std::tuple(true, false, 31, 0u));
 
     // Poll with toggle 1: header 40 + 64 = 104, check byte 152. Version request with
     // toggle 0: header 42, data 129, 130; 42+129 = 171, +130 = 301 -> 45; 256 - 45 = 211.
@@ -65,29 +64,28 @@ TEST_F(Scripted, OldSystemRefusedWithProtocolText)
     port.queue(corvidFrame({1, 2, 0x18, 0x00}));
     port.queue(corvidFrame({}, 1));
     EXPECT_FALSE(corvid.CheckCorvid_Click(true));
-    EXPECT_FALSE(link.settings.CheckCorvid);
     ASSERT_EQ(dialogs.messages.size(), 1u);
-    EXPECT_EQ(dialogs.messages[0].text, "Your system does not support this function\r\nProtocol = 3.0");
-    EXPECT_EQ(dialogs.messages[0].icon, Icon::Warning);
-    EXPECT_EQ(port.take().size(), 8u); // the final poll is sent all the same
+    // The final poll is sent all the same.
+    EXPECT_EQ(
+        std::tuple(link.settings.CheckCorvid, dialogs.messages[0].text, dialogs.messages[0].icon,
+                   port.take().size()),
+        std::tuple(false, "Your system does not support this function\r\nProtocol = 3.0", Icon::Warning, 8u));
 }
 
 TEST_F(Scripted, NoAnswerAndBadCheckByte)
 {
     EXPECT_FALSE(corvid.CheckCorvid_Click(true)); // nothing answers the poll
     ASSERT_EQ(dialogs.messages.size(), 1u);
-    EXPECT_EQ(dialogs.messages[0].text, "No answer from Corvid");
-    EXPECT_EQ(dialogs.messages[0].icon, Icon::Warning);
-    EXPECT_FALSE(link.settings.CheckCorvid);
+    EXPECT_EQ(std::tuple(dialogs.messages[0].text, dialogs.messages[0].icon, link.settings.CheckCorvid),
+              std::tuple("No answer from Corvid", Icon::Warning, false));
 
     dialogs.clear();
     auto bad = corvidFrame({1, 2, 3});
     bad.back() ^= 1;
     port.queue(bad);
     EXPECT_FALSE(link.CorvidExchange(0));
-    ASSERT_EQ(dialogs.messages.size(), 2u);
-    EXPECT_EQ(dialogs.messages[0].text, "Checksum Error\r\nSize = 3< 2B1234E");
-    EXPECT_EQ(dialogs.messages[1].text, "No answer from Corvid");
+    EXPECT_EQ(dialogs.texts(),
+              (std::vector<std::string>{"Checksum Error\r\nSize = 3< 2B1234E", "No answer from Corvid"}));
     EXPECT_EQ(link.state.ReplyBuffer[0], 0);
 
     // A frame announcing more data than the reply buffer holds with its checksum is a
@@ -146,9 +144,8 @@ TEST_F(Scripted, TimeOutAfterGoodPollsLeavesReplyValid)
     for (int i = 0; i < 100; ++i)
         port.queue(corvidFrame({}, i % 2));
     link.SendKestrelMessage(true, 2, {112, 0});
-    EXPECT_TRUE(link.state.ReplyValid);
+    EXPECT_EQ(std::tuple(link.state.ReplyValid, dialogs.messages.size()), std::tuple(true, 0u));
     EXPECT_NE(link.state.ReplyBuffer[1] & 15, 6); // callers reject it by its size
-    EXPECT_TRUE(dialogs.messages.empty());
 }
 
 TEST_F(Simulated, TunnelledVersionOfTwoModules)
@@ -160,8 +157,7 @@ TEST_F(Simulated, TunnelledVersionOfTwoModules)
     EXPECT_EQ(link.VersionText, "1.2.3.4");
     EXPECT_EQ(control.TextAddress_Click("20"), "20");
     EXPECT_TRUE(link.GetVersion());
-    EXPECT_EQ(link.VersionText, "2.0.0.1");
-    EXPECT_TRUE(dialogs.messages.empty());
+    EXPECT_EQ(std::tuple(link.VersionText, dialogs.messages.size()), std::tuple("2.0.0.1", 0u));
     // The log shows each frame sent and received.
     EXPECT_EQ(link.txtCorvidCommunication.rfind("> ", 0), 0u);
     EXPECT_NE(link.txtCorvidCommunication.find("\r\n< "), std::string::npos);
@@ -197,10 +193,9 @@ TEST_F(Simulated, TransparentModeByUnitTypeAndVersion)
         dialogs.clear();
         EXPECT_EQ(cc.cmdSetTM_Click(), c.switched) << c.text;
         ASSERT_EQ(dialogs.messages.size(), 1u) << c.text;
-        EXPECT_EQ(dialogs.messages[0].text, c.text);
-        EXPECT_EQ(dialogs.messages[0].icon, c.switched ? Icon::Information : Icon::Warning);
-        EXPECT_EQ(s.transparent(), c.switched);
-        EXPECT_TRUE(dialogs.questions.empty());
+        EXPECT_EQ(std::tuple(dialogs.messages[0].text, dialogs.messages[0].icon, s.transparent(),
+                             dialogs.questions.size()),
+                  std::tuple(c.text, c.switched ? Icon::Information : Icon::Warning, c.switched, 0u));
     }
 }
 

@@ -12,35 +12,37 @@ struct LinkControlFixture : ScriptedLink {
 
 TEST_F(LinkControlFixture, AddressClampsWithNumberingAndTunneling)
 {
-    base = 1;
-    EXPECT_EQ(control.TextAddress_Click("0"), "1");
-    EXPECT_EQ(link.settings.TargetAddress, 0);
-    EXPECT_EQ(control.TextAddress_Click("20"), "16");
-    EXPECT_EQ(link.settings.TargetAddress, 15);
-    link.settings.CheckCorvid = true;
-    EXPECT_EQ(control.TextAddress_Click("40"), "32");
-    EXPECT_EQ(link.settings.TargetAddress, 31);
-    EXPECT_EQ(control.TextAddress_Click("abc"), "1");
-
+    // Typed, shown, used; the tunnel reaches up to 31.
+    const std::tuple<bool, int, const char*, const char*, int> cases[] = {{false, 1, "0", "1", 0},
+                                                                          {false, 1, "20", "16", 15},
+                                                                          {true, 1, "40", "32", 31},
+                                                                          {true, 1, "abc", "1", 0}};
+    for (const auto& [corvid, numbering, typed, shown, used] : cases) {
+        link.settings.CheckCorvid = corvid;
+        base = numbering;
+        EXPECT_EQ(std::tuple(control.TextAddress_Click(typed), link.settings.TargetAddress),
+                  std::tuple(shown, used))
+            << typed;
+    }
     base = 0;
     link.settings.CheckCorvid = false;
     link.state.LinkToggle = 0;
     EXPECT_EQ(control.TextAddress_Click("7"), "7");
-    EXPECT_EQ(link.state.LinkToggle, 128);
-    EXPECT_EQ(control.addressText(), "7");
+    EXPECT_EQ(std::tuple(link.state.LinkToggle, control.addressText()), std::tuple(128, "7"));
 }
 
 TEST_F(LinkControlFixture, ExtendedAddressKeepsThe95To15PairingAndLeavesToggle)
 {
     link.state.LinkToggle = 64;
-    EXPECT_EQ(control.txtXaddr_Click("200"), "15");
-    EXPECT_EQ(link.settings.TargetXAddress, 15);
-    EXPECT_EQ(control.txtXaddr_Click("95"), "95");
-    EXPECT_EQ(link.settings.TargetXAddress, 95);
-    EXPECT_EQ(control.txtXaddr_Click("-4"), "0");
-    base = 1;
-    EXPECT_EQ(control.txtXaddr_Click("97"), "16");
-    EXPECT_EQ(link.settings.TargetXAddress, 15);
+    // Typed, numbering base, shown, used.
+    const std::tuple<const char*, int, const char*, int> cases[] = {
+        {"200", 0, "15", 15}, {"95", 0, "95", 95}, {"-4", 0, "0", 0}, {"97", 1, "16", 15}};
+    for (const auto& [typed, numbering, shown, used] : cases) {
+        base = numbering;
+        EXPECT_EQ(std::tuple(control.txtXaddr_Click(typed), link.settings.TargetXAddress),
+                  std::tuple(shown, used))
+            << typed;
+    }
     EXPECT_EQ(link.state.LinkToggle, 64);
 }
 
@@ -52,8 +54,8 @@ TEST_F(LinkControlFixture, ExtendedAddressingAsksFirst)
     EXPECT_TRUE(control.CheckXaddress_Click(true));
     EXPECT_EQ(control.addressLabel(), "Channel Number");
     ASSERT_EQ(dialogs.questions.size(), 2u);
-    EXPECT_EQ(dialogs.questions[0].text, "eXtended Addressing is intended for\r\nexperienced users only!");
-    EXPECT_EQ(dialogs.questions[0].icon, Icon::Warning);
+    EXPECT_EQ(std::tuple(dialogs.questions[0].text, dialogs.questions[0].icon),
+              std::tuple("eXtended Addressing is intended for\r\nexperienced users only!", Icon::Warning));
     EXPECT_FALSE(control.CheckXaddress_Click(false));
     EXPECT_EQ(dialogs.questions.size(), 2u);
 }
@@ -63,21 +65,17 @@ TEST_F(LinkControlFixture, BitRateAndPortChoice)
     // No port chosen: only the settings string changes; nothing opens, the link is left alone.
     link.state.LinkToggle = 64;
     EXPECT_TRUE(control.OptionBitRate_Click(0));
-    EXPECT_EQ(port.settings(), "9600,o,8,1");
-    EXPECT_FALSE(port.isOpen());
-    EXPECT_EQ(link.state.LinkToggle, 64);
+    EXPECT_EQ(std::tuple(port.settings(), port.isOpen(), link.state.LinkToggle),
+              std::tuple("9600,o,8,1", false, 64));
 
     EXPECT_TRUE(control.ComboPort_Click("/dev/pts/7"));
-    EXPECT_EQ(port.selected(), "/dev/pts/7");
-    EXPECT_TRUE(port.isOpen());
-    EXPECT_EQ(link.state.LinkToggle, 128);
-    EXPECT_EQ(port.settings(), "9600,o,8,1");
+    EXPECT_EQ(std::tuple(port.selected(), port.isOpen(), link.state.LinkToggle, port.settings()),
+              std::tuple("/dev/pts/7", true, 128, "9600,o,8,1"));
 
     link.state.LinkToggle = 0;
     EXPECT_TRUE(control.OptionBitRate_Click(2));
-    EXPECT_EQ(port.settings(), "38400,o,8,1");
-    EXPECT_TRUE(port.isOpen());
-    EXPECT_EQ(link.state.LinkToggle, 128);
+    EXPECT_EQ(std::tuple(port.settings(), port.isOpen(), link.state.LinkToggle),
+              std::tuple("38400,o,8,1", true, 128));
 
     port.failOpen = true;
     EXPECT_FALSE(control.ComboPort_Click("/dev/ttyUSB9"));

@@ -61,9 +61,8 @@ TEST(AspectEditor, ShowAspectFillsThePage)
               std::tuple(2, true, 11, true, false, ""));
 
     p.InitAspect = 12;
-    EXPECT_EQ(ShowAspect(c).initText, "11");
-    setDeviceDescription(c, "ignored");
-    EXPECT_EQ(p.DeviceDescription, "");
+    setDeviceDescription(c, "ignored"); // a member's device name is its head's
+    EXPECT_EQ(std::tuple(ShowAspect(c).initText, p.DeviceDescription), std::tuple("11", ""));
 }
 
 TEST(AspectEditor, LayoutChanges)
@@ -85,8 +84,7 @@ TEST(AspectEditor, LayoutChanges)
 
     p.AspectLayout = 1; // shown as option 0 and stored as 0
     const AspectView one = ShowAspect(c);
-    EXPECT_EQ(one.layout.option, 0);
-    EXPECT_EQ(p.AspectLayout, 0);
+    EXPECT_EQ(std::tuple(one.layout.option, p.AspectLayout), std::tuple(0, 0));
     EXPECT_THROW(changeLayout(c, 3), ProgramFault);
 }
 
@@ -105,17 +103,19 @@ TEST(AspectEditor, SelectorsClamp)
     EXPECT_EQ(selectAspect(c, "9").text, "3");
     EXPECT_EQ(c.CurrentAspect, 3);
     EXPECT_EQ(selectAspect(c, "-4").text, "0");
-    EXPECT_EQ(setInitAspect(c, "-5"), "-1");
-    EXPECT_EQ(c.Pins[6].InitAspect, 0);
-    EXPECT_EQ(setInitAspect(c, "8"), "3");
-    EXPECT_EQ(c.Pins[6].InitAspect, 4);
-    c.Pins[6].AspectLayout = 2;
-    EXPECT_EQ(setInitAspect(c, "11"), "11");
-    EXPECT_EQ(c.Pins[6].InitAspect, 12);
+    // Typed, layout, shown, stored (the initial aspect is kept plus one).
+    const std::tuple<const char*, int, const char*, int> init[] = {
+        {"-5", 3, "-1", 0}, {"8", 3, "3", 4}, {"11", 2, "11", 12}};
+    for (const auto& [typed, layout, shown, stored] : init) {
+        c.Pins[6].AspectLayout = static_cast<std::uint8_t>(layout);
+        EXPECT_EQ(setInitAspect(c, typed), shown);
+        EXPECT_EQ(c.Pins[6].InitAspect, stored) << typed;
+    }
 
-    EXPECT_EQ(setAddressCount(c, AddressKind::Dcc, "9"), "7");
-    EXPECT_EQ(setAddressCount(c, AddressKind::XDcc, "3"), "1");
-    EXPECT_EQ(setAddressCount(c, AddressKind::Lynx, "2"), "2");
+    EXPECT_EQ(std::tuple(setAddressCount(c, AddressKind::Dcc, "9"),
+                         setAddressCount(c, AddressKind::XDcc, "3"),
+                         setAddressCount(c, AddressKind::Lynx, "2")),
+              std::tuple("7", "1", "2"));
     EXPECT_EQ(std::tuple(c.DccFirstIndex[7], c.XDccTotal, c.LynxFirstIndex[6], c.LynxTotal),
               std::tuple(7, 1, 0, 2));
 
@@ -131,19 +131,17 @@ TEST(AspectEditor, RowEdits)
     c.CurrentPin = 30;
     c.Pins[30].AspectLayout = 3;
     const RowEdit wait = setInstruction(c, 4, 102);
-    EXPECT_EQ(wait.headings, (std::array<std::string, 4>{"", "", "Time", "Base"}));
-    EXPECT_FALSE(wait.row.fadeVisible);
+    EXPECT_EQ(std::tuple(wait.headings, wait.row.fadeVisible),
+              std::tuple(std::array<std::string, 4>{"", "", "Time", "Base"}, false));
     const ParameterEdit time = setParameter(c, 4, 2, "70");
-    EXPECT_EQ(time.text, "63");
-    EXPECT_EQ(time.timeText, "00:01.26");
+    EXPECT_EQ(std::tuple(time.text, time.timeText), std::tuple("63", "00:01.26"));
     EXPECT_EQ(setParameter(c, 4, 3, "1").timeText, "00:10.08");
 
     setInstruction(c, 0, 9);
     EXPECT_EQ(setParameter(c, 0, 0, "5").text, "1");
     const RowEdit faded = setFade(c, 0, true);
-    EXPECT_TRUE(faded.row.fadeChecked);
-    EXPECT_EQ(faded.row.fadeCaption, "Fade");
-    EXPECT_EQ(c.Pins[30].Aspects[0].Steps[0], (StepRecord{9, 1, 1, 0, 0, 0}));
+    EXPECT_EQ(std::tuple(faded.row.fadeChecked, faded.row.fadeCaption, c.Pins[30].Aspects[0].Steps[0]),
+              std::tuple(true, "Fade", StepRecord{9, 1, 1, 0, 0, 0}));
     EXPECT_FALSE(setInstruction(c, 0, 96).row.fadeChecked); // no fade for this one
     EXPECT_THROW(setInstruction(c, 9, 9), ProgramFault);
 }
@@ -153,54 +151,30 @@ TEST(AspectEditor, StepToolInsertAndDelete)
     Configuration c;
     c.CurrentPin = 1;
     c.CurrentAspect = 2;
-    c.Pins[1].AspectLayout = 2;
-
-    AspectRecord& a = filledAspect(c);
-    selectStepRow(c, 0);
-    insertStep(c);
-    EXPECT_EQ(a.Steps[0], StepRecord{});
-    EXPECT_EQ(a.Steps[1], mark(0));
-    EXPECT_EQ(a.Steps[2], mark(1)); // old row 2 is lost
-    for (int s = 3; s < kStepRecords; ++s)
-        EXPECT_EQ(a.Steps[s], mark(s));
-
-    filledAspect(c);
-    selectStepRow(c, 2);
-    insertStep(c);
-    EXPECT_EQ(a.Steps[1], mark(1));
-    EXPECT_EQ(a.Steps[2], StepRecord{});
-    EXPECT_EQ(a.Steps[3], mark(3));
-
-    filledAspect(c);
-    selectStepRow(c, 0);
-    deleteStep(c);
-    EXPECT_EQ(a.Steps[0], mark(1));
-    EXPECT_EQ(a.Steps[1], mark(2));
-    EXPECT_EQ(a.Steps[2], StepRecord{});
-    EXPECT_EQ(a.Steps[3], mark(3));
-
-    c.Pins[1].AspectLayout = 3;
-    filledAspect(c);
-    selectStepRow(c, 8);
-    deleteStep(c); // only row 8 is cleared
-    for (int s = 0; s < 8; ++s)
-        EXPECT_EQ(a.Steps[s], mark(s));
-    EXPECT_EQ(a.Steps[8], StepRecord{});
-    EXPECT_EQ(a.Steps[9], mark(9));
-
-    filledAspect(c);
-    selectStepRow(c, 0);
-    insertStep(c);
-    EXPECT_EQ(a.Steps[8], mark(7));
-    EXPECT_EQ(a.Steps[9], mark(9));
-
-    filledAspect(c);
-    selectStepRow(c, 3);
-    deleteStep(c);
-    EXPECT_EQ(a.Steps[2], mark(2));
-    EXPECT_EQ(a.Steps[3], mark(4));
-    EXPECT_EQ(a.Steps[7], mark(8));
-    EXPECT_EQ(a.Steps[8], StepRecord{});
+    // The steps after the edit, as the mark they hold (-1: empty). Layout 2 shows three
+    // rows, layout 3 nine: the edit stays within them, steps below are untouched.
+    struct Case {
+        int layout, row;
+        void (*edit)(Configuration&);
+        std::array<int, kStepRecords> steps;
+    };
+    const Case cases[] = {
+        {2, 0, insertStep, {-1, 0, 1, 3, 4, 5, 6, 7, 8, 9}}, // old row 2 is lost
+        {2, 2, insertStep, {0, 1, -1, 3, 4, 5, 6, 7, 8, 9}},
+        {2, 0, deleteStep, {1, 2, -1, 3, 4, 5, 6, 7, 8, 9}},
+        {3, 8, deleteStep, {0, 1, 2, 3, 4, 5, 6, 7, -1, 9}}, // only row 8 is cleared
+        {3, 0, insertStep, {-1, 0, 1, 2, 3, 4, 5, 6, 7, 9}},
+        {3, 3, deleteStep, {0, 1, 2, 4, 5, 6, 7, 8, -1, 9}},
+    };
+    for (const Case& k : cases) {
+        c.Pins[1].AspectLayout = static_cast<std::uint8_t>(k.layout);
+        const AspectRecord& a = filledAspect(c);
+        selectStepRow(c, k.row);
+        k.edit(c);
+        for (int s = 0; s < kStepRecords; ++s)
+            EXPECT_EQ(a.Steps[s], k.steps[s] < 0 ? StepRecord{} : mark(k.steps[s]))
+                << "layout " << k.layout << " row " << k.row << " step " << s;
+    }
     EXPECT_THROW(selectStepRow(c, 9), ProgramFault);
 }
 
@@ -248,17 +222,20 @@ TEST(AspectEditor, NumberingAndHelpDecision)
     EXPECT_EQ(std::tuple(off.legend, off.view.pinText, c.NumberingBase),
               std::tuple("Pin       0..7         8..15      16..23       24..31", "9", 0));
 
+    const std::tuple<int, HelpBox, HelpToolKind> help[] = {
+        {102, HelpBox::Time, HelpToolKind::Time},
+        {120, HelpBox::Par3, HelpToolKind::Time},
+        {13, HelpBox::Par1, HelpToolKind::Pattern},
+        {37, HelpBox::Par1, HelpToolKind::Pattern},
+        {16, HelpBox::Par1, HelpToolKind::EventPattern},
+        {38, HelpBox::Par1, HelpToolKind::Level}, // "Set Level"
+        // then the two without a tool:
+        {102, HelpBox::Par1, HelpToolKind::None},
+        {13, HelpBox::Par2, HelpToolKind::None}};
     test::RecordingDialogs dialogs;
-    EXPECT_EQ(helpToolFor({102, 0, 0, 0, 0, 0}, HelpBox::Time, dialogs), HelpToolKind::Time);
-    EXPECT_EQ(helpToolFor({120, 0, 0, 0, 0, 0}, HelpBox::Par3, dialogs), HelpToolKind::Time);
-    EXPECT_EQ(helpToolFor({13, 0, 0, 0, 0, 0}, HelpBox::Par1, dialogs), HelpToolKind::Pattern);
-    EXPECT_EQ(helpToolFor({37, 0, 0, 0, 0, 0}, HelpBox::Par1, dialogs), HelpToolKind::Pattern);
-    EXPECT_EQ(helpToolFor({16, 0, 0, 0, 0, 0}, HelpBox::Par1, dialogs), HelpToolKind::EventPattern);
-    EXPECT_EQ(helpToolFor({38, 0, 0, 0, 0, 0}, HelpBox::Par1, dialogs), HelpToolKind::Level); // "Set Level"
-    EXPECT_TRUE(dialogs.messages.empty());
-    EXPECT_EQ(helpToolFor({102, 0, 0, 0, 0, 0}, HelpBox::Par1, dialogs), HelpToolKind::None);
-    EXPECT_EQ(helpToolFor({13, 0, 0, 0, 0, 0}, HelpBox::Par2, dialogs), HelpToolKind::None);
+    for (const auto& [instruction, box, kind] : help)
+        EXPECT_EQ(helpToolFor({static_cast<std::uint8_t>(instruction), 0, 0, 0, 0, 0}, box, dialogs), kind)
+            << instruction;
     EXPECT_EQ(dialogs.texts(),
-              (std::vector<std::string>{"Help tool not available for this box with the selected command",
-                                        "Help tool not available for this box with the selected command"}));
+              std::vector<std::string>(2, "Help tool not available for this box with the selected command"));
 }

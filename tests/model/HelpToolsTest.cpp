@@ -9,12 +9,10 @@ using namespace kestrel;
 TEST(HelpTools, TimeTool)
 {
     TimeTool t;
-    EXPECT_EQ(t.maxTimeText(), "00:00.00");
-    EXPECT_EQ(t.timeText(), "00:00.00");
+    EXPECT_EQ(std::tuple(t.maxTimeText(), t.timeText()), std::tuple("00:00.00", "00:00.00"));
     const StepRecord step{102, 0, 0, 0, 50, 0};
     t.open(step);
-    EXPECT_EQ(t.timeText(), "00:01.00");
-    EXPECT_EQ(t.maxTimeText(), "00:01.26");
+    EXPECT_EQ(std::tuple(t.timeText(), t.maxTimeText()), std::tuple("00:01.00", "00:01.26"));
     EXPECT_EQ(t.setBaseText("7"), "3");
     EXPECT_EQ(t.maxTimeText(), "10:45.12");
     t.setTime(63);
@@ -24,8 +22,7 @@ TEST(HelpTools, TimeTool)
     EXPECT_THROW(t.setTime(64), ProgramFault);
 
     t.cancel();
-    EXPECT_EQ(t.time(), 50);
-    EXPECT_EQ(t.base(), 0);
+    EXPECT_EQ(std::tuple(t.time(), t.base()), std::tuple(50, 0));
     t.setBase(2);
     t.setTime(10);
     StepRecord target = step;
@@ -51,10 +48,8 @@ TEST(HelpTools, PatternTool)
     EXPECT_THROW(t.setOutput(5, true), ProgramFault);
 
     t.cancel();
-    EXPECT_EQ(t.parameterText(), "3");
-    EXPECT_TRUE(t.output(1));
-    EXPECT_FALSE(t.noDark());
-    EXPECT_EQ(step.Par1, 3);
+    EXPECT_EQ(std::tuple(t.parameterText(), t.output(1), t.noDark(), step.Par1),
+              std::tuple("3", true, false, 3));
     t.setOutput(1, false);
     t.setOutput(2, true);
     t.setNoDark(true);
@@ -64,9 +59,7 @@ TEST(HelpTools, PatternTool)
 
     // reopening reads the flags back
     t.open(step);
-    EXPECT_TRUE(t.noDark());
-    EXPECT_TRUE(t.output(4));
-    EXPECT_FALSE(t.output(1));
+    EXPECT_EQ(std::tuple(t.noDark(), t.output(4), t.output(1)), std::tuple(true, true, false));
 
     StepRecord seven{33, 0, 0, 0, 0, 0};
     t.open(seven);
@@ -89,8 +82,7 @@ TEST(HelpTools, EventPatternRoundTripsEveryValue)
                 c.events[i] = (events >> i) & 1;
             c.option = option;
             const int v = EventPatternTool::encode(c);
-            EXPECT_GE(v, 0);
-            EXPECT_LE(v, 127);
+            EXPECT_TRUE(v >= 0 && v <= 127) << v;
             EXPECT_EQ(v & 15, events);
             EXPECT_EQ(EventPatternTool::decode(v), c) << v;
             seen.insert(v);
@@ -123,14 +115,11 @@ TEST(HelpTools, LevelTool)
 {
     LevelTool t;
     t.open(37);
-    EXPECT_EQ(t.level(), 2);
-    EXPECT_EQ(t.timeIndex(), 5);
-    EXPECT_EQ(t.delayText(), "00:00.12"); // 6 ticks
+    EXPECT_EQ(std::tuple(t.level(), t.timeIndex(), t.delayText()), std::tuple(2, 5, "00:00.12")); // 6 ticks
     EXPECT_EQ(t.setLevelText("9"), "7");
     EXPECT_EQ(t.parameter(), 117);
     EXPECT_EQ(t.setTimeIndexText("20"), "15");
-    EXPECT_EQ(t.parameter(), 127);
-    EXPECT_EQ(t.delayText(), "00:03.84");
+    EXPECT_EQ(std::tuple(t.parameter(), t.delayText()), std::tuple(127, "00:03.84"));
     EXPECT_EQ(t.setParameterText("200"), "127");
     EXPECT_EQ(t.setParameterText("18"), "18");
     EXPECT_EQ(t.levelText() + "/" + t.timeIndexText(), "1/2");

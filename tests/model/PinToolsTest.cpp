@@ -14,12 +14,10 @@ TEST(PinTools, DeviceHeadLookup)
     c.Pins[4].DeviceOffset = -1; // refers to pin 3, which is a member itself
     c.Pins[31].DeviceDescription = "Wrap";
     c.Pins[1].DeviceOffset = 30;
-    EXPECT_EQ(deviceHead(c, 3), 0);
-    EXPECT_EQ(deviceDescriptionText(c, 3), "Signal");
-    EXPECT_EQ(deviceHead(c, 4), 3);
-    EXPECT_EQ(deviceDescriptionText(c, 4), "<Referral is no Device !>");
-    EXPECT_EQ(deviceDescriptionText(c, 1), "Wrap");
-    EXPECT_EQ(deviceDescriptionText(c, 0), "Signal");
+    EXPECT_EQ(std::tuple(deviceHead(c, 3), deviceHead(c, 4)), std::tuple(0, 3));
+    EXPECT_EQ(std::tuple(deviceDescriptionText(c, 3), deviceDescriptionText(c, 4),
+                         deviceDescriptionText(c, 1), deviceDescriptionText(c, 0)),
+              std::tuple("Signal", "<Referral is no Device !>", "Wrap", "Signal"));
     c.Pins[2].DeviceOffset = 31; // head 33 is no record
     EXPECT_THROW(deviceHead(c, 2), ProgramFault);
     c.Pins[2].DeviceOffset = -3;
@@ -49,8 +47,7 @@ TEST(PinTools, ClearLeavesStepNineAndAspectTwelve)
               std::tuple("", "", 0, 0, 0, 0, 0, -1, -1, -1));
     EXPECT_EQ(p.DccCount, 2); // counts are not part of clearing
     for (int a = 0; a < 12; ++a) {
-        EXPECT_EQ(p.Aspects[a].Description, "");
-        EXPECT_EQ(p.Aspects[a].AspectMark, -1);
+        EXPECT_EQ(std::tuple(p.Aspects[a].Description, p.Aspects[a].AspectMark), std::tuple("", -1)) << a;
         for (int s = 0; s <= 8; ++s)
             EXPECT_EQ(p.Aspects[a].Steps[s], StepRecord{});
         EXPECT_EQ(p.Aspects[a].Steps[9], (StepRecord{9, 1, 2, 3, 4, 5}));
@@ -77,10 +74,10 @@ TEST(PinTools, CopyPasteReaimsDeviceOffset)
     tool.copy(c);
     c.CurrentPin = 5;
     EXPECT_TRUE(tool.paste(c, dialogs));
-    EXPECT_EQ(c.Pins[5].DeviceOffset, -5); // still pin 0
-    EXPECT_EQ(deviceHead(c, 5), 0);
-    EXPECT_EQ(c.Pins[5].Description, "member");
-    EXPECT_EQ(c.Pins[5].Aspects[2].Steps[1], (StepRecord{9, 0, 1, 0, 0, 0}));
+    // Still a member of pin 0.
+    EXPECT_EQ(std::tuple(c.Pins[5].DeviceOffset, deviceHead(c, 5), c.Pins[5].Description,
+                         c.Pins[5].Aspects[2].Steps[1]),
+              std::tuple(-5, 0, "member", StepRecord{9, 0, 1, 0, 0, 0}));
 
     // a head stays a head wherever it is pasted
     c.Pins[10].DeviceDescription = "Head";
@@ -88,10 +85,8 @@ TEST(PinTools, CopyPasteReaimsDeviceOffset)
     tool.copy(c);
     c.CurrentPin = 20;
     EXPECT_TRUE(tool.paste(c, dialogs));
-    EXPECT_EQ(c.Pins[20].DeviceOffset, 0);
-    EXPECT_EQ(c.Pins[20].DeviceDescription, "Head");
+    EXPECT_EQ(std::tuple(c.Pins[20].DeviceOffset, c.Pins[20].DeviceDescription), std::tuple(0, "Head"));
 
     tool.clear(c);
-    EXPECT_EQ(c.Pins[20].DeviceDescription, "");
-    EXPECT_EQ(dialogs.messages.size(), 1u);
+    EXPECT_EQ(std::tuple(c.Pins[20].DeviceDescription, dialogs.messages.size()), std::tuple("", 1u));
 }

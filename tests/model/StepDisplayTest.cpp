@@ -42,8 +42,7 @@ TEST(StepDisplay, ShowRules)
     EXPECT_EQ(shown({102, 0, 0, 0, 40, 2}, 3, 0), "2");
 
     const ParameterBox unused = showParameter({102, 0, 0, 0, 40, 2}, 0, 0, 0);
-    EXPECT_FALSE(unused.used);
-    EXPECT_EQ(unused.text, "0");
+    EXPECT_EQ(std::tuple(unused.used, unused.text), std::tuple(false, "0"));
     EXPECT_THROW(showParameter(on, 4, 0, 0), ProgramFault);
     EXPECT_THROW(showParameter(on, 0, 32, 0), ProgramFault);
 }
@@ -73,8 +72,7 @@ TEST(StepDisplay, AcceptRules)
         const StepRecord step{static_cast<std::uint8_t>(c.code), 0, 0, 0, 0, 0};
         const AcceptedParameter a = acceptParameter(step, c.parameter, c.typed, c.pin, c.base);
         SCOPED_TRACE(std::to_string(c.code) + " par " + std::to_string(c.parameter) + " typed " + c.typed);
-        EXPECT_EQ(a.text, c.text);
-        EXPECT_EQ(a.stored, c.stored);
+        EXPECT_EQ(std::tuple(a.text, a.stored), std::tuple(c.text, c.stored));
     }
 }
 
@@ -100,12 +98,11 @@ TEST(StepDisplay, StoredValuesReadBackAsTyped)
 
 TEST(StepDisplay, StepTime)
 {
-    EXPECT_EQ(stepTimeText({102, 0, 0, 0, 63, 3}), "10:45.12"); // 32256 ticks
-    EXPECT_EQ(stepTimeText({102, 0, 0, 0, 0, 3}), "00:00.00");
-    EXPECT_EQ(durationText(1325), "00:26.50");
-    EXPECT_EQ(durationText(50), "00:01.00");
-    EXPECT_EQ(durationText(3049), "01:00.98");
-    EXPECT_EQ(stepTimeText({112, 0, 0, 0, 53, 1}), "00:08.48"); // 424 ticks
-    EXPECT_EQ(stepTimeText({9, 0, 0, 0, 63, 3}), "00:00.00");   // codes up to 63 have no time
+    // 32256 and 424 ticks; codes up to 63 have no time.
+    EXPECT_EQ(std::tuple(stepTimeText({102, 0, 0, 0, 63, 3}), stepTimeText({102, 0, 0, 0, 0, 3}),
+                         stepTimeText({112, 0, 0, 0, 53, 1}), stepTimeText({9, 0, 0, 0, 63, 3})),
+              std::tuple("10:45.12", "00:00.00", "00:08.48", "00:00.00"));
+    EXPECT_EQ(std::tuple(durationText(1325), durationText(50), durationText(3049)),
+              std::tuple("00:26.50", "00:01.00", "01:00.98"));
     EXPECT_THROW(stepTimeText({102, 0, 0, 0, 255, 4}), ProgramFault);
 }

@@ -12,13 +12,12 @@ using namespace kestrel::test;
 
 TEST(EventSlotByte, HighNibbleIsTheSlotAndFifteenMeansNone)
 {
-    EXPECT_EQ(decodeEventSlot(2, 0x2F), -1);
-    EXPECT_EQ(decodeEventSlot(3, 0x25), -1); // slot number 2 in slot 3
-    EXPECT_EQ(decodeEventSlot(2, 0x25), 5);
-    EXPECT_EQ(decodeEventSlot(0, 0x0E), 14);
-    EXPECT_EQ(encodeEventSlot(1, -1), 0x1F);
-    EXPECT_EQ(encodeEventSlot(3, 11), 0x3B);
-    EXPECT_EQ(encodeEventSlot(0, 0), 0x00);
+    // Slot number 2 found in slot 3 is no action either.
+    EXPECT_EQ(std::tuple(decodeEventSlot(2, 0x2F), decodeEventSlot(3, 0x25), decodeEventSlot(2, 0x25),
+                         decodeEventSlot(0, 0x0E)),
+              std::tuple(-1, -1, 5, 14));
+    EXPECT_EQ(std::tuple(encodeEventSlot(1, -1), encodeEventSlot(3, 11), encodeEventSlot(0, 0)),
+              std::tuple(0x1F, 0x3B, 0x00));
 }
 
 namespace {
@@ -46,11 +45,11 @@ TEST_F(EventScripted, ReadSinglePinUsesTheDifferentReplyLayoutsAndShowsTheEntrie
     m.answer({116, 31, 0x7F, 0x01, 0x1F, 0x25, 0x3A});
     m.answer({117, 31, 0x04, 0x1F, 0x2F, 0x3F});
     EXPECT_TRUE(ReadSingleEvents(s));
-    EXPECT_EQ(m.requests, (std::vector<Data>{{116, 31}, {117, 31}}));
-    EXPECT_EQ(s.eventControl.TextECpin, "31");
-    EXPECT_EQ(s.eventControl.TextECon, (std::array<std::string, 4>{"1", "-1", "5", "10"}));
-    EXPECT_EQ(s.eventControl.TextECoff, (std::array<std::string, 4>{"4", "-1", "-1", "-1"}));
-    EXPECT_EQ(s.config.events(31).OnEvent[2], 5);
+    EXPECT_EQ(std::tuple(m.requests, s.eventControl.TextECpin, s.eventControl.TextECon,
+                         s.eventControl.TextECoff, s.config.events(31).OnEvent[2]),
+              std::tuple(std::vector<Data>{{116, 31}, {117, 31}}, "31",
+                         std::array<std::string, 4>{"1", "-1", "5", "10"},
+                         std::array<std::string, 4>{"4", "-1", "-1", "-1"}, 5));
 
     m.answer({116, 31, 0x7F, 0x01, 0x1F, 0x25}); // one byte short
     m.answer({117, 31, 0x04, 0x1F, 0x2F, 0x3F});
@@ -71,16 +70,16 @@ TEST_F(EventScripted, EntryBoxesClampToMinusOneAndElevenAndCopyToAll)
     // A number within -1..11 is taken as typed; only a clamped one is written back.
     s.eventControl.TextECon[3] = "07";
     EditEventEntry(s, EventSide::On, 3);
-    EXPECT_EQ(s.eventControl.TextECon[3], "07");
-    EXPECT_EQ(s.config.events(3).OnEvent[3], 7);
+    EXPECT_EQ(std::tuple(s.eventControl.TextECon[3], s.config.events(3).OnEvent[3]), std::tuple("07", 7));
 
     s.eventControl.TextECon = {"1", "2", "3", "4"};
     s.eventControl.TextECoff = {"-1", "0", "-1", "7"};
     CopyEventsToAll(s);
-    for (int p = 0; p < kPinCount; ++p) {
-        EXPECT_EQ(s.config.events(p).OnEvent, (std::array<std::int16_t, 5>{1, 2, 3, 4, 0}));
-        EXPECT_EQ(s.config.events(p).OffEvent, (std::array<std::int16_t, 5>{-1, 0, -1, 7, 0}));
-    }
+    for (int p = 0; p < kPinCount; ++p)
+        EXPECT_EQ(std::tuple(s.config.events(p).OnEvent, s.config.events(p).OffEvent),
+                  std::tuple(std::array<std::int16_t, 5>{1, 2, 3, 4, 0},
+                             std::array<std::int16_t, 5>{-1, 0, -1, 7, 0}))
+            << p;
 }
 
 TEST_F(EventScripted, EnableMapsAreTheInverseOfTheBoxes)
@@ -96,8 +95,8 @@ TEST_F(EventScripted, EnableMapsAreTheInverseOfTheBoxes)
     m.requests.clear();
     m.answer({112, 11, 0x12, 0x05}); // bits 4..7 unused
     EXPECT_TRUE(ReadEnableMaps(s));
-    EXPECT_EQ(m.requests, (std::vector<Data>{{112, 11}}));
-    EXPECT_EQ(s.general.CheckInitEE, (std::array<int, 8>{1, 0, 1, 1, 0, 1, 0, 1}));
+    EXPECT_EQ(std::tuple(m.requests, s.general.CheckInitEE),
+              std::tuple(std::vector<Data>{{112, 11}}, std::array<int, 8>{1, 0, 1, 1, 0, 1, 0, 1}));
 
     m.answer({112, 11, 0});
     EXPECT_FALSE(ReadEnableMaps(s));
@@ -132,7 +131,10 @@ TEST_F(EventSim, VerifyWritesOneLinePerDifferingSlotAndTheMaskLines)
     ASSERT_TRUE(WriteAllEvents(s));
     ASSERT_TRUE(WriteEnableMaps(s));
     EXPECT_TRUE(VerifyEventControl(s));
-    EXPECT_EQ(s.report.txtVerification, "Start EC Verification\r\nNote: Numbering starts at 1\r\n");
+    const std::string start = "Start EC Verification\r\nNote: Numbering starts at 1\r\n";
+    const std::string pin4 =
+        "Event-On(2) for pin 4 does not compare: Configured Action = 0, Kestrel Reply = -1\r\n";
+    EXPECT_EQ(s.report.txtVerification, start);
 
     s.report.clear();
     sim.memory().pins[3].eventOn[2] = 0x2F; // pin 3, slot 2: none
@@ -140,20 +142,15 @@ TEST_F(EventSim, VerifyWritesOneLinePerDifferingSlotAndTheMaskLines)
     sim.memory().eventOffEnable = 4;
     EXPECT_FALSE(VerifyEventControl(s));
     EXPECT_EQ(s.report.txtVerification,
-              "Start EC Verification\r\n"
-              "Note: Numbering starts at 1\r\n"
-              "Event-On(2) for pin 4 does not compare: Configured Action = 0, Kestrel Reply = -1\r\n"
-              "Event-Off(0) for pin 31 does not compare: Configured Action = 0, Kestrel Reply = 7\r\n"
-              "ECInit: OFF-mask does not compare\r\n");
+              start + pin4 +
+                  "Event-Off(0) for pin 31 does not compare: Configured Action = 0, Kestrel Reply = 7\r\n" +
+                  "ECInit: OFF-mask does not compare\r\n");
 
     s.report.clear();
     sim.module.faults.refuse(117, sim::Refusal::WrongLength);
     sim.module.faults.refuse(112, sim::Refusal::WrongEcho, 11);
     EXPECT_FALSE(VerifyEventControl(s));
-    EXPECT_EQ(s.report.txtVerification,
-              "Start EC Verification\r\n"
-              "Note: Numbering starts at 1\r\n"
-              "Event-On(2) for pin 4 does not compare: Configured Action = 0, Kestrel Reply = -1\r\n"
-              "Read Event-Off: Function not supported by Device\r\n"
-              "ECInit: No valid response type\r\n");
+    EXPECT_EQ(s.report.txtVerification, start + pin4 +
+                                            "Read Event-Off: Function not supported by Device\r\n"
+                                            "ECInit: No valid response type\r\n");
 }

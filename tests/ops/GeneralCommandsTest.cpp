@@ -40,9 +40,8 @@ TEST_F(GeneralCommands, IdStringIsCutToTwelveSentWithItsLengthAndReadAsLengthMin
     s.link.settings.CheckKestrelBD = false; // every reader switches replies on
     m.answer({112, 10, 'Y', 'a', 'r', 'd'});
     EXPECT_TRUE(ReadIDString(s));
-    EXPECT_EQ(m.requests[0], (Data{112, 10}));
-    EXPECT_TRUE(m.waited[0]);
-    EXPECT_EQ(g.TextGenIDString, "Yard");
+    EXPECT_EQ(std::tuple(m.requests[0], m.waited[0], g.TextGenIDString),
+              std::tuple(Data{112, 10}, true, "Yard"));
 
     m.answer({112}); // length field 1
     EXPECT_FALSE(ReadIDString(s));
@@ -101,7 +100,7 @@ TEST_F(GeneralCommands, DccReaderGoesOnAfterContentErrorsAndStopsWithoutReply)
 
 // ---- Serial addressing ----
 
-TEST_F(GeneralCommands, SerialAddressingNativeBitOnlyCountsWithFlexAddressingOff)
+TEST_F(GeneralCommands, SerialAddressingNativeBitOnlyCountsWithFlexAddressingOffAndReplyErrorsAreTold)
 {
     int refreshed = 0;
     s.onPinAddressDisplayChanged = [&] { ++refreshed; };
@@ -129,10 +128,8 @@ TEST_F(GeneralCommands, SerialAddressingNativeBitOnlyCountsWithFlexAddressingOff
                          g.TextGenLynxaddrVisible, g.CheckGenKestrelNativeVisible),
               std::tuple(1, 0, 69, "277", true, false)); // 69 * 4 + 1
     EXPECT_TRUE(messages().empty());
-}
 
-TEST_F(GeneralCommands, SerialAddressingMessagesAndGoingOn)
-{
+    // Each wrong reply is told, and the reader goes on.
     m.answer({112, 8, 0});             // length 3
     m.answer({112, 9, 5});             // wrong echo
     m.answer({112, 3, 0, 0, 0, 0, 0}); // length 7
@@ -170,18 +167,17 @@ TEST_F(GeneralCommands, FlexAddressingWarningUnlessSuppressed)
     g.CheckGenLynxaddr = 1;
     CheckGenLynxaddr_Click(s);
     ASSERT_EQ(m.dialogs.questions.size(), 1u);
-    EXPECT_EQ(m.dialogs.questions[0].text, "Lynx Flexible Addressing is a complex concept !!\r\n"
-                                           "It should only be activated by experienced users\r\n"
-                                           "that understand the details very well !");
-    EXPECT_EQ(m.dialogs.questions[0].icon, Icon::Warning);
-    EXPECT_EQ(g.CheckGenLynxaddr, 0);
-    EXPECT_TRUE(g.CheckGenKestrelNativeVisible);
+    EXPECT_EQ(std::tuple(m.dialogs.questions[0].text, m.dialogs.questions[0].icon, g.CheckGenLynxaddr,
+                         g.CheckGenKestrelNativeVisible),
+              std::tuple("Lynx Flexible Addressing is a complex concept !!\r\n"
+                         "It should only be activated by experienced users\r\n"
+                         "that understand the details very well !",
+                         Icon::Warning, 0, true));
 
     g.CheckGenLynxaddr = 1;
     CheckGenLynxaddr_Click(s); // answered OK
-    EXPECT_EQ(g.CheckGenLynxaddr, 1);
-    EXPECT_FALSE(g.CheckGenKestrelNativeVisible);
-    EXPECT_TRUE(g.TextGenLynxaddrVisible);
+    EXPECT_EQ(std::tuple(g.CheckGenLynxaddr, g.CheckGenKestrelNativeVisible, g.TextGenLynxaddrVisible),
+              std::tuple(1, false, true));
 
     g.SuppressAddrWarning = true;
     CheckGenLynxaddr_Click(s);
@@ -197,8 +193,7 @@ TEST_F(GeneralCommands, FlexAddressingWarningUnlessSuppressed)
     m.answer({112, 3, 0, 0, 0, 0});
     g.SuppressAddrWarning = false;
     EXPECT_TRUE(CommandGenAddrRead_Click(s));
-    EXPECT_EQ(m.dialogs.questions.size(), 2u);
-    EXPECT_FALSE(g.SuppressAddrWarning);
+    EXPECT_EQ(std::tuple(m.dialogs.questions.size(), g.SuppressAddrWarning), std::tuple(2u, false));
 }
 
 // ---- Hardware configuration ----
@@ -210,13 +205,13 @@ TEST_F(GeneralCommands, HardwareConfigurationBadByteStopsAndKeepsEarlierGroupsOt
     m.answer({112, 1, 1, 2, 4, 0}); // group 2 carries 4
     EXPECT_FALSE(ReadHardwareConfig(s));
     EXPECT_EQ(messages(), (std::vector<std::string>{"No valid response byte"}));
-    EXPECT_EQ(g.ChkGenHWCSink, (std::array<int, 4>{1, 0, 0, 1}));
-    EXPECT_EQ(g.ChkGenHWCSource, (std::array<int, 4>{0, 1, 0, 1}));
+    EXPECT_EQ(std::tuple(g.ChkGenHWCSink, g.ChkGenHWCSource),
+              std::tuple(std::array<int, 4>{1, 0, 0, 1}, std::array<int, 4>{0, 1, 0, 1}));
 
     m.answer({112, 1, 0, 1, 2, 3});
     EXPECT_TRUE(ReadHardwareConfig(s));
-    EXPECT_EQ(g.ChkGenHWCSink, (std::array<int, 4>{0, 1, 0, 1}));
-    EXPECT_EQ(g.ChkGenHWCSource, (std::array<int, 4>{0, 0, 1, 1}));
+    EXPECT_EQ(std::tuple(g.ChkGenHWCSink, g.ChkGenHWCSource),
+              std::tuple(std::array<int, 4>{0, 1, 0, 1}, std::array<int, 4>{0, 0, 1, 1}));
 
     m.requests.clear();
     EXPECT_TRUE(WriteHardwareConfig(s));
@@ -242,9 +237,9 @@ TEST_F(GeneralCommands, LedByteZeroMeansElementSevenAndBitSevenIsIgnored)
     m.answer({112, 6, 0});
     m.answer({112, 7, 5});
     EXPECT_TRUE(ReadLEDControl(s));
-    EXPECT_EQ(m.requests, (std::vector<Data>{{112, 6}, {112, 7}}));
-    EXPECT_EQ(g.CheckLCGreen, (std::array<int, 8>{0, 0, 0, 0, 0, 0, 0, 1}));
-    EXPECT_EQ(g.CheckLCOrange, (std::array<int, 8>{1, 0, 1, 0, 0, 0, 0, 0}));
+    EXPECT_EQ(std::tuple(m.requests, g.CheckLCGreen, g.CheckLCOrange),
+              std::tuple(std::vector<Data>{{112, 6}, {112, 7}}, std::array<int, 8>{0, 0, 0, 0, 0, 0, 0, 1},
+                         std::array<int, 8>{1, 0, 1, 0, 0, 0, 0, 0}));
     // A byte of 128 (bit 7 only) checks nothing among 0..6 and unchecks element 7.
     std::array<int, 8> boxes{1, 1, 1, 1, 1, 1, 1, 1};
     setLedBoxes(boxes, 128);
@@ -362,7 +357,7 @@ const std::string kEraseSecond =
     "Do you want to cancel this operation?";
 } // namespace
 
-TEST_F(GeneralCommands, EraseAsksTwiceAndOkAtTheSecondQuestionCancels)
+TEST_F(GeneralCommands, EraseAsksTwiceSendsTheConfirmationWithoutWaitingAndRestoresBidirectional)
 {
     m.dialogs.answers = {Answer::Cancel};
     EXPECT_FALSE(EraseFlash(s));
@@ -373,19 +368,15 @@ TEST_F(GeneralCommands, EraseAsksTwiceAndOkAtTheSecondQuestionCancels)
     EXPECT_EQ(
         std::tuple(m.dialogs.questions[0].text, m.dialogs.questions[2].text, m.dialogs.questions[2].icon),
         std::tuple(kEraseFirst, kEraseSecond, Icon::Warning));
-}
 
-TEST_F(GeneralCommands, EraseSendsTheConfirmationWithoutWaitingAndRestoresBidirectional)
-{
+    // Cancel at the second: the confirmation goes out without waiting for a reply.
     int changes = 0;
     s.link.onSettingsChanged = [&] { ++changes; };
     m.dialogs.answers = {Answer::Ok, Answer::Cancel};
     EXPECT_TRUE(EraseFlash(s));
-    EXPECT_EQ(m.requests, (std::vector<Data>{{96, 0, 61, 17, 92, 8, 33, 70, 15, 44}}));
-    EXPECT_FALSE(m.waited[0]);
-    EXPECT_TRUE(s.link.settings.CheckKestrelBD);
-    EXPECT_EQ(changes, 2); // unchecked for the frame, checked again after it
-    EXPECT_TRUE(messages().empty());
+    // Bidirectional communication is unchecked for the frame and checked again after it.
+    EXPECT_EQ(std::tuple(m.requests, m.waited[0], s.link.settings.CheckKestrelBD, changes, messages().size()),
+              std::tuple(std::vector<Data>{{96, 0, 61, 17, 92, 8, 33, 70, 15, 44}}, false, true, 2, 0u));
 
     s.link.settings.CheckKestrelBD = false;
     m.dialogs.answers = {Answer::Ok, Answer::Cancel};

@@ -4,7 +4,7 @@
 
 using namespace kestrel;
 
-TEST(JobDispatcher, RunsTheLastRequestOnceAndDropsUnknownNames)
+TEST(JobDispatcher, RunsTheLastRequestOnceDropsUnknownNamesAndNeverRunsTwoAtOnce)
 {
     JobDispatcher d;
     std::vector<std::string> ran;
@@ -22,11 +22,8 @@ TEST(JobDispatcher, RunsTheLastRequestOnceAndDropsUnknownNames)
     EXPECT_FALSE(d.Timer1_Timer());
     EXPECT_TRUE(d.PendingJob.empty());
     EXPECT_EQ(ran.size(), 1u);
-}
 
-TEST(JobDispatcher, TickDuringAJobDoesNothingAndAFailingJobStillClears)
-{
-    JobDispatcher d;
+    // A tick during a job does nothing; a failing job still clears.
     int inner = 0;
     d.add(Jobs::VerifyAll, [&] {
         d.request(Jobs::VerifyAll);

@@ -17,13 +17,12 @@ TEST(ReadPinConfig, ActiveReplyPutsSecondByteIntoOutputValueFlashIntoP1)
         rig.session.link.settings.CheckKestrelBD = false; // a read switches it on
         rig.answer({source == 0 ? 'Q' : 'q', 7, 1, 70, 11, 64});
         ASSERT_TRUE(ReadPinConfig(rig.session, source, 7));
-        EXPECT_TRUE(rig.session.link.settings.CheckKestrelBD);
         const PinRecord& pin = rig.session.config.Pins[7];
-        EXPECT_EQ(rig.take()[0], (std::vector<int>{source == 0 ? 81 : 113, 7}));
-        EXPECT_EQ(pin.ConfigMode, 1);
         // The mode changed to servo: both positions start at 64 before the bytes arrive.
-        EXPECT_EQ(std::tuple(pin.OutputValue, pin.P(1), pin.P(2), pin.P(3)),
-                  std::tuple(source == 0 ? 70 : 64, source == 0 ? 64 : 70, 11, 64));
+        EXPECT_EQ(std::tuple(rig.session.link.settings.CheckKestrelBD, rig.take()[0], pin.ConfigMode,
+                             pin.OutputValue, pin.P(1), pin.P(2), pin.P(3)),
+                  std::tuple(true, Data{source == 0 ? 81 : 113, 7}, 1, source == 0 ? 70 : 64,
+                             source == 0 ? 64 : 70, 11, 64));
     }
 }
 
@@ -33,17 +32,14 @@ TEST(ReadPinConfig, ModeChangeClearsAndRepliesAreNormalised)
     pin.ConfigMode = 2;
     pin.ConfigParams.fill(9);
     storePinConfigReply(pin, 1, {4, 1, 2, 3}, 6); // input: mode and three bytes
-    EXPECT_EQ(pin.ConfigMode, 4);
-    EXPECT_EQ(pin.P(3), 3);
+    EXPECT_EQ(std::tuple(pin.ConfigMode, pin.P(3)), std::tuple(4, 3));
     for (int n = 4; n <= 12; ++n)
         EXPECT_EQ(pin.P(n), 0) << "P" << n;
 
     storePinConfigReply(pin, 1, {2, 10, 1, 5, 20}, 7); // PWM with five bytes only
-    EXPECT_EQ(pin.P(4), 0);
-    EXPECT_EQ(pin.P(5), 31);
+    EXPECT_EQ(std::tuple(pin.P(4), pin.P(5)), std::tuple(0, 31));
     storePinConfigReply(pin, 1, {2, 10, 1, 5, 20, 25}, 8);
-    EXPECT_EQ(pin.P(4), 20);
-    EXPECT_EQ(pin.P(5), 25);
+    EXPECT_EQ(std::tuple(pin.P(4), pin.P(5)), std::tuple(20, 25));
 
     storePinConfigReply(pin, 1, {1, 64, 48}, 5); // older servo format: range 3 in the high nibble
     EXPECT_EQ(pin.P(2), 43);
@@ -151,34 +147,26 @@ TEST(ShowPinConfig, PagesControlsAndHardwareWarning)
     pin.OutputValue = 60;
     pin.ConfigParams = {64, 8 + 16 + 64 + 6, 70, 0, 0, 0, 0, 64, 0, 50, 0, 0};
     PinConfigView v = ShowPinConfig(config, general);
-    EXPECT_EQ(v.SSTabPCFG, 1);
-    EXPECT_EQ(v.TextPosition, -4);
-    EXPECT_EQ(v.OptionServoRange, 0); // 6 is above 4
-    EXPECT_TRUE(v.ChkSrvAutoSuspend);
-    EXPECT_FALSE(v.ChkSrvSuspended);
-    EXPECT_TRUE(v.ChkSrvInitialized);
-    EXPECT_EQ(v.TextMidpoint, 6);
-    EXPECT_EQ(v.TextBounceUp, -14);
-    EXPECT_FALSE(v.LabelSrvHWCWarn);
+    // Servo range 6 is above 4: shown as 0.
+    EXPECT_EQ(std::tuple(v.SSTabPCFG, v.TextPosition, v.OptionServoRange, v.ChkSrvAutoSuspend,
+                         v.ChkSrvSuspended, v.ChkSrvInitialized, v.TextMidpoint, v.TextBounceUp,
+                         v.LabelSrvHWCWarn),
+              std::tuple(1, -4, 0, true, false, true, 6, -14, false));
     general.ChkGenHWCSource[1] = 1; // pins 8..15
     EXPECT_TRUE(ShowPinConfig(config, general).LabelSrvHWCWarn);
 
     pin.ConfigMode = 3;
     pin.P(2) = 2;
     v = ShowPinConfig(config, general);
-    EXPECT_EQ(v.SSTabPCFG, 2);
-    EXPECT_TRUE(v.CheckPWMInverted);
-    EXPECT_EQ(v.OptionPWMDriveMode, 0);
-    EXPECT_EQ(v.OptionPWMAccelMode, 1);
+    EXPECT_EQ(std::tuple(v.SSTabPCFG, v.CheckPWMInverted, v.OptionPWMDriveMode, v.OptionPWMAccelMode),
+              std::tuple(2, true, 0, 1));
 
     pin.ConfigMode = 4;
     v = ShowPinConfig(config, general);
-    EXPECT_EQ(v.SSTabPCFG, 3);
-    EXPECT_FALSE(v.CheckInputInvert);
-    EXPECT_EQ(v.TextInputDelay, (std::array<int, 2>{70, 0}));
+    EXPECT_EQ(std::tuple(v.SSTabPCFG, v.CheckInputInvert, v.TextInputDelay),
+              std::tuple(3, false, std::array<int, 2>{70, 0}));
 
     pin.ConfigMode = 9;
     v = ShowPinConfig(config, general);
-    EXPECT_FALSE(v.SSTabPCFG.has_value());
-    EXPECT_EQ(v.message, "Unknown configuration: 9");
+    EXPECT_EQ(std::tuple(v.SSTabPCFG.has_value(), v.message), std::tuple(false, "Unknown configuration: 9"));
 }

@@ -30,15 +30,6 @@ void fillPins(Configuration& config)
     b.ConfigParams = {10, 1, 5, 0, 31, 0, 0, 0, 0, 0, 0, 0};
 }
 
-std::vector<std::string> reportLines(const Session& session)
-{
-    std::vector<std::string> lines;
-    const std::string& t = session.report.txtVerification;
-    for (std::size_t at = 0, end; (end = t.find("\r\n", at)) != std::string::npos; at = end + 2)
-        lines.push_back(t.substr(at, end - at));
-    return lines;
-}
-
 class CancelAt : public Progress {
 public:
     explicit CancelAt(int pin) : pin(pin) {}
@@ -56,10 +47,11 @@ TEST(PinTransferSim, WriteThenReadGivesThePinsBack)
     fillPins(rig.session.config);
     ASSERT_TRUE(WritePin(rig.session, 4, true));
     ASSERT_TRUE(WritePin(rig.session, 5, true));
-    EXPECT_EQ(rig.clock.slept, 0); // replies pace a bidirectional link
-    EXPECT_EQ(rig.modulePin(4).steps[0][0], (std::array<std::uint8_t, 5>{5, 3, 72, 1, 3}));
-    EXPECT_EQ(rig.modulePin(5).deviceOffset, 31); // -1 in five bits
-    EXPECT_EQ(rig.modulePin(5).flashConfig, (std::vector<std::uint8_t>{3, 10, 1, 5, 0, 31}));
+    // Replies pace a bidirectional link; the device offset -1 is 31 in five bits.
+    EXPECT_EQ(std::tuple(rig.clock.slept, rig.modulePin(4).steps[0][0], rig.modulePin(5).deviceOffset,
+                         rig.modulePin(5).flashConfig),
+              std::tuple(0, std::array<std::uint8_t, 5>{5, 3, 72, 1, 3}, 31,
+                         std::vector<std::uint8_t>{3, 10, 1, 5, 0, 31}));
 
     const PinRecord a = rig.session.config.Pins[4], b = rig.session.config.Pins[5];
     rig.session.config.Pins[4] = rig.session.config.Pins[5] = PinRecord{};
@@ -74,8 +66,9 @@ TEST(PinTransferSim, WriteThenReadGivesThePinsBack)
                              written.XDccCount, written.LynxCount, written.DeviceOffset, written.ConfigMode,
                              written.ConfigParams));
     }
-    EXPECT_EQ(rig.session.config.DccFirstIndex[5], 7); // the address index follows the read counts
-    EXPECT_TRUE(rig.dialogs.messages.empty());
+    // The address index follows the read counts.
+    EXPECT_EQ(std::tuple(rig.session.config.DccFirstIndex[5], rig.dialogs.messages.size()),
+              std::tuple(7, 0u));
 }
 
 TEST(PinTransferSim, VerifyReportsEachDifferenceOnceConfigurationFirst)
@@ -139,12 +132,21 @@ TEST(PinTransferSim, DeviceIsItsHeadAndTheFollowingPinsThatPointAtIt)
         rig.modulePin(p).aspectLayout = 3;
     rig.modulePin(5).deviceOffset = 31; // head 4
     rig.modulePin(6).deviceOffset = 30; // head 4
+    // The layouts of the given pins in the program and in the module.
+    const auto& pins = rig.session.config.Pins;
+    const auto held = [&](std::vector<int> ps) {
+        for (int& p : ps)
+            p = pins[p].AspectLayout;
+        return ps;
+    };
+    const auto written = [&](std::vector<int> ps) {
+        for (int& p : ps)
+            p = rig.modulePin(p).aspectLayout;
+        return ps;
+    };
     rig.session.config.CurrentPin = 5;
     ASSERT_TRUE(ReadDevice(rig.session));
-    const auto& pins = rig.session.config.Pins;
-    EXPECT_EQ((std::vector<int>{pins[3].AspectLayout, pins[4].AspectLayout, pins[5].AspectLayout,
-                                pins[6].AspectLayout, pins[7].AspectLayout}),
-              (std::vector<int>{0, 3, 3, 3, 0}));
+    EXPECT_EQ(held({3, 4, 5, 6, 7}), (std::vector<int>{0, 3, 3, 3, 0}));
     EXPECT_EQ(pins[6].DeviceOffset, -2);
 
     for (int p = 3; p <= 7; ++p)
@@ -152,9 +154,7 @@ TEST(PinTransferSim, DeviceIsItsHeadAndTheFollowingPinsThatPointAtIt)
     rig.session.config.Pins[7].DeviceOffset = 0;
     rig.session.config.CurrentPin = 6;
     ASSERT_TRUE(WriteDevice(rig.session));
-    EXPECT_EQ((std::vector<int>{rig.modulePin(3).aspectLayout, rig.modulePin(4).aspectLayout,
-                                rig.modulePin(6).aspectLayout, rig.modulePin(7).aspectLayout}),
-              (std::vector<int>{3, 2, 2, 3}));
+    EXPECT_EQ(written({3, 4, 6, 7}), (std::vector<int>{3, 2, 2, 3}));
 
     // A device that wraps past pin 31 and has a gap: 30, 31 and 1, not 0.
     for (int p : {30, 31, 0, 1})
@@ -163,16 +163,12 @@ TEST(PinTransferSim, DeviceIsItsHeadAndTheFollowingPinsThatPointAtIt)
     rig.modulePin(1).deviceOffset = 29;  // head 30
     rig.session.config.CurrentPin = 1;
     ASSERT_TRUE(ReadDevice(rig.session));
-    EXPECT_EQ((std::vector<int>{pins[30].AspectLayout, pins[31].AspectLayout, pins[0].AspectLayout,
-                                pins[1].AspectLayout}),
-              (std::vector<int>{3, 3, 0, 3}));
+    EXPECT_EQ(held({30, 31, 0, 1}), (std::vector<int>{3, 3, 0, 3}));
     for (int p : {30, 31, 0, 1})
         rig.session.config.Pins[p].AspectLayout = 2;
     rig.session.config.CurrentPin = 31;
     ASSERT_TRUE(WriteDevice(rig.session));
-    EXPECT_EQ((std::vector<int>{rig.modulePin(30).aspectLayout, rig.modulePin(31).aspectLayout,
-                                rig.modulePin(0).aspectLayout, rig.modulePin(1).aspectLayout}),
-              (std::vector<int>{2, 2, 3, 2}));
+    EXPECT_EQ(written({30, 31, 0, 1}), (std::vector<int>{2, 2, 3, 2}));
 
     rig.session.config.CurrentPin = 6;
     rig.module.faults.refuse(118, sim::Refusal::WrongEcho, 6);
@@ -192,6 +188,5 @@ TEST(PinTransferSim, AllPinsReportProgressAndStopWhenCancelled)
     CancelAt never(99);
     rig.session.link.setProgress(&never);
     EXPECT_TRUE(WriteAllPins(rig.session));
-    EXPECT_EQ(never.steps.size(), 33u);
-    EXPECT_EQ(never.steps.back(), 32);
+    EXPECT_EQ(std::tuple(never.steps.size(), never.steps.back()), std::tuple(33u, 32));
 }

@@ -37,18 +37,13 @@ TEST(PinRead, CodeBytesFadeAndAspectMajorOrder)
                          pin.Aspects[0].Steps[2]),
               std::tuple(2, (StepRecord{3, 1, 1, 2, 3, 4}), (StepRecord{18, 0, 1, 2, 3, 4}),
                          (StepRecord{67, 0, 1, 2, 3, 4})));
-    EXPECT_EQ(pin.InitAspect, 4); // entry 0x73: aspect 3, stored plus one
-    EXPECT_EQ(pin.DccCount, 2);
-    EXPECT_EQ(pin.LynxCount, 1);
+    // Entry 0x73: aspect 3, stored plus one.
+    EXPECT_EQ(std::tuple(pin.InitAspect, pin.DccCount, pin.LynxCount), std::tuple(4, 2, 1));
 
     const Frames f = rig.take();
     ASSERT_EQ(f.size(), 1u + 36 + 2); // the aspect editor's read stops before "q"
-    EXPECT_EQ(f[0], (std::vector<int>{114, 5}));
-    EXPECT_EQ(f[1], (std::vector<int>{115, 5, 0, 0}));
-    EXPECT_EQ(f[4], (std::vector<int>{115, 5, 1, 0}));
-    EXPECT_EQ(f[36], (std::vector<int>{115, 5, 11, 2}));
-    EXPECT_EQ(f[37], (std::vector<int>{116, 5}));
-    EXPECT_EQ(f[38], (std::vector<int>{118, 5}));
+    EXPECT_EQ((Frames{f[0], f[1], f[4], f[36], f[37], f[38]}),
+              (Frames{{114, 5}, {115, 5, 0, 0}, {115, 5, 1, 0}, {115, 5, 11, 2}, {116, 5}, {118, 5}}));
 }
 
 TEST(PinRead, AddressBytesInAnyOrderAndDevicePointer)
@@ -82,9 +77,7 @@ TEST(PinRead, LayoutOtherThanTwoOrThreeReadsNoStepsAndBadRepliesFail)
     EXPECT_EQ(rig.session.config.Pins[3].InitAspect, 0);
     EXPECT_EQ(rig.dialogs.texts(),
               (std::vector<std::string>{"Read Pin Address Configuration: Invalid Response"}));
-    const Frames f = rig.take();
-    ASSERT_EQ(f.size(), 3u);
-    EXPECT_EQ(f[1][0], 116);
+    EXPECT_EQ(rig.take(), (Frames{{114, 3}, {116, 3}, {118, 3}}));
 
     ScriptedModule echo;
     echo.answer({114, 4, 3}); // answered for pin 4, asked for pin 3
@@ -109,20 +102,21 @@ TEST(PinWrite, ExactRequestsAndPacingWhenOneWay)
 
     const Frames f = rig.take();
     ASSERT_EQ(f.size(), 3u + 36);
-    EXPECT_EQ(f[0], (std::vector<int>{98, 30, 3}));
-    EXPECT_EQ(f[1], (std::vector<int>{100, 30, 127})); // no initial aspect: 112 + 15
-    EXPECT_EQ(f[2], (std::vector<int>{102, 30, 11, 21, 67}));
-    EXPECT_EQ(f[3], (std::vector<int>{99, 30, 0, 0, 4, 1, 72, 5, 0}));
-    EXPECT_EQ(f[38], (std::vector<int>{99, 30, 3, 8, 25, 2, 10, 0, 0}));
+    // No initial aspect: 112 + 15.
+    EXPECT_EQ((Frames{f[0], f[1], f[2], f[3], f[38]}), (Frames{{98, 30, 3},
+                                                               {100, 30, 127},
+                                                               {102, 30, 11, 21, 67},
+                                                               {99, 30, 0, 0, 4, 1, 72, 5, 0},
+                                                               {99, 30, 3, 8, 25, 2, 10, 0, 0}}));
     EXPECT_EQ(rig.clock.slept, 39 * 100);
 
     pin.AspectLayout = 1; // neither 2 nor 3: no steps
     pin.InitAspect = 12;
     ASSERT_TRUE(WritePin(rig.session, 30, true));
+    // The pin configuration goes to flash last, mode 0.
     const Frames g = rig.take();
     ASSERT_EQ(g.size(), 4u);
-    EXPECT_EQ(g[1], (std::vector<int>{100, 30, 123}));
-    EXPECT_EQ(g[3], (std::vector<int>{97, 30, 0})); // pin configuration to flash, mode 0
+    EXPECT_EQ((Frames{g[1], g[3]}), (Frames{{100, 30, 123}, {97, 30, 0}}));
     EXPECT_EQ(rig.clock.slept, 39 * 100 + 4 * 100);
 
     // "Write Aspect": the steps of one aspect only, and nothing for an aspect outside the layout.

@@ -5,20 +5,13 @@
 
 using namespace kestrel::sim;
 using kestrel::sim::test::busRequest;
+using kestrel::sim::test::feed;
+using kestrel::sim::test::kVersionReply;
+using kestrel::sim::test::kVersionRequest;
 using kestrel::sim::test::sumsToZero;
 using Bytes = std::vector<std::uint8_t>;
 
 namespace {
-
-Bytes feed(SimBus& bus, const Bytes& bytes)
-{
-    for (auto b : bytes)
-        bus.write(b);
-    Bytes out;
-    while (bus.available())
-        out.push_back(static_cast<std::uint8_t>(bus.read()));
-    return out;
-}
 
 // Data bytes (7-bit) of a single reply frame without eXtended address; checks framing.
 Bytes replyData(const Bytes& frame)
@@ -51,9 +44,8 @@ TEST(SimModuleFraming, VersionRequestWorkedExampleAfterBurstAndEmptyFrame)
     // (128 + 64 + 32 + size 2), 240 (128 + 112), 128 (item 0), check byte 235.
     // Reply: 67 (toggle echoed), header 128 + 96 + 6 = 230, 112, 0, version 1.2.3.4,
     // check byte: 67 + 102 + 112 + 0 + 1 + 2 + 3 + 4 = 291 = 2 * 128 + 35, so 93 + 128.
-    const Bytes reply{67, 230, 240, 128, 129, 130, 131, 132, 221};
-    EXPECT_EQ(feed(bus, {67, 226, 240, 128, 235}), reply);
-    EXPECT_EQ(feed(bus, {67, 226, 240, /* restart */ 67, 226, 240, 128, 235}), reply);
+    EXPECT_EQ(feed(bus, kVersionRequest), (Bytes{67, 230, 240, 128, 129, 130, 131, 132, 221}));
+    EXPECT_EQ(feed(bus, {67, 226, 240, /* restart */ 67, 226, 240, 128, 235}), kVersionReply);
     EXPECT_TRUE(feed(bus, {67, 226, 240, 128, 236}).empty()); // bad check byte: dropped silently
     EXPECT_EQ(m.stats().checksumErrors, 1);
 }
@@ -74,15 +66,10 @@ TEST(SimModuleFraming, AnswersOnlyItsOwnAddressWithTheToggleEchoed)
     EXPECT_TRUE(feed(bus, busRequest(2, 0, {112, 9})).empty());
     EXPECT_TRUE(feed(bus, busRequest(2, 0, {114, 3, 1})).empty());
     EXPECT_TRUE(feed(bus, busRequest(2, 0, {114, 32})).empty());
-}
-
-TEST(SimModuleFraming, WithoutBidirectionalBitWritesApplyButNothingIsSent)
-{
-    SimBus bus;
-    SimModule& m = bus.addModule(0);
-    EXPECT_TRUE(feed(bus, busRequest(0, 0, {96, 6, 5}, false)).empty());
-    EXPECT_EQ(m.memory().greenLed, 5);
-    EXPECT_TRUE(feed(bus, busRequest(0, 0, {112, 6}, false)).empty());
+    // Without the bidirectional bit a write is carried out and nothing is sent.
+    EXPECT_TRUE(feed(bus, busRequest(2, 0, {96, 6, 5}, false)).empty());
+    EXPECT_EQ(bus.module(2)->memory().greenLed, 5);
+    EXPECT_TRUE(feed(bus, busRequest(2, 0, {112, 6}, false)).empty());
 }
 
 TEST(SimModuleFraming, ExtendedAddressMatchMismatchAndReaddressing)
@@ -106,22 +93,17 @@ TEST(SimModuleFraming, ExtendedAddressMatchMismatchAndReaddressing)
 
 // ---- general settings (each item's round trip runs in the fault matrix) ----
 
-TEST(SimModuleGeneral, WritesWithTheWrongLengthChangeNothing)
+TEST(SimModuleGeneral, WrongLengthWritesChangeNothingEraseNeedsTheConfirmationAndKeepsTheVersion)
 {
     SimBus bus;
-    SimModule& m = bus.addModule(0);
+    SimModule& m = bus.addModule(0, std::nullopt, {3, 1, 0, 9});
     EXPECT_TRUE(feed(bus, busRequest(0, 0, {96, 1, 1, 2, 3})).empty());
     EXPECT_TRUE(
         feed(bus, busRequest(0, 0, {96, 10, 'a', 'b', 'c', 'd', 'e', 'f', 'g', 'h', 'i', 'j', 'k', 'l', 'm'}))
             .empty());
     EXPECT_EQ(m.memory(), m.factoryMemory());
     EXPECT_EQ(ask(bus, 0, {112, 10}), (Bytes{112, 10})); // empty ID string: length 2
-}
 
-TEST(SimModuleGeneral, EraseNeedsTheConfirmationAndKeepsTheVersion)
-{
-    SimBus bus;
-    SimModule& m = bus.addModule(0, std::nullopt, {3, 1, 0, 9});
     m.memory().idString = "Yard";
     m.memory().pins[7].aspectLayout = 3;
     EXPECT_TRUE(feed(bus, busRequest(0, 0, {96, 0, 61, 17, 92, 8, 33, 70, 15, 45})).empty());
@@ -219,17 +201,16 @@ TEST(SimModuleFaults, CorruptedCopyAndGarbageBeforeTheGoodReply)
 {
     SimBus bus;
     SimModule& m = bus.addModule(0);
-    const Bytes good{67, 230, 240, 128, 129, 130, 131, 132, 221};
     m.faults.corruptCopies = 1;
-    Bytes out = feed(bus, {67, 226, 240, 128, 235});
+    Bytes out = feed(bus, kVersionRequest);
     ASSERT_EQ(out.size(), 18u);
     const Bytes bad(out.begin(), out.begin() + 9);
     EXPECT_FALSE(sumsToZero(bad));
     EXPECT_GE(bad.back(), 128);
-    EXPECT_EQ(Bytes(out.begin() + 9, out.end()), good);
-    EXPECT_EQ(feed(bus, {67, 226, 240, 128, 235}), good); // only the next one
+    EXPECT_EQ(Bytes(out.begin() + 9, out.end()), kVersionReply);
+    EXPECT_EQ(feed(bus, kVersionRequest), kVersionReply); // only the next one
 
     m.faults.garbage = {0xAA, 0x05};
-    out = feed(bus, {67, 226, 240, 128, 235});
+    out = feed(bus, kVersionRequest);
     EXPECT_EQ(out, (Bytes{0xAA, 0x85, 67, 230, 240, 128, 129, 130, 131, 132, 221})); // bit 7 forced
 }

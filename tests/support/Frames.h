@@ -51,4 +51,60 @@ Bytes corvidFrame(const std::vector<int>& data, bool toggle = false)
     return frame<Bytes>({static_cast<typename Bytes::value_type>(header)}, data);
 }
 
+// Number of data bytes that a Corvid header announces.
+inline int corvidLength(int header)
+{
+    return (header & 8) ? (header & 7) : 8 + 8 * ((header >> 4) & 1) + (header & 7);
+}
+
+// Follows the frames that a client writes, byte by byte. A bus frame: address byte (bit 7
+// clear), header (size in the low nibble, bit 4 an eXtended address byte, bit 5 a reply
+// wanted), the eXtended address, the data and the check byte. A Corvid frame (`corvid`):
+// header (bit 7 clear), the data it announces and the check byte. A byte with bit 7 clear
+// always starts a new frame.
+struct FrameReader {
+    bool corvid = false;
+    int first = 0;         // the address byte (toggle included), or the Corvid header
+    int header = 0;        // the bus header
+    std::vector<int> data; // the frame's data so far, 7 bits each
+
+    // True when `b` is the check byte that ends a frame.
+    bool push(int b)
+    {
+        if (b < 128) {
+            first = b;
+            data.clear();
+            length = corvid ? corvidLength(b) : 0;
+            stage = !corvid ? Stage::Header : length ? Stage::Data : Stage::Check;
+            return false;
+        }
+        switch (stage) {
+        case Stage::Header:
+            header = b;
+            length = b & 15;
+            stage = (b & 16) ? Stage::XAddress : length ? Stage::Data : Stage::Check;
+            return false;
+        case Stage::XAddress:
+            stage = length ? Stage::Data : Stage::Check;
+            return false;
+        case Stage::Data:
+            data.push_back(b & 127);
+            if (static_cast<int>(data.size()) == length)
+                stage = Stage::Check;
+            return false;
+        case Stage::Check:
+            stage = Stage::Idle;
+            return true;
+        case Stage::Idle:
+            return false;
+        }
+        return false;
+    }
+    bool wantsReply() const { return (header & 32) != 0; }
+
+private:
+    enum class Stage { Idle, Header, XAddress, Data, Check } stage = Stage::Idle;
+    int length = 0;
+};
+
 } // namespace kestrel::test

@@ -28,14 +28,33 @@ std::string readAll(int fd)
     return out;
 }
 
-std::vector<char*> argv(const std::string& program, const std::vector<std::string>& args)
+// Starts the program with its stdout and stderr on pipes, and stdin empty when asked.
+pid_t spawn(const std::string& program, const std::vector<std::string>& args, int& outFd, int& errFd,
+            bool emptyInput)
 {
-    std::vector<char*> v;
-    v.push_back(const_cast<char*>(program.c_str()));
+    int outPipe[2], errPipe[2];
+    if (pipe(outPipe) != 0 || pipe(errPipe) != 0)
+        throw std::runtime_error("pipe failed");
+    std::vector<char*> argv{const_cast<char*>(program.c_str())};
     for (const auto& a : args)
-        v.push_back(const_cast<char*>(a.c_str()));
-    v.push_back(nullptr);
-    return v;
+        argv.push_back(const_cast<char*>(a.c_str()));
+    argv.push_back(nullptr);
+    const pid_t child = fork();
+    if (child == 0) {
+        if (emptyInput)
+            dup2(open("/dev/null", O_RDONLY), 0);
+        dup2(outPipe[1], 1);
+        dup2(errPipe[1], 2);
+        close(outPipe[0]);
+        close(errPipe[0]);
+        execv(program.c_str(), argv.data());
+        _exit(127);
+    }
+    close(outPipe[1]);
+    close(errPipe[1]);
+    outFd = outPipe[0];
+    errFd = errPipe[0];
+    return child;
 }
 } // namespace
 
@@ -52,29 +71,14 @@ std::string binPath(const std::string& program)
 
 SimProcess::SimProcess(const std::vector<std::string>& args)
 {
-    int outPipe[2], errPipe[2];
-    if (pipe(outPipe) != 0 || pipe(errPipe) != 0)
-        throw std::runtime_error("pipe failed");
-    const std::string program = binPath("kestrel-sim");
-    auto av = argv(program, args);
-    pid = fork();
-    if (pid == 0) {
-        dup2(outPipe[1], 1);
-        dup2(errPipe[1], 2);
-        close(outPipe[0]);
-        close(errPipe[0]);
-        execv(program.c_str(), av.data());
-        _exit(127);
-    }
-    close(outPipe[1]);
-    close(errPipe[1]);
-    errFd = errPipe[0];
+    int outFd = -1;
+    pid = spawn(binPath("kestrel-sim"), args, outFd, errFd, false);
     // The first line of its output is the pseudo-terminal's path.
-    pollfd p{outPipe[0], POLLIN, 0};
+    pollfd p{outFd, POLLIN, 0};
     char c;
-    while (poll(&p, 1, 10000) > 0 && read(outPipe[0], &c, 1) == 1 && c != '\n')
+    while (poll(&p, 1, 10000) > 0 && read(outFd, &c, 1) == 1 && c != '\n')
         path += c;
-    close(outPipe[0]);
+    close(outFd);
     if (path.empty()) {
         stop();
         throw std::runtime_error("kestrel-sim did not report its pseudo-terminal");
@@ -102,26 +106,11 @@ std::string SimProcess::stop()
 
 CommandResult runProgram(const std::string& program, const std::vector<std::string>& args)
 {
-    int outPipe[2], errPipe[2];
-    if (pipe(outPipe) != 0 || pipe(errPipe) != 0)
-        throw std::runtime_error("pipe failed");
-    auto av = argv(program, args);
-    const pid_t child = fork();
-    if (child == 0) {
-        const int nul = open("/dev/null", O_RDONLY);
-        dup2(nul, 0);
-        dup2(outPipe[1], 1);
-        dup2(errPipe[1], 2);
-        close(outPipe[0]);
-        close(errPipe[0]);
-        execv(program.c_str(), av.data());
-        _exit(127);
-    }
-    close(outPipe[1]);
-    close(errPipe[1]);
+    int outFd = -1, errFd = -1;
+    const pid_t child = spawn(program, args, outFd, errFd, true);
     CommandResult r;
     // Read both pipes together so neither can fill up and stall the child.
-    pollfd fds[2] = {{outPipe[0], POLLIN, 0}, {errPipe[0], POLLIN, 0}};
+    pollfd fds[2] = {{outFd, POLLIN, 0}, {errFd, POLLIN, 0}};
     int open = 2;
     char buf[4096];
     while (open > 0) {

@@ -48,55 +48,24 @@ struct ScriptedModule {
 private:
     void onByte(int b)
     {
-        if (b < 128) {
-            address = b;
-            phase = Phase::Header;
+        // The empty frame after the wake-up burst carries no request.
+        if (!frames.push(b) || frames.data.empty())
             return;
-        }
-        switch (phase) {
-        case Phase::Idle:
+        requests.push_back(frames.data);
+        waited.push_back(frames.wantsReply());
+        if (!frames.wantsReply())
             return;
-        case Phase::Header:
-            size = b & 15;
-            bidirectional = (b & 32) != 0;
-            current.clear();
-            phase = (b & 16) ? Phase::XAddress : (size > 0 ? Phase::Data : Phase::Check);
-            return;
-        case Phase::XAddress:
-            phase = size > 0 ? Phase::Data : Phase::Check;
-            return;
-        case Phase::Data:
-            current.push_back(b & 127);
-            if (static_cast<int>(current.size()) == size)
-                phase = Phase::Check;
-            return;
-        case Phase::Check:
-            phase = Phase::Idle;
-            if (current.empty())
-                return; // the empty frame after the wake-up burst
-            requests.push_back(current);
-            waited.push_back(bidirectional);
-            if (!bidirectional)
-                return;
-            if (replies.empty()) { // nothing scripted: acknowledge like a module does a write
-                port.feed(replyFrame(address, {current[0], current.size() > 1 ? current[1] : 0}));
-                return;
-            }
-            {
-                auto r = replies.front();
-                replies.pop_front();
-                if (r)
-                    port.feed(replyFrame(address, *r));
-            }
-            return;
-        }
+        const Data& r = frames.data;
+        // Nothing scripted: acknowledged as a module acknowledges a write.
+        const std::optional<Data> reply =
+            replies.empty() ? Data{r[0], r.size() > 1 ? r[1] : 0} : replies.front();
+        if (!replies.empty())
+            replies.pop_front();
+        if (reply)
+            port.feed(replyFrame(frames.first, *reply));
     }
 
-    enum class Phase { Idle, Header, XAddress, Data, Check } phase = Phase::Idle;
-    int address = 0;
-    int size = 0;
-    bool bidirectional = false;
-    Data current;
+    FrameReader frames;
 };
 
 } // namespace kestrel::test

@@ -11,6 +11,8 @@
 #include "sim/SimPort.h"
 
 #include <memory>
+#include <string>
+#include <vector>
 
 namespace kestrel::test {
 
@@ -33,6 +35,16 @@ struct SimSession {
     sim::ModuleMemory& memory() { return module.memory(); }
     sim::PinMemory& modulePin(int p) { return module.memory().pins[p]; }
 };
+
+// The lines of the verification report.
+inline std::vector<std::string> reportLines(const Session& session)
+{
+    std::vector<std::string> lines;
+    const std::string& t = session.report.txtVerification;
+    for (std::size_t at = 0, end; (end = t.find("\r\n", at)) != std::string::npos; at = end + 2)
+        lines.push_back(t.substr(at, end - at));
+    return lines;
+}
 
 // Every general setting away from its start-up value, in the form a read leaves it.
 inline GeneralSettings fullGeneralSettings()

@@ -2,6 +2,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <locale>
 #include <string>
 #include <unistd.h>
 
@@ -13,7 +14,7 @@ struct ScratchDir {
     explicit ScratchDir(const std::string& name)
         // One per process: ctest runs tests of this executable side by side.
         : path(std::filesystem::temp_directory_path() /
-               ("kestrel-files-" + name + "-" + std::to_string(::getpid())))
+               ("kestrel-test-" + name + "-" + std::to_string(::getpid())))
     {
         std::filesystem::remove_all(path);
         std::filesystem::create_directories(path);
@@ -41,5 +42,18 @@ inline std::string crlf(std::initializer_list<std::string> lines)
         out += l + "\r\n";
     return out;
 }
+
+// While it lives, numbers print with a decimal comma and thousands grouped by points. No
+// such locale is installed on every machine; a numpunct facet made global has the same
+// effect on every stream made afterwards.
+struct CommaDecimalLocale {
+    struct Punct : std::numpunct<char> {
+        char do_decimal_point() const override { return ','; }
+        char do_thousands_sep() const override { return '.'; }
+        std::string do_grouping() const override { return "\3"; }
+    };
+    const std::locale old = std::locale::global(std::locale(std::locale::classic(), new Punct));
+    ~CommaDecimalLocale() { std::locale::global(old); }
+};
 
 } // namespace kestrel::test
