@@ -6,9 +6,11 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSettings>
 #include <QTabWidget>
 #include <QTimer>
 
@@ -74,6 +76,11 @@ int main(int argc, char** argv)
     QApplication app(argc, argv);
     QApplication::setApplicationName("Kestrel Config");
     QApplication::setApplicationDisplayName("Kestrel Config");
+    QApplication::setWindowIcon(QIcon(":/kestrel-config.svg"));
+    // --fresh: start as on a first start, forgetting the remembered port, addresses,
+    // window and files.
+    if (QApplication::arguments().contains("--fresh"))
+        QSettings("Kestrel", "Kestrel Config").clear();
     kestrel::KestrelConfig window;
     window.show();
 

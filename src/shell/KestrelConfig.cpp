@@ -83,11 +83,14 @@ QString whereStopped(const std::string& step)
     return "while " + what.left(1).toLower() + what.mid(1);
 }
 
-// What is kept in a data file, without what only shows (labels, the warning flag).
+// What is kept in a data file, without what only shows (labels, the warning flag, and the
+// address texts, which follow the numbering base; the file keeps their values).
 GeneralSettings filed(GeneralSettings g)
 {
     g.LabelGenVersionString.clear();
     g.SuppressAddrWarning = false;
+    g.TextGenXaddr.clear();
+    g.TextGenLynxaddr.clear();
     return g;
 }
 
@@ -722,6 +725,10 @@ void KestrelConfig::CommandVerifyAll_Click() { startJob(Jobs::VerifyAll); }
 
 KestrelConfig::~KestrelConfig()
 {
+    // The window is no longer here to answer its widgets' signals while they go (a log
+    // window that is still open reports itself closed).
+    for (QObject* child : findChildren<QObject*>())
+        QObject::disconnect(child, nullptr, this, nullptr);
     // The session refers to the dialogs of the window: it goes first.
     guard.reset();
     program.reset();

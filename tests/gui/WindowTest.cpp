@@ -10,10 +10,13 @@
 #include "shell/QtDialogs.h"
 #include "support/Process.h"
 
+#include <QAction>
 #include <QCheckBox>
+#include <QMenu>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QRadioButton>
+#include <QSettings>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -222,6 +225,45 @@ TEST(Window, AMessageDuringAJobIsAboveItsProgressDialog)
     EXPECT_EQ(seen, "No response received, resetting bidirectional communication");
     EXPECT_TRUE(w.LabelStatusJob->text().startsWith("Read All stopped"))
         << w.LabelStatusJob->text().toStdString();
+}
+
+TEST(Window, MenusShortcutsAndWhatIsRememberedBetweenRuns)
+{
+    QTemporaryDir dir;
+    const QString file = dir.filePath("layout.dat");
+    {
+        Window m;
+        // Save As from the menu asks for a name; Ctrl+S then saves there without asking.
+        m.dialogs.fileNames = {file.toStdString()};
+        m.w.menuFile->actions()[3]->trigger(); // "Save As..."
+        m.w.session().general.TextGenIDString = "Yard";
+        m.w.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&m.w));
+        QTest::keyClick(&m.w, Qt::Key_S, Qt::ControlModifier);
+        EXPECT_TRUE(m.dialogs.fileNames.empty());
+        EXPECT_EQ(std::tuple(m.w.recentFiles(), m.w.actionRecent[0]->text(), m.w.windowTitle()),
+                  std::tuple(QStringList{file}, "&1 layout.dat", "layout.dat - Kestrel Config"));
+        type(m.w.TextAddress, "3");
+        m.w.CheckKLnumber->click(); // shown numbers move; the file's content does not
+        m.w.OptionBitRate[2]->click();
+        EXPECT_FALSE(m.w.unsavedChanges());
+
+        // The Corvid log shows itself when first written to, and stays closed once closed.
+        m.w.session().link.onCorvidLog("poll");
+        ASSERT_TRUE(m.w.frmCorvidComm->isVisible());
+        m.w.frmCorvidComm->close();
+        m.w.session().link.onCorvidLog("poll");
+        EXPECT_FALSE(m.w.frmCorvidComm->isVisible());
+        m.w.close();
+    }
+    KestrelConfig again; // a second run: the same port, rate, address, numbering and files
+    EXPECT_EQ(std::tuple(again.ComboPort->currentText(), again.OptionBitRate[2]->isChecked(),
+                         again.TextAddress->text(), again.CheckKLnumber->isChecked(), again.recentFiles()),
+              std::tuple("sim", true, "4", true, QStringList{file})); // address 3 shown from 1
+    again.actionRecent[0]->trigger();                                 // the last file, loaded from the menu
+    EXPECT_EQ(again.session().general.TextGenIDString, "Yard");
+    again.actionForgetSettings->trigger();
+    EXPECT_TRUE(QSettings("Kestrel", "Kestrel Config").allKeys().isEmpty());
 }
 
 TEST(Window, AProgramFaultIsToldOnceAndLeavesTheConfigurationAsItWas)
