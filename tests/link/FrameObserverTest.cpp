@@ -38,8 +38,12 @@ TEST_F(FrameObserver, RequestAndReplyFramesOnBothRoutes)
         std::vector<Seen> seen;
     };
     const std::vector<Case> cases = {
-        {false, {{200}, badThenGood}, {{Out, Direct, request}, {In, Direct, {200}}, {In, Direct, bad}, {In, Direct, good}}},
-        {true, {empty, tunnelReply}, {{Out, Corvid, tunnel}, {In, Corvid, empty}, {Out, Corvid, poll}, {In, Corvid, tunnelReply}}},
+        {false,
+         {{200}, badThenGood},
+         {{Out, Direct, request}, {In, Direct, {200}}, {In, Direct, bad}, {In, Direct, good}}},
+        {true,
+         {empty, tunnelReply},
+         {{Out, Corvid, tunnel}, {In, Corvid, empty}, {Out, Corvid, poll}, {In, Corvid, tunnelReply}}},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.corvid ? "tunnelled" : "direct");
@@ -50,7 +54,9 @@ TEST_F(FrameObserver, RequestAndReplyFramesOnBothRoutes)
         for (const auto& chunk : c.chunks)
             port.queue(chunk);
         std::vector<Seen> seen;
-        link.onFrame = [&](FrameDirection d, FrameRoute r, const std::vector<int>& b) { seen.emplace_back(d, r, b); };
+        link.onFrame = [&](FrameDirection d, FrameRoute r, const std::vector<int>& b) {
+            seen.emplace_back(d, r, b);
+        };
         EXPECT_TRUE(link.request({112, 1}).is(4, 112, 1));
         EXPECT_EQ(seen, c.seen);
         std::vector<int> out;
