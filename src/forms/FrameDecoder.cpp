@@ -41,31 +41,50 @@ constexpr CommandEntry kCommands[] = {
 const char* itemName(int command, int item)
 {
     switch (item) {
-    case 0: return command == 96 ? "erase configuration memory" : "version";
-    case 1: return "hardware configuration";
-    case 2: return "eXtended address";
-    case 3: return "eXtended group mask";
-    case 4: return "DCC address";
-    case 5: return "DCC options";
-    case 6: return "green LED";
-    case 7: return "orange LED";
-    case 8: return "serial addressing";
-    case 10: return "ID string";
-    case 11: return "event enable maps";
-    case 12: return "eXtended DCC address";
-    case 13: return "module serial port";
-    default: return nullptr;
+    case 0:
+        return command == 96 ? "erase configuration memory" : "version";
+    case 1:
+        return "hardware configuration";
+    case 2:
+        return "eXtended address";
+    case 3:
+        return "eXtended group mask";
+    case 4:
+        return "DCC address";
+    case 5:
+        return "DCC options";
+    case 6:
+        return "green LED";
+    case 7:
+        return "orange LED";
+    case 8:
+        return "serial addressing";
+    case 10:
+        return "ID string";
+    case 11:
+        return "event enable maps";
+    case 12:
+        return "eXtended DCC address";
+    case 13:
+        return "module serial port";
+    default:
+        return nullptr;
     }
 }
 
 const char* liveName(int sub)
 {
     switch (sub) {
-    case 38: return "PWM level";
-    case 54: return "PWM level slow";
-    case 39: return "servo position";
-    case 55: return "servo position dynamic";
-    default: return nullptr;
+    case 38:
+        return "PWM level";
+    case 54:
+        return "PWM level slow";
+    case 39:
+        return "servo position";
+    case 55:
+        return "servo position dynamic";
+    default:
+        return nullptr;
     }
 }
 
@@ -93,7 +112,8 @@ DecodedFrame kestrel(bool reply, const std::vector<int>& d)
         return c.code == d[0] && (c.size < 0 || c.size == size);
     });
     if (e == std::end(kCommands))
-        return {kNotDecoded, "command " + std::to_string(d[0]) + numbers(d.begin() + 1, d.end()) + " " + kNotDecoded};
+        return {kNotDecoded,
+                "command " + std::to_string(d[0]) + numbers(d.begin() + 1, d.end()) + " " + kNotDecoded};
     std::string text = (reply ? "reply to " : "") + std::string(e->name);
     auto rest = d.begin() + 1;
     if (e->code == 0 && rest != d.end()) { // live output: sub-command, pin, value
@@ -173,8 +193,9 @@ DecodedFrame corvid(FrameDirection direction, const std::vector<int>& b)
     if (d.size() >= 2 && d[0] == 1 && d[1] == 2 && (!in || d.size() == 4))
         return named("system version", in ? "system version, bytes" + numbers(d.begin() + 2, d.end()) : "");
     if (d.size() >= 2 && d[0] == 1 && d[1] == 10 && (!in || d.size() == 5))
-        return named("interface unit",
-                     in ? "interface unit, type " + std::to_string(d[2]) + ", version bytes" + numbers(d.begin() + 3, d.end()) : "");
+        return named("interface unit", in ? "interface unit, type " + std::to_string(d[2]) +
+                                                ", version bytes" + numbers(d.begin() + 3, d.end())
+                                          : "");
     if (!in && d == std::vector<int>{1, 5, 16})
         return named("transparent mode", "");
     if (d.size() >= 3 && d[0] == 0 && d[1] >= 96) {
