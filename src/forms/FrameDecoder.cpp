@@ -131,9 +131,10 @@ DecodedFrame kestrel(bool reply, const std::vector<int>& d)
         ++rest;
     }
     if (rest != d.end()) {
-        text += ", data" + numbers(rest, d.end());
-        if (reply && e->code == 112 && d[1] == 10) // the ID string as text
-            text += " \"" + std::string(rest, d.end()) + "\"";
+        if (reply && e->code == 112 && d[1] == 10) // the ID string's characters
+            text += ", text \"" + std::string(rest, d.end()) + "\"";
+        else
+            text += ", data" + numbers(rest, d.end());
     }
     return {e->name, text};
 }

@@ -13,6 +13,7 @@ class QComboBox;
 class QLabel;
 class QPushButton;
 class QTableWidget;
+class QTimer;
 
 namespace kestrel {
 
@@ -53,6 +54,7 @@ private:
     void save();
 
     Link& link;
+    QTimer* repaint; // running while new rows wait to be painted
     std::deque<Line> lines;
     std::set<QString> commands;
     int dropped = 0;

@@ -25,7 +25,7 @@ TEST(FrameDecoder, NamesCommandsItemsPinsAndDataOnBothRoutes)
         {Out, Direct, out({67, 226}, {112, 1}), "read general item",
          "read general item, item 1 (hardware configuration)"},
         {In, Direct, moduleReply(3, {112, 10, 'K', '7'}), "read general item",
-         "reply to read general item, item 10 (ID string), data 75 55 \"K7\""},
+         "reply to read general item, item 10 (ID string), text \"K7\""},
         {In, Direct, badSum, "read step", "reply to read step, pin 5, data 1 2 9 (checksum error)"},
         {Out, Direct, out({67, 128 + 64 + 16 + 4, 128 + 7}, {99, 5, 1, 2}), "write step",
          "write step, pin 5, data 1 2"},

@@ -27,9 +27,10 @@ TEST(TrafficMonitor, ShowsEveryFrameWhileShownFiltersPausesSavesAndCostsNothingC
     read();
     EXPECT_EQ(column(1), QStringList({"->", "->", "->", "<-"}));
     const QStringList decoded = column(3);
-    EXPECT_EQ(decoded.mid(0, 3),
-              QStringList({"wake-up burst", "empty frame", "read general item, item 1 (hardware configuration)"}));
-    EXPECT_TRUE(decoded.value(3).startsWith("reply to read general item, item 1 (hardware configuration), data "));
+    EXPECT_EQ(decoded.mid(0, 3), QStringList({"wake-up burst", "empty frame",
+                                              "read general item, item 1 (hardware configuration)"}));
+    EXPECT_TRUE(
+        decoded.value(3).startsWith("reply to read general item, item 1 (hardware configuration), data "));
 
     // The filter keeps the chosen command's frames; paused, frames are counted, not kept.
     monitor.cboMonitorFilter->setCurrentText("read general item");
