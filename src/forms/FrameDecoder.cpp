@@ -200,13 +200,11 @@ DecodedFrame corvid(FrameDirection direction, const std::vector<int>& b)
     if (!in && d == std::vector<int>{1, 5, 16})
         return named("transparent mode", "");
     if (d.size() >= 3 && d[0] == 0 && d[1] >= 96) {
-        const int x = (d[2] & 16) ? 1 : 0;
-        const auto from = d.begin() + 3 + x;
-        if (from <= d.end()) {
-            auto to = d.end();
-            if (in && (d[2] & 15) <= d.end() - from)
-                to = from + (d[2] & 15);
-            DecodedFrame k = kestrel(in, std::vector<int>(from, to));
+        const std::size_t from = (d[2] & 16) ? 4 : 3;
+        const std::size_t to = in ? from + static_cast<std::size_t>(d[2] & 15) : d.size();
+        if (from <= d.size() && to <= d.size()) {
+            DecodedFrame k = kestrel(
+                in, std::vector<int>(d.begin() + static_cast<long>(from), d.begin() + static_cast<long>(to)));
             k.text = "tunnel, module " + std::to_string(d[1] - 96) + ": " + k.text;
             return k;
         }
