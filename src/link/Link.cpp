@@ -94,8 +94,10 @@ void Link::endFrame(FrameDirection direction)
 
 bool Link::writeByte(int value)
 {
-    if (value < 0 || value > 255)
+    if (value < 0 || value > 255) {
+        endFrame(FrameDirection::Out); // the frame cut short, not prefixed to the next one
         throw ProgramFault("Overflow: byte value " + std::to_string(value));
+    }
     if (!serial.writeByte(static_cast<std::uint8_t>(value)))
         return portLost();
     ++stats.bytesOut;
