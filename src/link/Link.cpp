@@ -76,17 +76,34 @@ bool Link::portLost()
     tunnelStale = true;
     serial.close();
     state.LinkToggle = 128;
+    endFrame(FrameDirection::Out);
+    endFrame(FrameDirection::In);
     return false;
+}
+
+void Link::endFrame(FrameDirection direction)
+{
+    auto& bytes = direction == FrameDirection::Out ? outFrame : inFrame;
+    if (bytes.empty())
+        return;
+    const std::vector<int> frame = std::move(bytes);
+    bytes.clear();
+    if (onFrame)
+        onFrame(direction, wireRoute, frame);
 }
 
 bool Link::writeByte(int value)
 {
-    if (value < 0 || value > 255)
+    if (value < 0 || value > 255) {
+        endFrame(FrameDirection::Out); // the frame cut short, not prefixed to the next one
         throw ProgramFault("Overflow: byte value " + std::to_string(value));
+    }
     if (!serial.writeByte(static_cast<std::uint8_t>(value)))
         return portLost();
     ++stats.bytesOut;
     ++unsentOnWire;
+    if (onFrame)
+        outFrame.push_back(value);
     return true;
 }
 
@@ -113,9 +130,11 @@ void Link::noteExchange()
 
 bool Link::wakeUp()
 {
+    wireRoute = FrameRoute::Direct;
     for (int b : kWakeUp)
         if (!writeByte(b))
             return false;
+    endFrame(FrameDirection::Out);
     return true;
 }
 
@@ -174,12 +193,14 @@ bool Link::SendKestrelMessage(bool expectReply, int size, const std::array<int, 
     }
 
     const int a = addressByte();
+    wireRoute = FrameRoute::Direct;
     if (state.LinkToggle == 128) {
         if (!wakeUp())
             return false;
         // The empty frame: address byte without toggle, header 192 (size 0), checksum.
         if (!writeByte(a) || !writeByte(192) || !writeByte(192 - a))
             return false;
+        endFrame(FrameDirection::Out);
         state.LinkToggle = 64;
     }
 
@@ -204,7 +225,10 @@ bool Link::SendKestrelMessage(bool expectReply, int size, const std::array<int, 
             return false;
         sum.add(d);
     }
-    if (!writeByte(sum.value()) || !flushFrame())
+    if (!writeByte(sum.value()))
+        return false;
+    endFrame(FrameDirection::Out);
+    if (!flushFrame())
         return false;
 
     if (settings.CheckKestrelBD) {
@@ -263,8 +287,10 @@ bool Link::receiveDirect()
         outgoing = 0;
         if (serial.bytesWaiting() <= 0) {
             const double left = remaining(start);
-            if (left <= 0)
+            if (left <= 0) {
+                endFrame(FrameDirection::In);
                 return false;
+            }
             if (!serial.isOpen())
                 return portLost();
             serial.waitForBytes(static_cast<int>(std::ceil(left * 1000.0)));
@@ -275,12 +301,15 @@ bool Link::receiveDirect()
             continue;
         ++stats.bytesIn;
         if (b < 128) { // a frame starts, also in the middle of another one
+            endFrame(FrameDirection::In);
+            keepIn(b);
             buf[0] = b;
             s = b;
             p = 1;
             r = 0;
             continue;
         }
+        keepIn(b);
         if (p == 0)
             continue;
         s += b & 127;
@@ -301,6 +330,7 @@ bool Link::receiveDirect()
             ++p;
             --r;
         } else {
+            endFrame(FrameDirection::In);
             if (s % 128 == 0)
                 return true;
             p = 0;
@@ -397,9 +427,14 @@ bool Link::CorvidExchange(int length, const std::array<int, 19>& data)
         throw ProgramFault("CorvidExchange: length " + std::to_string(length));
     for (int i = 0; i < length; ++i)
         dataByte(data[i]);
-    while (serial.bytesWaiting() > 0)
-        if (serial.readByte() < 0)
+    wireRoute = FrameRoute::Corvid;
+    while (serial.bytesWaiting() > 0) {
+        const int b = serial.readByte();
+        if (b < 0)
             break;
+        keepIn(b);
+    }
+    endFrame(FrameDirection::In);
     const int toggle = 64 * state.CorvidToggle;
     int header;
     if (length < 8)
@@ -420,7 +455,10 @@ bool Link::CorvidExchange(int length, const std::array<int, 19>& data)
         log += hexUpper(data[i]);
     }
     const int check = sum.value();
-    if (!writeByte(check) || !flushFrame())
+    if (!writeByte(check))
+        return false;
+    endFrame(FrameDirection::Out);
+    if (!flushFrame())
         return false;
     log += hexUpper(check & 127);
     appendCorvidLog(log);
@@ -468,6 +506,8 @@ std::string Link::CorvidReceive()
             continue;
         ++stats.bytesIn;
         if (b < 128) {
+            endFrame(FrameDirection::In);
+            keepIn(b);
             log = "< " + hexUpper(b);
             buf[0] = b;
             for (int i = 1; i <= 19; ++i)
@@ -482,6 +522,7 @@ std::string Link::CorvidReceive()
             }
             continue;
         }
+        keepIn(b);
         if (position == 0)
             continue;
         // A frame of 19 data bytes or more does not fit the reply buffer with its checksum:
@@ -492,6 +533,7 @@ std::string Link::CorvidReceive()
         if (position++ <= length)
             continue;
         // That byte was the checksum: the frame is complete.
+        endFrame(FrameDirection::In);
         int total = 0;
         for (int i = 0; i <= 19; ++i)
             total += buf[i];
@@ -506,6 +548,7 @@ std::string Link::CorvidReceive()
         }
         break;
     }
+    endFrame(FrameDirection::In);
     appendCorvidLog(log);
     return result;
 }
@@ -534,6 +577,7 @@ void Link::SendLynxMessage(int first, int d1, int d2, int d3)
         noteExchange();
         return;
     }
+    wireRoute = FrameRoute::Direct;
     if (state.LinkToggle == 128) {
         // Burst, then the empty legacy frame: First, 128, 128, 128 and its checksum.
         FrameChecksum empty(first);
@@ -544,6 +588,7 @@ void Link::SendLynxMessage(int first, int d1, int d2, int d3)
             empty.add(128);
         }
         writeByte(empty.value());
+        endFrame(FrameDirection::Out);
         state.LinkToggle = 64;
     }
     FrameChecksum sum(first);
@@ -553,6 +598,7 @@ void Link::SendLynxMessage(int first, int d1, int d2, int d3)
         sum.add(128 + d);
     }
     writeByte(sum.value());
+    endFrame(FrameDirection::Out);
     flushFrame();
     noteExchange();
 }

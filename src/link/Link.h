@@ -50,6 +50,11 @@ struct KestrelReply {
     bool is(int n, int c, int i) const { return valid && length() == n && echoes(c, i); }
 };
 
+// A whole frame on the wire, for the traffic monitor: which way it went and on which
+// route (a Kestrel frame on the serial bus, or a Corvid frame).
+enum class FrameDirection { Out, In };
+enum class FrameRoute { Direct, Corvid };
+
 // Counters for benchmarks and the curious.
 struct LinkStats {
     long exchanges = 0;
@@ -82,6 +87,12 @@ public:
     std::function<void(const std::string&)> onTextResponse;
     std::function<void(const std::string&)> onCorvidLog;
     std::function<void()> onSettingsChanged;
+    // Every frame written (the wake-up burst counts as one) and every frame read, byte for
+    // byte as on the wire. A received frame is reported once its checksum byte arrived,
+    // before the checksum is judged, so that a frame that fails it is reported too; bytes
+    // read outside a whole frame (a frame cut short, stray bytes, what was drained before
+    // a Corvid frame) are reported as one piece each. Unset, nothing is collected.
+    std::function<void(FrameDirection, FrameRoute, const std::vector<int>& bytes)> onFrame;
 
     std::string TextResponse;           // "[43] [66] [70] ..." of the last direct reply
     std::string txtCorvidCommunication; // the Corvid log, lines ended by CR LF
@@ -121,6 +132,13 @@ public:
 
 private:
     bool writeByte(int value);
+    // The traffic monitor's frames: a byte read is kept, a frame is handed on and cleared.
+    void keepIn(int b)
+    {
+        if (onFrame)
+            inFrame.push_back(b);
+    }
+    void endFrame(FrameDirection direction);
     bool flushFrame();
     int takeUnsent(); // bytes written since the last reply wait began
     bool receiveDirect();
@@ -139,7 +157,9 @@ private:
     bool lostReported = false;
     bool lastSent = false;
     int unsentOnWire = 0;
-    bool tunnelStale = false; // a tunnelled exchange was cut short; poll before the next
+    bool tunnelStale = false;                  // a tunnelled exchange was cut short; poll before the next
+    FrameRoute wireRoute = FrameRoute::Direct; // of the frames now written and read
+    std::vector<int> outFrame, inFrame;
 };
 
 // The running-sum checksum of both routes: the sum starts with the first byte,

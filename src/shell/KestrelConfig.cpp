@@ -18,6 +18,7 @@
 #include "shell/ProgramSession.h"
 #include "shell/QtProgress.h"
 #include "shell/QtSerialPort.h"
+#include "shell/TrafficMonitor.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -536,6 +537,12 @@ void KestrelConfig::buildMenus()
         corvidLogDismissed = false;
         frmCorvidComm->show();
         frmCorvidComm->raise();
+    });
+    add(menuView, "&Traffic Monitor", [this] {
+        if (!frmTrafficMonitor)
+            frmTrafficMonitor = new TrafficMonitor(core->link, this);
+        frmTrafficMonitor->show();
+        frmTrafficMonitor->raise();
     });
     add(menuView, "&Pin Overview", [this] { tabs->setCurrentWidget(pinOverviewPage); });
 

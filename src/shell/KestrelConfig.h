@@ -33,6 +33,7 @@ class EventPage;
 class PinConfigPage;
 class AspectsPage;
 class PinOverviewPage;
+class TrafficMonitor;
 } // namespace kestrel
 
 namespace kestrel {
@@ -88,6 +89,8 @@ public:
 
     // The Corvid log window
     QDialog* frmCorvidComm = nullptr;
+    // Every frame on the wire, made on first use and kept (View > Traffic Monitor).
+    TrafficMonitor* frmTrafficMonitor = nullptr;
     QPlainTextEdit* txtCorvidCommunication = nullptr;
     QPushButton* cmdClear = nullptr;
 
