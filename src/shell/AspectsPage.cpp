@@ -53,15 +53,6 @@ QLineEdit* numberBox(const QString& name, int width = 44)
     return box;
 }
 
-// A caption that names the box beside it, for the eye and for a screen reader.
-QLabel* captionFor(const QString& caption, QWidget* box)
-{
-    auto* label = new QLabel(caption);
-    label->setBuddy(box);
-    box->setAccessibleName(QString(caption).remove('&').remove(':'));
-    return label;
-}
-
 QHBoxLayout* boxWithSpinner(QLineEdit* box, QSpinBox* spinner)
 {
     auto* row = new QHBoxLayout;
@@ -152,18 +143,22 @@ QWidget* AspectsPage::buildPinArea()
     TextPaspDCCn->setAccessibleName("DCC addresses");
     TextPAspXDCCn->setAccessibleName("eXtended DCC addresses");
     TextPaspLynxn->setAccessibleName("Serial addresses");
+    for (auto [box, spin] :
+         {std::pair{TextPAspOutput, UpDownPAspOutput}, std::pair{TextPaspDCCn, UpDownPaspDCCn},
+          std::pair{TextPAspXDCCn, UpDownPAspXDCCn}, std::pair{TextPaspLynxn, UpDownPaspLynxn}})
+        spin->setAccessibleName(box->accessibleName());
     layoutRow->addStretch();
     grid->addLayout(layoutRow, 2, 0, 1, 6);
 
     // The pin's own jobs, beside the pin they act on.
     auto* jobs = new QHBoxLayout;
-    CommandReadPin = named(new QPushButton("Read Pin"), "CommandReadPin");
+    CommandReadPin = named(new QPushButton("Read &Pin"), "CommandReadPin");
     CommandReadPin->setToolTip("Reads this pin from the module: aspects, addresses and pin configuration");
-    CommandWritePin = named(new QPushButton("Write Pin"), "CommandWritePin");
+    CommandWritePin = named(new QPushButton("Write Pi&n"), "CommandWritePin");
     CommandWritePin->setToolTip("Writes this pin to the module: aspects and addresses");
-    CommandReadDevice = named(new QPushButton("Read Device"), "CommandReadDevice");
+    CommandReadDevice = named(new QPushButton("Re&ad Device"), "CommandReadDevice");
     CommandReadDevice->setToolTip("Reads every pin of this pin's device from the module");
-    CommandWriteDevice = named(new QPushButton("Write Device"), "CommandWriteDevice");
+    CommandWriteDevice = named(new QPushButton("&Write Device"), "CommandWriteDevice");
     CommandWriteDevice->setToolTip("Writes every pin of this pin's device to the module");
     for (QPushButton* b : {CommandReadPin, CommandWritePin, CommandReadDevice, CommandWriteDevice})
         jobs->addWidget(b);
@@ -196,6 +191,8 @@ QWidget* AspectsPage::buildAspectArea()
     UpDownPAspInit = upDown("UpDownPAspInit");
     LabelPAspInit = named(captionFor("Initial aspect", TextPAspInit), "LabelPAspInit");
     TextPAspInit->setToolTip("The aspect the pin shows after power-up; -1 for none");
+    UpDownPAspAspect->setAccessibleName(TextPAspAspect->accessibleName());
+    UpDownPAspInit->setAccessibleName(TextPAspInit->accessibleName());
     aspectRow->addWidget(LabelPAspAspect);
     aspectRow->addLayout(boxWithSpinner(TextPAspAspect, UpDownPAspAspect));
     aspectRow->addWidget(LabelPAspAspDesc);
@@ -240,6 +237,10 @@ QWidget* AspectsPage::buildAspectArea()
         TextPAspPar1[r] = numberBox(indexed("TextPAspPar1", r));
         TextPAspPar2[r] = numberBox(indexed("TextPAspPar2", r));
         TextPAspPar3[r] = numberBox(indexed("TextPAspPar3", r));
+        // Named after the instruction's captions once a program is shown.
+        QLineEdit* parameters[4] = {TextPAspOffset[r], TextPAspPar1[r], TextPAspPar2[r], TextPAspPar3[r]};
+        for (int p = 0; p < 4; ++p)
+            parameters[p]->setAccessibleName(QString("Parameter %1, step %2").arg(p).arg(r));
         for (QLineEdit* box : {TextPAspPar1[r], TextPAspPar2[r], TextPAspPar3[r]}) {
             box->setToolTip(kHelpTip);
             box->installEventFilter(this);
@@ -278,13 +279,13 @@ QWidget* AspectsPage::buildAspectArea()
     CheckPAspShowDetails->setChecked(true);
     CheckPAspShowDetails->setToolTip("Shows or hides the transfer buttons, the step headings and the "
                                      "pin configuration's parameter buttons");
-    CommandPAspReadPin = named(new QPushButton("Read Asp's"), "CommandPAspReadPin");
+    CommandPAspReadPin = named(new QPushButton("Rea&d Asp's"), "CommandPAspReadPin");
     CommandPAspReadPin->setToolTip("Reads this pin's aspects, initial aspect and addresses from the module");
-    CommandPAspWritePin = named(new QPushButton("Write Asp's"), "CommandPAspWritePin");
+    CommandPAspWritePin = named(new QPushButton("W&rite Asp's"), "CommandPAspWritePin");
     CommandPAspWritePin->setToolTip("Writes this pin's aspects, initial aspect and addresses to the module");
-    CommandPAspWriteAspect = named(new QPushButton("Write Aspect"), "CommandPAspWriteAspect");
+    CommandPAspWriteAspect = named(new QPushButton("Wr&ite Aspect"), "CommandPAspWriteAspect");
     CommandPAspWriteAspect->setToolTip("Writes only the steps of the selected aspect to the module");
-    CommandPAspTestAspect = named(new QPushButton("Test Aspect"), "CommandPAspTestAspect");
+    CommandPAspTestAspect = named(new QPushButton("&Test Aspect"), "CommandPAspTestAspect");
     CommandPAspTestAspect->setEnabled(false);
     CommandPAspTestAspect->setToolTip(kTestTip);
     buttons->addWidget(CheckPAspShowDetails);
@@ -309,11 +310,11 @@ QWidget* AspectsPage::buildDeviceArea()
     cboDevice = named(new QComboBox, "cboDevice");
     cboDevice->setMinimumWidth(220);
     cboDevice->setAccessibleName("Device to load");
-    CommandPAspPreLoad = named(new QPushButton("Load Device"), "CommandPAspPreLoad");
+    CommandPAspPreLoad = named(new QPushButton("&Load Device"), "CommandPAspPreLoad");
     CommandPAspPreLoad->setToolTip("Places the chosen device on the pins, its first pin on this pin");
-    CommandSaveDevice = named(new QPushButton("Save Device"), "CommandSaveDevice");
+    CommandSaveDevice = named(new QPushButton("&Save Device"), "CommandSaveDevice");
     CommandSaveDevice->setToolTip("Saves this pin's device to a definitions file of its own");
-    CommandReloadDD = named(new QPushButton("Reload DD"), "CommandReloadDD");
+    CommandReloadDD = named(new QPushButton("Rel&oad DD"), "CommandReloadDD");
     CommandReloadDD->setToolTip("Reload DD to load new file, Shift + Reload DD to append");
     CommandReloadDD->installEventFilter(this);
     lblDDVersion = named(new QLabel, "lblDDVersion");

@@ -67,10 +67,11 @@ EventPage::EventPage(Session& s, std::function<void(JobName job)> start, Guard* 
     auto* pinRow = new QHBoxLayout;
     TextECpin = numberBox("TextECpin");
     UpDownECpin = upDown("UpDownECpin", 0, kPinCount - 1);
-    CommandECReadSingle = named(new QPushButton("Read"), "CommandECReadSingle");
-    CommandECWriteSingle = named(new QPushButton("Write"), "CommandECWriteSingle");
-    CommandECcopy = named(new QPushButton("Copy to All"), "CommandECcopy");
-    pinRow->addWidget(new QLabel("Pin"));
+    CommandECReadSingle = named(new QPushButton("Re&ad"), "CommandECReadSingle");
+    CommandECWriteSingle = named(new QPushButton("Wri&te"), "CommandECWriteSingle");
+    CommandECcopy = named(new QPushButton("&Copy to All"), "CommandECcopy");
+    pinRow->addWidget(captionFor("Pin", TextECpin));
+    UpDownECpin->setAccessibleName("Pin");
     pinRow->addLayout(boxWithSpinner(TextECpin, UpDownECpin));
     pinRow->addSpacing(16);
     pinRow->addWidget(CommandECReadSingle);
@@ -95,6 +96,11 @@ EventPage::EventPage(Session& s, std::function<void(JobName job)> start, Guard* 
         table->addLayout(boxWithSpinner(TextECon[i], UpDownECon[i]), 1, 1 + i);
         TextECoff[i] = numberBox(QString("TextECoff_%1").arg(i));
         UpDownECoff[i] = upDown(QString("UpDownECoff_%1").arg(i), kEventActionMin, kEventActionMax);
+        // Named after the row and the column's input: "Event-On input 2".
+        for (QWidget* w : {static_cast<QWidget*>(TextECon[i]), static_cast<QWidget*>(UpDownECon[i])})
+            w->setAccessibleName(QString("Event-On input %1").arg(i + 1));
+        for (QWidget* w : {static_cast<QWidget*>(TextECoff[i]), static_cast<QWidget*>(UpDownECoff[i])})
+            w->setAccessibleName(QString("Event-Off input %1").arg(i + 1));
         table->addLayout(boxWithSpinner(TextECoff[i], UpDownECoff[i]), 2, 1 + i);
     }
     table->setRowMinimumHeight(3, 10);
@@ -102,22 +108,41 @@ EventPage::EventPage(Session& s, std::function<void(JobName job)> start, Guard* 
     table->addWidget(new QLabel("Initial Event_OFF Enable"), 5, 0);
     for (int i = 0; i < 8; ++i) {
         CheckInitEE[i] = named(new QCheckBox, QString("CheckInitEE_%1").arg(i));
+        CheckInitEE[i]->setAccessibleName(
+            QString("%1 input %2")
+                .arg(i < 4 ? "InitialEvent_ON Enable" : "Initial Event_OFF Enable")
+                .arg(i % 4 + 1));
         table->addWidget(CheckInitEE[i], 4 + i / 4, 1 + i % 4);
     }
-    CommandECInitRead = named(new QPushButton("Read Enable Map"), "CommandECInitRead");
-    CommandECInitWrite = named(new QPushButton("Write Enable Map"), "CommandECInitWrite");
+    CommandECInitRead = named(new QPushButton("Rea&d Enable Map"), "CommandECInitRead");
+    CommandECInitWrite = named(new QPushButton("Write Ena&ble Map"), "CommandECInitWrite");
     table->addWidget(CommandECInitRead, 4, 5);
     table->addWidget(CommandECInitWrite, 5, 5);
     table->setColumnStretch(6, 1);
     frameLayout->addLayout(table);
+    // Tab reads the table row by row: the ON entries, the OFF entries, then each enable row
+    // with its button.
+    QWidget* previous = CommandECcopy;
+    const auto next = [&previous](QWidget* w) {
+        QWidget::setTabOrder(previous, w);
+        previous = w;
+    };
+    for (auto* row : {&TextECon, &TextECoff})
+        for (QLineEdit* box : *row)
+            next(box);
+    for (int i = 0; i < 8; ++i) {
+        next(CheckInitEE[i]);
+        if (i % 4 == 3)
+            next(i < 4 ? CommandECInitRead : CommandECInitWrite);
+    }
     layout->addWidget(frame);
 
     // The event control of every pin, as jobs.
     auto* all = named(new QGroupBox("All Pins"), "FrameECAll");
     auto* allRow = new QHBoxLayout(all);
-    CommandECRead = named(new QPushButton("Read All Events"), "CommandECRead");
-    CommandECWrite = named(new QPushButton("Write All Events"), "CommandECWrite");
-    CommandECVerify = named(new QPushButton("Verify Event Control"), "CommandECVerify");
+    CommandECRead = named(new QPushButton("&Read All Events"), "CommandECRead");
+    CommandECWrite = named(new QPushButton("&Write All Events"), "CommandECWrite");
+    CommandECVerify = named(new QPushButton("Ver&ify Event Control"), "CommandECVerify");
     allRow->addWidget(CommandECRead);
     allRow->addWidget(CommandECWrite);
     allRow->addWidget(CommandECVerify);

@@ -51,8 +51,7 @@ QLineEdit* readOnlyBox(const QString& name)
 QLabel* labelFor(const QString& caption, const QString& name, QWidget* input)
 {
     auto* label = named(new QLabel(caption), name);
-    label->setBuddy(input);
-    input->setAccessibleName(QString(caption).remove('&'));
+    nameAfter(label, input);
     return label;
 }
 

@@ -112,22 +112,22 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     layout->addWidget(linkFrame);
 
     auto* bulk = new QHBoxLayout;
-    CommandReadAll = named(new QPushButton("Read All"), "CommandReadAll");
-    CommandWriteAll = named(new QPushButton("Write All"), "CommandWriteAll");
-    CommandVerifyAll = named(new QPushButton("Verify All"), "CommandVerifyAll");
+    CommandReadAll = named(new QPushButton("Read A&ll"), "CommandReadAll");
+    CommandWriteAll = named(new QPushButton("&Write All"), "CommandWriteAll");
+    CommandVerifyAll = named(new QPushButton("Verif&y All"), "CommandVerifyAll");
     CheckWritePinConfig = named(new QCheckBox("Write pin configurations too"), "CheckWritePinConfig");
     CheckWritePinConfig->setToolTip("Also writes each pin's servo, PWM or input parameters to flash");
-    CommandSave = named(new QPushButton("Save File"), "CommandSave");
+    CommandSave = named(new QPushButton("&Save File"), "CommandSave");
     CommandSave->setToolTip("Shift+Save File to save compact");
     CommandSave->installEventFilter(this);
-    CommandLoad = named(new QPushButton("Load File"), "CommandLoad");
-    CommandReadAllPins = named(new QPushButton("Read All Pins"), "CommandReadAllPins");
+    CommandLoad = named(new QPushButton("L&oad File"), "CommandLoad");
+    CommandReadAllPins = named(new QPushButton("Read All &Pins"), "CommandReadAllPins");
     CommandReadAllPins->setToolTip(
         "Reads the 32 pins from the module, without the general settings and events");
-    CommandWriteAllPins = named(new QPushButton("Write All Pins"), "CommandWriteAllPins");
+    CommandWriteAllPins = named(new QPushButton("Write All Pi&ns"), "CommandWriteAllPins");
     CommandWriteAllPins->setToolTip(
         "Writes the 32 pins to the module, without the general settings and events");
-    CommandVerifyAllPins = named(new QPushButton("Verify All Pins"), "CommandVerifyAllPins");
+    CommandVerifyAllPins = named(new QPushButton("Ver&ify All Pins"), "CommandVerifyAllPins");
     CommandVerifyAllPins->setToolTip("Compares the 32 pins of the module with the configuration");
     for (QWidget* w : std::initializer_list<QWidget*>{
              CommandReadAll, CommandWriteAll, CommandVerifyAll, CommandReadAllPins, CommandWriteAllPins,
@@ -455,6 +455,7 @@ void KestrelConfig::ensureVerificationWindow()
     auto* l = new QVBoxLayout(frmKestrelVerification);
     txtVerification = named(new QPlainTextEdit, "txtVerification");
     txtVerification->setReadOnly(true);
+    txtVerification->setAccessibleName("Verification report");
     l->addWidget(txtVerification);
     frmKestrelVerification->resize(560, 420);
 }
@@ -468,8 +469,9 @@ void KestrelConfig::ensureCorvidWindow()
     auto* l = new QVBoxLayout(frmCorvidComm);
     txtCorvidCommunication = named(new QPlainTextEdit, "txtCorvidCommunication");
     txtCorvidCommunication->setReadOnly(true);
+    txtCorvidCommunication->setAccessibleName("Corvid communication");
     txtCorvidCommunication->setFont(QFont("monospace"));
-    cmdClear = named(new QPushButton("Clear"), "cmdClear");
+    cmdClear = named(new QPushButton("&Clear"), "cmdClear");
     l->addWidget(txtCorvidCommunication);
     l->addWidget(cmdClear);
     connect(cmdClear, &QPushButton::clicked, this, [this] {
@@ -554,7 +556,9 @@ void KestrelConfig::buildLinkArea(QWidget* host)
     ComboPort->setEditable(true); // a typed device path is accepted too
     ComboPort->setMinimumWidth(160);
     ComboPort->setInsertPolicy(QComboBox::NoInsert);
-    cmdRefreshComm = named(new QPushButton("Refresh"), "cmdRefreshComm");
+    cmdRefreshComm = named(new QPushButton("&Refresh"), "cmdRefreshComm");
+    nameAfter(LabelPort, ComboPort);
+    ComboPort->lineEdit()->setAccessibleName("Port");
     grid->addWidget(LabelPort, 0, 0);
     grid->addWidget(ComboPort, 0, 1);
     grid->addWidget(cmdRefreshComm, 0, 2);
@@ -575,6 +579,7 @@ void KestrelConfig::buildLinkArea(QWidget* host)
     TextAddress->setMaximumWidth(50);
     numericInput(TextAddress, 3);
     UpDownAddress = upDown("UpDownAddress");
+    nameAfter(LabelAddress, TextAddress);
     auto* addrRow = new QHBoxLayout;
     addrRow->addWidget(TextAddress);
     addrRow->addWidget(UpDownAddress);
@@ -588,6 +593,8 @@ void KestrelConfig::buildLinkArea(QWidget* host)
     txtXaddr->setMaximumWidth(50);
     numericInput(txtXaddr, 3);
     UpDownXaddr = upDown("UpDownXaddr");
+    nameAfter(LabelXaddress, txtXaddr);
+    UpDownXaddr->setAccessibleName(txtXaddr->accessibleName());
     auto* xRow = new QHBoxLayout;
     xRow->addWidget(txtXaddr);
     xRow->addWidget(UpDownXaddr);
@@ -598,7 +605,7 @@ void KestrelConfig::buildLinkArea(QWidget* host)
 
     CheckKestrelBD = named(new QCheckBox("Bidirectional Comm."), "CheckKestrelBD");
     CheckCorvid = named(new QCheckBox("Use Corvid Tunneling"), "CheckCorvid");
-    cmdSetTM = named(new QPushButton("Activate Transparent Mode"), "cmdSetTM");
+    cmdSetTM = named(new QPushButton("A&ctivate Transparent Mode"), "cmdSetTM");
     cmdSetTM->setToolTip("Switch Hub-A or Linkbox in Transparant Mode for Kestrel Configuration");
     grid->addWidget(cmdSetTM, 3, 5);
     CheckKLnumber = named(new QCheckBox("Start numbering at 1"), "CheckKLnumber");
@@ -608,7 +615,7 @@ void KestrelConfig::buildLinkArea(QWidget* host)
 
     TextResponse = named(new QLineEdit, "TextResponse");
     TextResponse->setReadOnly(true);
-    grid->addWidget(new QLabel("Response:"), 3, 0);
+    grid->addWidget(captionFor("Response:", TextResponse), 3, 0);
     grid->addWidget(TextResponse, 3, 1, 1, 4);
 
     connect(ComboPort, &QComboBox::activated, this, [this](int) { ComboPort_Click(); });
@@ -661,6 +668,8 @@ void KestrelConfig::refreshLinkDisplays()
     txtXaddr->setText(QString::fromStdString(lc.xAddressText()));
     CheckXaddress->setChecked(s.CheckXaddress);
     LabelAddress->setText(QString::fromStdString(lc.addressLabel()));
+    nameAfter(LabelAddress, TextAddress); // the caption names the address of the route in use
+    UpDownAddress->setAccessibleName(TextAddress->accessibleName());
     LabelXaddress->setVisible(s.CheckXaddress);
     txtXaddr->setVisible(s.CheckXaddress);
     UpDownXaddr->setVisible(s.CheckXaddress);

@@ -1,0 +1,120 @@
+// What a screen reader and a small screen get: every control that takes input has a name
+// of its own (not its frame's), every button a mnemonic of its own in its frame that the
+// menu bar does not take; the window fits 1280x720 with every control inside it or in a
+// scroll area; every number box shows its whole number beside arrows that are not squeezed.
+#include "gui/GuiRig.h"
+#include "shell/AspectsPage.h"
+#include "shell/EditTools.h"
+#include "shell/HelpToolDialogs.h"
+
+#include <QAbstractSpinBox>
+#include <QAccessible>
+#include <QGroupBox>
+#include <QKeySequence>
+#include <QScrollArea>
+#include <QSlider>
+#include <QSpinBox>
+#include <QStyleOptionFrame>
+#include <QStyleOptionSpinBox>
+#include <QTabWidget>
+
+#include <map>
+
+using namespace kestrel;
+using namespace kestrel::test;
+
+namespace {
+
+bool takesInput(QAccessible::Role role)
+{
+    using A = QAccessible;
+    for (A::Role r : {A::EditableText, A::ComboBox, A::CheckBox, A::RadioButton, A::SpinBox, A::Slider, A::Table})
+        if (role == r)
+            return true;
+    return false;
+}
+
+QString plain(QString caption) { return caption.remove('&').remove(':').trimmed(); }
+
+// A name that only repeats a frame around the control, unless a label beside it (its own, or
+// its box's for a spinner) says the same.
+bool frameName(QWidget* w, const QString& name)
+{
+    bool framed = false;
+    for (QWidget* p = w->parentWidget(); p; p = p->parentWidget())
+        if (auto* frame = qobject_cast<QGroupBox*>(p))
+            framed = framed || plain(frame->title()) == name;
+    for (QLabel* label : w->window()->findChildren<QLabel*>()) // the control's or its box's label
+        if (framed && label->buddy() && label->buddy()->parentWidget() == w->parentWidget() &&
+            plain(label->text()) == name)
+            return false;
+    return framed;
+}
+
+// Walks the accessible tree under `root` but not `skip`: the inputs without a name of their
+// own go to `faults`, the push buttons to `buttons`.
+void walk(QAccessibleInterface* node, QWidget* skip, QStringList& faults, QList<QPushButton*>& buttons)
+{
+    if (!node || !node->isValid() || node->object() == skip)
+        return;
+    auto* w = qobject_cast<QWidget*>(node->object());
+    if (w && takesInput(node->role())) {
+        const QString name = node->text(QAccessible::Name);
+        if (name.trimmed().isEmpty() || frameName(w, name))
+            faults << QString("%1 %2 (\"%3\")").arg(w->metaObject()->className(), w->objectName(), name);
+    }
+    if (auto* b = qobject_cast<QPushButton*>(w))
+        buttons << b;
+    for (int i = 0; i < node->childCount(); ++i)
+        walk(node->child(i), skip, faults, buttons);
+}
+
+// The frame a button is in, as a key.
+QString frameOf(QWidget* w)
+{
+    for (QWidget* p = w->parentWidget(); p; p = p->parentWidget())
+        if (qobject_cast<QGroupBox*>(p))
+            return QString::number(reinterpret_cast<quintptr>(p));
+    return {};
+}
+
+// The faults of one page or dialog: unnamed inputs, buttons without a mnemonic, one taken
+// by the menu bar (File, Edit, View, Module, Help) or used twice in a frame. (The general
+// page has more buttons than its captions have letters: its mnemonics repeat across frames.)
+QStringList faultsOf(QWidget* root, QWidget* skip = nullptr)
+{
+    QStringList faults;
+    QList<QPushButton*> buttons;
+    walk(QAccessible::queryAccessibleInterface(root), skip, faults, buttons);
+    std::map<QString, QString> used;
+    for (QPushButton* b : buttons) {
+        const QString key = QKeySequence::mnemonic(b->text()).toString();
+        if (key.isEmpty() && b->shortcut().isEmpty())
+            faults << b->objectName() + ": no mnemonic";
+        else if (QStringList{"Alt+F", "Alt+E", "Alt+V", "Alt+M", "Alt+H"}.contains(key))
+            faults << b->objectName() + ": " + key + " is the menu bar's";
+        else if (!key.isEmpty() && !used.emplace(frameOf(b) + key, b->objectName()).second)
+            faults << b->objectName() + ": " + key + " is also " + used[key] + "'s";
+    }
+    return faults;
+}
+
+} // namespace
+
+TEST(Access, EveryInputIsNamedAndEveryButtonHasItsOwnMnemonic)
+{
+    Window m(false);
+    // The link area and the bulk row, then each page.
+    EXPECT_EQ(faultsOf(m.w.centralWidget(), m.w.tabs).join(", ").toStdString(), "");
+    for (int t = 0; t < m.w.tabs->count(); ++t)
+        EXPECT_EQ(faultsOf(m.w.tabs->widget(t)).join(", ").toStdString(), "")
+            << m.w.tabs->widget(t)->objectName().toStdString();
+    Session& s = m.w.session();
+    QWidget* owner = m.w.aspectsPage;
+    const QList<QDialog*> tools{new EditPinDialog(s, owner),  new EditAspectDialog(s, owner),
+                                new EditStepDialog(s, owner), new TimeToolDialog(owner),
+                                new PatternToolDialog(owner), new EventPatternToolDialog(owner),
+                                new LevelToolDialog(owner)};
+    for (QDialog* tool : tools)
+        EXPECT_EQ(faultsOf(tool).join(", ").toStdString(), "") << tool->objectName().toStdString();
+}
