@@ -6,6 +6,7 @@
 #include "model/InstructionSet.h"
 #include "shell/EditTools.h"
 #include "shell/HelpToolDialogs.h"
+#include "shell/Widgets.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -35,13 +36,14 @@ template <typename W> W* named(W* w, const QString& name)
 
 QString indexed(const char* name, int i) { return QString("%1_%2").arg(name).arg(i); }
 
-// An up-down control beside its text box: only the arrows show.
-QSpinBox* upDown(const QString& name)
+// An entry box with its spinner.
+NumberEntry* entry(const QString& name, QLineEdit*& box, QSpinBox*& spinner)
 {
-    auto* s = named(new QSpinBox, name);
-    s->setFixedWidth(22);
-    s->setButtonSymbols(QAbstractSpinBox::UpDownArrows);
-    return s;
+    auto* e = new NumberEntry("Text" + name, "UpDown" + name);
+    box = e->text;
+    spinner = e->upDown;
+    numericInput(box, 4);
+    return e;
 }
 
 QLineEdit* numberBox(const QString& name, int width = 44)
@@ -51,15 +53,6 @@ QLineEdit* numberBox(const QString& name, int width = 44)
     box->setAlignment(Qt::AlignRight);
     numericInput(box, 4);
     return box;
-}
-
-QHBoxLayout* boxWithSpinner(QLineEdit* box, QSpinBox* spinner)
-{
-    auto* row = new QHBoxLayout;
-    row->setSpacing(0);
-    row->addWidget(box);
-    row->addWidget(spinner);
-    return row;
 }
 
 const char* const kToolTip = "Click for copy/paste tools";
@@ -77,7 +70,7 @@ AspectsPage::AspectsPage(Session& s, DeviceList& list, std::function<void(JobNam
       bindings(guard)
 {
     setObjectName("PageAspects");
-    auto* layout = new QVBoxLayout(this);
+    auto* layout = new QVBoxLayout(scrolledContent(this));
     layout->addWidget(buildPinArea());
     layout->addWidget(buildAspectArea(), 1);
     layout->addWidget(buildDeviceArea());
@@ -91,8 +84,7 @@ QWidget* AspectsPage::buildPinArea()
     auto* frame = named(new QGroupBox("Pin"), "FramePAspPin");
     auto* grid = new QGridLayout(frame);
 
-    TextPAspOutput = numberBox("TextPAspOutput");
-    UpDownPAspOutput = upDown("UpDownPAspOutput");
+    NumberEntry* pin = entry("PAspOutput", TextPAspOutput, UpDownPAspOutput);
     LabelPAspOutput = named(captionFor("Pin", TextPAspOutput), "LabelPAspOutput");
     LabelPAspOutput->setToolTip(kToolTip);
     LabelPAspOutput->setCursor(Qt::PointingHandCursor);
@@ -106,7 +98,7 @@ QWidget* AspectsPage::buildPinArea()
     TextDeviceDescription->setToolTip("The device's name, kept by its first pin");
 
     grid->addWidget(LabelPAspOutput, 0, 0);
-    grid->addLayout(boxWithSpinner(TextPAspOutput, UpDownPAspOutput), 0, 1);
+    grid->addWidget(pin, 0, 1);
     grid->addWidget(captionFor("Description", TextPAspDesc), 0, 2);
     grid->addWidget(TextPAspDesc, 0, 3, 1, 3);
     grid->addWidget(captionFor("Device pin", TextDevicePin), 1, 0);
@@ -128,18 +120,15 @@ QWidget* AspectsPage::buildPinArea()
     layoutRow->addSpacing(16);
     LabelPASPAdrCnt = named(new QLabel("Addresses:"), "LabelPASPAdrCnt");
     layoutRow->addWidget(LabelPASPAdrCnt);
-    TextPaspDCCn = numberBox("TextPaspDCCn", 30);
-    UpDownPaspDCCn = upDown("UpDownPaspDCCn");
-    TextPAspXDCCn = numberBox("TextPAspXDCCn", 30);
-    UpDownPAspXDCCn = upDown("UpDownPAspXDCCn");
-    TextPaspLynxn = numberBox("TextPaspLynxn", 30);
-    UpDownPaspLynxn = upDown("UpDownPaspLynxn");
+    NumberEntry* dcc = entry("PaspDCCn", TextPaspDCCn, UpDownPaspDCCn);
+    NumberEntry* xdcc = entry("PAspXDCCn", TextPAspXDCCn, UpDownPAspXDCCn);
+    NumberEntry* serial = entry("PaspLynxn", TextPaspLynxn, UpDownPaspLynxn);
     layoutRow->addWidget(captionFor("DCC", TextPaspDCCn));
-    layoutRow->addLayout(boxWithSpinner(TextPaspDCCn, UpDownPaspDCCn));
+    layoutRow->addWidget(dcc);
     layoutRow->addWidget(captionFor("eXtd DCC", TextPAspXDCCn));
-    layoutRow->addLayout(boxWithSpinner(TextPAspXDCCn, UpDownPAspXDCCn));
+    layoutRow->addWidget(xdcc);
     layoutRow->addWidget(captionFor("Serial", TextPaspLynxn));
-    layoutRow->addLayout(boxWithSpinner(TextPaspLynxn, UpDownPaspLynxn));
+    layoutRow->addWidget(serial);
     TextPaspDCCn->setAccessibleName("DCC addresses");
     TextPAspXDCCn->setAccessibleName("eXtended DCC addresses");
     TextPaspLynxn->setAccessibleName("Serial addresses");
@@ -180,25 +169,23 @@ QWidget* AspectsPage::buildAspectArea()
     auto* layout = new QVBoxLayout(frame);
 
     auto* aspectRow = new QHBoxLayout;
-    TextPAspAspect = numberBox("TextPAspAspect", 30);
-    UpDownPAspAspect = upDown("UpDownPAspAspect");
+    NumberEntry* aspect = entry("PAspAspect", TextPAspAspect, UpDownPAspAspect);
     LabelPAspAspect = named(captionFor("Aspect", TextPAspAspect), "LabelPAspAspect");
     LabelPAspAspect->setToolTip(kToolTip);
     LabelPAspAspect->setCursor(Qt::PointingHandCursor);
     TextPAspAspDesc = named(new QLineEdit, "TextPAspAspDesc");
     LabelPAspAspDesc = named(captionFor("Aspect description", TextPAspAspDesc), "LabelPAspAspDesc");
-    TextPAspInit = numberBox("TextPAspInit", 30);
-    UpDownPAspInit = upDown("UpDownPAspInit");
+    NumberEntry* init = entry("PAspInit", TextPAspInit, UpDownPAspInit);
     LabelPAspInit = named(captionFor("Initial aspect", TextPAspInit), "LabelPAspInit");
     TextPAspInit->setToolTip("The aspect the pin shows after power-up; -1 for none");
     UpDownPAspAspect->setAccessibleName(TextPAspAspect->accessibleName());
     UpDownPAspInit->setAccessibleName(TextPAspInit->accessibleName());
     aspectRow->addWidget(LabelPAspAspect);
-    aspectRow->addLayout(boxWithSpinner(TextPAspAspect, UpDownPAspAspect));
+    aspectRow->addWidget(aspect);
     aspectRow->addWidget(LabelPAspAspDesc);
     aspectRow->addWidget(TextPAspAspDesc, 1);
     aspectRow->addWidget(LabelPAspInit);
-    aspectRow->addLayout(boxWithSpinner(TextPAspInit, UpDownPAspInit));
+    aspectRow->addWidget(init);
     layout->addLayout(aspectRow);
     LabelPAspAspect->installEventFilter(this);
 

@@ -2,6 +2,7 @@
 #include "forms/EventControlForm.h"
 
 #include "base/Text.h"
+#include "shell/Widgets.h"
 
 #include <algorithm>
 
@@ -24,32 +25,14 @@ template <typename W> W* named(W* w, const QString& name)
     return w;
 }
 
-// An up-down control beside its text box: only the arrows show.
-QSpinBox* upDown(const QString& name, int min, int max)
+// An entry box with its spinner, the spinner's range set.
+NumberEntry* entry(const QString& name, int min, int max, QLineEdit*& box, QSpinBox*& spinner)
 {
-    auto* s = named(new QSpinBox, name);
-    s->setFixedWidth(22);
-    s->setButtonSymbols(QAbstractSpinBox::UpDownArrows);
-    s->setRange(min, max);
-    return s;
-}
-
-QLineEdit* numberBox(const QString& name)
-{
-    auto* box = named(new QLineEdit("0"), name);
-    box->setFixedWidth(44);
-    box->setAlignment(Qt::AlignRight);
-    return box;
-}
-
-// A text box with its spinner, side by side.
-QHBoxLayout* boxWithSpinner(QLineEdit* box, QSpinBox* spinner)
-{
-    auto* row = new QHBoxLayout;
-    row->setSpacing(0);
-    row->addWidget(box);
-    row->addWidget(spinner);
-    return row;
+    auto* e = new NumberEntry("Text" + name, "UpDown" + name);
+    box = e->text;
+    spinner = e->upDown;
+    spinner->setRange(min, max);
+    return e;
 }
 } // namespace
 
@@ -58,21 +41,20 @@ EventPage::EventPage(Session& s, std::function<void(JobName job)> start, Guard* 
       guard(sharedGuard ? *sharedGuard : *ownGuard), bindings(guard, [this] { refresh(); })
 {
     setObjectName("PageEventControl");
-    auto* layout = new QVBoxLayout(this);
+    auto* layout = new QVBoxLayout(scrolledContent(this));
 
     // One pin's entries and the enable maps, in one table whose columns are the inputs.
     auto* frame = named(new QGroupBox("Event Control"), "FrameEC");
     auto* frameLayout = new QVBoxLayout(frame);
 
     auto* pinRow = new QHBoxLayout;
-    TextECpin = numberBox("TextECpin");
-    UpDownECpin = upDown("UpDownECpin", 0, kPinCount - 1);
+    NumberEntry* pin = entry("ECpin", 0, kPinCount - 1, TextECpin, UpDownECpin);
     CommandECReadSingle = named(new QPushButton("Re&ad"), "CommandECReadSingle");
     CommandECWriteSingle = named(new QPushButton("Wri&te"), "CommandECWriteSingle");
     CommandECcopy = named(new QPushButton("&Copy to All"), "CommandECcopy");
     pinRow->addWidget(captionFor("Pin", TextECpin));
     UpDownECpin->setAccessibleName("Pin");
-    pinRow->addLayout(boxWithSpinner(TextECpin, UpDownECpin));
+    pinRow->addWidget(pin);
     pinRow->addSpacing(16);
     pinRow->addWidget(CommandECReadSingle);
     pinRow->addWidget(CommandECWriteSingle);
@@ -91,17 +73,17 @@ EventPage::EventPage(Session& s, std::function<void(JobName job)> start, Guard* 
     LabelEC = named(new QLabel("OFF:"), "LabelEC");
     table->addWidget(LabelEC, 2, 0);
     for (int i = 0; i < kEventSlots; ++i) {
-        TextECon[i] = numberBox(QString("TextECon_%1").arg(i));
-        UpDownECon[i] = upDown(QString("UpDownECon_%1").arg(i), kEventActionMin, kEventActionMax);
-        table->addLayout(boxWithSpinner(TextECon[i], UpDownECon[i]), 1, 1 + i);
-        TextECoff[i] = numberBox(QString("TextECoff_%1").arg(i));
-        UpDownECoff[i] = upDown(QString("UpDownECoff_%1").arg(i), kEventActionMin, kEventActionMax);
+        table->addWidget(
+            entry(QString("ECon_%1").arg(i), kEventActionMin, kEventActionMax, TextECon[i], UpDownECon[i]), 1,
+            1 + i);
+        table->addWidget(
+            entry(QString("ECoff_%1").arg(i), kEventActionMin, kEventActionMax, TextECoff[i], UpDownECoff[i]),
+            2, 1 + i);
         // Named after the row and the column's input: "Event-On input 2".
         for (QWidget* w : {static_cast<QWidget*>(TextECon[i]), static_cast<QWidget*>(UpDownECon[i])})
             w->setAccessibleName(QString("Event-On input %1").arg(i + 1));
         for (QWidget* w : {static_cast<QWidget*>(TextECoff[i]), static_cast<QWidget*>(UpDownECoff[i])})
             w->setAccessibleName(QString("Event-Off input %1").arg(i + 1));
-        table->addLayout(boxWithSpinner(TextECoff[i], UpDownECoff[i]), 2, 1 + i);
     }
     table->setRowMinimumHeight(3, 10);
     table->addWidget(new QLabel("InitialEvent_ON Enable"), 4, 0);

@@ -5,6 +5,7 @@
 #include "forms/AspectEditor.h"
 #include "ops/GeneralCommands.h"
 #include "shell/Bindings.h"
+#include "shell/Widgets.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -90,7 +91,7 @@ GeneralPage::GeneralPage(Session& s, Guard* sharedGuard, QWidget* parent)
 
     // Three columns: the module and DCC, the addressing and the serial port, the
     // output drivers and the LEDs.
-    auto* columns = new QHBoxLayout(this);
+    auto* columns = new QHBoxLayout(scrolledContent(this));
     const auto column = [columns](std::initializer_list<QWidget*> frames) {
         auto* c = new QVBoxLayout;
         for (QWidget* f : frames)
@@ -187,10 +188,10 @@ QGroupBox* GeneralPage::buildAddressing()
     CheckGenKestrelNative = named(new QCheckBox("Enable Native Kestrel Mode"), "CheckGenKestrelNative");
     CheckGenLynxaddr = named(new QCheckBox("Enable Lynx Flex-Addresss"), "CheckGenLynxaddr");
     LabelGenXA_4 = named(new QLabel("Flex-Address"), "LabelGenXA_4");
-    TextGenLynxaddr = numberBox("TextGenLynxaddr", 50);
+    auto* flexAddress = new NumberEntry("TextGenLynxaddr", "UpDownGenLynxaddr");
+    TextGenLynxaddr = flexAddress->text;
     TextGenLynxaddr->setToolTip("The first Lynx address of the module; addresses come in groups of 4");
-    UpDownGenLynxaddr = named(new QSpinBox, "UpDownGenLynxaddr");
-    UpDownGenLynxaddr->setFixedWidth(22);
+    UpDownGenLynxaddr = flexAddress->upDown;
     UpDownGenLynxaddr->setSingleStep(4);
     nameAfter(LabelGenXA_4, TextGenLynxaddr);
     UpDownGenLynxaddr->setAccessibleName(TextGenLynxaddr->accessibleName());
@@ -207,8 +208,7 @@ QGroupBox* GeneralPage::buildAddressing()
     flexRow->addStretch();
     flexRow->addWidget(LabelGenXA_4);
     flexRow->addSpacing(6);
-    flexRow->addWidget(TextGenLynxaddr);
-    flexRow->addWidget(UpDownGenLynxaddr);
+    flexRow->addWidget(flexAddress);
     grid->addLayout(flexRow, 1, 0, 1, 3);
     TextGenXaddr = numberBox("TextGenXaddr", 50);
     grid->addWidget(captionFor("eXtended Address", TextGenXaddr), 2, 0);

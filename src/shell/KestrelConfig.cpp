@@ -18,6 +18,7 @@
 #include "shell/ProgramSession.h"
 #include "shell/QtProgress.h"
 #include "shell/QtSerialPort.h"
+#include "shell/Widgets.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -87,14 +88,6 @@ GeneralSettings filed(GeneralSettings g)
     return g;
 }
 
-// An up-down control beside its text box: only the arrows show.
-QSpinBox* upDown(const QString& name)
-{
-    auto* s = named(new QSpinBox, name);
-    s->setFixedWidth(22);
-    s->setButtonSymbols(QAbstractSpinBox::UpDownArrows);
-    return s;
-}
 } // namespace
 
 KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindow(parent), boxes(this)
@@ -575,33 +568,26 @@ void KestrelConfig::buildLinkArea(QWidget* host)
     grid->addWidget(FrameBitrate, 1, 0, 1, 3);
 
     LabelAddress = named(new QLabel("Module Address"), "LabelAddress");
-    TextAddress = named(new QLineEdit("0"), "TextAddress");
-    TextAddress->setMaximumWidth(50);
+    auto* address = new NumberEntry("TextAddress", "UpDownAddress");
+    TextAddress = address->text;
+    UpDownAddress = address->upDown;
     numericInput(TextAddress, 3);
-    UpDownAddress = upDown("UpDownAddress");
     nameAfter(LabelAddress, TextAddress);
-    auto* addrRow = new QHBoxLayout;
-    addrRow->addWidget(TextAddress);
-    addrRow->addWidget(UpDownAddress);
-    addrRow->addStretch();
     grid->addWidget(LabelAddress, 0, 3);
-    grid->addLayout(addrRow, 0, 4);
+    grid->addWidget(address, 0, 4, Qt::AlignLeft);
 
     CheckXaddress = named(new QCheckBox("Use eXtended Addr"), "CheckXaddress");
     LabelXaddress = named(new QLabel("eXtended address"), "LabelXaddress");
-    txtXaddr = named(new QLineEdit("0"), "txtXaddr");
-    txtXaddr->setMaximumWidth(50);
+    auto* xAddress = new NumberEntry("txtXaddr", "UpDownXaddr");
+    txtXaddr = xAddress->text;
+    UpDownXaddr = xAddress->upDown;
     numericInput(txtXaddr, 3);
-    UpDownXaddr = upDown("UpDownXaddr");
     nameAfter(LabelXaddress, txtXaddr);
     UpDownXaddr->setAccessibleName(txtXaddr->accessibleName());
-    auto* xRow = new QHBoxLayout;
-    xRow->addWidget(txtXaddr);
-    xRow->addWidget(UpDownXaddr);
-    xRow->addStretch();
     grid->addWidget(CheckXaddress, 1, 3);
     grid->addWidget(LabelXaddress, 2, 3);
-    grid->addLayout(xRow, 2, 4);
+    grid->addWidget(xAddress, 2, 4, Qt::AlignLeft);
+    grid->setColumnStretch(4, 1); // room to spare goes beside the addresses
 
     CheckKestrelBD = named(new QCheckBox("Bidirectional Comm."), "CheckKestrelBD");
     CheckCorvid = named(new QCheckBox("Use Corvid Tunneling"), "CheckCorvid");

@@ -5,6 +5,7 @@
 #include "forms/PinConfigView.h"
 #include "ops/LiveOutput.h"
 #include "ops/PinConfigTransfer.h"
+#include "shell/Widgets.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -15,9 +16,11 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QSpinBox>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -104,20 +107,17 @@ PinConfigPage::PinConfigPage(Session& s, Guard* sharedGuard, QWidget* parent)
       guard(sharedGuard ? *sharedGuard : *ownGuard)
 {
     setObjectName("PagePinConfig");
-    auto* layout = new QVBoxLayout(this);
+    auto* layout = new QVBoxLayout(scrolledContent(this));
 
     auto* pinRow = new QHBoxLayout;
-    TextPCFGPin = named(new QLineEdit("0"), "TextPCFGPin");
-    TextPCFGPin->setFixedWidth(44);
-    TextPCFGPin->setAlignment(Qt::AlignRight);
-    UpDownPCFGPin = named(new QSpinBox, "UpDownPCFGPin");
-    UpDownPCFGPin->setFixedWidth(22);
+    auto* pinEntry = new NumberEntry("TextPCFGPin", "UpDownPCFGPin");
+    TextPCFGPin = pinEntry->text;
+    UpDownPCFGPin = pinEntry->upDown;
     UpDownPCFGPin->setRange(0, kPinCount - 1);
     pinRow->setSpacing(0);
     pinRow->addWidget(captionFor("Pin ", TextPCFGPin));
     UpDownPCFGPin->setAccessibleName("Pin");
-    pinRow->addWidget(TextPCFGPin);
-    pinRow->addWidget(UpDownPCFGPin);
+    pinRow->addWidget(pinEntry);
     pinRow->addStretch();
     layout->addLayout(pinRow);
 
@@ -459,7 +459,9 @@ std::vector<std::unique_ptr<QSignalBlocker>> PinConfigPage::blockAll()
 {
     std::vector<std::unique_ptr<QSignalBlocker>> blocked;
     for (QObject* o : findChildren<QObject*>())
-        blocked.push_back(std::make_unique<QSignalBlocker>(o));
+        if (!qobject_cast<QTabBar*>(o) &&
+            !qobject_cast<QScrollBar*>(o)) // a tab shows its page, a scroll bar its view
+            blocked.push_back(std::make_unique<QSignalBlocker>(o));
     return blocked;
 }
 

@@ -28,7 +28,8 @@ namespace {
 bool takesInput(QAccessible::Role role)
 {
     using A = QAccessible;
-    for (A::Role r : {A::EditableText, A::ComboBox, A::CheckBox, A::RadioButton, A::SpinBox, A::Slider, A::Table})
+    for (A::Role r :
+         {A::EditableText, A::ComboBox, A::CheckBox, A::RadioButton, A::SpinBox, A::Slider, A::Table})
         if (role == r)
             return true;
     return false;
@@ -117,4 +118,66 @@ TEST(Access, EveryInputIsNamedAndEveryButtonHasItsOwnMnemonic)
                                 new LevelToolDialog(owner)};
     for (QDialog* tool : tools)
         EXPECT_EQ(faultsOf(tool).join(", ").toStdString(), "") << tool->objectName().toStdString();
+}
+
+TEST(Access, TheWindowFits1280x720AndEveryNumberBoxShowsItsNumber)
+{
+    Window m(false);
+    const QSize least = m.w.minimumSizeHint().expandedTo(m.w.minimumSize());
+    EXPECT_TRUE(least.width() <= 1093 && least.height() <= 614) // 1366x768 at 125 %
+        << least.width() << "x" << least.height();
+    m.w.resize(1280, 720);
+    const QRect window = m.w.rect();
+    for (int t = 0; t < m.w.tabs->count(); ++t) {
+        m.w.tabs->setCurrentIndex(t);
+        QApplication::processEvents();
+        QStringList outside;
+        for (QWidget* c : m.w.findChildren<QWidget*>()) {
+            if (!c->isVisible() || !(qobject_cast<QAbstractButton*>(c) || qobject_cast<QLineEdit*>(c) ||
+                                     qobject_cast<QComboBox*>(c) || qobject_cast<QAbstractSpinBox*>(c) ||
+                                     qobject_cast<QSlider*>(c) || qobject_cast<QLabel*>(c)))
+                continue;
+            QWidget* area = nullptr; // reachable by scrolling: inside the scroll area's widget
+            for (QWidget* p = c->parentWidget(); p && !area; p = p->parentWidget())
+                if (auto* scroll = qobject_cast<QScrollArea*>(p))
+                    area = scroll->widget();
+            QWidget* within = area ? area : &m.w;
+            const QRect r(c->mapTo(within, QPoint(0, 0)), c->size());
+            if (!(area ? area->rect() : window).contains(r) ||
+                (area && !window.contains(QRect(area->parentWidget()->mapTo(&m.w, QPoint(0, 0)),
+                                                area->parentWidget()->size()))))
+                outside << c->objectName() + "/" + c->metaObject()->className();
+        }
+        EXPECT_TRUE(outside.isEmpty())
+            << m.w.tabs->widget(t)->objectName().toStdString() << ": " << outside.join(", ").toStdString();
+    }
+
+    // Each spinner beside a box: the box holds its widest number, the arrows their width.
+    for (QSpinBox* spin : m.w.findChildren<QSpinBox*>(QRegularExpression("^UpDown"))) {
+        const QString rest =
+            spin->objectName().mid(6); // UpDownECon_1 beside TextECon_1, UpDownXaddr txtXaddr
+        auto* box = m.w.findChild<QLineEdit*>("Text" + rest);
+        box = box ? box : m.w.findChild<QLineEdit*>("txt" + rest);
+        ASSERT_NE(box, nullptr) << spin->objectName().toStdString();
+        QStyleOptionFrame frame;
+        frame.initFrom(box);
+        frame.rect = QRect(QPoint(), box->size());
+        frame.lineWidth = box->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &frame, box);
+        const int room = box->style()->subElementRect(QStyle::SE_LineEditContents, &frame, box).width() - 4;
+        const QFontMetrics fm(box->font());
+        const int widest = std::max(fm.horizontalAdvance(QString::number(spin->minimum())),
+                                    fm.horizontalAdvance(QString::number(spin->maximum())));
+        QStyleOptionSpinBox arrows;
+        arrows.initFrom(spin);
+        arrows.rect = QRect(QPoint(), spin->size());
+        QStyleOptionSpinBox roomy = arrows; // as wide as the spinner would like to be
+        roomy.rect = QRect(QPoint(), spin->sizeHint());
+        const auto up = [spin](const QStyleOptionSpinBox& o) {
+            return spin->style()->subControlRect(QStyle::CC_SpinBox, &o, QStyle::SC_SpinBoxUp, spin).width();
+        };
+        const auto* digits = spin->findChild<QLineEdit*>(); // the spinner's own number, not shown
+        EXPECT_TRUE(widest <= room && up(arrows) >= up(roomy) && !digits->isVisibleTo(spin))
+            << box->objectName().toStdString() << ": " << widest << " in " << room << ", arrows "
+            << up(arrows) << " of " << up(roomy) << ", digits " << digits->width();
+    }
 }
