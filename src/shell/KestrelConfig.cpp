@@ -604,6 +604,10 @@ void KestrelConfig::buildLinkArea(QWidget* host)
     grid->addWidget(captionFor("Response:", TextResponse), 3, 0);
     grid->addWidget(TextResponse, 3, 1, 1, 4);
 
+    // Tab reads the grid row by row.
+    tabOrder({ComboPort, cmdRefreshComm, TextAddress, CheckKestrelBD, OptionBitRate[0], OptionBitRate[1],
+              OptionBitRate[2], CheckXaddress, CheckCorvid, txtXaddr, CheckKLnumber, TextResponse, cmdSetTM});
+
     connect(ComboPort, &QComboBox::activated, this, [this](int) { ComboPort_Click(); });
     connect(ComboPort->lineEdit(), &QLineEdit::returnPressed, this, &KestrelConfig::ComboPort_Click);
     connect(cmdRefreshComm, &QPushButton::clicked, this, &KestrelConfig::cmdRefreshComm_Click);

@@ -21,6 +21,7 @@ QWidget* scrolledContent(QWidget* page)
     scroll->setObjectName(page->objectName() + "Scroll");
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus); // Tab goes to the controls; the view follows the focus
     auto* content = new QWidget;
     content->setObjectName(page->objectName() + "Content");
     scroll->setWidget(content);
