@@ -130,7 +130,7 @@ QWidget* AspectsPage::buildPinArea()
     layoutRow->addWidget(captionFor("Serial", TextPaspLynxn));
     layoutRow->addWidget(serial);
     TextPaspDCCn->setAccessibleName("DCC addresses");
-    TextPAspXDCCn->setAccessibleName("eXtended DCC addresses");
+    TextPAspXDCCn->setAccessibleName("eXtd DCC addresses");
     TextPaspLynxn->setAccessibleName("Serial addresses");
     for (auto [box, spin] :
          {std::pair{TextPAspOutput, UpDownPAspOutput}, std::pair{TextPaspDCCn, UpDownPaspDCCn},

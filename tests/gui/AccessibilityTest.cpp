@@ -79,7 +79,8 @@ QString frameOf(QWidget* w)
     return {};
 }
 
-// The faults of one page or dialog: unnamed inputs, buttons without a mnemonic, one taken
+// The faults of one page or dialog: unnamed inputs, inputs named otherwise than their
+// label, buttons without a mnemonic, one taken
 // by the menu bar (File, Edit, View, Module, Help) or used twice in a frame. (The general
 // page has more buttons than its captions have letters: its mnemonics repeat across frames.)
 QStringList faultsOf(QWidget* root, QWidget* skip = nullptr)
@@ -95,8 +96,12 @@ QStringList faultsOf(QWidget* root, QWidget* skip = nullptr)
         else if (QStringList{"Alt+F", "Alt+E", "Alt+V", "Alt+M", "Alt+H"}.contains(key))
             faults << b->objectName() + ": " + key + " is the menu bar's";
         else if (!key.isEmpty() && !used.emplace(frameOf(b) + key, b->objectName()).second)
-            faults << b->objectName() + ": " + key + " is also " + used[key] + "'s";
+            faults << b->objectName() + ": " + key + " is also " + used[frameOf(b) + key] + "'s";
     }
+    for (QLabel* label : root->findChildren<QLabel*>()) // a label names the control it is for
+        if (label->buddy() && !(skip && skip->isAncestorOf(label)) &&
+            !label->buddy()->accessibleName().contains(plain(label->text())))
+            faults << label->buddy()->objectName() + " is not named \"" + plain(label->text()) + "\"";
     return faults;
 }
 
