@@ -175,8 +175,8 @@ TEST(Access, TheWindowFits1280x720AndEveryNumberBoxShowsItsNumber)
         QStyleOptionSpinBox arrows;
         arrows.initFrom(spin);
         arrows.rect = QRect(QPoint(), spin->size());
-        QStyleOptionSpinBox roomy = arrows; // as wide as the spinner would like to be
-        roomy.rect = QRect(QPoint(), spin->sizeHint());
+        QStyleOptionSpinBox roomy = arrows; // arrows with room to spare
+        roomy.rect = QRect(QPoint(), QSize(200, spin->height()));
         const auto up = [spin](const QStyleOptionSpinBox& o) {
             return spin->style()->subControlRect(QStyle::CC_SpinBox, &o, QStyle::SC_SpinBoxUp, spin).width();
         };
