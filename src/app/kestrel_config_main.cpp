@@ -82,10 +82,16 @@ int main(int argc, char** argv)
     if (QApplication::arguments().contains("--fresh"))
         QSettings("Kestrel", "Kestrel Config").clear();
     kestrel::KestrelConfig window;
+    const QStringList args = QApplication::arguments();
+    // --size WxH: the window's size (for pictures of a small screen).
+    if (const int size = args.indexOf("--size"); size > 0 && size + 1 < args.size()) {
+        const QStringList wh = args[size + 1].split('x');
+        if (wh.size() == 2)
+            window.resize(wh[0].toInt(), wh[1].toInt());
+    }
     window.show();
 
     // --screenshot FILE: save a picture of the window once it is drawn, then quit.
-    const QStringList args = QApplication::arguments();
     const int at = args.indexOf("--screenshot");
     if (at > 0 && at + 1 < args.size()) {
         const QString file = args[at + 1];

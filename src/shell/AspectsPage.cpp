@@ -6,6 +6,7 @@
 #include "model/InstructionSet.h"
 #include "shell/EditTools.h"
 #include "shell/HelpToolDialogs.h"
+#include "shell/Widgets.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -35,13 +36,14 @@ template <typename W> W* named(W* w, const QString& name)
 
 QString indexed(const char* name, int i) { return QString("%1_%2").arg(name).arg(i); }
 
-// An up-down control beside its text box: only the arrows show.
-QSpinBox* upDown(const QString& name)
+// An entry box with its spinner.
+NumberEntry* entry(const QString& name, QLineEdit*& box, QSpinBox*& spinner)
 {
-    auto* s = named(new QSpinBox, name);
-    s->setFixedWidth(22);
-    s->setButtonSymbols(QAbstractSpinBox::UpDownArrows);
-    return s;
+    auto* e = new NumberEntry("Text" + name, "UpDown" + name);
+    box = e->text;
+    spinner = e->upDown;
+    numericInput(box, 4);
+    return e;
 }
 
 QLineEdit* numberBox(const QString& name, int width = 44)
@@ -51,24 +53,6 @@ QLineEdit* numberBox(const QString& name, int width = 44)
     box->setAlignment(Qt::AlignRight);
     numericInput(box, 4);
     return box;
-}
-
-// A caption that names the box beside it, for the eye and for a screen reader.
-QLabel* captionFor(const QString& caption, QWidget* box)
-{
-    auto* label = new QLabel(caption);
-    label->setBuddy(box);
-    box->setAccessibleName(QString(caption).remove('&').remove(':'));
-    return label;
-}
-
-QHBoxLayout* boxWithSpinner(QLineEdit* box, QSpinBox* spinner)
-{
-    auto* row = new QHBoxLayout;
-    row->setSpacing(0);
-    row->addWidget(box);
-    row->addWidget(spinner);
-    return row;
 }
 
 const char* const kToolTip = "Click for copy/paste tools";
@@ -86,7 +70,7 @@ AspectsPage::AspectsPage(Session& s, DeviceList& list, std::function<void(JobNam
       bindings(guard)
 {
     setObjectName("PageAspects");
-    auto* layout = new QVBoxLayout(this);
+    auto* layout = new QVBoxLayout(scrolledContent(this));
     layout->addWidget(buildPinArea());
     layout->addWidget(buildAspectArea(), 1);
     layout->addWidget(buildDeviceArea());
@@ -100,8 +84,7 @@ QWidget* AspectsPage::buildPinArea()
     auto* frame = named(new QGroupBox("Pin"), "FramePAspPin");
     auto* grid = new QGridLayout(frame);
 
-    TextPAspOutput = numberBox("TextPAspOutput");
-    UpDownPAspOutput = upDown("UpDownPAspOutput");
+    NumberEntry* pin = entry("PAspOutput", TextPAspOutput, UpDownPAspOutput);
     LabelPAspOutput = named(captionFor("Pin", TextPAspOutput), "LabelPAspOutput");
     LabelPAspOutput->setToolTip(kToolTip);
     LabelPAspOutput->setCursor(Qt::PointingHandCursor);
@@ -115,7 +98,7 @@ QWidget* AspectsPage::buildPinArea()
     TextDeviceDescription->setToolTip("The device's name, kept by its first pin");
 
     grid->addWidget(LabelPAspOutput, 0, 0);
-    grid->addLayout(boxWithSpinner(TextPAspOutput, UpDownPAspOutput), 0, 1);
+    grid->addWidget(pin, 0, 1);
     grid->addWidget(captionFor("Description", TextPAspDesc), 0, 2);
     grid->addWidget(TextPAspDesc, 0, 3, 1, 3);
     grid->addWidget(captionFor("Device pin", TextDevicePin), 1, 0);
@@ -137,33 +120,34 @@ QWidget* AspectsPage::buildPinArea()
     layoutRow->addSpacing(16);
     LabelPASPAdrCnt = named(new QLabel("Addresses:"), "LabelPASPAdrCnt");
     layoutRow->addWidget(LabelPASPAdrCnt);
-    TextPaspDCCn = numberBox("TextPaspDCCn", 30);
-    UpDownPaspDCCn = upDown("UpDownPaspDCCn");
-    TextPAspXDCCn = numberBox("TextPAspXDCCn", 30);
-    UpDownPAspXDCCn = upDown("UpDownPAspXDCCn");
-    TextPaspLynxn = numberBox("TextPaspLynxn", 30);
-    UpDownPaspLynxn = upDown("UpDownPaspLynxn");
+    NumberEntry* dcc = entry("PaspDCCn", TextPaspDCCn, UpDownPaspDCCn);
+    NumberEntry* xdcc = entry("PAspXDCCn", TextPAspXDCCn, UpDownPAspXDCCn);
+    NumberEntry* serial = entry("PaspLynxn", TextPaspLynxn, UpDownPaspLynxn);
     layoutRow->addWidget(captionFor("DCC", TextPaspDCCn));
-    layoutRow->addLayout(boxWithSpinner(TextPaspDCCn, UpDownPaspDCCn));
+    layoutRow->addWidget(dcc);
     layoutRow->addWidget(captionFor("eXtd DCC", TextPAspXDCCn));
-    layoutRow->addLayout(boxWithSpinner(TextPAspXDCCn, UpDownPAspXDCCn));
+    layoutRow->addWidget(xdcc);
     layoutRow->addWidget(captionFor("Serial", TextPaspLynxn));
-    layoutRow->addLayout(boxWithSpinner(TextPaspLynxn, UpDownPaspLynxn));
+    layoutRow->addWidget(serial);
     TextPaspDCCn->setAccessibleName("DCC addresses");
-    TextPAspXDCCn->setAccessibleName("eXtended DCC addresses");
+    TextPAspXDCCn->setAccessibleName("eXtd DCC addresses");
     TextPaspLynxn->setAccessibleName("Serial addresses");
+    for (auto [box, spin] :
+         {std::pair{TextPAspOutput, UpDownPAspOutput}, std::pair{TextPaspDCCn, UpDownPaspDCCn},
+          std::pair{TextPAspXDCCn, UpDownPAspXDCCn}, std::pair{TextPaspLynxn, UpDownPaspLynxn}})
+        spin->setAccessibleName(box->accessibleName());
     layoutRow->addStretch();
     grid->addLayout(layoutRow, 2, 0, 1, 6);
 
     // The pin's own jobs, beside the pin they act on.
     auto* jobs = new QHBoxLayout;
-    CommandReadPin = named(new QPushButton("Read Pin"), "CommandReadPin");
+    CommandReadPin = named(new QPushButton("Read &Pin"), "CommandReadPin");
     CommandReadPin->setToolTip("Reads this pin from the module: aspects, addresses and pin configuration");
-    CommandWritePin = named(new QPushButton("Write Pin"), "CommandWritePin");
+    CommandWritePin = named(new QPushButton("Write Pi&n"), "CommandWritePin");
     CommandWritePin->setToolTip("Writes this pin to the module: aspects and addresses");
-    CommandReadDevice = named(new QPushButton("Read Device"), "CommandReadDevice");
+    CommandReadDevice = named(new QPushButton("Re&ad Device"), "CommandReadDevice");
     CommandReadDevice->setToolTip("Reads every pin of this pin's device from the module");
-    CommandWriteDevice = named(new QPushButton("Write Device"), "CommandWriteDevice");
+    CommandWriteDevice = named(new QPushButton("&Write Device"), "CommandWriteDevice");
     CommandWriteDevice->setToolTip("Writes every pin of this pin's device to the module");
     for (QPushButton* b : {CommandReadPin, CommandWritePin, CommandReadDevice, CommandWriteDevice})
         jobs->addWidget(b);
@@ -185,23 +169,23 @@ QWidget* AspectsPage::buildAspectArea()
     auto* layout = new QVBoxLayout(frame);
 
     auto* aspectRow = new QHBoxLayout;
-    TextPAspAspect = numberBox("TextPAspAspect", 30);
-    UpDownPAspAspect = upDown("UpDownPAspAspect");
+    NumberEntry* aspect = entry("PAspAspect", TextPAspAspect, UpDownPAspAspect);
     LabelPAspAspect = named(captionFor("Aspect", TextPAspAspect), "LabelPAspAspect");
     LabelPAspAspect->setToolTip(kToolTip);
     LabelPAspAspect->setCursor(Qt::PointingHandCursor);
     TextPAspAspDesc = named(new QLineEdit, "TextPAspAspDesc");
     LabelPAspAspDesc = named(captionFor("Aspect description", TextPAspAspDesc), "LabelPAspAspDesc");
-    TextPAspInit = numberBox("TextPAspInit", 30);
-    UpDownPAspInit = upDown("UpDownPAspInit");
+    NumberEntry* init = entry("PAspInit", TextPAspInit, UpDownPAspInit);
     LabelPAspInit = named(captionFor("Initial aspect", TextPAspInit), "LabelPAspInit");
     TextPAspInit->setToolTip("The aspect the pin shows after power-up; -1 for none");
+    UpDownPAspAspect->setAccessibleName(TextPAspAspect->accessibleName());
+    UpDownPAspInit->setAccessibleName(TextPAspInit->accessibleName());
     aspectRow->addWidget(LabelPAspAspect);
-    aspectRow->addLayout(boxWithSpinner(TextPAspAspect, UpDownPAspAspect));
+    aspectRow->addWidget(aspect);
     aspectRow->addWidget(LabelPAspAspDesc);
     aspectRow->addWidget(TextPAspAspDesc, 1);
     aspectRow->addWidget(LabelPAspInit);
-    aspectRow->addLayout(boxWithSpinner(TextPAspInit, UpDownPAspInit));
+    aspectRow->addWidget(init);
     layout->addLayout(aspectRow);
     LabelPAspAspect->installEventFilter(this);
 
@@ -240,6 +224,10 @@ QWidget* AspectsPage::buildAspectArea()
         TextPAspPar1[r] = numberBox(indexed("TextPAspPar1", r));
         TextPAspPar2[r] = numberBox(indexed("TextPAspPar2", r));
         TextPAspPar3[r] = numberBox(indexed("TextPAspPar3", r));
+        // Named after the instruction's captions once a program is shown.
+        QLineEdit* parameters[4] = {TextPAspOffset[r], TextPAspPar1[r], TextPAspPar2[r], TextPAspPar3[r]};
+        for (int p = 0; p < 4; ++p)
+            parameters[p]->setAccessibleName(QString("Parameter %1, step %2").arg(p).arg(r));
         for (QLineEdit* box : {TextPAspPar1[r], TextPAspPar2[r], TextPAspPar3[r]}) {
             box->setToolTip(kHelpTip);
             box->installEventFilter(this);
@@ -278,13 +266,13 @@ QWidget* AspectsPage::buildAspectArea()
     CheckPAspShowDetails->setChecked(true);
     CheckPAspShowDetails->setToolTip("Shows or hides the transfer buttons, the step headings and the "
                                      "pin configuration's parameter buttons");
-    CommandPAspReadPin = named(new QPushButton("Read Asp's"), "CommandPAspReadPin");
+    CommandPAspReadPin = named(new QPushButton("Rea&d Asp's"), "CommandPAspReadPin");
     CommandPAspReadPin->setToolTip("Reads this pin's aspects, initial aspect and addresses from the module");
-    CommandPAspWritePin = named(new QPushButton("Write Asp's"), "CommandPAspWritePin");
+    CommandPAspWritePin = named(new QPushButton("W&rite Asp's"), "CommandPAspWritePin");
     CommandPAspWritePin->setToolTip("Writes this pin's aspects, initial aspect and addresses to the module");
-    CommandPAspWriteAspect = named(new QPushButton("Write Aspect"), "CommandPAspWriteAspect");
+    CommandPAspWriteAspect = named(new QPushButton("Wr&ite Aspect"), "CommandPAspWriteAspect");
     CommandPAspWriteAspect->setToolTip("Writes only the steps of the selected aspect to the module");
-    CommandPAspTestAspect = named(new QPushButton("Test Aspect"), "CommandPAspTestAspect");
+    CommandPAspTestAspect = named(new QPushButton("&Test Aspect"), "CommandPAspTestAspect");
     CommandPAspTestAspect->setEnabled(false);
     CommandPAspTestAspect->setToolTip(kTestTip);
     buttons->addWidget(CheckPAspShowDetails);
@@ -309,11 +297,11 @@ QWidget* AspectsPage::buildDeviceArea()
     cboDevice = named(new QComboBox, "cboDevice");
     cboDevice->setMinimumWidth(220);
     cboDevice->setAccessibleName("Device to load");
-    CommandPAspPreLoad = named(new QPushButton("Load Device"), "CommandPAspPreLoad");
+    CommandPAspPreLoad = named(new QPushButton("&Load Device"), "CommandPAspPreLoad");
     CommandPAspPreLoad->setToolTip("Places the chosen device on the pins, its first pin on this pin");
-    CommandSaveDevice = named(new QPushButton("Save Device"), "CommandSaveDevice");
+    CommandSaveDevice = named(new QPushButton("&Save Device"), "CommandSaveDevice");
     CommandSaveDevice->setToolTip("Saves this pin's device to a definitions file of its own");
-    CommandReloadDD = named(new QPushButton("Reload DD"), "CommandReloadDD");
+    CommandReloadDD = named(new QPushButton("Rel&oad DD"), "CommandReloadDD");
     CommandReloadDD->setToolTip("Reload DD to load new file, Shift + Reload DD to append");
     CommandReloadDD->installEventFilter(this);
     lblDDVersion = named(new QLabel, "lblDDVersion");

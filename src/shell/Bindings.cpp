@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QButtonGroup>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QRegularExpressionValidator>
@@ -21,6 +22,31 @@ QString latin1(const std::string& s)
 }
 
 std::string fromLatin1(const QString& s) { return s.toLatin1().toStdString(); }
+
+QString spoken(QString caption) { return caption.remove(QChar('&')).remove(QChar(':')).trimmed(); }
+
+void nameAfter(QLabel* label, QWidget* control)
+{
+    label->setBuddy(control);
+    control->setAccessibleName(spoken(label->text()));
+}
+
+void tabOrder(std::initializer_list<QWidget*> chain)
+{
+    const QWidget* before = nullptr;
+    for (QWidget* w : chain) {
+        if (before)
+            QWidget::setTabOrder(const_cast<QWidget*>(before), w);
+        before = w;
+    }
+}
+
+QLabel* captionFor(const QString& caption, QWidget* control)
+{
+    auto* label = new QLabel(caption);
+    nameAfter(label, control);
+    return label;
+}
 
 std::pair<int, int> pressOf(const QMouseEvent* mouse)
 {

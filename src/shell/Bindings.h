@@ -2,6 +2,7 @@
 #include <QString>
 
 #include <functional>
+#include <initializer_list>
 #include <string>
 #include <utility>
 #include <vector>
@@ -9,9 +10,11 @@
 class QAbstractButton;
 class QButtonGroup;
 class QComboBox;
+class QLabel;
 class QLineEdit;
 class QMouseEvent;
 class QSpinBox;
+class QWidget;
 
 namespace kestrel {
 
@@ -73,6 +76,18 @@ void numericInput(QLineEdit* box, int digits = 6);
 // The mouse button and the keys held, as the buttons' press handlers take them: button 1
 // left, 2 right, 4 middle; Shift 1, Ctrl 2, Alt 4 added together.
 std::pair<int, int> pressOf(const QMouseEvent* mouse);
+
+// A caption that names the control beside it, for the eye and for a screen reader: the
+// label is the control's buddy, and the control's accessible name is the caption without
+// its mnemonic and colon. `nameAfter` does the same for a label that exists already (and
+// again when its text changes).
+QLabel* captionFor(const QString& caption, QWidget* control);
+void nameAfter(QLabel* label, QWidget* control);
+// The caption as a screen reader says it: without "&" and ":".
+QString spoken(QString caption);
+// Tab goes from each control to the next in this order (the reading order where the
+// order of building does not give it).
+void tabOrder(std::initializer_list<QWidget*> chain);
 
 QString latin1(const std::string& s);
 std::string fromLatin1(const QString& s);

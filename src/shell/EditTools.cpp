@@ -133,7 +133,7 @@ EditAspectDialog::EditAspectDialog(Session& s, QWidget* parent)
     CommandCopy = button("&Copy Aspect", "CommandCopy");
     CommandPaste = button("&Paste Aspect", "CommandPaste");
     CommandClear = button("C&lear Aspect", "CommandClear");
-    CommandClean = button("Cl&ean Aspect", "CommandClean");
+    CommandClean = button("Clean &Aspect", "CommandClean");
     commandCancel = button("Ca&ncel", "commandCancel");
     LabelTarget = layOut(this, {CommandCopy, CommandPaste, CommandClear, CommandClean}, commandCancel);
     CommandClean->setToolTip("Clears the description and everything after the first empty step");

@@ -2,6 +2,7 @@
 #include "forms/EventControlForm.h"
 
 #include "base/Text.h"
+#include "shell/Widgets.h"
 
 #include <algorithm>
 
@@ -24,32 +25,14 @@ template <typename W> W* named(W* w, const QString& name)
     return w;
 }
 
-// An up-down control beside its text box: only the arrows show.
-QSpinBox* upDown(const QString& name, int min, int max)
+// An entry box with its spinner, the spinner's range set.
+NumberEntry* entry(const QString& name, int min, int max, QLineEdit*& box, QSpinBox*& spinner)
 {
-    auto* s = named(new QSpinBox, name);
-    s->setFixedWidth(22);
-    s->setButtonSymbols(QAbstractSpinBox::UpDownArrows);
-    s->setRange(min, max);
-    return s;
-}
-
-QLineEdit* numberBox(const QString& name)
-{
-    auto* box = named(new QLineEdit("0"), name);
-    box->setFixedWidth(44);
-    box->setAlignment(Qt::AlignRight);
-    return box;
-}
-
-// A text box with its spinner, side by side.
-QHBoxLayout* boxWithSpinner(QLineEdit* box, QSpinBox* spinner)
-{
-    auto* row = new QHBoxLayout;
-    row->setSpacing(0);
-    row->addWidget(box);
-    row->addWidget(spinner);
-    return row;
+    auto* e = new NumberEntry("Text" + name, "UpDown" + name);
+    box = e->text;
+    spinner = e->upDown;
+    spinner->setRange(min, max);
+    return e;
 }
 } // namespace
 
@@ -58,20 +41,20 @@ EventPage::EventPage(Session& s, std::function<void(JobName job)> start, Guard* 
       guard(sharedGuard ? *sharedGuard : *ownGuard), bindings(guard, [this] { refresh(); })
 {
     setObjectName("PageEventControl");
-    auto* layout = new QVBoxLayout(this);
+    auto* layout = new QVBoxLayout(scrolledContent(this));
 
     // One pin's entries and the enable maps, in one table whose columns are the inputs.
     auto* frame = named(new QGroupBox("Event Control"), "FrameEC");
     auto* frameLayout = new QVBoxLayout(frame);
 
     auto* pinRow = new QHBoxLayout;
-    TextECpin = numberBox("TextECpin");
-    UpDownECpin = upDown("UpDownECpin", 0, kPinCount - 1);
-    CommandECReadSingle = named(new QPushButton("Read"), "CommandECReadSingle");
-    CommandECWriteSingle = named(new QPushButton("Write"), "CommandECWriteSingle");
-    CommandECcopy = named(new QPushButton("Copy to All"), "CommandECcopy");
-    pinRow->addWidget(new QLabel("Pin"));
-    pinRow->addLayout(boxWithSpinner(TextECpin, UpDownECpin));
+    NumberEntry* pin = entry("ECpin", 0, kPinCount - 1, TextECpin, UpDownECpin);
+    CommandECReadSingle = named(new QPushButton("Re&ad"), "CommandECReadSingle");
+    CommandECWriteSingle = named(new QPushButton("Wri&te"), "CommandECWriteSingle");
+    CommandECcopy = named(new QPushButton("&Copy to All"), "CommandECcopy");
+    pinRow->addWidget(captionFor("Pin", TextECpin));
+    UpDownECpin->setAccessibleName("Pin");
+    pinRow->addWidget(pin);
     pinRow->addSpacing(16);
     pinRow->addWidget(CommandECReadSingle);
     pinRow->addWidget(CommandECWriteSingle);
@@ -90,34 +73,58 @@ EventPage::EventPage(Session& s, std::function<void(JobName job)> start, Guard* 
     LabelEC = named(new QLabel("OFF:"), "LabelEC");
     table->addWidget(LabelEC, 2, 0);
     for (int i = 0; i < kEventSlots; ++i) {
-        TextECon[i] = numberBox(QString("TextECon_%1").arg(i));
-        UpDownECon[i] = upDown(QString("UpDownECon_%1").arg(i), kEventActionMin, kEventActionMax);
-        table->addLayout(boxWithSpinner(TextECon[i], UpDownECon[i]), 1, 1 + i);
-        TextECoff[i] = numberBox(QString("TextECoff_%1").arg(i));
-        UpDownECoff[i] = upDown(QString("UpDownECoff_%1").arg(i), kEventActionMin, kEventActionMax);
-        table->addLayout(boxWithSpinner(TextECoff[i], UpDownECoff[i]), 2, 1 + i);
+        table->addWidget(
+            entry(QString("ECon_%1").arg(i), kEventActionMin, kEventActionMax, TextECon[i], UpDownECon[i]), 1,
+            1 + i);
+        table->addWidget(
+            entry(QString("ECoff_%1").arg(i), kEventActionMin, kEventActionMax, TextECoff[i], UpDownECoff[i]),
+            2, 1 + i);
+        // Named after the row and the column's input: "Event-On input 2".
+        for (QWidget* w : {static_cast<QWidget*>(TextECon[i]), static_cast<QWidget*>(UpDownECon[i])})
+            w->setAccessibleName(QString("Event-On input %1").arg(i + 1));
+        for (QWidget* w : {static_cast<QWidget*>(TextECoff[i]), static_cast<QWidget*>(UpDownECoff[i])})
+            w->setAccessibleName(QString("Event-Off input %1").arg(i + 1));
     }
     table->setRowMinimumHeight(3, 10);
     table->addWidget(new QLabel("InitialEvent_ON Enable"), 4, 0);
     table->addWidget(new QLabel("Initial Event_OFF Enable"), 5, 0);
     for (int i = 0; i < 8; ++i) {
         CheckInitEE[i] = named(new QCheckBox, QString("CheckInitEE_%1").arg(i));
+        CheckInitEE[i]->setAccessibleName(
+            QString("%1 input %2")
+                .arg(i < 4 ? "InitialEvent_ON Enable" : "Initial Event_OFF Enable")
+                .arg(i % 4 + 1));
         table->addWidget(CheckInitEE[i], 4 + i / 4, 1 + i % 4);
     }
-    CommandECInitRead = named(new QPushButton("Read Enable Map"), "CommandECInitRead");
-    CommandECInitWrite = named(new QPushButton("Write Enable Map"), "CommandECInitWrite");
+    CommandECInitRead = named(new QPushButton("Rea&d Enable Map"), "CommandECInitRead");
+    CommandECInitWrite = named(new QPushButton("Write Ena&ble Map"), "CommandECInitWrite");
     table->addWidget(CommandECInitRead, 4, 5);
     table->addWidget(CommandECInitWrite, 5, 5);
     table->setColumnStretch(6, 1);
     frameLayout->addLayout(table);
+    // Tab reads the table row by row: the ON entries, the OFF entries, then each enable row
+    // with its button.
+    QWidget* previous = CommandECcopy;
+    const auto next = [&previous](QWidget* w) {
+        QWidget::setTabOrder(previous, w);
+        previous = w;
+    };
+    for (auto* row : {&TextECon, &TextECoff})
+        for (QLineEdit* box : *row)
+            next(box);
+    for (int i = 0; i < 8; ++i) {
+        next(CheckInitEE[i]);
+        if (i % 4 == 3)
+            next(i < 4 ? CommandECInitRead : CommandECInitWrite);
+    }
     layout->addWidget(frame);
 
     // The event control of every pin, as jobs.
     auto* all = named(new QGroupBox("All Pins"), "FrameECAll");
     auto* allRow = new QHBoxLayout(all);
-    CommandECRead = named(new QPushButton("Read All Events"), "CommandECRead");
-    CommandECWrite = named(new QPushButton("Write All Events"), "CommandECWrite");
-    CommandECVerify = named(new QPushButton("Verify Event Control"), "CommandECVerify");
+    CommandECRead = named(new QPushButton("&Read All Events"), "CommandECRead");
+    CommandECWrite = named(new QPushButton("&Write All Events"), "CommandECWrite");
+    CommandECVerify = named(new QPushButton("Ver&ify Event Control"), "CommandECVerify");
     allRow->addWidget(CommandECRead);
     allRow->addWidget(CommandECWrite);
     allRow->addWidget(CommandECVerify);

@@ -5,6 +5,7 @@
 #include "forms/AspectEditor.h"
 #include "ops/GeneralCommands.h"
 #include "shell/Bindings.h"
+#include "shell/Widgets.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -90,7 +91,7 @@ GeneralPage::GeneralPage(Session& s, Guard* sharedGuard, QWidget* parent)
 
     // Three columns: the module and DCC, the addressing and the serial port, the
     // output drivers and the LEDs.
-    auto* columns = new QHBoxLayout(this);
+    auto* columns = new QHBoxLayout(scrolledContent(this));
     const auto column = [columns](std::initializer_list<QWidget*> frames) {
         auto* c = new QVBoxLayout;
         for (QWidget* f : frames)
@@ -128,18 +129,18 @@ QGroupBox* GeneralPage::buildIdentity()
 {
     auto* frame = named(new QGroupBox("Module"), "FrameGenID");
     auto* grid = new QGridLayout(frame);
-    CommandGenVersion = button("Request Version", "CommandGenVersion");
+    CommandGenVersion = button("Re&quest Version", "CommandGenVersion");
     LabelGenVersionString = named(new QLabel("Unknown"), "LabelGenVersionString");
     LabelGenVersionString->setMinimumWidth(90);
     TextGenIDString = named(new QLineEdit, "TextGenIDString");
     TextGenIDString->setToolTip("At most 12 characters, letters, digits and signs without accents");
-    CommandGenIDRead = button("Read", "CommandGenIDRead");
-    CommandGenIDWrite = button("Write", "CommandGenIDWrite");
+    CommandGenIDRead = button("&Read", "CommandGenIDRead");
+    CommandGenIDWrite = button("&Write", "CommandGenIDWrite");
 
     TextGenIDString->setMinimumWidth(140);
     grid->addWidget(CommandGenVersion, 0, 0);
     grid->addWidget(LabelGenVersionString, 0, 1);
-    grid->addWidget(new QLabel("ID String"), 1, 0);
+    grid->addWidget(captionFor("ID String", TextGenIDString), 1, 0);
     grid->addWidget(TextGenIDString, 1, 1);
     grid->addLayout(buttonRow(CommandGenIDRead, CommandGenIDWrite), 2, 0, 1, 2);
     grid->setColumnStretch(1, 1);
@@ -152,9 +153,9 @@ QGroupBox* GeneralPage::buildDcc()
     auto* grid = new QGridLayout(frame);
     TextGenDCCAddress = numberBox("TextGenDCCAddress", 60);
     TextGenXDCCAddress = numberBox("TextGenXDCCAddress", 60);
-    grid->addWidget(new QLabel("DCC Address"), 0, 0);
+    grid->addWidget(captionFor("DCC Address", TextGenDCCAddress), 0, 0);
     grid->addWidget(TextGenDCCAddress, 0, 1);
-    grid->addWidget(new QLabel("eXtended DCC Address"), 1, 0);
+    grid->addWidget(captionFor("eXtended DCC Address", TextGenXDCCAddress), 1, 0);
     grid->addWidget(TextGenXDCCAddress, 1, 1);
 
     auto* period = named(new QGroupBox("Packet Repeat Period"), "FrameGenDCC_PRP");
@@ -173,8 +174,8 @@ QGroupBox* GeneralPage::buildDcc()
     grid->addWidget(ChkGenDCC_BPSI, 3, 0, 1, 2);
     grid->addWidget(ChkGenDCCAllow0, 4, 0, 1, 2);
 
-    CommandGenDCCRead = button("Read", "CommandGenDCCRead");
-    CommandGenDCCWrite = button("Write", "CommandGenDCCWrite");
+    CommandGenDCCRead = button("Rea&d", "CommandGenDCCRead");
+    CommandGenDCCWrite = button("Wr&ite", "CommandGenDCCWrite");
     grid->addLayout(buttonRow(CommandGenDCCRead, CommandGenDCCWrite), 5, 0, 1, 3);
     grid->setColumnStretch(2, 1);
     return frame;
@@ -187,11 +188,13 @@ QGroupBox* GeneralPage::buildAddressing()
     CheckGenKestrelNative = named(new QCheckBox("Enable Native Kestrel Mode"), "CheckGenKestrelNative");
     CheckGenLynxaddr = named(new QCheckBox("Enable Lynx Flex-Addresss"), "CheckGenLynxaddr");
     LabelGenXA_4 = named(new QLabel("Flex-Address"), "LabelGenXA_4");
-    TextGenLynxaddr = numberBox("TextGenLynxaddr", 50);
+    auto* flexAddress = new NumberEntry("TextGenLynxaddr", "UpDownGenLynxaddr");
+    TextGenLynxaddr = flexAddress->text;
     TextGenLynxaddr->setToolTip("The first Lynx address of the module; addresses come in groups of 4");
-    UpDownGenLynxaddr = named(new QSpinBox, "UpDownGenLynxaddr");
-    UpDownGenLynxaddr->setFixedWidth(22);
+    UpDownGenLynxaddr = flexAddress->upDown;
     UpDownGenLynxaddr->setSingleStep(4);
+    nameAfter(LabelGenXA_4, TextGenLynxaddr);
+    UpDownGenLynxaddr->setAccessibleName(TextGenLynxaddr->accessibleName());
     for (QWidget* w : {static_cast<QWidget*>(CheckGenKestrelNative), static_cast<QWidget*>(CheckGenLynxaddr),
                        static_cast<QWidget*>(LabelGenXA_4), static_cast<QWidget*>(TextGenLynxaddr),
                        static_cast<QWidget*>(UpDownGenLynxaddr)})
@@ -205,23 +208,23 @@ QGroupBox* GeneralPage::buildAddressing()
     flexRow->addStretch();
     flexRow->addWidget(LabelGenXA_4);
     flexRow->addSpacing(6);
-    flexRow->addWidget(TextGenLynxaddr);
-    flexRow->addWidget(UpDownGenLynxaddr);
+    flexRow->addWidget(flexAddress);
     grid->addLayout(flexRow, 1, 0, 1, 3);
     TextGenXaddr = numberBox("TextGenXaddr", 50);
-    grid->addWidget(new QLabel("eXtended Address"), 2, 0);
+    grid->addWidget(captionFor("eXtended Address", TextGenXaddr), 2, 0);
     grid->addWidget(TextGenXaddr, 2, 1, Qt::AlignLeft);
 
     auto* mask = named(new QGroupBox("eXtended Group Mask"), "FrameGenXGM");
     auto* maskGrid = new QGridLayout(mask);
     for (int i = 0; i < 16; ++i) {
         CheckGenXGM[i] = named(new QCheckBox(QString::number(i)), indexed("CheckGenXGM", i));
+        CheckGenXGM[i]->setAccessibleName(QString("Group mask %1").arg(i));
         maskGrid->addWidget(CheckGenXGM[i], i / 4, i % 4);
     }
     grid->addWidget(mask, 3, 0, 1, 3);
 
-    CommandGenAddrRead = button("Read", "CommandGenAddrRead");
-    CommandGenAddrWrite = button("Write", "CommandGenAddrWrite");
+    CommandGenAddrRead = button("Re&ad", "CommandGenAddrRead");
+    CommandGenAddrWrite = button("Wri&te", "CommandGenAddrWrite");
     grid->addLayout(buttonRow(CommandGenAddrRead, CommandGenAddrWrite), 4, 0, 1, 3);
     grid->setColumnStretch(2, 1);
     return frame;
@@ -241,9 +244,12 @@ QGroupBox* GeneralPage::buildHardware()
     }
     placeHardwareBoxes();
     column->addWidget(hardwareArea);
+    // Tab reads the rows: the sink drivers, then the source drivers.
+    tabOrder({ChkGenHWCSink[0], ChkGenHWCSink[1], ChkGenHWCSink[2], ChkGenHWCSink[3], ChkGenHWCSource[0],
+              ChkGenHWCSource[1], ChkGenHWCSource[2], ChkGenHWCSource[3]});
 
-    CommandGenHWCRead = button("Read Config", "CommandGenHWCRead");
-    CommandGenHWCWrite = button("Write Config", "CommandGenHWCWrite");
+    CommandGenHWCRead = button("Read &Config", "CommandGenHWCRead");
+    CommandGenHWCWrite = button("Write C&onfig", "CommandGenHWCWrite");
     column->addLayout(buttonRow(CommandGenHWCRead, CommandGenHWCWrite));
     return frame;
 }
@@ -275,6 +281,10 @@ void GeneralPage::placeHardwareBoxes()
         driverCaptions[r]->setGeometry(0, y, captionWidth + 4, rowHeight);
         for (int g = 0; g < 4; ++g) {
             QCheckBox* b = r == 0 ? ChkGenHWCSink[g] : ChkGenHWCSource[g];
+            // Named after its row and column: "Sink driver pins 8..15".
+            b->setAccessibleName(QString("%1 pins %2")
+                                     .arg(r == 0 ? "Sink driver" : "Source driver")
+                                     .arg(g + 1 < words.size() ? words[g + 1] : QString::number(g)));
             b->setGeometry(shift + middles[g] - box.width() / 2, y + (rowHeight - box.height()) / 2,
                            box.width(), box.height());
         }
@@ -301,8 +311,8 @@ QGroupBox* GeneralPage::buildLeds()
         grid->addWidget(CheckLCGreen[i], i + 1, 0);
         grid->addWidget(CheckLCOrange[i], i + 1, 1);
     }
-    CommandLCRead = button("Read Settings", "CommandLCRead");
-    CommandLCWrite = button("Write Settings", "CommandLCWrite");
+    CommandLCRead = button("Read &Settings", "CommandLCRead");
+    CommandLCWrite = button("Write Setti&ngs", "CommandLCWrite");
     grid->addLayout(buttonRow(CommandLCRead, CommandLCWrite), 9, 0, 1, 2);
     return frame;
 }
@@ -316,7 +326,7 @@ QGroupBox* GeneralPage::buildSerialPort()
     for (const char* rate : kGenBaudList)
         ComboGenBaud->addItem(rate);
     grid->addWidget(CheckGenSerialEnable, 0, 0);
-    grid->addWidget(new QLabel("Baud"), 0, 1, Qt::AlignRight);
+    grid->addWidget(captionFor("Baud", ComboGenBaud), 0, 1, Qt::AlignRight);
     grid->addWidget(ComboGenBaud, 0, 2);
 
     auto optionFrame = [](const char* title, const char* frameName) {
@@ -356,8 +366,8 @@ QGroupBox* GeneralPage::buildSerialPort()
     options->addWidget(parity);
     grid->addLayout(options, 1, 0, 1, 4);
 
-    CommandGenSerialRead = button("Read Settings", "CommandGenSerialRead");
-    CommandGenSerialWrite = button("Write Settings", "CommandGenSerialWrite");
+    CommandGenSerialRead = button("Read Settin&gs", "CommandGenSerialRead");
+    CommandGenSerialWrite = button("Write &Settings", "CommandGenSerialWrite");
     grid->addLayout(buttonRow(CommandGenSerialRead, CommandGenSerialWrite), 2, 0, 1, 4);
     grid->setColumnStretch(3, 1);
     return frame;
@@ -367,7 +377,7 @@ QGroupBox* GeneralPage::buildErase()
 {
     auto* frame = named(new QGroupBox("Configuration Memory"), "FrameGenErase");
     auto* row = new QHBoxLayout(frame);
-    CommandGenEraseFlash = button("Erase Flash", "CommandGenEraseFlash");
+    CommandGenEraseFlash = button("Erase F&lash", "CommandGenEraseFlash");
     CommandGenEraseFlash->setToolTip("Erases the whole configuration of the module (takes up to 45 seconds)");
     row->addWidget(CommandGenEraseFlash);
     row->addStretch();

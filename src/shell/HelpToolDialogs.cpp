@@ -1,6 +1,7 @@
 #include "shell/HelpToolDialogs.h"
 
 #include "shell/Bindings.h"
+#include "shell/Widgets.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -51,8 +52,7 @@ QLineEdit* readOnlyBox(const QString& name)
 QLabel* labelFor(const QString& caption, const QString& name, QWidget* input)
 {
     auto* label = named(new QLabel(caption), name);
-    label->setBuddy(input);
-    input->setAccessibleName(QString(caption).remove('&'));
+    nameAfter(label, input);
     return label;
 }
 
@@ -81,10 +81,11 @@ void setTextIfChanged(QLineEdit* box, const std::string& text)
 
 TimeToolDialog::TimeToolDialog(QWidget* parent) : ToolDialog("dlgCT", "KestrelConfig CalcTime", parent)
 {
-    TextCTBase = numberBox("TextCTBase", 2);
-    UpDownCTBase = named(new QSpinBox, "UpDownCTBase");
+    auto* base = new NumberEntry("TextCTBase", "UpDownCTBase", 2);
+    TextCTBase = base->text;
+    TextCTBase->setValidator(new QRegularExpressionValidator(QRegularExpression("[0-9]{0,2}"), TextCTBase));
+    UpDownCTBase = base->upDown;
     UpDownCTBase->setRange(0, 3);
-    UpDownCTBase->setFixedWidth(22);
     SliderCTTime = named(new QSlider(Qt::Horizontal), "SliderCTTime");
     SliderCTTime->setRange(0, TimeTool::kSliderMaximum);
     SliderCTTime->setPageStep(8);
@@ -103,8 +104,7 @@ TimeToolDialog::TimeToolDialog(QWidget* parent) : ToolDialog("dlgCT", "KestrelCo
     baseRow->setSpacing(0);
     baseRow->addWidget(LabelCTBase);
     baseRow->addSpacing(8);
-    baseRow->addWidget(TextCTBase);
-    baseRow->addWidget(UpDownCTBase);
+    baseRow->addWidget(base);
     baseRow->addStretch();
     layout->addLayout(baseRow);
     layout->addWidget(SliderCTTime);

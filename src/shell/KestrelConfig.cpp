@@ -19,6 +19,7 @@
 #include "shell/QtProgress.h"
 #include "shell/QtSerialPort.h"
 #include "shell/TrafficMonitor.h"
+#include "shell/Widgets.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -95,14 +96,6 @@ GeneralSettings filed(GeneralSettings g)
     return g;
 }
 
-// An up-down control beside its text box: only the arrows show.
-QSpinBox* upDown(const QString& name)
-{
-    auto* s = named(new QSpinBox, name);
-    s->setFixedWidth(22);
-    s->setButtonSymbols(QAbstractSpinBox::UpDownArrows);
-    return s;
-}
 } // namespace
 
 KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindow(parent), boxes(this)
@@ -120,22 +113,22 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     layout->addWidget(linkFrame);
 
     auto* bulk = new QHBoxLayout;
-    CommandReadAll = named(new QPushButton("Read All"), "CommandReadAll");
-    CommandWriteAll = named(new QPushButton("Write All"), "CommandWriteAll");
-    CommandVerifyAll = named(new QPushButton("Verify All"), "CommandVerifyAll");
+    CommandReadAll = named(new QPushButton("Read A&ll"), "CommandReadAll");
+    CommandWriteAll = named(new QPushButton("&Write All"), "CommandWriteAll");
+    CommandVerifyAll = named(new QPushButton("Verif&y All"), "CommandVerifyAll");
     CheckWritePinConfig = named(new QCheckBox("Write pin configurations too"), "CheckWritePinConfig");
     CheckWritePinConfig->setToolTip("Also writes each pin's servo, PWM or input parameters to flash");
-    CommandSave = named(new QPushButton("Save File"), "CommandSave");
+    CommandSave = named(new QPushButton("&Save File"), "CommandSave");
     CommandSave->setToolTip("Shift+Save File to save compact");
     CommandSave->installEventFilter(this);
-    CommandLoad = named(new QPushButton("Load File"), "CommandLoad");
-    CommandReadAllPins = named(new QPushButton("Read All Pins"), "CommandReadAllPins");
+    CommandLoad = named(new QPushButton("L&oad File"), "CommandLoad");
+    CommandReadAllPins = named(new QPushButton("Read All &Pins"), "CommandReadAllPins");
     CommandReadAllPins->setToolTip(
         "Reads the 32 pins from the module, without the general settings and events");
-    CommandWriteAllPins = named(new QPushButton("Write All Pins"), "CommandWriteAllPins");
+    CommandWriteAllPins = named(new QPushButton("Write All Pi&ns"), "CommandWriteAllPins");
     CommandWriteAllPins->setToolTip(
         "Writes the 32 pins to the module, without the general settings and events");
-    CommandVerifyAllPins = named(new QPushButton("Verify All Pins"), "CommandVerifyAllPins");
+    CommandVerifyAllPins = named(new QPushButton("Ver&ify All Pins"), "CommandVerifyAllPins");
     CommandVerifyAllPins->setToolTip("Compares the 32 pins of the module with the configuration");
     for (QWidget* w : std::initializer_list<QWidget*>{
              CommandReadAll, CommandWriteAll, CommandVerifyAll, CommandReadAllPins, CommandWriteAllPins,
@@ -644,6 +637,7 @@ void KestrelConfig::ensureVerificationWindow()
     auto* l = new QVBoxLayout(frmKestrelVerification);
     txtVerification = named(new QPlainTextEdit, "txtVerification");
     txtVerification->setReadOnly(true);
+    txtVerification->setAccessibleName("Verification report");
     l->addWidget(txtVerification);
     frmKestrelVerification->resize(560, 420);
 }
@@ -657,8 +651,9 @@ void KestrelConfig::ensureCorvidWindow()
     auto* l = new QVBoxLayout(frmCorvidComm);
     txtCorvidCommunication = named(new QPlainTextEdit, "txtCorvidCommunication");
     txtCorvidCommunication->setReadOnly(true);
+    txtCorvidCommunication->setAccessibleName("Corvid communication");
     txtCorvidCommunication->setFont(QFont("monospace"));
-    cmdClear = named(new QPushButton("Clear"), "cmdClear");
+    cmdClear = named(new QPushButton("&Clear"), "cmdClear");
     l->addWidget(txtCorvidCommunication);
     l->addWidget(cmdClear);
     connect(cmdClear, &QPushButton::clicked, this, [this] {
@@ -752,7 +747,9 @@ void KestrelConfig::buildLinkArea(QWidget* host)
     ComboPort->setEditable(true); // a typed device path is accepted too
     ComboPort->setMinimumWidth(160);
     ComboPort->setInsertPolicy(QComboBox::NoInsert);
-    cmdRefreshComm = named(new QPushButton("Refresh"), "cmdRefreshComm");
+    cmdRefreshComm = named(new QPushButton("&Refresh"), "cmdRefreshComm");
+    nameAfter(LabelPort, ComboPort);
+    ComboPort->lineEdit()->setAccessibleName("Port");
     grid->addWidget(LabelPort, 0, 0);
     grid->addWidget(ComboPort, 0, 1);
     grid->addWidget(cmdRefreshComm, 0, 2);
@@ -769,34 +766,30 @@ void KestrelConfig::buildLinkArea(QWidget* host)
     grid->addWidget(FrameBitrate, 1, 0, 1, 3);
 
     LabelAddress = named(new QLabel("Module Address"), "LabelAddress");
-    TextAddress = named(new QLineEdit("0"), "TextAddress");
-    TextAddress->setMaximumWidth(50);
+    auto* address = new NumberEntry("TextAddress", "UpDownAddress");
+    TextAddress = address->text;
+    UpDownAddress = address->upDown;
     numericInput(TextAddress, 3);
-    UpDownAddress = upDown("UpDownAddress");
-    auto* addrRow = new QHBoxLayout;
-    addrRow->addWidget(TextAddress);
-    addrRow->addWidget(UpDownAddress);
-    addrRow->addStretch();
+    nameAfter(LabelAddress, TextAddress);
     grid->addWidget(LabelAddress, 0, 3);
-    grid->addLayout(addrRow, 0, 4);
+    grid->addWidget(address, 0, 4, Qt::AlignLeft);
 
     CheckXaddress = named(new QCheckBox("Use eXtended Addr"), "CheckXaddress");
     LabelXaddress = named(new QLabel("eXtended address"), "LabelXaddress");
-    txtXaddr = named(new QLineEdit("0"), "txtXaddr");
-    txtXaddr->setMaximumWidth(50);
+    auto* xAddress = new NumberEntry("txtXaddr", "UpDownXaddr");
+    txtXaddr = xAddress->text;
+    UpDownXaddr = xAddress->upDown;
     numericInput(txtXaddr, 3);
-    UpDownXaddr = upDown("UpDownXaddr");
-    auto* xRow = new QHBoxLayout;
-    xRow->addWidget(txtXaddr);
-    xRow->addWidget(UpDownXaddr);
-    xRow->addStretch();
+    nameAfter(LabelXaddress, txtXaddr);
+    UpDownXaddr->setAccessibleName(txtXaddr->accessibleName());
     grid->addWidget(CheckXaddress, 1, 3);
     grid->addWidget(LabelXaddress, 2, 3);
-    grid->addLayout(xRow, 2, 4);
+    grid->addWidget(xAddress, 2, 4, Qt::AlignLeft);
+    grid->setColumnStretch(4, 1); // room to spare goes beside the addresses
 
     CheckKestrelBD = named(new QCheckBox("Bidirectional Comm."), "CheckKestrelBD");
     CheckCorvid = named(new QCheckBox("Use Corvid Tunneling"), "CheckCorvid");
-    cmdSetTM = named(new QPushButton("Activate Transparent Mode"), "cmdSetTM");
+    cmdSetTM = named(new QPushButton("A&ctivate Transparent Mode"), "cmdSetTM");
     cmdSetTM->setToolTip("Switch Hub-A or Linkbox in Transparant Mode for Kestrel Configuration");
     grid->addWidget(cmdSetTM, 3, 5);
     CheckKLnumber = named(new QCheckBox("Start numbering at 1"), "CheckKLnumber");
@@ -806,8 +799,12 @@ void KestrelConfig::buildLinkArea(QWidget* host)
 
     TextResponse = named(new QLineEdit, "TextResponse");
     TextResponse->setReadOnly(true);
-    grid->addWidget(new QLabel("Response:"), 3, 0);
+    grid->addWidget(captionFor("Response:", TextResponse), 3, 0);
     grid->addWidget(TextResponse, 3, 1, 1, 4);
+
+    // Tab reads the grid row by row.
+    tabOrder({ComboPort, cmdRefreshComm, TextAddress, CheckKestrelBD, OptionBitRate[0], OptionBitRate[1],
+              OptionBitRate[2], CheckXaddress, CheckCorvid, txtXaddr, CheckKLnumber, TextResponse, cmdSetTM});
 
     connect(ComboPort, &QComboBox::activated, this, [this](int) { ComboPort_Click(); });
     connect(ComboPort->lineEdit(), &QLineEdit::returnPressed, this, &KestrelConfig::ComboPort_Click);
@@ -859,6 +856,8 @@ void KestrelConfig::refreshLinkDisplays()
     txtXaddr->setText(QString::fromStdString(lc.xAddressText()));
     CheckXaddress->setChecked(s.CheckXaddress);
     LabelAddress->setText(QString::fromStdString(lc.addressLabel()));
+    nameAfter(LabelAddress, TextAddress); // the caption names the address of the route in use
+    UpDownAddress->setAccessibleName(TextAddress->accessibleName());
     LabelXaddress->setVisible(s.CheckXaddress);
     txtXaddr->setVisible(s.CheckXaddress);
     UpDownXaddr->setVisible(s.CheckXaddress);

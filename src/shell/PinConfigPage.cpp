@@ -5,6 +5,7 @@
 #include "forms/PinConfigView.h"
 #include "ops/LiveOutput.h"
 #include "ops/PinConfigTransfer.h"
+#include "shell/Widgets.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -15,9 +16,11 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QSpinBox>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -66,7 +69,7 @@ int pageOfField(PinField field)
 // A caption and its box in the next row of a two-column grid.
 void addField(QGridLayout* grid, int row, int column, const char* caption, QLineEdit* box)
 {
-    grid->addWidget(new QLabel(caption), row, column * 3);
+    grid->addWidget(captionFor(caption, box), row, column * 3);
     grid->addWidget(box, row, column * 3 + 1);
 }
 
@@ -84,7 +87,8 @@ QGroupBox* liveFrame(const char* title, const QString& frameName, const char* ca
 {
     auto* frame = named(new QGroupBox(title), frameName);
     auto* grid = new QGridLayout(frame);
-    grid->addWidget(new QLabel(caption), 0, 0);
+    grid->addWidget(captionFor(caption, box), 0, 0);
+    slider->setAccessibleName(spoken(caption));
     grid->addWidget(box, 0, 1);
     grid->addWidget(slider, 0, 2);
     auto* buttons = new QHBoxLayout;
@@ -103,19 +107,17 @@ PinConfigPage::PinConfigPage(Session& s, Guard* sharedGuard, QWidget* parent)
       guard(sharedGuard ? *sharedGuard : *ownGuard)
 {
     setObjectName("PagePinConfig");
-    auto* layout = new QVBoxLayout(this);
+    auto* layout = new QVBoxLayout(scrolledContent(this));
 
     auto* pinRow = new QHBoxLayout;
-    TextPCFGPin = named(new QLineEdit("0"), "TextPCFGPin");
-    TextPCFGPin->setFixedWidth(44);
-    TextPCFGPin->setAlignment(Qt::AlignRight);
-    UpDownPCFGPin = named(new QSpinBox, "UpDownPCFGPin");
-    UpDownPCFGPin->setFixedWidth(22);
+    auto* pinEntry = new NumberEntry("TextPCFGPin", "UpDownPCFGPin");
+    TextPCFGPin = pinEntry->text;
+    UpDownPCFGPin = pinEntry->upDown;
     UpDownPCFGPin->setRange(0, kPinCount - 1);
     pinRow->setSpacing(0);
-    pinRow->addWidget(new QLabel("Pin "));
-    pinRow->addWidget(TextPCFGPin);
-    pinRow->addWidget(UpDownPCFGPin);
+    pinRow->addWidget(captionFor("Pin ", TextPCFGPin));
+    UpDownPCFGPin->setAccessibleName("Pin");
+    pinRow->addWidget(pinEntry);
     pinRow->addStretch();
     layout->addLayout(pinRow);
 
@@ -140,8 +142,8 @@ PinConfigPage::PinConfigPage(Session& s, Guard* sharedGuard, QWidget* parent)
 
     auto* transfer = named(new QGroupBox("Pin Configuration"), "FramePCFGTransfer");
     auto* row = new QHBoxLayout(transfer);
-    const char* getCaptions[2] = {"Get Pin Config", "Read Pin Config"};
-    const char* setCaptions[2] = {"Set Pin Config", "Write Pin Config"};
+    const char* getCaptions[2] = {"&Get Pin Config", "Re&ad Pin Config"};
+    const char* setCaptions[2] = {"Set &Pin Config", "&Write Pin Config"};
     const char* getTips[2] = {"Gets the active parameters", "Reads the parameters from Flash memory"};
     const char* setTips[2] = {"Sets Active Servo parameters (not permanent)",
                               "Writes Servo Parameters to Flash memory"};
@@ -198,10 +200,10 @@ QWidget* PinConfigPage::buildServoPage()
     SliderServo = named(new QSlider(Qt::Horizontal), "SliderServo");
     SliderServo->setRange(-64, 63);
     SliderServo->setTracking(false); // sends when let go, not for every step of a drag
-    CommandSrvLevel = named(new QPushButton("Set Position"), "CommandSrvLevel");
+    CommandSrvLevel = named(new QPushButton("Se&t Position"), "CommandSrvLevel");
     CheckSrvDynamic = named(new QCheckBox("Dynamic"), "CheckSrvDynamic");
     CheckSrvDynamic->setToolTip(kDynamicTip);
-    CommandStopSrv = named(new QPushButton("Jump"), "CommandStopSrv");
+    CommandStopSrv = named(new QPushButton("&Jump"), "CommandStopSrv");
     CommandStopSrv->setToolTip("Jump to target position immediately, override dynamic parameters");
     layout->addWidget(liveFrame("Servo Position", "FrameSrvLive", "Position", TextPosition, SliderServo,
                                 CommandSrvLevel, CheckSrvDynamic, CommandStopSrv),
@@ -240,6 +242,7 @@ QWidget* PinConfigPage::buildServoPage()
     for (int i = 0; i < 5; ++i) {
         OptionServoRange[i] =
             named(new QRadioButton(QString::number(i)), QString("OptionServoRange_%1").arg(i));
+        OptionServoRange[i]->setAccessibleName(QString("Range %1").arg(i));
         rangeGroup->addButton(OptionServoRange[i], i);
         ranges->addWidget(OptionServoRange[i]);
     }
@@ -295,10 +298,10 @@ QWidget* PinConfigPage::buildPwmPage()
     SliderPWM = named(new QSlider(Qt::Horizontal), "SliderPWM");
     SliderPWM->setRange(0, 31);
     SliderPWM->setTracking(false);
-    CommandPWMLevel = named(new QPushButton("Set Level"), "CommandPWMLevel");
+    CommandPWMLevel = named(new QPushButton("&Set Level"), "CommandPWMLevel");
     CheckPWMSlow = named(new QCheckBox("Slow"), "CheckPWMSlow");
     CheckPWMSlow->setToolTip(kDynamicTip);
-    CommandPWMJump = named(new QPushButton("Jump"), "CommandPWMJump");
+    CommandPWMJump = named(new QPushButton("J&ump"), "CommandPWMJump");
     CommandPWMJump->setToolTip("Jump to the level immediately, without the slow change");
     auto* left = new QVBoxLayout;
     left->addWidget(CheckPWMInverted);
@@ -318,6 +321,8 @@ QWidget* PinConfigPage::buildPwmPage()
             named(new QRadioButton(modeCaptions[i]), QString("OptionPWMDriveMode_%1").arg(i));
         OptionPWMAccelMode[i] =
             named(new QRadioButton(modeCaptions[i]), QString("OptionPWMAccelMode_%1").arg(i));
+        OptionPWMDriveMode[i]->setAccessibleName(QString("%1 drive mode").arg(modeCaptions[i]));
+        OptionPWMAccelMode[i]->setAccessibleName(QString("%1 acceleration mode").arg(modeCaptions[i]));
         driveGroup->addButton(OptionPWMDriveMode[i], i);
         accelGroup->addButton(OptionPWMAccelMode[i], i);
         driveLayout->addWidget(OptionPWMDriveMode[i]);
@@ -461,7 +466,9 @@ std::vector<std::unique_ptr<QSignalBlocker>> PinConfigPage::blockAll()
 {
     std::vector<std::unique_ptr<QSignalBlocker>> blocked;
     for (QObject* o : findChildren<QObject*>())
-        blocked.push_back(std::make_unique<QSignalBlocker>(o));
+        if (!qobject_cast<QTabBar*>(o) &&
+            !qobject_cast<QScrollBar*>(o)) // a tab shows its page, a scroll bar its view
+            blocked.push_back(std::make_unique<QSignalBlocker>(o));
     return blocked;
 }
 

@@ -28,12 +28,13 @@ TEST(PinConfigPage, TheServoIsReadAndClampedEditsAreWrittenToFlashAndReadBack)
     // 1/mass 60, damping 40, max speed 20, max acceleration 10, no bounce; its group 1 has
     // no driver set: no warning.
     const PinConfigPage& pg = *rig.page;
-    EXPECT_EQ(std::tuple(pg.SSTabPCFG->currentIndex(), pg.TextSrvInitPos->text(),
-                         pg.OptionServoRange[1]->isChecked(), pg.ChkSrvAutoSuspend->isChecked(),
-                         pg.ChkSrvSuspended->isChecked(), pg.TextMidpoint->text(), pg.TextSrvAntiMass->text(),
-                         pg.TextSrvFriction->text(), pg.TextSrvMaxSpd->text(), pg.TextSrvMaxAccel->text(),
-                         pg.TextBounceDown->text(), pg.TextBounceUp->text(), pg.LabelSrvHWCWarn->isHidden()),
-              std::tuple(1, "-25", true, true, false, "0", "60", "40", "20", "10", "0", "0", true));
+    EXPECT_EQ(std::tuple(pg.SSTabPCFG->currentIndex(), pg.TextSrvInitPos->isVisible(),
+                         pg.TextSrvInitPos->text(), pg.OptionServoRange[1]->isChecked(),
+                         pg.ChkSrvAutoSuspend->isChecked(), pg.ChkSrvSuspended->isChecked(),
+                         pg.TextMidpoint->text(), pg.TextSrvAntiMass->text(), pg.TextSrvFriction->text(),
+                         pg.TextSrvMaxSpd->text(), pg.TextSrvMaxAccel->text(), pg.TextBounceDown->text(),
+                         pg.TextBounceUp->text(), pg.LabelSrvHWCWarn->isHidden()),
+              std::tuple(1, true, "-25", true, true, false, "0", "60", "40", "20", "10", "0", "0", true));
 
     enter(rig.page->TextSrvMaxSpd, "200");
     EXPECT_EQ(rig.page->TextSrvMaxSpd->text(), "127");

@@ -1,0 +1,38 @@
+#pragma once
+// Small building blocks the pages share.
+#include <QSpinBox>
+#include <QWidget>
+
+class QLineEdit;
+
+namespace kestrel {
+
+// Gives `page` a scroll area that fills it and returns the widget inside it, for the page's
+// own layout: the page can be made smaller than its controls, which are then reached by
+// scrolling (and the window's minimum size stays small).
+QWidget* scrolledContent(QWidget* page);
+
+// A spinner that shows only its arrows, at the width the style gives them; its number is
+// shown by the entry box beside it. It takes no focus: the box does, and its Up and Down
+// keys step the spinner.
+class Arrows : public QSpinBox {
+public:
+    explicit Arrows(QWidget* parent = nullptr);
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+};
+
+// A number entry box with its spinner: the box (objectName `Text...`, bound by the page as
+// every entry box) wide enough for `chars` characters, and the arrows (`UpDown...`) beside it.
+// A change of the spinner's value is the page's to take (Bindings::spinner and the like).
+class NumberEntry : public QWidget {
+public:
+    NumberEntry(const QString& textName, const QString& upDownName, int chars = 3, QWidget* parent = nullptr);
+    QLineEdit* const text;
+    QSpinBox* const upDown;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+};
+
+} // namespace kestrel
