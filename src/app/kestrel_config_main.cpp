@@ -2,6 +2,10 @@
 #include "shell/EditTools.h"
 #include "shell/HelpToolDialogs.h"
 #include "shell/KestrelConfig.h"
+#include "shell/TrafficMonitor.h"
+
+#include <QAction>
+#include <QMenu>
 
 #include <QApplication>
 #include <QComboBox>
@@ -24,6 +28,7 @@ void takeScreenshots(kestrel::KestrelConfig& window, const QString& folder)
     QDir().mkpath(folder);
     window.ComboPort->setEditText("sim");
     window.ComboPort_Click();
+    window.menuView->actions()[1]->trigger(); // the traffic monitor watches the read
     window.CommandReadAll->click();
     auto* poll = new QTimer(&window);
     QObject::connect(poll, &QTimer::timeout, &window, [&window, poll, folder] {
@@ -38,6 +43,10 @@ void takeScreenshots(kestrel::KestrelConfig& window, const QString& folder)
             QApplication::processEvents();
             window.grab().save(folder + "/" + window.tabs->widget(t)->objectName() + ".png");
         }
+        window.frmTrafficMonitor->resize(900, 500);
+        QApplication::processEvents();
+        window.frmTrafficMonitor->grab().save(folder + "/" + window.frmTrafficMonitor->objectName() + ".png");
+        window.frmTrafficMonitor->close();
         Session& s = window.session();
         StepRecord step = s.config.step(3, 0, 0);
         StepRecord multibit{15, 0, 0, 37, 0, 0};
