@@ -243,6 +243,15 @@ TEST(Window, MenusShortcutsAndWhatIsRememberedBetweenRuns)
         EXPECT_TRUE(m.dialogs.fileNames.empty());
         EXPECT_EQ(std::tuple(m.w.recentFiles(), m.w.actionRecent[0]->text(), m.w.windowTitle()),
                   std::tuple(QStringList{file}, "&1 layout.dat", "layout.dat - Kestrel Config"));
+        // From the keyboard alone: Ctrl+R reads the whole module, Ctrl+O loads (here the
+        // file just saved).
+        QTest::keyClick(&m.w, Qt::Key_R, Qt::ControlModifier);
+        m.waitIdle();
+        EXPECT_TRUE(m.status().startsWith("Read All done")) << m.status().toStdString();
+        m.dialogs.fileNames = {file.toStdString()};
+        QTest::keyClick(&m.w, Qt::Key_O, Qt::ControlModifier);
+        EXPECT_EQ(std::tuple(m.w.session().general.TextGenIDString, m.status()),
+                  std::tuple("Yard", "Loaded " + file));
         type(m.w.TextAddress, "3");
         m.w.CheckKLnumber->click(); // shown numbers move; the file's content does not
         m.w.OptionBitRate[2]->click();
