@@ -28,14 +28,6 @@
 namespace kestrel {
 
 namespace {
-template <typename W> W* named(W* w, const QString& name)
-{
-    w->setObjectName(name);
-    return w;
-}
-
-QString indexed(const char* name, int i) { return QString("%1_%2").arg(name).arg(i); }
-
 // An entry box with its spinner.
 NumberEntry* entry(const QString& name, QLineEdit*& box, QSpinBox*& spinner)
 {

@@ -19,12 +19,6 @@
 namespace kestrel {
 
 namespace {
-template <typename W> W* named(W* w, const QString& name)
-{
-    w->setObjectName(name);
-    return w;
-}
-
 // An entry box with its spinner, the spinner's range set.
 NumberEntry* entry(const QString& name, int min, int max, QLineEdit*& box, QSpinBox*& spinner)
 {

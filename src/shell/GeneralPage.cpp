@@ -29,14 +29,6 @@ namespace kestrel {
 
 namespace {
 
-template <typename W> W* named(W* w, const QString& name)
-{
-    w->setObjectName(name);
-    return w;
-}
-
-QString indexed(const char* name, int index) { return QString("%1_%2").arg(name).arg(index); }
-
 // A hidden control keeps its place, so the frame does not jump when a mode changes.
 void keepPlaceWhenHidden(QWidget* w)
 {

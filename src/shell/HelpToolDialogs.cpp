@@ -22,12 +22,6 @@
 namespace kestrel {
 
 namespace {
-template <typename W> W* named(W* w, const QString& name)
-{
-    w->setObjectName(name);
-    return w;
-}
-
 // A box for a number: digits only.
 QLineEdit* numberBox(const QString& name, int digits)
 {

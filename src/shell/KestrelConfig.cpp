@@ -53,12 +53,6 @@
 namespace kestrel {
 
 namespace {
-template <typename W> W* named(W* w, const QString& name)
-{
-    w->setObjectName(name);
-    return w;
-}
-
 // Progress that remembers the last step reported, so the outcome can say where a job stopped.
 class JobProgress : public QtProgress {
 public:

@@ -29,12 +29,6 @@
 namespace kestrel {
 
 namespace {
-template <typename W> W* named(W* w, const QString& name)
-{
-    w->setObjectName(name);
-    return w;
-}
-
 const char* const kDynamicTip = "If checked, use active dynamic parameters, else go directly to position";
 
 // The page of SSTabPCFG that shows a mode; -1 for an unknown mode.

@@ -1,4 +1,5 @@
 #include "shell/TrafficMonitor.h"
+#include "shell/Widgets.h"
 
 #include "files/TextFile.h"
 #include "forms/FrameDecoder.h"
@@ -23,12 +24,6 @@ namespace kestrel {
 namespace {
 
 const QString kAllCommands = "All commands";
-
-template <typename W> W* named(W* w, const QString& name)
-{
-    w->setObjectName(name);
-    return w;
-}
 
 } // namespace
 

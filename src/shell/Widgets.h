@@ -7,6 +7,16 @@ class QLineEdit;
 
 namespace kestrel {
 
+// A widget given its control name (objectName = member name).
+template <typename W> W* named(W* w, const QString& name)
+{
+    w->setObjectName(name);
+    return w;
+}
+
+// The objectName of element i of a control array: "Name_i".
+inline QString indexed(const char* name, int i) { return QString("%1_%2").arg(name).arg(i); }
+
 // Gives `page` a scroll area that fills it and returns the widget inside it, for the page's
 // own layout: the page can be made smaller than its controls, which are then reached by
 // scrolling (and the window's minimum size stays small).

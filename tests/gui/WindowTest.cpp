@@ -249,6 +249,8 @@ TEST(Window, MenusShortcutsAndWhatIsRememberedBetweenRuns)
         m.waitIdle();
         EXPECT_TRUE(m.status().startsWith("Read All done")) << m.status().toStdString();
         m.dialogs.fileNames = {file.toStdString()};
+        m.w.activateWindow(); // back from the job's progress dialog
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&m.w));
         QTest::keyClick(&m.w, Qt::Key_O, Qt::ControlModifier);
         EXPECT_EQ(std::tuple(m.w.session().general.TextGenIDString, m.status()),
                   std::tuple("Yard", "Loaded " + file));
