@@ -254,6 +254,13 @@ TEST(Window, MenusShortcutsAndWhatIsRememberedBetweenRuns)
         QTest::keyClick(&m.w, Qt::Key_O, Qt::ControlModifier);
         EXPECT_EQ(std::tuple(m.w.session().general.TextGenIDString, m.status()),
                   std::tuple("Yard", "Loaded " + file));
+        // A button's mnemonic presses it (a moment later, as a click is animated).
+        m.w.tabs->setCurrentIndex(m.w.tabs->count() - 1);
+        m.w.tabs->setFocus();
+        QTest::keyClick(m.w.tabs, Qt::Key_L, Qt::AltModifier); // "Read A&ll"
+        EXPECT_TRUE(QTest::qWaitFor([&] { return m.w.LabelAction->isVisible(); }, 2000));
+        m.waitIdle();
+        EXPECT_TRUE(m.status().startsWith("Read All done")) << m.status().toStdString();
         type(m.w.TextAddress, "3");
         m.w.CheckKLnumber->click(); // shown numbers move; the file's content does not
         m.w.OptionBitRate[2]->click();
