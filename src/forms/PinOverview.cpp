@@ -14,19 +14,6 @@ namespace {
 
 constexpr long kLynxAddressMax = 127 * 4 + 3; // flex-address 0..127 in units of 4
 
-std::uint8_t countOf(const PinRecord& pin, AddressKind kind)
-{
-    switch (kind) {
-    case AddressKind::Dcc:
-        return pin.DccCount;
-    case AddressKind::XDcc:
-        return pin.XDccCount;
-    case AddressKind::Lynx:
-        return pin.LynxCount;
-    }
-    return 0;
-}
-
 std::uint8_t firstIndexOf(const Configuration& config, int pin, AddressKind kind)
 {
     switch (kind) {
@@ -77,7 +64,7 @@ long baseAddress(const GeneralSettings& general, AddressKind kind)
 std::string addressText(const Configuration& config, const GeneralSettings& general, int pin,
                         AddressKind kind)
 {
-    const int count = countOf(config.pin(pin), kind);
+    const int count = addressCount(config.pin(pin), kind);
     if (count == 0)
         return "No addr in use";
     const long first = baseAddress(general, kind) + firstIndexOf(config, pin, kind);

@@ -58,6 +58,11 @@ std::uint8_t& addressCount(PinRecord& pin, AddressKind kind)
     throw ProgramFault("unknown address kind");
 }
 
+std::uint8_t addressCount(const PinRecord& pin, AddressKind kind)
+{
+    return addressCount(const_cast<PinRecord&>(pin), kind); // read only
+}
+
 int addressCountMaximum(AddressKind kind) { return kind == AddressKind::XDcc ? 1 : 7; }
 
 void RecalcAddressIndex(Configuration& config, AddressKind kind)

@@ -20,6 +20,7 @@ void RecalcAddressIndex(Configuration& config);
 // The count of a kind in a pin record, and the largest count the module takes for it
 // (DCC 0..7, eXtended DCC 0..1, serial 0..7).
 std::uint8_t& addressCount(PinRecord& pin, AddressKind kind);
+std::uint8_t addressCount(const PinRecord& pin, AddressKind kind);
 int addressCountMaximum(AddressKind kind);
 
 } // namespace kestrel

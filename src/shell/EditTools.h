@@ -26,6 +26,20 @@ protected:
     bool runModal();
     // One command of the tool (a click, a finished entry).
     void command(const std::function<void()>& action);
+    // A help tool's run: opened on the step and shown; OK applies it to the step, Cancel
+    // shows the values it was opened with again and leaves the step as it was.
+    template <typename Tool> bool runOnStep(Tool& tool, StepRecord& step, const std::function<void()>& show)
+    {
+        tool.open(step);
+        show();
+        if (!runModal()) {
+            tool.cancel();
+            show();
+            return false;
+        }
+        tool.apply(step);
+        return true;
+    }
 
 private:
     std::exception_ptr fault;

@@ -236,15 +236,7 @@ PatternToolDialog::PatternToolDialog(QWidget* parent)
 
 bool PatternToolDialog::run(StepRecord& step)
 {
-    tool.open(step);
-    showTool();
-    if (!runModal()) {
-        tool.cancel();
-        showTool();
-        return false;
-    }
-    tool.apply(step);
-    return true;
+    return runOnStep(tool, step, [this] { showTool(); });
 }
 
 void PatternToolDialog::showTool()
@@ -331,15 +323,7 @@ EventPatternToolDialog::EventPatternToolDialog(QWidget* parent)
 
 bool EventPatternToolDialog::run(StepRecord& step)
 {
-    tool.open(step);
-    showTool();
-    if (!runModal()) {
-        tool.cancel();
-        showTool();
-        return false;
-    }
-    tool.apply(step);
-    return true;
+    return runOnStep(tool, step, [this] { showTool(); });
 }
 
 void EventPatternToolDialog::showTool()

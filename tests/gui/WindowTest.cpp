@@ -256,9 +256,11 @@ TEST(Window, MenusShortcutsAndWhatIsRememberedBetweenRuns)
                   std::tuple("Yard", "Loaded " + file));
         // A button's mnemonic presses it (a moment later, as a click is animated).
         m.w.tabs->setCurrentIndex(m.w.tabs->count() - 1);
+        m.w.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&m.w));
         m.w.tabs->setFocus();
         QTest::keyClick(m.w.tabs, Qt::Key_L, Qt::AltModifier); // "Read A&ll"
-        EXPECT_TRUE(QTest::qWaitFor([&] { return m.w.LabelAction->isVisible(); }, 2000));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return m.w.LabelAction->isVisible(); }, 10000));
         m.waitIdle();
         EXPECT_TRUE(m.status().startsWith("Read All done")) << m.status().toStdString();
         type(m.w.TextAddress, "3");
