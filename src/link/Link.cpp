@@ -156,13 +156,25 @@ std::array<int, 15> fromVector(const std::vector<int>& bytes)
 
 KestrelReply Link::request(const std::vector<int>& bytes)
 {
+    if (recording)
+        throw ProgramFault("a request while the writes are only being listed");
     lastSent = SendKestrelMessage(true, static_cast<int>(bytes.size()), fromVector(bytes));
+    if (onExchange)
+        onExchange(bytes, true, state.ReplyValid);
     return lastReply();
 }
 
 bool Link::send(const std::vector<int>& bytes)
 {
-    return SendKestrelMessage(false, static_cast<int>(bytes.size()), fromVector(bytes));
+    if (recording) {
+        fromVector(bytes); // the same limit as on the wire
+        recording->push_back(bytes);
+        return true;
+    }
+    const bool ok = SendKestrelMessage(false, static_cast<int>(bytes.size()), fromVector(bytes));
+    if (onExchange)
+        onExchange(bytes, false, ok);
+    return ok;
 }
 
 bool Link::SendKestrelMessage(bool expectReply, int size, const std::array<int, 15>& b)

@@ -93,6 +93,13 @@ public:
     // read outside a whole frame (a frame cut short, stray bytes, what was drained before
     // a Corvid frame) are reported as one piece each. Unset, nothing is collected.
     std::function<void(FrameDirection, FrameRoute, const std::vector<int>& bytes)> onFrame;
+    // Every request and send once it has ended: its bytes, whether a reply was awaited, and
+    // whether it succeeded (the reply arrived valid; the frames went out). The session keeps
+    // its image of the module by it.
+    std::function<void(const std::vector<int>& bytes, bool expectReply, bool ok)> onExchange;
+    // While set, send() only appends its bytes here and succeeds, touching nothing else, so
+    // that a writer tells which frames it would send; a request() is then a ProgramFault.
+    std::vector<std::vector<int>>* recording = nullptr;
 
     std::string TextResponse;           // "[43] [66] [70] ..." of the last direct reply
     std::string txtCorvidCommunication; // the Corvid log, lines ended by CR LF

@@ -6,7 +6,12 @@
 #include "ops/SendCheck.h"
 #include "ops/VerifyGeneral.h"
 
+#include "model/WireLimits.h"
+
+#include <algorithm>
+#include <array>
 #include <functional>
+#include <map>
 #include <string>
 #include <utility>
 #include <vector>
@@ -64,9 +69,27 @@ bool ReadAll(Session& session)
                                {"Reading enable maps", [&] { return ReadEnableMaps(s); }},
                            });
     });
+    // A read that ran through without a word shows what the module holds.
+    if (ok && s.lastJob().problems.empty())
+        s.imageIsShown();
     if (s.onConfigurationChanged)
         s.onConfigurationChanged();
     return ok;
+}
+
+std::vector<std::pair<const char*, std::function<bool()>>> writeAllSteps(Session& s, bool withPinConfig)
+{
+    return {
+        {"Writing ID string", [&s] { return WriteIDString(s); }},
+        {"Writing DCC settings", [&s] { return WriteDCCSettings(s); }},
+        {"Writing LED control", [&s] { return WriteLEDControl(s); }},
+        {"Writing hardware configuration", [&s] { return WriteHardwareConfig(s); }},
+        {"Writing serial port", [&s] { return WriteSerialPortSettings(s); }},
+        {"Writing pins", [&s, withPinConfig] { return WriteAllPins(s, withPinConfig); }},
+        {"Writing events", [&s] { return WriteAllEvents(s); }},
+        {"Writing enable maps", [&s] { return WriteEnableMaps(s); }},
+        {"Writing serial addressing", [&s] { return WriteSerialAddressing(s); }},
+    };
 }
 
 bool WriteAll(Session& session, bool withPinConfig)
@@ -76,17 +99,155 @@ bool WriteAll(Session& session, bool withPinConfig)
         // Everything is checked before the first byte, so that the module is written whole or not at all.
         if (!sendable(s, unsendableConfiguration(s.config, s.general, withPinConfig)))
             return false;
-        return runSteps(s, {
-                               {"Writing ID string", [&] { return WriteIDString(s); }},
-                               {"Writing DCC settings", [&] { return WriteDCCSettings(s); }},
-                               {"Writing LED control", [&] { return WriteLEDControl(s); }},
-                               {"Writing hardware configuration", [&] { return WriteHardwareConfig(s); }},
-                               {"Writing serial port", [&] { return WriteSerialPortSettings(s); }},
-                               {"Writing pins", [&] { return WriteAllPins(s, withPinConfig); }},
-                               {"Writing events", [&] { return WriteAllEvents(s); }},
-                               {"Writing enable maps", [&] { return WriteEnableMaps(s); }},
-                               {"Writing serial addressing", [&] { return WriteSerialAddressing(s); }},
-                           });
+        // The module then holds what was shown, its pins' flash configurations only when sent.
+        return s.trackedWrite([&] { return runSteps(s, writeAllSteps(s, withPinConfig)); }, true,
+                              [&](ModuleImage& image) { image.take(s.config, s.general, withPinConfig); });
+    });
+}
+
+namespace {
+
+constexpr int kWriteStep = 99;
+constexpr int kWriteLayout = 98;
+constexpr int kWriteInitOrEventOn = 100; // length 3: the initial aspect; 6: Event-On slots
+constexpr int kWriteFlashConfig = 97;
+constexpr int kGeneralWriteCommand = 96;
+constexpr int kPacingMs = 100;
+
+// What a frame sets in the module: the command and item (pin), the slot of a step, and the
+// length where it tells two settings apart.
+std::vector<int> frameItem(const std::vector<int>& frame)
+{
+    if (frame.size() >= 4 && frame[0] == kWriteStep)
+        return {frame.begin(), frame.begin() + 4};
+    std::vector<int> item(frame.begin(), frame.begin() + std::min<std::size_t>(2, frame.size()));
+    if (frame[0] == kWriteInitOrEventOn)
+        item.push_back(static_cast<int>(frame.size()));
+    return item;
+}
+
+// Swaps a configuration into the session for listing its writes, and everything back.
+class Planning {
+public:
+    Planning(Session& s, const Configuration& c, const GeneralSettings& g,
+             std::vector<std::vector<int>>& frames)
+        : s(s), config(c), general(g), bidirectional(s.link.settings.CheckKestrelBD),
+          progress(s.link.currentProgress())
+    {
+        std::swap(s.config, config);
+        std::swap(s.general, general);
+        s.link.settings.CheckKestrelBD = true; // no pauses: nothing goes out
+        s.link.setProgress(nullptr);
+        s.link.recording = &frames;
+    }
+    ~Planning()
+    {
+        std::swap(s.config, config);
+        std::swap(s.general, general);
+        s.link.settings.CheckKestrelBD = bidirectional;
+        s.link.setProgress(progress);
+        s.link.recording = nullptr;
+    }
+    Planning(const Planning&) = delete;
+    Planning& operator=(const Planning&) = delete;
+
+private:
+    Session& s;
+    Configuration config;
+    GeneralSettings general;
+    bool bidirectional;
+    Progress* progress;
+};
+
+bool offerWriteAll(Session& s, const std::string& why, bool withPinConfig)
+{
+    if (s.dialogs().ask(why + "\r\nWrite All instead?", Buttons::YesNo, Icon::Question) != Answer::Yes)
+        return false;
+    return WriteAll(s, withPinConfig);
+}
+
+} // namespace
+
+std::vector<std::vector<int>> plannedWrites(Session& session, const Configuration& config,
+                                            const GeneralSettings& general)
+{
+    std::vector<std::vector<int>> frames;
+    Planning planning(session, config, general, frames);
+    for (const auto& step : writeAllSteps(session, true))
+        if (!step.second())
+            break;
+    return frames;
+}
+
+std::vector<std::vector<int>> changedWrites(Session& session, const ModuleImage& image)
+{
+    std::map<std::vector<int>, std::vector<int>> held;
+    for (auto& frame : plannedWrites(session, image.config, image.general))
+        held[frameItem(frame)] = std::move(frame);
+    std::vector<std::vector<int>> changed;
+    std::array<bool, kPinRecords> relaid{};
+    for (auto& frame : plannedWrites(session, session.config, session.general)) {
+        const int command = frame[0];
+        const int pin = frame.size() > 1 ? frame[1] : 0;
+        const auto found = held.find(frameItem(frame));
+        bool differs = found == held.end() || found->second != frame;
+        if (command == kWriteFlashConfig && pin < kPinCount && !image.pinConfigKnown[pin])
+            differs = true;
+        if (command == kWriteLayout && differs && pin < kPinRecords)
+            relaid[pin] = true;
+        if (command == kWriteStep && pin < kPinRecords && relaid[pin])
+            differs = true;
+        if (differs)
+            changed.push_back(std::move(frame));
+    }
+    return changed;
+}
+
+bool WriteChanges(Session& session, bool withPinConfig)
+{
+    Session& s = session;
+    return asJob(s, "Write Changes", [&] {
+        if (!s.moduleImage())
+            return offerWriteAll(
+                s,
+                "What the module holds is not known: it has not been read, written or verified "
+                "since, or an exchange with it failed.",
+                withPinConfig);
+        if (!sendable(s, unsendableConfiguration(s.config, s.general, true)))
+            return false;
+        // The ID string shows whether the module of the image still answers at this address.
+        if (s.link.settings.CheckKestrelBD) {
+            const std::string expected = s.moduleImage()->general.TextGenIDString;
+            const auto id = requestIDString(s);
+            if (!id)
+                return false;
+            if (!s.moduleImage())
+                return offerWriteAll(s,
+                                     "Another module answers at this address: its ID string is " +
+                                         quoteForMessage(*id) + ", not " + quoteForMessage(expected) + ".",
+                                     withPinConfig);
+        }
+        const auto frames = changedWrites(s, *s.moduleImage());
+        if (frames.empty()) {
+            s.dialogs().message("Nothing to write: the module holds this configuration.", Icon::Information);
+            return true;
+        }
+        const int total = static_cast<int>(frames.size());
+        return s.trackedWrite(
+            [&] {
+                for (int i = 0; i < total; ++i) {
+                    s.reportStep(i, total,
+                                 "Writing change " + std::to_string(i + 1) + " of " + std::to_string(total));
+                    if (!s.link.send(frames[i]))
+                        return false;
+                    // Pin and event writes are paced when no reply paces the sender, as in Write All.
+                    if (frames[i][0] != kGeneralWriteCommand && !s.link.settings.CheckKestrelBD)
+                        s.link.clock().sleepMs(kPacingMs);
+                }
+                s.reportStep(total, total, "Done");
+                return true;
+            },
+            false, [&](ModuleImage& image) { image.take(s.config, s.general, true); });
     });
 }
 
@@ -106,6 +267,8 @@ bool VerifyAll(Session& session)
         return true;
     });
     s.report.line(ok ? "Verify OK" : "Verification Stopped");
+    if (ok && s.lastJob().problems.empty())
+        s.imageIsShown();
     if (s.onShowVerification)
         s.onShowVerification();
     return ok;

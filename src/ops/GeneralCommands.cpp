@@ -42,21 +42,29 @@ bool RequestVersion(Session& session)
 
 // ---- ID string ----
 
-bool ReadIDString(Session& session)
+std::optional<std::string> requestIDString(Session& session)
 {
     session.link.setBidirectional(true);
     if (!requestItem(session, kItemIdString))
-        return false;
+        return std::nullopt;
     const int n = replyLength(session);
     if (n <= 1 || !echoes(session, kGeneralRead, kItemIdString)) {
         say(session, "No valid response");
-        return false;
+        return std::nullopt;
     }
     std::string text;
     for (int i = 0; i < n - 2; ++i)
         text += static_cast<char>(static_cast<unsigned char>(data(session, i)));
-    session.general.TextGenIDString = text;
-    return true;
+    session.noteModuleId(text);
+    return text;
+}
+
+bool ReadIDString(Session& session)
+{
+    const auto text = requestIDString(session);
+    if (text)
+        session.general.TextGenIDString = *text;
+    return text.has_value();
 }
 
 bool WriteIDString(Session& session)

@@ -4,6 +4,7 @@
 #include "session/Session.h"
 
 #include <array>
+#include <optional>
 #include <string>
 
 namespace kestrel {
@@ -39,6 +40,8 @@ constexpr std::array<int, 8> kEraseSequence = {61, 17, 92, 8, 33, 70, 15, 44};
 bool RequestVersion(Session& session);
 
 bool ReadIDString(Session& session);
+// The module's ID string without showing it; no value when no valid reply came.
+std::optional<std::string> requestIDString(Session& session);
 bool WriteIDString(Session& session);
 
 bool ReadDCCSettings(Session& session);

@@ -6,6 +6,7 @@
 #include "ops/SendCheck.h"
 
 #include <array>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -166,7 +167,9 @@ bool ReadPin(Session& session, int pin)
     return readPinAspects(session, pin) && ReadPinConfig(session, 1, pin);
 }
 
-bool WritePin(Session& session, int pin, bool withPinConfig)
+namespace {
+
+bool writePin(Session& session, int pin, bool withPinConfig)
 {
     Link& link = session.link;
     const PinRecord& rec = session.config.pin(pin);
@@ -189,6 +192,15 @@ bool WritePin(Session& session, int pin, bool withPinConfig)
     return true;
 }
 
+} // namespace
+
+bool WritePin(Session& session, int pin, bool withPinConfig)
+{
+    return session.trackedWrite(
+        [&] { return writePin(session, pin, withPinConfig); }, false,
+        [&](ModuleImage& image) { image.takePin(session.config, pin, withPinConfig); });
+}
+
 bool WriteAspect(Session& session, int pin, int aspect)
 {
     const LayoutSlots slots = layoutSlots(session.config.pin(pin).AspectLayout);
@@ -200,7 +212,11 @@ bool WriteAspect(Session& session, int pin, int aspect)
     }
     if (!sendable(session, unsendableAspect(session.config, pin, aspect)))
         return false;
-    return writeSteps(session, pin, aspect, slots.steps);
+    return session.trackedWrite([&] { return writeSteps(session, pin, aspect, slots.steps); }, false,
+                                [&](ModuleImage& image) {
+                                    image.config.aspect(pin, aspect).Steps =
+                                        session.config.aspect(pin, aspect).Steps;
+                                });
 }
 
 bool ReadAllPins(Session& session)

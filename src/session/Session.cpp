@@ -5,6 +5,74 @@ namespace kestrel {
 Session::Session(SerialPort& port, Clock& clock, UserDialogs& dialogs)
     : jobDialogs(dialogs, outcome), link(port, clock, jobDialogs), linkControl(link, config.NumberingBase)
 {
+    link.onExchange = [this](const std::vector<int>& bytes, bool expectReply, bool ok) {
+        exchanged(bytes, expectReply, ok);
+    };
+}
+
+void Session::exchanged(const std::vector<int>& bytes, bool expectReply, bool ok)
+{
+    if (!ok || (!expectReply && changesModule(bytes) && trackedWrites == 0)) {
+        if (trackedWrites > 0)
+            trackedWriteFailed = true;
+        dropImage();
+    }
+}
+
+ModuleKey Session::moduleKey() const
+{
+    const LinkSettings& s = link.settings;
+    return {linkControl.ComboPortText, s.CheckCorvid, s.TargetAddress, s.CheckXaddress,
+            s.CheckXaddress ? s.TargetXAddress : 0};
+}
+
+const ModuleImage* Session::moduleImage() const
+{
+    const auto found = images.find(moduleKey());
+    return found == images.end() ? nullptr : &found->second;
+}
+
+void Session::imageIsShown() { images[moduleKey()].take(config, general, true); }
+
+void Session::dropImage() { images.erase(moduleKey()); }
+
+void Session::noteModuleId(const std::string& id)
+{
+    if (const ModuleImage* image = moduleImage(); image && image->general.TextGenIDString != id)
+        dropImage();
+}
+
+bool Session::trackedWrite(const std::function<bool()>& write, bool create,
+                           const std::function<void(ModuleImage&)>& update)
+{
+    if (link.recording) // only listing the frames: nothing reaches the module
+        return write();
+    if (trackedWrites++ == 0)
+        trackedWriteFailed = false;
+    bool ok = false;
+    try {
+        ok = write();
+    } catch (...) {
+        endTrackedWrite(false, create, update);
+        throw;
+    }
+    endTrackedWrite(ok, create, update);
+    return ok;
+}
+
+void Session::endTrackedWrite(bool ok, bool create, const std::function<void(ModuleImage&)>& update)
+{
+    if (trackedWrites == 0 || --trackedWrites > 0)
+        return;
+    if (!ok || trackedWriteFailed) {
+        dropImage();
+        return;
+    }
+    const auto found = images.find(moduleKey());
+    if (found != images.end())
+        update(found->second);
+    else if (create)
+        update(images[moduleKey()]);
 }
 
 void Session::JobDialogs::message(const std::string& text, Icon icon)

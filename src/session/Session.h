@@ -4,9 +4,11 @@
 #include "model/Configuration.h"
 #include "session/EventControlPage.h"
 #include "session/GeneralSettings.h"
+#include "session/ModuleImage.h"
 #include "session/Report.h"
 
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -58,6 +60,11 @@ private:
     JobOutcome outcome;
     JobDialogs jobDialogs;
     int jobDepth = 0;
+    std::map<ModuleKey, ModuleImage> images;
+    int trackedWrites = 0;
+    bool trackedWriteFailed = false;
+    void exchanged(const std::vector<int>& bytes, bool expectReply, bool ok);
+    void endTrackedWrite(bool ok, bool create, const std::function<void(ModuleImage&)>& update);
 
 public:
     Session(SerialPort& port, Clock& clock, UserDialogs& dialogs);
@@ -110,6 +117,27 @@ public:
     }
     // Verify All has written its report: show the verification window.
     std::function<void()> onShowVerification;
+
+    // The image of each module (by port and addresses) as last read, written or verified,
+    // so that only what changed need be written. An exchange that fails, and any write
+    // that changes the module outside a tracked write, drop the image of the module
+    // addressed; so does a different module answering (noteModuleId).
+    ModuleKey moduleKey() const;
+    // The image of the module now addressed; null when there is none.
+    const ModuleImage* moduleImage() const;
+    // The module now addressed holds the configuration and general settings shown (after
+    // a Read All or a Verify All that compared equal): every pin's configuration too.
+    void imageIsShown();
+    void dropImage();
+    // The module answered with this ID string: a different one from the image's means
+    // another module answers at this address.
+    void noteModuleId(const std::string& id);
+    // Runs a write whose frames the image follows. Sends inside it keep the image; when it
+    // ends, a write that succeeded brings the image up to date through `update` (creating
+    // it first when `create`), and one that failed (or threw) drops it. Tracked writes
+    // nest: only the outermost one updates.
+    bool trackedWrite(const std::function<bool()>& write, bool create,
+                      const std::function<void(ModuleImage&)>& update);
 };
 
 } // namespace kestrel

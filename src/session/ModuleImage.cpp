@@ -1,0 +1,52 @@
+#include "session/ModuleImage.h"
+
+namespace kestrel {
+
+namespace {
+
+constexpr int kGeneralWrite = 96;
+constexpr int kFlashConfig = 97; // "a"; "A" (65) sets the active parameters only
+constexpr int kFirstPinWrite = 98;
+constexpr int kLastPinWrite = 102;
+
+void takeConfiguration(PinRecord& to, const PinRecord& from)
+{
+    to.ConfigMode = from.ConfigMode;
+    to.ConfigParams = from.ConfigParams;
+}
+
+} // namespace
+
+void ModuleImage::take(const Configuration& c, const GeneralSettings& g, bool pinConfigs)
+{
+    const Configuration before = config;
+    config = c;
+    general = g;
+    for (int p = 0; p < kPinCount; ++p) {
+        if (pinConfigs)
+            pinConfigKnown[p] = true;
+        else
+            takeConfiguration(config.pin(p), before.pin(p));
+    }
+}
+
+void ModuleImage::takePin(const Configuration& c, int p, bool pinConfig)
+{
+    PinRecord& to = config.pin(p);
+    const PinRecord kept = to;
+    to = c.pin(p);
+    if (pinConfig)
+        pinConfigKnown[p] = true;
+    else
+        takeConfiguration(to, kept);
+}
+
+bool changesModule(const std::vector<int>& frame)
+{
+    if (frame.empty())
+        return false;
+    const int c = frame[0];
+    return c == kGeneralWrite || c == kFlashConfig || (c >= kFirstPinWrite && c <= kLastPinWrite);
+}
+
+} // namespace kestrel

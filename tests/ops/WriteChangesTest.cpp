@@ -1,0 +1,121 @@
+// Write Changes against the simulated module: only what differs from the module's image
+// goes out, and without a trustworthy image nothing is written unasked.
+#include "ops/Bulk.h"
+#include "ops/PinTransfer.h"
+#include "support/SimSession.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+using namespace kestrel;
+using namespace kestrel::test;
+
+namespace {
+
+struct WriteChangesSim : ::testing::Test {
+    SimSession sim;
+    Session& s = sim.session;
+    std::vector<std::vector<int>> sent; // what reached the link, requests and sends alike
+
+    void SetUp() override
+    {
+        s.general = fullGeneralSettings();
+        s.config = fullConfiguration();
+        ASSERT_TRUE(WriteAll(s, true));
+        ASSERT_TRUE(ReadAll(s));
+        ASSERT_NE(s.moduleImage(), nullptr);
+        auto session = s.link.onExchange;
+        s.link.onExchange = [this, session](const std::vector<int>& bytes, bool reply, bool ok) {
+            sent.push_back(bytes);
+            session(bytes, reply, ok);
+        };
+        sim.dialogs.clear();
+    }
+    // The command bytes of what went out, the ID string request first.
+    std::vector<int> commands() const
+    {
+        std::vector<int> out;
+        for (const auto& f : sent)
+            out.push_back(f[0]);
+        return out;
+    }
+    bool moduleMatches()
+    {
+        sent.clear();
+        return VerifyAll(s);
+    }
+};
+
+} // namespace
+
+TEST_F(WriteChangesSim, OnlyWhatDiffersGoesOutInWriteAllsOrder)
+{
+    struct Case {
+        const char* what;
+        std::function<void(Session&)> edit;
+        std::vector<int> commands; // after the ID string request (112)
+    };
+    const std::vector<Case> cases = {
+        {"one step", [](Session& t) { t.config.step(3, 1, 4).Par1 ^= 1; }, {112, 99}},
+        {"two items", [](Session& t) {
+             t.general.TextGenDCCAddress = "77";
+             t.config.events(5).OffEvent[2] ^= 1;
+         }, {112, 96, 101}},
+        {"a layout", [](Session& t) { t.config.pin(1).AspectLayout = 3; },
+         {112, 98, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99,
+          99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99}},
+        {"a configuration and an initial aspect", [](Session& t) {
+             t.config.pin(6).InitAspect ^= 1;
+             t.config.pin(6).ConfigMode = 4;
+         }, {112, 100, 97}},
+        {"nothing", [](Session&) {}, {112}},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        sent.clear();
+        c.edit(s);
+        ASSERT_TRUE(WriteChanges(s));
+        EXPECT_EQ(commands(), c.commands);
+        EXPECT_TRUE(moduleMatches());
+    }
+    EXPECT_EQ(sim.dialogs.texts().back(), "Nothing to write: the module holds this configuration.");
+}
+
+TEST_F(WriteChangesSim, APinWriteKeepsTheImageAndAFailureOrAnotherModuleDropsIt)
+{
+    s.config.step(0, 0, 0).Par0 ^= 1;
+    ASSERT_TRUE(WritePin(s, 0));
+    sent.clear();
+    ASSERT_TRUE(WriteChanges(s));
+    EXPECT_EQ(commands(), std::vector<int>{112}) << "the pin write is in the image";
+
+    sim.memory().idString = "Up Yard";
+    sim.dialogs.defaultAnswer = Answer::No;
+    sent.clear();
+    EXPECT_FALSE(WriteChanges(s));
+    EXPECT_EQ(commands(), std::vector<int>{112});
+    ASSERT_EQ(sim.dialogs.questions.size(), 1u);
+    EXPECT_EQ(sim.dialogs.questions[0].text, "Another module answers at this address: its ID string is "
+                                             "\"Up Yard\", not \"Up Main 7\".\r\nWrite All instead?");
+    EXPECT_EQ(s.moduleImage(), nullptr);
+
+    ASSERT_TRUE(ReadAll(s));
+    sim.port.close(); // unplugged: the next exchange fails
+    EXPECT_FALSE(ReadPin(s, 2));
+    sim.port.open();
+    sim.dialogs.clear();
+    sent.clear();
+    EXPECT_FALSE(WriteChanges(s));
+    EXPECT_TRUE(sent.empty());
+    EXPECT_EQ(sim.dialogs.questions.at(0).text.substr(0, 36), "What the module holds is not known: ");
+
+    // A write outside the tracked ones (live erase included) drops it as well; Yes writes everything.
+    ASSERT_TRUE(ReadAll(s));
+    ASSERT_TRUE(s.link.send({96, 11, 0, 0}));
+    EXPECT_EQ(s.moduleImage(), nullptr);
+    sim.dialogs.defaultAnswer = Answer::Yes;
+    EXPECT_TRUE(WriteChanges(s));
+    EXPECT_EQ(s.lastJob().job, "Write Changes");
+    EXPECT_TRUE(moduleMatches());
+}
