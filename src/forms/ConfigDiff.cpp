@@ -15,7 +15,8 @@ namespace kestrel {
 
 namespace {
 
-using Take = std::function<void(const Configuration&, const GeneralSettings&, Configuration&, GeneralSettings&)>;
+using Take =
+    std::function<void(const Configuration&, const GeneralSettings&, Configuration&, GeneralSettings&)>;
 
 // One item of a configuration: what it is, how the text shows it, its value, and how it is taken.
 struct Field {
@@ -36,8 +37,7 @@ std::string pinNumber(int pin, int base) { return std::to_string(pin + base); }
 
 // ---- General settings ----
 
-template <typename T>
-Take copyGeneral(T GeneralSettings::*member)
+template <typename T> Take copyGeneral(T GeneralSettings::*member)
 {
     return [member](const Configuration&, const GeneralSettings& from, Configuration&, GeneralSettings& to) {
         to.*member = from.*member;
@@ -47,9 +47,8 @@ Take copyGeneral(T GeneralSettings::*member)
 template <typename T, std::size_t N>
 Take copyGeneralElement(std::array<T, N> GeneralSettings::*member, std::size_t i)
 {
-    return [member, i](const Configuration&, const GeneralSettings& from, Configuration&, GeneralSettings& to) {
-        (to.*member)[i] = (from.*member)[i];
-    };
+    return [member, i](const Configuration&, const GeneralSettings& from, Configuration&,
+                       GeneralSettings& to) { (to.*member)[i] = (from.*member)[i]; };
 }
 
 // Serial addressing also decides which of its controls the page shows, as a reader sets them.
@@ -65,7 +64,8 @@ Take withAddressingShown(Take take)
 
 void addGeneral(Fields& out, const std::string& label, std::string value, Take take)
 {
-    out.push_back({DiffGroup::General, -1, -1, -1, "general " + label, label, 1, std::move(value), std::move(take)});
+    out.push_back(
+        {DiffGroup::General, -1, -1, -1, "general " + label, label, 1, std::move(value), std::move(take)});
 }
 
 const char* const kPeriods[4] = {"500ms", "250ms", "125ms", "62.5ms"};
@@ -90,7 +90,8 @@ void generalFields(Fields& out, const GeneralSettings& g, int base)
                copyGeneral(&GeneralSettings::OptGenDCC_PRP));
     addGeneral(out, "Basic Packet State Invert", box(g.ChkGenDCC_BPSI),
                copyGeneral(&GeneralSettings::ChkGenDCC_BPSI));
-    addGeneral(out, "Allow Address 0", box(g.ChkGenDCCAllow0), copyGeneral(&GeneralSettings::ChkGenDCCAllow0));
+    addGeneral(out, "Allow Address 0", box(g.ChkGenDCCAllow0),
+               copyGeneral(&GeneralSettings::ChkGenDCCAllow0));
     // Only the seven boxes of each LED that the module and the file carry.
     for (std::size_t i = 0; i < 7; ++i)
         addGeneral(out, std::string("Green LED ") + kGreen[i], box(g.CheckLCGreen[i]),
@@ -108,7 +109,8 @@ void generalFields(Fields& out, const GeneralSettings& g, int base)
         }
     addGeneral(out, "Serial Port Enable", box(g.CheckGenSerialEnable),
                copyGeneral(&GeneralSettings::CheckGenSerialEnable));
-    addGeneral(out, "Baud", optionText(g.ComboGenBaud, kGenBaudList.data(), static_cast<int>(kGenBaudList.size())),
+    addGeneral(out, "Baud",
+               optionText(g.ComboGenBaud, kGenBaudList.data(), static_cast<int>(kGenBaudList.size())),
                copyGeneral(&GeneralSettings::ComboGenBaud));
     const char* const dataBits[2] = {"7 bits", "8 bits"};
     const char* const stopBits[2] = {"1 bit", "2 bits"};
@@ -117,7 +119,10 @@ void generalFields(Fields& out, const GeneralSettings& g, int base)
     addGeneral(out, "Stop Bits", optionText(g.OptionGenSerialStop, stopBits, 2),
                copyGeneral(&GeneralSettings::OptionGenSerialStop));
     const int parity = g.OptionGenSerialParity;
-    addGeneral(out, "Parity", parity == 2 ? "Even" : parity == 3 ? "Odd" : "None",
+    addGeneral(out, "Parity",
+               parity == 2   ? "Even"
+               : parity == 3 ? "Odd"
+                             : "None",
                copyGeneral(&GeneralSettings::OptionGenSerialParity));
 }
 
@@ -129,7 +134,8 @@ void addressingFields(Fields& out, const GeneralSettings& g, int base)
     addGeneral(out, "Enable Lynx Flex-Addresss", box(g.CheckGenLynxaddr),
                withAddressingShown(copyGeneral(&GeneralSettings::CheckGenLynxaddr)));
     // The flex-address is carried only while flex-addressing is on.
-    addGeneral(out, "Flex-Address", g.CheckGenLynxaddr == 1 ? number(4 * g.LynxFlexAddress + base) : "not in use",
+    addGeneral(out, "Flex-Address",
+               g.CheckGenLynxaddr == 1 ? number(4 * g.LynxFlexAddress + base) : "not in use",
                [](const Configuration&, const GeneralSettings& from, Configuration&, GeneralSettings& to) {
                    to.LynxFlexAddress = from.LynxFlexAddress;
                    to.TextGenLynxaddr = from.TextGenLynxaddr;
@@ -184,17 +190,24 @@ const std::vector<Parameter>& parametersOf(int kind)
 {
     static const std::vector<Parameter> none;
     static const std::vector<Parameter> servo = {
-        {"Initial Position", 1, 255, signedValue}, {"Range", 2, 7, servoRange},
-        {"Auto Suspend", 2, 16, bit4},             {"Suspended", 2, 32, bit5},
-        {"Midpoint", 3, 255, signedValue},         {"1/Mass", 4, 255, plain},
-        {"Damping", 5, 255, plain},                {"MaxSpd", 6, 255, plain},
-        {"MaxAcc", 7, 255, plain},                 {"BounceDown", 8, 255, signedValue},
-        {"BounceDownFactor", 9, 255, plain},       {"BounceUp", 10, 255, signedValue},
+        {"Initial Position", 1, 255, signedValue},
+        {"Range", 2, 7, servoRange},
+        {"Auto Suspend", 2, 16, bit4},
+        {"Suspended", 2, 32, bit5},
+        {"Midpoint", 3, 255, signedValue},
+        {"1/Mass", 4, 255, plain},
+        {"Damping", 5, 255, plain},
+        {"MaxSpd", 6, 255, plain},
+        {"MaxAcc", 7, 255, plain},
+        {"BounceDown", 8, 255, signedValue},
+        {"BounceDownFactor", 9, 255, plain},
+        {"BounceUp", 10, 255, signedValue},
         {"BounceUpFactor", 11, 255, plain},
     };
     static const std::vector<Parameter> pwm = {
-        {"Initial Level", 1, 255, plain}, {"Drive Mode", 2, 1, driveMode}, {"Acceleration Mode", 2, 2, accelMode},
-        {"Acceleration", 3, 255, plain},  {"Off - Level", 4, 255, plain},  {"On-Level", 5, 255, plain},
+        {"Initial Level", 1, 255, plain},       {"Drive Mode", 2, 1, driveMode},
+        {"Acceleration Mode", 2, 2, accelMode}, {"Acceleration", 3, 255, plain},
+        {"Off - Level", 4, 255, plain},         {"On-Level", 5, 255, plain},
     };
     // The page shows the delays only; the first two parameters travel all the same.
     static const std::vector<Parameter> input = {
@@ -256,19 +269,21 @@ std::string stepValue(const StepRecord& step, int pin, int base)
     return text;
 }
 
-const char* const kCountLabels[3] = {"DCC address count", "eXtended DCC address count", "Serial address count"};
+const char* const kCountLabels[3] = {"DCC address count", "eXtended DCC address count",
+                                     "Serial address count"};
 const AddressKind kKinds[3] = {AddressKind::Dcc, AddressKind::XDcc, AddressKind::Lynx};
 
 void pinFields(Fields& out, const Configuration& config, int p, int base)
 {
     const PinRecord& pin = config.pin(p);
     const std::string prefix = "pin " + pinNumber(p, base) + " ";
-    auto add = [&](DiffGroup group, int aspect, int step, const std::string& label, int depth, std::string value,
-                   Take take) {
+    auto add = [&](DiffGroup group, int aspect, int step, const std::string& label, int depth,
+                   std::string value, Take take) {
         std::string item = prefix;
         if (aspect >= 0)
             item += "aspect " + number(aspect) + " ";
-        out.push_back({group, p, aspect, step, item + label, label, depth, std::move(value), std::move(take)});
+        out.push_back(
+            {group, p, aspect, step, item + label, label, depth, std::move(value), std::move(take)});
     };
     auto addPin = [&](const std::string& label, int depth, std::string value, Take take) {
         add(DiffGroup::Pin, -1, -1, label, depth, std::move(value), std::move(take));
@@ -295,8 +310,8 @@ void pinFields(Fields& out, const Configuration& config, int p, int base)
            });
     for (const Parameter& par : parametersOf(modeKind(pin.ConfigMode)))
         addPin(par.caption, 2, par.show(pin.P(par.n)),
-               [p, n = par.n, mask = par.mask](const Configuration& from, const GeneralSettings&, Configuration& to,
-                                               GeneralSettings&) {
+               [p, n = par.n, mask = par.mask](const Configuration& from, const GeneralSettings&,
+                                               Configuration& to, GeneralSettings&) {
                    std::uint8_t& t = to.pin(p).P(n);
                    t = static_cast<std::uint8_t>((t & ~mask) | (from.pin(p).P(n) & mask));
                });
@@ -322,9 +337,8 @@ void pinFields(Fields& out, const Configuration& config, int p, int base)
             });
         for (int s = 0; s < slots.steps; ++s)
             add(DiffGroup::Aspect, a, s, "step " + number(s), 2, stepValue(config.step(p, a, s), p, base),
-                [p, a, s](const Configuration& from, const GeneralSettings&, Configuration& to, GeneralSettings&) {
-                    to.step(p, a, s) = from.step(p, a, s);
-                });
+                [p, a, s](const Configuration& from, const GeneralSettings&, Configuration& to,
+                          GeneralSettings&) { to.step(p, a, s) = from.step(p, a, s); });
     }
     addPin("initial aspect", 1, number(pin.InitAspect - 1),
            [p](const Configuration& from, const GeneralSettings&, Configuration& to, GeneralSettings&) {
@@ -372,8 +386,8 @@ Fields writeOrder(const Configuration& config, const GeneralSettings& general, i
 bool unused(const PinRecord& pin)
 {
     return pin.ConfigMode == kModeNone && pin.Description.empty() && optionOfLayout(pin.AspectLayout) == 0 &&
-           pin.DeviceOffset == 0 && pin.DeviceDescription.empty() && pin.InitAspect == 0 && pin.DccCount == 0 &&
-           pin.XDccCount == 0 && pin.LynxCount == 0;
+           pin.DeviceOffset == 0 && pin.DeviceDescription.empty() && pin.InitAspect == 0 &&
+           pin.DccCount == 0 && pin.XDccCount == 0 && pin.LynxCount == 0;
 }
 
 bool aspectUsed(const Configuration& config, int p, int a)
@@ -393,7 +407,8 @@ std::string line(int depth, const std::string& text) { return std::string(2 * de
 } // namespace
 
 std::vector<Difference> differences(const Configuration& first, const GeneralSettings& gfirst,
-                                    const Configuration& second, const GeneralSettings& gsecond, int numberingBase)
+                                    const Configuration& second, const GeneralSettings& gsecond,
+                                    int numberingBase)
 {
     const Fields a = writeOrder(first, gfirst, numberingBase);
     const Fields b = writeOrder(second, gsecond, numberingBase);
@@ -453,7 +468,8 @@ std::string configurationText(const Configuration& config, const GeneralSettings
         }
         const char* const addressLabels[3] = {"DCC addresses", "eXtended DCC addresses", "Serial addresses"};
         for (int k = 0; k < 3; ++k)
-            text += line(1, std::string(addressLabels[k]) + ": " + addressText(numbered, general, p, kKinds[k]));
+            text +=
+                line(1, std::string(addressLabels[k]) + ": " + addressText(numbered, general, p, kKinds[k]));
     }
 
     text += "events\n";

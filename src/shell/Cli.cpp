@@ -176,7 +176,8 @@ int commandCompare(CliContext& c)
     if (!ReadAll(c.session))
         return jobStatus(c, false);
     const int base = c.session.config.NumberingBase;
-    const int status = printDifferences(c.session.config, c.session.general, file, gfile, base, "module", "file");
+    const int status =
+        printDifferences(c.session.config, c.session.general, file, gfile, base, "module", "file");
     const int job = jobStatus(c, true);
     return job != kOk ? job : status;
 }
