@@ -3,6 +3,7 @@
 #include "base/ProgramFault.h"
 #include "base/Text.h"
 #include "files/ConfigurationFile.h"
+#include "forms/ConfigDiff.h"
 #include "link/CorvidControl.h"
 #include "model/WireLimits.h"
 #include "ops/Bulk.h"
@@ -39,6 +40,9 @@ const char* kUsageText =
     "  read FILE [--compact]         read the whole module and save it as a data file\n"
     "  write FILE [--with-pin-config] load a data file and write it to the module\n"
     "  verify FILE                   load a data file and verify the module against it\n"
+    "  compare FILE                  read the whole module and print every difference from a data file\n"
+    "  show FILE                     print a data file as readable text (no port needed)\n"
+    "  diff A B                      print every difference between two data files (no port needed)\n"
     "  erase --yes                   erase the module's configuration memory\n"
     "  transparent [--yes]           switch the Corvid interface unit into transparent mode\n";
 
@@ -78,11 +82,10 @@ int commandVersion(CliContext& c)
 // Loads the data file named on the command line into the session. A file that cannot be
 // read, is invalid or is cut short ends the command with its message as a usage error,
 // before anything is sent.
-int loadOperand(CliContext& c)
+int loadFile(const std::string& path, Configuration& config, GeneralSettings& general, UserDialogs& dialogs)
 {
-    const std::string& path = c.options.operands[0];
     std::string why;
-    switch (loadConfigurationFile(path, c.session.config, c.session.general, c.dialogs, &why)) {
+    switch (loadConfigurationFile(path, config, general, dialogs, &why)) {
     case LoadResult::Loaded:
         return kOk;
     case LoadResult::CannotOpen:
@@ -91,6 +94,21 @@ int loadOperand(CliContext& c)
     default:
         return kUsage;
     }
+}
+
+int loadOperand(CliContext& c)
+{
+    return loadFile(c.options.operands[0], c.session.config, c.session.general, c.dialogs);
+}
+
+// Prints one line for every difference; 1 when there is any.
+int printDifferences(const Configuration& first, const GeneralSettings& gfirst, const Configuration& second,
+                     const GeneralSettings& gsecond, int base, const char* firstName, const char* secondName)
+{
+    const std::vector<Difference> found = differences(first, gfirst, second, gsecond, base);
+    for (const Difference& d : found)
+        std::printf("%s\n", printable(differenceLine(d, firstName, secondName)).c_str());
+    return found.empty() ? kOk : kFailed;
 }
 
 // The status of a job that has ended: 1 when it stopped or anything was reported on the
@@ -147,6 +165,41 @@ int commandVerify(CliContext& c)
     return jobStatus(c, ok && verified);
 }
 
+// Load the data file, keep it, then Read All over it (what the module does not hold, such
+// as descriptions, stays as the file has it) and print how the module differs from the file.
+int commandCompare(CliContext& c)
+{
+    if (const int loaded = loadOperand(c); loaded != kOk)
+        return loaded;
+    const Configuration file = c.session.config;
+    const GeneralSettings gfile = c.session.general;
+    if (!ReadAll(c.session))
+        return jobStatus(c, false);
+    const int base = c.session.config.NumberingBase;
+    const int status =
+        printDifferences(c.session.config, c.session.general, file, gfile, base, "module", "file");
+    const int job = jobStatus(c, true);
+    return job != kOk ? job : status;
+}
+
+// show and diff: data files only, no port.
+int fileCommand(const CliOptions& o, UserDialogs& dialogs)
+{
+    const int base = o.numberFrom1 ? 1 : 0;
+    Configuration a, b;
+    GeneralSettings ga, gb;
+    a.NumberingBase = b.NumberingBase = base;
+    if (const int loaded = loadFile(o.operands[0], a, ga, dialogs); loaded != kOk)
+        return loaded;
+    if (o.command == "show") {
+        std::fputs(printable(configurationText(a, ga, base)).c_str(), stdout);
+        return kOk;
+    }
+    if (const int loaded = loadFile(o.operands[1], b, gb, dialogs); loaded != kOk)
+        return loaded;
+    return printDifferences(a, ga, b, gb, base, "a", "b");
+}
+
 // Erase the module's configuration memory. The second question asks whether to cancel,
 // so going on means answering it with Cancel.
 int commandErase(CliContext& c)
@@ -168,6 +221,7 @@ const std::map<std::string, Command>& commands()
     static const std::map<std::string, Command> table = {
         {"version", commandVersion}, {"transparent", commandTransparent}, {"read", commandRead},
         {"write", commandWrite},     {"verify", commandVerify},           {"erase", commandErase},
+        {"compare", commandCompare},
     };
     return table;
 }
@@ -246,9 +300,14 @@ bool parse(const std::vector<std::string>& args, CliOptions& o, std::string& err
         error = "no command given";
         return false;
     }
-    const bool needsFile = o.command == "read" || o.command == "write" || o.command == "verify";
+    const bool needsFile = o.command == "read" || o.command == "write" || o.command == "verify" ||
+                           o.command == "compare" || o.command == "show";
     if (needsFile && o.operands.size() != 1) {
         error = o.command + " needs one FILE";
+        return false;
+    }
+    if (o.command == "diff" && o.operands.size() != 2) {
+        error = "diff needs two FILEs";
         return false;
     }
     if (o.port.empty()) {
@@ -287,6 +346,14 @@ int runCli(const std::vector<std::string>& args)
         for (const auto& p : session.linkControl.ComboPort)
             std::printf("%s\n", p.c_str());
         return kOk;
+    }
+    if (options.command == "show" || options.command == "diff") {
+        try {
+            return fileCommand(options, dialogs);
+        } catch (const std::exception& fault) {
+            std::fprintf(stderr, "%s\n", printable(programFaultMessage(fault.what())).c_str());
+            return kFailed;
+        }
     }
     const auto found = commands().find(options.command);
     if (found == commands().end()) {
