@@ -71,7 +71,7 @@ bool ReadAll(Session& session)
     });
     // A read that ran through without a word shows what the module holds.
     if (ok && s.lastJob().problems.empty())
-        s.imageIsShown();
+        s.imageHolds(s.config, s.general);
     if (s.onConfigurationChanged)
         s.onConfigurationChanged();
     return ok;
@@ -268,7 +268,7 @@ bool VerifyAll(Session& session)
     });
     s.report.line(ok ? "Verify OK" : "Verification Stopped");
     if (ok && s.lastJob().problems.empty())
-        s.imageIsShown();
+        s.imageHolds(s.config, s.general);
     if (s.onShowVerification)
         s.onShowVerification();
     return ok;

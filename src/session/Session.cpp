@@ -32,7 +32,10 @@ const ModuleImage* Session::moduleImage() const
     return found == images.end() ? nullptr : &found->second;
 }
 
-void Session::imageIsShown() { images[moduleKey()].take(config, general, true); }
+void Session::imageHolds(const Configuration& c, const GeneralSettings& g)
+{
+    images[moduleKey()].take(c, g, true);
+}
 
 void Session::dropImage() { images.erase(moduleKey()); }
 

@@ -125,9 +125,10 @@ public:
     ModuleKey moduleKey() const;
     // The image of the module now addressed; null when there is none.
     const ModuleImage* moduleImage() const;
-    // The module now addressed holds the configuration and general settings shown (after
-    // a Read All or a Verify All that compared equal): every pin's configuration too.
-    void imageIsShown();
+    // The module now addressed holds this configuration and these general settings (after
+    // a Read All or a Verify All that compared equal, or as a file says): every pin's
+    // configuration too.
+    void imageHolds(const Configuration& c, const GeneralSettings& g);
     void dropImage();
     // The module answered with this ID string: a different one from the image's means
     // another module answers at this address.

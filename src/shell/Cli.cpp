@@ -39,6 +39,7 @@ const char* kUsageText =
     "  version                       print the module's firmware version\n"
     "  read FILE [--compact]         read the whole module and save it as a data file\n"
     "  write FILE [--with-pin-config] load a data file and write it to the module\n"
+    "        [--changes-from BASE]   only what differs from BASE.dat, a file the module holds\n"
     "  verify FILE                   load a data file and verify the module against it\n"
     "  compare FILE                  read the whole module and print every difference from a data file\n"
     "  show FILE                     print a data file as readable text (no port needed)\n"
@@ -57,6 +58,7 @@ struct CliOptions {
     bool yes = false;
     bool compact = false;
     bool withPinConfig = false;
+    std::optional<std::string> changesFrom; // write: BASE.dat, what the module holds
     std::string command;
     std::vector<std::string> operands;
 };
@@ -148,7 +150,16 @@ int commandWrite(CliContext& c)
 {
     if (const int loaded = loadOperand(c); loaded != kOk)
         return loaded;
-    return jobStatus(c, WriteAll(c.session, c.options.withPinConfig));
+    if (!c.options.changesFrom)
+        return jobStatus(c, WriteAll(c.session, c.options.withPinConfig));
+    // The module holds BASE: only what FILE changes goes out.
+    Configuration base;
+    GeneralSettings gbase;
+    base.NumberingBase = c.session.config.NumberingBase;
+    if (const int loaded = loadFile(*c.options.changesFrom, base, gbase, c.dialogs); loaded != kOk)
+        return loaded;
+    c.session.imageHolds(base, gbase);
+    return jobStatus(c, WriteChanges(c.session, c.options.withPinConfig));
 }
 
 // Load the data file, then Verify All; the report goes to stdout as the report window holds it.
@@ -282,6 +293,9 @@ bool parse(const std::vector<std::string>& args, CliOptions& o, std::string& err
             o.yes = true;
         } else if (a == "--compact") {
             o.compact = true;
+        } else if (a == "--changes-from") {
+            if (!value(o.changesFrom.emplace()))
+                return false;
         } else if (a == "--with-pin-config") {
             o.withPinConfig = true;
         } else if (a == "-h" || a == "--help") {

@@ -28,5 +28,13 @@ TEST(CliDiff, AFileDiffersFromNothingOfItselfAndTheModuleByThePlantedStepAlone)
     SimProcess sim({"--load", demo});
     r = runProgram(cli, {"--port", sim.pty(), "--number-from-1", "compare", planted});
     EXPECT_EQ(r.status, 1) << r.err;
-    EXPECT_EQ(r.out, "pin 4 aspect 0 step 1: module \"Off\" P.O. 1 T(/60) 0 Fade, file \"On\" P.O. 1 T(/60) 0 Fade\n");
+    EXPECT_EQ(
+        r.out,
+        "pin 4 aspect 0 step 1: module \"Off\" P.O. 1 T(/60) 0 Fade, file \"On\" P.O. 1 T(/60) 0 Fade\n");
+
+    // Writing only the change from what the module holds leaves nothing to compare.
+    r = runProgram(cli, {"--port", sim.pty(), "write", planted, "--changes-from", demo});
+    EXPECT_EQ(r.status, 0) << r.err;
+    r = runProgram(cli, {"--port", sim.pty(), "compare", planted});
+    EXPECT_EQ(r.status, 0) << r.out;
 }

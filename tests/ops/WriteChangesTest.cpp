@@ -58,17 +58,22 @@ TEST_F(WriteChangesSim, OnlyWhatDiffersGoesOutInWriteAllsOrder)
     };
     const std::vector<Case> cases = {
         {"one step", [](Session& t) { t.config.step(3, 1, 4).Par1 ^= 1; }, {112, 99}},
-        {"two items", [](Session& t) {
+        {"two items",
+         [](Session& t) {
              t.general.TextGenDCCAddress = "77";
              t.config.events(5).OffEvent[2] ^= 1;
-         }, {112, 96, 101}},
-        {"a layout", [](Session& t) { t.config.pin(1).AspectLayout = 3; },
-         {112, 98, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99,
-          99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99}},
-        {"a configuration and an initial aspect", [](Session& t) {
+         },
+         {112, 96, 101}},
+        {"a layout",
+         [](Session& t) { t.config.pin(1).AspectLayout = 3; },
+         {112, 98, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99,
+          99,  99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99}},
+        {"a configuration and an initial aspect",
+         [](Session& t) {
              t.config.pin(6).InitAspect ^= 1;
              t.config.pin(6).ConfigMode = 4;
-         }, {112, 100, 97}},
+         },
+         {112, 100, 97}},
         {"nothing", [](Session&) {}, {112}},
     };
     for (const auto& c : cases) {
