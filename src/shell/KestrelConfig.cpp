@@ -288,11 +288,16 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     refreshAll();
     undoStack->clear(); // what the start-up did is not the user's
 
-    // A push button names the change its handler makes ("Read Pin", "Copy to all"); a
-    // press that ends without a click names nothing.
+    // A push button names the change its handler makes ("Read Pin", "Copy to All"; a lone
+    // word with its frame: "Read (DCC)"); a press that ends without a click names nothing.
     for (QPushButton* b : findChildren<QPushButton*>()) {
-        connect(b, &QAbstractButton::pressed, this,
-                [this, b] { guard->nextName = spoken(b->text()).toStdString(); });
+        QString name = spoken(b->text());
+        for (QWidget* p = b->parentWidget(); p && !name.contains(' '); p = p->parentWidget())
+            if (auto* frame = qobject_cast<QGroupBox*>(p)) {
+                name += " (" + spoken(frame->title()) + ")";
+                break;
+            }
+        connect(b, &QAbstractButton::pressed, this, [this, name] { guard->nextName = name.toStdString(); });
         connect(b, &QAbstractButton::released, this,
                 [this] { QTimer::singleShot(0, this, [this] { guard->nextName.clear(); }); });
     }

@@ -36,15 +36,16 @@ TEST(Undo, TypingAndToolsOnTheAspectPage)
     page.TextPAspInit->selectAll();
     QTest::keyClicks(page.TextPAspInit, "2"); // not yet finished when Ctrl+Z comes
     QTest::keyClick(page.TextPAspInit, Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(std::tuple(pin.Description, int(pin.InitAspect), page.TextPAspInit->text(), m.w.actionUndo->text(),
-                         m.w.actionRedo->text()),
+    EXPECT_EQ(std::tuple(pin.Description, int(pin.InitAspect), page.TextPAspInit->text(),
+                         m.w.actionUndo->text(), m.w.actionRedo->text()),
               std::tuple("Yard", 0, "-1", "Undo typing in Description", "Redo typing in Initial aspect"));
     QTest::keyClick(page.TextPAspInit, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_TRUE(m.w.session().config == laidOut);
     EXPECT_EQ(page.TextPAspDesc->text(), "");
     m.w.actionRedo->trigger();
     QTest::keyClick(page.TextPAspInit, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_EQ(std::tuple(pin.Description, int(pin.InitAspect), page.TextPAspDesc->text(), page.TextPAspInit->text()),
+    EXPECT_EQ(std::tuple(pin.Description, int(pin.InitAspect), page.TextPAspDesc->text(),
+                         page.TextPAspInit->text()),
               std::tuple("Yard", 3, "Yard", "2"));
 
     // A pasted aspect is taken back as a whole.
@@ -55,7 +56,8 @@ TEST(Undo, TypingAndToolsOnTheAspectPage)
     const Configuration beforePaste = m.w.session().config;
     clickInModal("dlgEditAspect", "CommandPaste");
     QTest::mouseClick(page.LabelPAspAspect, Qt::LeftButton);
-    EXPECT_EQ(std::tuple(pin.Aspects[1].Description, m.w.actionUndo->text()), std::tuple("Clear", "Undo Paste Aspect"));
+    EXPECT_EQ(std::tuple(pin.Aspects[1].Description, m.w.actionUndo->text()),
+              std::tuple("Clear", "Undo Paste Aspect"));
     m.w.actionUndo->trigger();
     EXPECT_TRUE(m.w.session().config == beforePaste);
     EXPECT_EQ(page.TextPAspAspDesc->text(), "");
@@ -88,6 +90,7 @@ TEST(Undo, LoadFileAndReadAllAreTakenBackWithoutAFrameSent)
     m.w.actionUndo->trigger();
     GeneralSettings restored = s.general;
     restored.LabelGenVersionString = general.LabelGenVersionString; // what the module told of itself stays
-    EXPECT_EQ(std::tuple(s.config == config, restored == general, s.link.stats.exchanges, s.link.stats.bytesOut),
-              std::tuple(true, true, sent.exchanges, sent.bytesOut));
+    EXPECT_EQ(
+        std::tuple(s.config == config, restored == general, s.link.stats.exchanges, s.link.stats.bytesOut),
+        std::tuple(true, true, sent.exchanges, sent.bytesOut));
 }
