@@ -112,6 +112,8 @@ struct Configuration {
     const StepRecord& step(int p, int a, int s) const;
     EventRecord& events(int p);
     const EventRecord& events(int p) const;
+
+    bool operator==(const Configuration&) const = default;
 };
 
 } // namespace kestrel

@@ -10,6 +10,7 @@ struct EventControlPage {
     std::string TextECpin = "0";                              // the pin shown, NumberingBase added
     std::array<std::string, 4> TextECon{"0", "0", "0", "0"};  // Event-On entries of slots 0..3
     std::array<std::string, 4> TextECoff{"0", "0", "0", "0"}; // Event-Off entries of slots 0..3
+    bool operator==(const EventControlPage&) const = default;
 };
 
 } // namespace kestrel

@@ -234,7 +234,9 @@ QWidget* AspectsPage::buildAspectArea()
 
         connect(ComboPAspInst[r], &QComboBox::activated, this, [this, r](int index) {
             const int code = ComboPAspInst[r]->itemData(index).toInt();
-            bindings.edit([&] {
+            const QString name = QString("choosing %1 in %2")
+                                     .arg(ComboPAspInst[r]->itemText(index), controlName(ComboPAspInst[r]));
+            bindings.edit(name, [&] {
                 const RowEdit e = setInstruction(session.config, r, code);
                 view.rows[r] = e.row;
                 view.headings = e.headings;
@@ -242,7 +244,7 @@ QWidget* AspectsPage::buildAspectArea()
             bindings.show();
         });
         connect(CheckPAspFade[r], &QCheckBox::clicked, this, [this, r](bool checked) {
-            bindings.edit([&] {
+            bindings.edit((checked ? "checking " : "unchecking ") + controlName(CheckPAspFade[r]), [&] {
                 const RowEdit e = setFade(session.config, r, checked);
                 view.rows[r] = e.row;
                 view.headings = e.headings;
@@ -365,10 +367,13 @@ void AspectsPage::bind()
            [&c]() -> std::string& { return c.aspect(c.CurrentPin, c.CurrentAspect).Description; });
     // Only the device's head keeps its name; on a member the box shows the head's and is closed.
     connect(TextDeviceDescription, &QLineEdit::textChanged, this, [this, &c](const QString& typed) {
-        bindings.edit([&] {
-            if (setDeviceDescription(c, fromLatin1(typed)))
-                view.deviceDescription = fromLatin1(typed);
-        });
+        bindings.edit(
+            "typing in " + controlName(TextDeviceDescription),
+            [&] {
+                if (setDeviceDescription(c, fromLatin1(typed)))
+                    view.deviceDescription = fromLatin1(typed);
+            },
+            TextDeviceDescription);
     });
     b.display([this] {
         const QSignalBlocker block(TextDeviceDescription);
@@ -420,7 +425,8 @@ void AspectsPage::bind()
     });
 
     connect(OptionPAspConfGroup, &QButtonGroup::idClicked, this, [this](int option) {
-        bindings.edit([&] { view = changeLayout(session.config, option); });
+        bindings.edit("choosing " + controlName(OptionPAspConf[option]),
+                      [&] { view = changeLayout(session.config, option); });
         bindings.show();
     });
 }
@@ -517,6 +523,7 @@ void AspectsPage::LabelPAspOutput_Click()
         if (!dlgEditPin)
             dlgEditPin = new EditPinDialog(session, this);
         dlgEditPin->run();
+        guard.name(dlgEditPin->chosen.toStdString());
         RecalcAddressIndex(session.config); // a pasted or cleared pin brings its own counts
     });
     pinReplaced();
@@ -528,6 +535,7 @@ void AspectsPage::LabelPAspAspect_Click()
         if (!dlgEditAspect)
             dlgEditAspect = new EditAspectDialog(session, this);
         dlgEditAspect->run();
+        guard.name(dlgEditAspect->chosen.toStdString());
     });
     refresh();
 }
@@ -539,6 +547,7 @@ void AspectsPage::LabelPAspStep_Click(int row)
         if (!dlgEditStep)
             dlgEditStep = new EditStepDialog(session, this);
         dlgEditStep->run();
+        guard.name(dlgEditStep->chosen.toStdString());
     });
     refresh();
 }
@@ -554,22 +563,26 @@ void AspectsPage::helpTool(int row, HelpBox box)
             if (!dlgCT)
                 dlgCT = new TimeToolDialog(this);
             dlgCT->run(st);
+            guard.name("Time tool");
             break;
         case HelpToolKind::Pattern:
             if (!dlgKestrelCalcPattern)
                 dlgKestrelCalcPattern = new PatternToolDialog(this);
             dlgKestrelCalcPattern->run(st);
+            guard.name("Pattern tool");
             break;
         case HelpToolKind::EventPattern:
             if (!dlgKestrelCalcEventPattern)
                 dlgKestrelCalcEventPattern = new EventPatternToolDialog(this);
             dlgKestrelCalcEventPattern->run(st);
+            guard.name("Event pattern tool");
             break;
         case HelpToolKind::Level: {
             const int p = box == HelpBox::Par1 ? 1 : box == HelpBox::Par2 ? 2 : 3;
             int value = static_cast<int>(valInt(view.rows[row].parameters[p].text));
             if (!dlgKestrelCalcLevel)
                 dlgKestrelCalcLevel = new LevelToolDialog(this);
+            guard.name("Level tool");
             if (dlgKestrelCalcLevel->run(value))
                 setParameter(session.config, row, p, std::to_string(value)); // within the box's range
             break;

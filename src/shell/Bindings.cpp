@@ -25,6 +25,14 @@ std::string fromLatin1(const QString& s) { return s.toLatin1().toStdString(); }
 
 QString spoken(QString caption) { return caption.remove(QChar('&')).remove(QChar(':')).trimmed(); }
 
+QString controlName(const QWidget* control)
+{
+    if (!control->accessibleName().isEmpty())
+        return control->accessibleName();
+    const auto* button = qobject_cast<const QAbstractButton*>(control);
+    return button ? spoken(button->text()) : control->objectName();
+}
+
 void nameAfter(QLabel* label, QWidget* control)
 {
     label->setBuddy(control);
@@ -65,23 +73,28 @@ void numericInput(QLineEdit* box, int digits)
 
 Bindings::Bindings(Guard& g, std::function<void()> after) : guard(g), afterCommit(std::move(after)) {}
 
-void Bindings::commitNow(const std::function<void()>& take, const std::function<void()>& changed)
+void Bindings::commitNow(const std::function<void()>& take, const std::function<void()>& changed,
+                         const QString& name, const void* control)
 {
     if (showing)
         return;
-    guard([&] {
-        take();
-        if (changed)
-            changed();
-    });
+    guard(
+        name.toStdString(),
+        [&] {
+            take();
+            if (changed)
+                changed();
+        },
+        control);
     if (afterCommit)
         afterCommit();
 }
 
 void Bindings::check(QAbstractButton* box, int& field, std::function<void()> changed)
 {
-    QObject::connect(box, &QAbstractButton::toggled, box, [this, &field, changed](bool on) {
-        commitNow([&field, on] { field = on ? 1 : 0; }, changed);
+    QObject::connect(box, &QAbstractButton::toggled, box, [this, box, &field, changed](bool on) {
+        commitNow([&field, on] { field = on ? 1 : 0; }, changed,
+                  (on ? "checking " : "unchecking ") + controlName(box));
     });
     items.push_back({[box, &field] {
                          const QSignalBlocker block(box);
@@ -92,9 +105,9 @@ void Bindings::check(QAbstractButton* box, int& field, std::function<void()> cha
 
 void Bindings::option(QButtonGroup* group, int& field, std::function<void()> changed)
 {
-    QObject::connect(group, &QButtonGroup::idToggled, group, [this, &field, changed](int id, bool on) {
+    QObject::connect(group, &QButtonGroup::idToggled, group, [this, group, &field, changed](int id, bool on) {
         if (on)
-            commitNow([&field, id] { field = id; }, changed);
+            commitNow([&field, id] { field = id; }, changed, "choosing " + controlName(group->button(id)));
     });
     items.push_back({[group, &field] {
                          for (QAbstractButton* b : group->buttons()) {
@@ -114,8 +127,9 @@ void Bindings::option(QButtonGroup* group, int& field, std::function<void()> cha
 
 void Bindings::combo(QComboBox* box, int& field, std::function<void()> changed)
 {
-    QObject::connect(box, &QComboBox::currentIndexChanged, box, [this, &field, changed](int index) {
-        commitNow([&field, index] { field = index; }, changed);
+    QObject::connect(box, &QComboBox::currentIndexChanged, box, [this, box, &field, changed](int index) {
+        commitNow([&field, index] { field = index; }, changed,
+                  QString("choosing %1 in %2").arg(box->itemText(index), controlName(box)));
     });
     items.push_back({[box, &field] {
                          const QSignalBlocker block(box);
@@ -134,8 +148,9 @@ void Bindings::text(QLineEdit* box, std::function<std::string&()> field, std::fu
 {
     // textChanged, not textEdited: a text set from outside (a screen reader, a test) is an
     // edit too; showing blocks the signal.
-    QObject::connect(box, &QLineEdit::textChanged, box, [this, field, changed](const QString& typed) {
-        commitNow([&field, typed] { field() = fromLatin1(typed); }, changed);
+    QObject::connect(box, &QLineEdit::textChanged, box, [this, box, field, changed](const QString& typed) {
+        commitNow([&field, typed] { field() = fromLatin1(typed); }, changed, "typing in " + controlName(box),
+                  box);
     });
     items.push_back({[box, field] {
                          const QString shown = latin1(field());
@@ -163,7 +178,10 @@ void Bindings::entry(QLineEdit* box, std::function<std::string()> show,
         *shown = box->text(); // taken: no longer pending while the page shows the model again
         box->setModified(false);
         const std::string typed = fromLatin1(*shown);
-        commitNow([&] { commit(typed); }, {});
+        // A spinner's steps follow each other as one change; a typed entry is a step of its own.
+        const bool spun = spinning == box;
+        commitNow([&] { commit(typed); }, {}, (spun ? "changing " : "typing in ") + controlName(box),
+                  spun ? box : nullptr);
         showModel();
     };
     QObject::connect(box, &QLineEdit::editingFinished, box, take);
@@ -179,7 +197,9 @@ void Bindings::spinner(QSpinBox* spin, QLineEdit* box, std::function<int()> show
         if (showing)
             return;
         box->setText(QString::number(value));
+        spinning = box;
         emit box->editingFinished();
+        spinning = nullptr;
     });
     items.push_back({[spin, show] {
                          const QSignalBlocker block(spin);

@@ -28,8 +28,9 @@ class Guard;
 // the model never overwrites what the user typed. Showing blocks the controls' signals
 // (QSignalBlocker), so showing is never taken for an edit.
 //
-// Every commit runs inside the page's guard, then `changed` (the control's own handler,
-// if any), then the page's `afterCommit` (it shows the model again).
+// Every commit runs inside the page's guard, named after its control ("typing in
+// Description", "checking Fade, step 2"), then `changed` (the control's own handler, if
+// any), then the page's `afterCommit` (it shows the model again).
 class Bindings {
 public:
     explicit Bindings(Guard& guard, std::function<void()> afterCommit = {});
@@ -50,9 +51,12 @@ public:
     // Something shown from the model that takes no input (labels, visibility, ranges).
     void display(std::function<void()> show);
     // A change that a page's own handler takes (an instruction chosen from a list whose
-    // items carry codes, a layout option): guarded like every commit, and ignored while
-    // the page is showing the model.
-    void edit(const std::function<void()>& take) { commitNow(take, {}); }
+    // items carry codes, a layout option): guarded like every commit under `name`, and
+    // ignored while the page is showing the model. Text typed on in one `control` is one step.
+    void edit(const QString& name, const std::function<void()>& take, const void* control = nullptr)
+    {
+        commitNow(take, {}, name, control);
+    }
 
     void show();
     void commitPending();
@@ -62,12 +66,14 @@ private:
         std::function<void()> show;
         std::function<void()> commitPending; // empty for controls that commit at once
     };
-    void commitNow(const std::function<void()>& take, const std::function<void()>& changed);
+    void commitNow(const std::function<void()>& take, const std::function<void()>& changed,
+                   const QString& name, const void* control = nullptr);
 
     Guard& guard;
     std::function<void()> afterCommit;
     std::vector<Item> items;
     bool showing = false;
+    const QLineEdit* spinning = nullptr; // the box whose spinner is stepping it
 };
 
 // Entry-box input rules: digits and an optional sign only, at most `digits` digits.
@@ -85,6 +91,8 @@ QLabel* captionFor(const QString& caption, QWidget* control);
 void nameAfter(QLabel* label, QWidget* control);
 // The caption as a screen reader says it: without "&" and ":".
 QString spoken(QString caption);
+// What a control is called: its accessible name, else its caption as spoken.
+QString controlName(const QWidget* control);
 // Tab goes from each control to the next in this order (the reading order where the
 // order of building does not give it).
 void tabOrder(std::initializer_list<QWidget*> chain);

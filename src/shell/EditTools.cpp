@@ -59,6 +59,7 @@ ToolDialog::ToolDialog(const QString& name, const QString& title, QWidget* paren
 bool ToolDialog::runModal()
 {
     fault = nullptr;
+    chosen.clear();
     running = true;
     const bool accepted = exec() == QDialog::Accepted;
     running = false;
@@ -69,6 +70,8 @@ bool ToolDialog::runModal()
 
 void ToolDialog::command(const std::function<void()>& action)
 {
+    if (const auto* b = qobject_cast<const QPushButton*>(sender()))
+        chosen = b->text().remove(QChar('&'));
     try {
         action();
     } catch (...) {

@@ -21,6 +21,9 @@ class ToolDialog : public QDialog {
 public:
     ToolDialog(const QString& name, const QString& title, QWidget* parent);
 
+    // The caption of the command chosen last ("Paste Pin"), what the change is called.
+    QString chosen;
+
 protected:
     // Shows the tool modally until it closes; true when it was accepted.
     bool runModal();

@@ -389,7 +389,9 @@ void GeneralPage::bind()
     TextGenIDString->setValidator(
         new QRegularExpressionValidator(QRegularExpression("[\\x20-\\x7e]*"), TextGenIDString));
     b.text(TextGenIDString, g.TextGenIDString);
-    connect(TextGenIDString, &QLineEdit::editingFinished, this, [this] { guard([this] { cutIDString(); }); });
+    connect(TextGenIDString, &QLineEdit::editingFinished, this, [this] {
+        guard(("typing in " + controlName(TextGenIDString)).toStdString(), [this] { cutIDString(); });
+    });
 
     const auto dccEntry = [this, &b](QLineEdit* box, std::string& field) {
         numericInput(box, 5);

@@ -3,18 +3,18 @@
 #include "base/ProgramFault.h"
 
 #include <exception>
+#include <utility>
 
 namespace kestrel {
 
-bool Guard::operator()(const std::function<void()>& handler)
+bool Guard::operator()(const std::string& name, const std::function<void()>& handler, const void* control)
 {
     if (depth > 0) { // a handler run by another: the outermost guard catches
         handler();
         return true;
     }
-    const Configuration config = session.config;
-    const GeneralSettings general = session.general;
-    const EventControlPage eventControl = session.eventControl;
+    const EditState before{session.config, session.general, session.eventControl};
+    running = name.empty() ? std::exchange(nextName, std::string()) : name;
     std::string fault;
     ++depth;
     try {
@@ -26,12 +26,14 @@ bool Guard::operator()(const std::function<void()>& handler)
     }
     --depth;
     if (!fault.empty()) {
-        session.config = config;
-        session.general = general;
-        session.eventControl = eventControl;
+        session.config = before.config;
+        session.general = before.general;
+        session.eventControl = before.eventControl;
         session.dialogs().message(fault, Icon::Warning);
         if (afterFault)
             afterFault();
+    } else if (done) {
+        done(before, std::exchange(running, std::string()), control);
     }
     if (after)
         after();

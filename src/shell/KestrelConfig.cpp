@@ -32,6 +32,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -48,6 +49,7 @@
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTimer>
+#include <QUndoStack>
 #include <QVBoxLayout>
 
 namespace kestrel {
@@ -90,6 +92,54 @@ GeneralSettings filed(GeneralSettings g)
     return g;
 }
 
+// Whether what is kept differs: the selection, the numbering and what only shows do not count.
+bool configurationDiffers(const Configuration& x, const GeneralSettings& g, const Configuration& y,
+                          const GeneralSettings& h)
+{
+    return x.Pins != y.Pins || x.EventMap != y.EventMap || x.DccFirstIndex != y.DccFirstIndex ||
+           x.XDccFirstIndex != y.XDccFirstIndex || x.LynxFirstIndex != y.LynxFirstIndex ||
+           x.DccTotal != y.DccTotal || x.XDccTotal != y.XDccTotal || x.LynxTotal != y.LynxTotal ||
+           filed(g) != filed(h);
+}
+
+// One undo step: the states before and after what the user did. Typing on in the same box
+// (same control, the focus not moved, nothing else changed between) joins the step.
+class ConfigurationStep : public QUndoCommand {
+public:
+    using State = std::shared_ptr<const EditState>;
+    ConfigurationStep(const QString& name, State before, State after, const void* control, int run,
+                      std::function<void(const State&)> restore)
+        : QUndoCommand(name), before(std::move(before)), after(std::move(after)), control(control), run(run),
+          restore(std::move(restore))
+    {
+    }
+    void undo() override { restore(before); }
+    void redo() override
+    {
+        if (pushed) // the first redo is the push: the change is made already
+            restore(after);
+        pushed = true;
+    }
+    int id() const override { return control ? 1 : -1; }
+    bool mergeWith(const QUndoCommand* other) override
+    {
+        const auto* next = static_cast<const ConfigurationStep*>(other);
+        if (next->control != control || next->run != run || *next->before != *after)
+            return false;
+        after = next->after;
+        setObsolete(!configurationDiffers(before->config, before->general, after->config, after->general));
+        return true;
+    }
+
+private:
+    State before;
+    State after;
+    const void* control;
+    int run;
+    std::function<void(const State&)> restore;
+    bool pushed = false;
+};
+
 } // namespace
 
 KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindow(parent), boxes(this)
@@ -100,6 +150,11 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     core = program->session.get();
     corvid = program->corvid.get();
     guard = std::make_unique<Guard>(*core);
+    undoStack = new QUndoStack(this);
+    undoStack->setUndoLimit(100);
+    guard->done = [this](const EditState& before, const std::string& name, const void* control) {
+        record(before, name, control);
+    };
 
     auto* central = new QWidget;
     auto* layout = new QVBoxLayout(central);
@@ -231,6 +286,25 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     loadSettings();
     markClean();
     refreshAll();
+    undoStack->clear(); // what the start-up did is not the user's
+
+    // A push button names the change its handler makes ("Read Pin", "Copy to All"; a lone
+    // word with its frame: "Read (DCC)"); a press that ends without a click names nothing.
+    for (QPushButton* b : findChildren<QPushButton*>()) {
+        QString name = spoken(b->text());
+        for (QWidget* p = b->parentWidget(); p && !name.contains(' '); p = p->parentWidget())
+            if (auto* frame = qobject_cast<QGroupBox*>(p)) {
+                name += " (" + spoken(frame->title()) + ")";
+                break;
+            }
+        connect(b, &QAbstractButton::pressed, this, [this, name] { guard->nextName = name.toStdString(); });
+        connect(b, &QAbstractButton::released, this,
+                [this] { QTimer::singleShot(0, this, [this] { guard->nextName.clear(); }); });
+    }
+    // Ctrl+Z in a box undoes the configuration, not only the box's own typing.
+    for (QLineEdit* box : findChildren<QLineEdit*>())
+        box->installEventFilter(this);
+    connect(qApp, &QApplication::focusChanged, this, [this] { ++editRun; });
 }
 
 void KestrelConfig::addJobs()
@@ -320,7 +394,7 @@ void KestrelConfig::runJob(const QString& title, const std::function<bool()>& op
         return text.size() >= tail.size() && text.compare(text.size() - tail.size(), tail.size(), tail) == 0;
     };
     core->beginJob(title.toStdString()); // the whole-module jobs within count as part of it
-    const bool noFault = (*guard)([&] { ok = operation(); });
+    const bool noFault = (*guard)(title.toStdString(), [&] { ok = operation(); });
     core->endJob(noFault && ok);
     core->link.setProgress(nullptr);
     LabelAction->setVisible(false);
@@ -495,6 +569,20 @@ void KestrelConfig::buildMenus()
     add(
         menuFile, "E&xit", [this] { close(); }, QKeySequence::Quit);
 
+    menuEdit = menuBar()->addMenu("&Edit");
+    actionUndo = undoStack->createUndoAction(this, "Undo");
+    actionRedo = undoStack->createRedoAction(this, "Redo");
+    actionUndo->setShortcuts(QKeySequence::Undo);
+    actionRedo->setShortcuts({QKeySequence("Ctrl+Shift+Z"), QKeySequence("Ctrl+Y")});
+    for (auto [action, step] :
+         {std::pair{actionUndo, &KestrelConfig::undo}, std::pair{actionRedo, &KestrelConfig::redo}}) {
+        disconnect(action, &QAction::triggered, undoStack, nullptr); // the window takes pending typing first
+        connect(action, &QAction::triggered, this, step);
+        menuEdit->addAction(action);
+    }
+    // The menu names the step a typed but unfinished entry makes.
+    connect(menuEdit, &QMenu::aboutToShow, this, &KestrelConfig::commitAll);
+
     menuModule = menuBar()->addMenu("&Module");
     auto press = [](QAbstractButton* b) { return [b] { b->click(); }; };
     add(menuModule, "Request &Version", press(CommandGenVersion));
@@ -536,6 +624,47 @@ void KestrelConfig::buildMenus()
     menuHelp = menuBar()->addMenu("&Help");
     add(
         menuHelp, "&About Kestrel Config", [this] { about(); }, QKeySequence::HelpContents);
+}
+
+void KestrelConfig::undo()
+{
+    commitAll();
+    undoStack->undo();
+}
+
+void KestrelConfig::redo()
+{
+    commitAll();
+    undoStack->redo();
+}
+
+void KestrelConfig::record(const EditState& before, const std::string& name, const void* control)
+{
+    if (restoring || !configurationDiffers(before.config, before.general, core->config, core->general))
+        return;
+    auto was = latest && *latest == before ? latest : std::make_shared<const EditState>(before);
+    latest = std::make_shared<const EditState>(EditState{core->config, core->general, core->eventControl});
+    undoStack->push(new ConfigurationStep(QString::fromStdString(name.empty() ? "Edit" : name),
+                                          std::move(was), latest, control, editRun,
+                                          [this](const ConfigurationStep::State& s) { restore(s); }));
+}
+
+void KestrelConfig::restore(const std::shared_ptr<const EditState>& state)
+{
+    restoring = true;
+    const int base = core->config.NumberingBase;
+    const std::string version = core->general.LabelGenVersionString;
+    const bool warned = core->general.SuppressAddrWarning;
+    core->config = state->config; // with the selection it had: the change is shown where it was made
+    core->config.NumberingBase = base;
+    core->general = state->general;
+    core->general.LabelGenVersionString = version;
+    core->general.SuppressAddrWarning = warned;
+    core->eventControl = state->eventControl;
+    refreshAll();
+    restoring = false;
+    latest = state;
+    ++editRun;
 }
 
 void KestrelConfig::about()
@@ -684,7 +813,7 @@ void KestrelConfig::loadFile(const QString& path)
 {
     if (!keepChangesSafe("Loading a file"))
         return;
-    (*guard)([this, &path] {
+    (*guard)("Load File", [this, &path] {
         const LoadOutcome loaded = path.isEmpty() ? kestrel::CommandLoad_Click(*core)
                                                   : loadConfigurationFrom(*core, path.toStdString());
         if (loaded.path.empty())
@@ -725,6 +854,7 @@ KestrelConfig::~KestrelConfig()
     // window that is still open reports itself closed).
     for (QObject* child : findChildren<QObject*>())
         QObject::disconnect(child, nullptr, this, nullptr);
+    QObject::disconnect(qApp, nullptr, this, nullptr);
     // The session refers to the dialogs of the window: it goes first.
     guard.reset();
     program.reset();
@@ -922,6 +1052,26 @@ void KestrelConfig::CommandGenVersion_Click() { generalPage->CommandGenVersion_C
 
 bool KestrelConfig::eventFilter(QObject* watched, QEvent* event)
 {
+    // A box's own undo would only take back its typing: Ctrl+Z and Ctrl+Shift+Z (Ctrl+Y)
+    // there are the window's undo and redo.
+    if ((event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress) &&
+        qobject_cast<QLineEdit*>(watched)) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        const QKeyCombination keys = key->keyCombination();
+        const bool back = key->matches(QKeySequence::Undo);
+        const bool forth = key->matches(QKeySequence::Redo) ||
+                           keys == QKeyCombination(Qt::CTRL | Qt::SHIFT, Qt::Key_Z) ||
+                           keys == QKeyCombination(Qt::CTRL, Qt::Key_Y);
+        if (back || forth) {
+            if (event->type() == QEvent::ShortcutOverride)
+                event->accept(); // the key comes to the box, and so here
+            else if (back)
+                undo();
+            else
+                redo();
+            return true;
+        }
+    }
     if (watched == LabelPort && event->type() == QEvent::MouseButtonDblClick) {
         LabelPort_DblClick();
         return true;

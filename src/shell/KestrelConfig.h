@@ -25,6 +25,7 @@ class QTimer;
 class QCloseEvent;
 class QAction;
 class QMenu;
+class QUndoStack;
 
 namespace kestrel {
 struct ProgramSession;
@@ -119,12 +120,19 @@ public:
 
     // The menus: every entry calls the same handler as its button.
     QMenu* menuFile;
+    QMenu* menuEdit;
     QMenu* menuModule;
     QMenu* menuView;
     QMenu* menuHelp;
     QAction* actionSave;           // Ctrl+S: the current file, or asks like Save File
     QAction* actionRecent[5];      // the last five files loaded or saved
     QAction* actionForgetSettings; // start afresh next time
+    QAction* actionUndo;           // "Undo typing in Description": Ctrl+Z, in an entry box too
+    QAction* actionRedo;           // "Redo ...": Ctrl+Shift+Z or Ctrl+Y
+
+    // Every change of the configuration, general settings and event entries, one step for
+    // each handler that changed them (at most 100 kept).
+    QUndoStack* undoStack;
 
     // The last files, newest first (at most five).
     QStringList recentFiles() const { return recent; }
@@ -156,6 +164,10 @@ public slots:
     void CommandVerifyAll_Click();
     void Timer1_Timer();
     void about();
+    // Takes what is typed but unfinished (a step of its own), then goes one step back or
+    // forth. Nothing is sent to the module.
+    void undo();
+    void redo();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -191,6 +203,10 @@ private:
     void saveSettings();
     void remember(const QString& path); // a file loaded or saved joins the recent files
     void showRecent();
+    // The guard's report of a handler that ended: a step when it changed the configuration.
+    void record(const EditState& before, const std::string& name, const void* control);
+    // Puts a step's state back and shows it (the numbering and what the module reported stay).
+    void restore(const std::shared_ptr<const EditState>& state);
 
     QtDialogs boxes;
     std::unique_ptr<ProgramSession> program;
@@ -204,6 +220,9 @@ private:
     bool corvidLogDismissed = false; // closed by the user: new lines do not force it open
     Configuration cleanConfig;       // as last loaded, saved, read or written
     GeneralSettings cleanGeneral;
+    std::shared_ptr<const EditState> latest; // the state the last step left, shared with the next
+    bool restoring = false;                  // undo or redo is showing a state: no step of it
+    int editRun = 0;                         // moves on with the focus: typing after it is a new step
 };
 
 } // namespace kestrel

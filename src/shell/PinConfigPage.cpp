@@ -240,7 +240,8 @@ QWidget* PinConfigPage::buildServoPage()
         rangeGroup->addButton(OptionServoRange[i], i);
         ranges->addWidget(OptionServoRange[i]);
     }
-    connect(rangeGroup, &QButtonGroup::idClicked, this, [this](int) { servoFlagsChanged(); });
+    connect(rangeGroup, &QButtonGroup::idClicked, this,
+            [this](int id) { servoFlagsChanged("choosing " + controlName(OptionServoRange[id])); });
     side->addWidget(rangeFrame);
 
     auto* flags = named(new QGroupBox("Servo State"), "FrameSrvFlags");
@@ -251,7 +252,9 @@ QWidget* PinConfigPage::buildServoPage()
     ChkSrvInitialized = named(new QCheckBox("Servo Initialised"), "ChkSrvInitialized");
     for (QCheckBox* box : {ChkSrvAutoSuspend, ChkSrvSuspended, ChkSrvInitialized}) {
         flagRow->addWidget(box);
-        connect(box, &QCheckBox::clicked, this, [this] { servoFlagsChanged(); });
+        connect(box, &QCheckBox::clicked, this, [this, box](bool checked) {
+            servoFlagsChanged((checked ? "checking " : "unchecking ") + controlName(box));
+        });
     }
     side->addWidget(flags);
     side->addStretch();
@@ -282,8 +285,10 @@ QWidget* PinConfigPage::buildPwmPage()
 
     CheckPWMInverted = named(new QCheckBox("Inverted"), "CheckPWMInverted");
     connect(CheckPWMInverted, &QCheckBox::clicked, this, [this](bool checked) {
-        if (pageOfMode(pin().ConfigMode) == 2)
-            pin().ConfigMode = static_cast<std::uint8_t>(pwmConfigMode(checked));
+        guard((checked ? "checking " : "unchecking ") + controlName(CheckPWMInverted).toStdString(), [&] {
+            if (pageOfMode(pin().ConfigMode) == 2)
+                pin().ConfigMode = static_cast<std::uint8_t>(pwmConfigMode(checked));
+        });
     });
 
     TextPWMLevel = named(new QLineEdit("0"), "TextPWMLevel");
@@ -322,8 +327,10 @@ QWidget* PinConfigPage::buildPwmPage()
         driveLayout->addWidget(OptionPWMDriveMode[i]);
         accelLayout->addWidget(OptionPWMAccelMode[i]);
     }
-    connect(driveGroup, &QButtonGroup::idClicked, this, [this](int) { pwmModesChanged(); });
-    connect(accelGroup, &QButtonGroup::idClicked, this, [this](int) { pwmModesChanged(); });
+    connect(driveGroup, &QButtonGroup::idClicked, this,
+            [this](int id) { pwmModesChanged("choosing " + controlName(OptionPWMDriveMode[id])); });
+    connect(accelGroup, &QButtonGroup::idClicked, this,
+            [this](int id) { pwmModesChanged("choosing " + controlName(OptionPWMAccelMode[id])); });
     modes->addWidget(driveFrame);
     modes->addWidget(accelFrame);
     modes->addStretch();
@@ -365,8 +372,10 @@ QWidget* PinConfigPage::buildInputPage()
     auto* layout = new QVBoxLayout(page);
     CheckInputInvert = named(new QCheckBox("Inverted"), "CheckInputInvert");
     connect(CheckInputInvert, &QCheckBox::clicked, this, [this](bool checked) {
-        if (pageOfMode(pin().ConfigMode) == 3)
-            pin().ConfigMode = static_cast<std::uint8_t>(inputConfigMode(checked));
+        guard((checked ? "checking " : "unchecking ") + controlName(CheckInputInvert).toStdString(), [&] {
+            if (pageOfMode(pin().ConfigMode) == 3)
+                pin().ConfigMode = static_cast<std::uint8_t>(inputConfigMode(checked));
+        });
     });
     layout->addWidget(CheckInputInvert);
 
@@ -479,7 +488,7 @@ void PinConfigPage::commitField(PinField field)
     const std::string typed = box->text().toLatin1().toStdString();
     box->setModified(false);
     const QSignalBlocker block(box);
-    guard([&] {
+    guard(("typing in " + controlName(box)).toStdString(), [&] {
         if (pageOfMode(pin().ConfigMode) != pageOfField(field)) {
             // The pin is not in this page's mode (an unknown mode leaves the page as it was):
             // the box is clamped, the record keeps its bytes.
@@ -503,24 +512,28 @@ int PinConfigPage::liveValue(PinField field)
     return static_cast<int>(value);
 }
 
-void PinConfigPage::servoFlagsChanged()
+void PinConfigPage::servoFlagsChanged(const QString& name)
 {
-    if (pin().ConfigMode != kModeServo)
-        return;
-    int range = 0;
-    for (int i = 0; i < 5; ++i)
-        if (OptionServoRange[i]->isChecked())
-            range = i;
-    pin().P(2) = servoModeByte(range, ChkSrvAutoSuspend->isChecked(), ChkSrvSuspended->isChecked(),
-                               ChkSrvInitialized->isChecked());
+    guard(name.toStdString(), [this] {
+        if (pin().ConfigMode != kModeServo)
+            return;
+        int range = 0;
+        for (int i = 0; i < 5; ++i)
+            if (OptionServoRange[i]->isChecked())
+                range = i;
+        pin().P(2) = servoModeByte(range, ChkSrvAutoSuspend->isChecked(), ChkSrvSuspended->isChecked(),
+                                   ChkSrvInitialized->isChecked());
+    });
 }
 
-void PinConfigPage::pwmModesChanged()
+void PinConfigPage::pwmModesChanged(const QString& name)
 {
-    if (pageOfMode(pin().ConfigMode) != 2)
-        return;
-    pin().P(2) =
-        pwmModeByte(OptionPWMDriveMode[1]->isChecked() ? 1 : 0, OptionPWMAccelMode[1]->isChecked() ? 1 : 0);
+    guard(name.toStdString(), [this] {
+        if (pageOfMode(pin().ConfigMode) != 2)
+            return;
+        pin().P(2) = pwmModeByte(OptionPWMDriveMode[1]->isChecked() ? 1 : 0,
+                                 OptionPWMAccelMode[1]->isChecked() ? 1 : 0);
+    });
 }
 
 void PinConfigPage::TextPCFGPin_Click()
@@ -552,7 +565,8 @@ void PinConfigPage::SSTabPCFG_Click(int page)
         }
     }
     static const int modeOfPage[4] = {kModeNone, kModeServo, kModePwm, kModeInput};
-    guard([&] { storePinConfigReply(pin(), 1, {modeOfPage[page]}, 3); });
+    guard("choosing " + SSTabPCFG->tabText(page).remove(QChar('&')).toStdString(),
+          [&] { storePinConfigReply(pin(), 1, {modeOfPage[page]}, 3); });
     refresh();
 }
 

@@ -124,8 +124,8 @@ private:
     // The box's value clamped to its range and written back, without storing it (the
     // live position and level, which their buttons send).
     int liveValue(PinField field);
-    void servoFlagsChanged();
-    void pwmModesChanged();
+    void servoFlagsChanged(const QString& name); // `name`: what the user did, for undo
+    void pwmModesChanged(const QString& name);
 
     // Blocks the signals of every control of the page while it shows the model.
     std::vector<std::unique_ptr<QSignalBlocker>> blockAll();
