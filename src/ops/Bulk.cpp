@@ -77,6 +77,34 @@ bool ReadAll(Session& session)
     return ok;
 }
 
+bool ReadAllInto(Session& session, Configuration& module, GeneralSettings& gmodule)
+{
+    Session& s = session;
+    struct Shown {
+        Session& s;
+        Configuration config = s.config;
+        GeneralSettings general = s.general;
+        EventControlPage eventControl = s.eventControl;
+        std::function<void()> changed = std::exchange(s.onConfigurationChanged, nullptr);
+        std::function<void()> dcc = std::exchange(s.onDccAddressChanged, nullptr);
+        std::function<void()> display = std::exchange(s.onPinAddressDisplayChanged, nullptr);
+        ~Shown()
+        {
+            general.LabelGenVersionString = s.general.LabelGenVersionString;
+            s.config = std::move(config);
+            s.general = std::move(general);
+            s.eventControl = std::move(eventControl);
+            s.onConfigurationChanged = std::move(changed);
+            s.onDccAddressChanged = std::move(dcc);
+            s.onPinAddressDisplayChanged = std::move(display);
+        }
+    } shown{s};
+    const bool ok = ReadAll(s);
+    module = s.config;
+    gmodule = s.general;
+    return ok;
+}
+
 std::vector<std::pair<const char*, std::function<bool()>>> writeAllSteps(Session& s, bool withPinConfig)
 {
     return {

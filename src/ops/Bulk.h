@@ -16,6 +16,11 @@ namespace kestrel {
 // every display shows the model again.
 bool ReadAll(Session& session);
 
+// Read All into module and gmodule, with what is shown (configuration, general settings,
+// event entries) and every display left as they were; only the version the module told
+// is kept. What the module does not hold (descriptions) is taken from what is shown.
+bool ReadAllInto(Session& session, Configuration& module, GeneralSettings& gmodule);
+
 // ID string, DCC settings, LED control, hardware configuration, serial port, all pins
 // (with withPinConfig also each pin's configuration to flash), all events, enable maps,
 // and serial addressing last, since it can change how the module is addressed.

@@ -38,6 +38,9 @@ struct Jobs {
     static constexpr JobName ECVerify{"ECVerify"};
     // The aspect page's "Write Aspect": the selected aspect's steps only.
     static constexpr JobName PAspWriteAspect{"PAspWriteAspect"};
+    // Only what differs from the module's image; the module read beside the configuration.
+    static constexpr JobName WriteChanges{"WriteChanges"};
+    static constexpr JobName CompareModule{"CompareModule"};
 };
 
 // Long operations are not run in the button's handler: the handler shows the busy

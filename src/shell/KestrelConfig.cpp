@@ -4,6 +4,7 @@
 
 #include "files/ConfigurationFile.h"
 #include "forms/AspectEditor.h"
+#include "model/AddressIndex.h"
 #include "model/PinTools.h"
 #include "ops/Bulk.h"
 #include "ops/EventControl.h"
@@ -11,6 +12,7 @@
 #include "shell/AspectsPage.h"
 #include "shell/Bindings.h"
 #include "shell/BuiltInSim.h"
+#include "shell/CompareDialog.h"
 #include "shell/EventPage.h"
 #include "shell/GeneralPage.h"
 #include "shell/PinConfigPage.h"
@@ -165,6 +167,11 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     CommandReadAll = named(new QPushButton("Read A&ll"), "CommandReadAll");
     CommandWriteAll = named(new QPushButton("&Write All"), "CommandWriteAll");
     CommandVerifyAll = named(new QPushButton("Verif&y All"), "CommandVerifyAll");
+    CommandWriteChanges = named(new QPushButton("Write Chan&ges"), "CommandWriteChanges");
+    CommandWriteChanges->setToolTip(
+        "Writes only what differs from the module as it was last read, written or verified");
+    CommandCompare = named(new QPushButton("Compare wi&th Module"), "CommandCompare");
+    CommandCompare->setToolTip("Reads the module beside the configuration and lists every difference");
     CheckWritePinConfig = named(new QCheckBox("Write pin configurations too"), "CheckWritePinConfig");
     CheckWritePinConfig->setToolTip("Also writes each pin's servo, PWM or input parameters to flash");
     CommandSave = named(new QPushButton("&Save File"), "CommandSave");
@@ -179,17 +186,27 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
         "Writes the 32 pins to the module, without the general settings and events");
     CommandVerifyAllPins = named(new QPushButton("Ver&ify All Pins"), "CommandVerifyAllPins");
     CommandVerifyAllPins->setToolTip("Compares the 32 pins of the module with the configuration");
-    for (QWidget* w : std::initializer_list<QWidget*>{
-             CommandReadAll, CommandWriteAll, CommandVerifyAll, CommandReadAllPins, CommandWriteAllPins,
-             CommandVerifyAllPins, CheckWritePinConfig, CommandSave, CommandLoad})
+    // Two rows, so that the window still fits a small screen: the whole module and its file,
+    // then the pins.
+    for (QWidget* w :
+         std::initializer_list<QWidget*>{CommandReadAll, CommandWriteAll, CommandWriteChanges,
+                                         CommandVerifyAll, CommandCompare, CommandSave, CommandLoad})
         bulk->addWidget(w);
+    auto* pinsRow = new QHBoxLayout;
+    for (QWidget* w : std::initializer_list<QWidget*>{CommandReadAllPins, CommandWriteAllPins,
+                                                      CommandVerifyAllPins, CheckWritePinConfig})
+        pinsRow->addWidget(w);
+    pinsRow->addStretch();
     connect(CommandReadAllPins, &QPushButton::clicked, this, [this] { startJob(Jobs::ReadAllPins); });
     connect(CommandWriteAllPins, &QPushButton::clicked, this, [this] { startJob(Jobs::WriteAllPins); });
     connect(CommandVerifyAllPins, &QPushButton::clicked, this, [this] { startJob(Jobs::VerifyAllPins); });
+    connect(CommandWriteChanges, &QPushButton::clicked, this, [this] { startJob(Jobs::WriteChanges); });
+    connect(CommandCompare, &QPushButton::clicked, this, [this] { startJob(Jobs::CompareModule); });
     connect(CommandLoad, &QPushButton::clicked, this,
             [this] { guard->operator()([this] { CommandLoad_Click(); }); });
     bulk->addStretch();
     layout->addLayout(bulk);
+    layout->addLayout(pinsRow);
     connect(CommandReadAll, &QPushButton::clicked, this, &KestrelConfig::CommandReadAll_Click);
     connect(CommandWriteAll, &QPushButton::clicked, this, &KestrelConfig::CommandWriteAll_Click);
     connect(CommandVerifyAll, &QPushButton::clicked, this, &KestrelConfig::CommandVerifyAll_Click);
@@ -365,9 +382,46 @@ void KestrelConfig::addJobs()
             "Read All Events", [&s] { return ReadAllEvents(s); }, true);
     });
     jobs.add(Jobs::ECVerify, [this, verify] { runJob("Verify Event Control", verify(&VerifyEventControl)); });
+    jobs.add(Jobs::WriteChanges, [this, &s, pinConfigToo] {
+        const bool withConfig = pinConfigToo();
+        runJob(
+            "Write Changes", [&s, withConfig] { return WriteChanges(s, withConfig); }, false, true);
+    });
+    jobs.add(Jobs::CompareModule, [this, &s] {
+        Configuration module;
+        GeneralSettings gmodule;
+        bool read = false;
+        runJob("Compare with Module", [&] { return read = ReadAllInto(s, module, gmodule); });
+        if (!read)
+            return;
+        (*guard)([&] { showComparison(module, gmodule); });
+    });
     jobs.add(Jobs::PAspWriteAspect, [this, &s] {
         runJob("Write Aspect", [&s] { return WriteAspect(s, s.config.CurrentPin, s.config.CurrentAspect); });
     });
+}
+
+void KestrelConfig::showComparison(const Configuration& module, const GeneralSettings& gmodule)
+{
+    if (!frmCompare) {
+        frmCompare = new CompareDialog(this);
+        connect(frmCompare, &CompareDialog::applyChosen, this, [this](bool thenWrite) {
+            if (frmCompare->chosenCount() > 0)
+                (*guard)("Take from Module", [this] {
+                    frmCompare->takeChosen(core->config, core->general);
+                    RecalcAddressIndex(core->config);
+                });
+            frmCompare->accept();
+            refreshAll();
+            if (thenWrite)
+                startJob(Jobs::WriteChanges);
+        });
+    }
+    const int base = core->config.NumberingBase;
+    frmCompare->showDifferences(differences(module, gmodule, core->config, core->general, base), module,
+                                gmodule, base);
+    frmCompare->show();
+    frmCompare->raise();
 }
 
 void KestrelConfig::startJob(JobName name)
@@ -588,7 +642,9 @@ void KestrelConfig::buildMenus()
     add(menuModule, "Request &Version", press(CommandGenVersion));
     add(menuModule, "&Read All", press(CommandReadAll), QKeySequence("Ctrl+R"));
     add(menuModule, "&Write All", press(CommandWriteAll), QKeySequence("Ctrl+W"));
+    add(menuModule, "Write Chan&ges", press(CommandWriteChanges));
     add(menuModule, "Verify &All", press(CommandVerifyAll));
+    add(menuModule, "Compare wi&th Module...", press(CommandCompare));
     add(menuModule, "&Erase Flash...", press(generalPage->CommandGenEraseFlash));
     menuModule->addSeparator();
     add(menuModule, "Read &Pin", press(aspectsPage->CommandReadPin));

@@ -35,6 +35,7 @@ class PinConfigPage;
 class AspectsPage;
 class PinOverviewPage;
 class TrafficMonitor;
+class CompareDialog;
 } // namespace kestrel
 
 namespace kestrel {
@@ -80,6 +81,8 @@ public:
     QPushButton* CommandReadAll;
     QPushButton* CommandWriteAll;
     QPushButton* CommandVerifyAll;
+    QPushButton* CommandWriteChanges; // only what differs from the module's image
+    QPushButton* CommandCompare;      // the module beside the configuration, every difference
     QPushButton* CommandReadAllPins;
     QPushButton* CommandWriteAllPins;
     QPushButton* CommandVerifyAllPins;
@@ -106,6 +109,9 @@ public:
     AspectsPage* aspectsPage;
     PinOverviewPage* pinOverviewPage; // every pin at a glance, updated with the others
     DeviceList devices;
+
+    // The differences of the last "Compare with Module", made on first use and kept.
+    CompareDialog* frmCompare = nullptr;
 
     // The verification report window
     QDialog* frmKestrelVerification = nullptr;
@@ -194,6 +200,7 @@ private:
     // Over unsaved changes: Save / Discard / Cancel. True when the caller may go on.
     bool keepChangesSafe(const char* doing);
     void startJob(JobName name);
+    void showComparison(const Configuration& module, const GeneralSettings& gmodule);
     void ensureVerificationWindow();
     void ensureCorvidWindow();
     void buildMenus();
