@@ -10,6 +10,8 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+# MinGW-w64's thread-safe POSIX time functions (localtime_r).
+set(CMAKE_CXX_FLAGS_INIT "-D_POSIX_THREAD_SAFE_FUNCTIONS=200112L")
 # Self-contained programs: no MinGW runtime DLLs needed beside them.
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-static")
 find_program(KESTREL_WINE NAMES wine64 wine)
