@@ -18,6 +18,9 @@
 #include <QTabWidget>
 #include <QTimer>
 
+#include <cstdio>
+#include <cstring>
+
 namespace {
 
 // --screenshots DIR: the window on the simulated module after Read All, one picture a
@@ -82,6 +85,12 @@ void takeScreenshots(kestrel::KestrelConfig& window, const QString& folder)
 
 int main(int argc, char** argv)
 {
+    // --version: the program's version, without a window (and without a display).
+    for (int i = 1; i < argc; ++i)
+        if (std::strcmp(argv[i], "--version") == 0) {
+            std::printf("kestrel-config %s\n", KESTREL_VERSION);
+            return 0;
+        }
     QApplication app(argc, argv);
     QApplication::setApplicationName("Kestrel Config");
     QApplication::setApplicationDisplayName("Kestrel Config");

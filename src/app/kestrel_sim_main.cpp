@@ -31,14 +31,15 @@ using namespace kestrel::sim;
 namespace {
 
 constexpr const char* kUsage =
-    "usage: kestrel-sim [--address N[,N...]]... [--xaddress N] [--version A.B.C.D]\n"
+    "usage: kestrel-sim [--help] [--address N[,N...]]... [--xaddress N] [--version [A.B.C.D]]\n"
     "                   [--pace-baud RATE]\n"
     "                   [--corvid [--system-version X.Y] [--unit hub-a|hub-b|linkbox]\n"
     "                             [--unit-version N]]\n"
     "  --address N      a module at bus address N (0..31; 16..31 only through --corvid);\n"
     "                   repeat it or give a list for several modules (default 0)\n"
     "  --xaddress N     give the modules eXtended address N (0..127)\n"
-    "  --version A.B.C.D  firmware version of the modules (default 1.2.3.4)\n"
+    "  --version A.B.C.D  firmware version of the modules (default 1.2.3.4); without a\n"
+    "                   value: print the program's version and exit\n"
     "  --pace-baud RATE deliver replies no faster than a wire at RATE baud would carry\n"
     "                   request and reply (11 bits a byte)\n"
     "  --corvid         put a simulated Corvid system in front of the modules\n"
@@ -225,6 +226,10 @@ int main(int argc, char** argv)
         for (int i = 1; i < argc; ++i)
             if (std::string(argv[i]) == "--help" || std::string(argv[i]) == "-h") {
                 std::fputs(kUsage, stdout);
+                return 0;
+            } else if (std::string(argv[i]) == "--version" && (i + 1 == argc || argv[i + 1][0] == '-')) {
+                // Without a firmware version after it: the program's own version.
+                std::printf("kestrel-sim %s\n", KESTREL_VERSION);
                 return 0;
             }
         options = parseOptions(argc, argv);

@@ -1,12 +1,12 @@
 #include "files/TextFile.h"
 
 #include <cerrno>
+#include <cstdio>
 #include <cstring>
-#include <fcntl.h>
 #include <filesystem>
-#include <sys/stat.h>
+#include <fstream>
 #include <system_error>
-#include <unistd.h>
+#include <unistd.h> // fsync (MinGW-w64: _commit)
 
 namespace kestrel {
 
@@ -16,21 +16,17 @@ namespace {
 
 std::string because(int error) { return std::strerror(error); }
 
-// Closes a descriptor when it goes out of scope.
-struct Descriptor {
-    int fd = -1;
-    ~Descriptor()
-    {
-        if (fd >= 0)
-            ::close(fd);
-    }
-    int release()
-    {
-        const int f = fd;
-        fd = -1;
-        return f;
-    }
-};
+// Hands what was written to the disk before the file is renamed over the old one.
+bool syncToDisk(std::FILE* file)
+{
+    if (std::fflush(file) != 0)
+        return false;
+#ifdef _WIN32
+    return _commit(_fileno(file)) == 0;
+#else
+    return ::fsync(fileno(file)) == 0;
+#endif
+}
 
 // The file that a save to path really replaces: the final target of a symbolic link
 // (relative links resolved from the link's folder), or path itself.
@@ -57,43 +53,49 @@ bool readTextFile(const std::string& path, std::string& content, std::string& er
         error = "No file name";
         return false;
     }
-    Descriptor in{::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)};
-    struct stat st {};
-    if (in.fd < 0 || ::fstat(in.fd, &st) != 0) {
-        error = because(errno);
+    // The kind of file is known before it is opened, so that a FIFO or device is never
+    // waited on.
+    std::error_code ec;
+    const fs::file_status st = fs::status(path, ec);
+    if (ec) {
+        error = because(ec.value());
         return false;
     }
-    if (S_ISDIR(st.st_mode)) {
+    if (fs::is_directory(st)) {
         error = because(EISDIR);
         return false;
     }
-    if (!S_ISREG(st.st_mode)) {
+    if (!fs::is_regular_file(st)) {
         error = "Not a regular file";
         return false;
     }
-    if (static_cast<std::uintmax_t>(st.st_size) > kTextFileLimit) {
-        error = "File too large: " + std::to_string(st.st_size) + " bytes, at most 1 MB";
+    const std::uintmax_t size = fs::file_size(path, ec);
+    if (!ec && size > kTextFileLimit) {
+        error = "File too large: " + std::to_string(size) + " bytes, at most 1 MB";
         return false;
     }
-    std::string text(static_cast<std::size_t>(st.st_size), '\0');
+    std::ifstream in(path, std::ios::binary);
+    if (!in) {
+        error = because(errno);
+        return false;
+    }
+    std::string text(ec ? 0 : static_cast<std::size_t>(size), '\0');
     std::size_t got = 0;
     for (;;) {
         if (got == text.size())
             text.resize(text.size() + 4096); // the file may have grown since
-        const ssize_t n = ::read(in.fd, text.data() + got, text.size() - got);
-        if (n < 0 && errno == EINTR)
-            continue;
-        if (n < 0) {
-            error = because(errno);
+        in.read(text.data() + got, static_cast<std::streamsize>(text.size() - got));
+        got += static_cast<std::size_t>(in.gcount());
+        if (in.bad()) {
+            error = because(EIO);
             return false;
         }
-        if (n == 0)
-            break;
-        got += static_cast<std::size_t>(n);
         if (got > kTextFileLimit) {
             error = "File too large: more than 1 MB";
             return false;
         }
+        if (in.eof())
+            break;
     }
     text.resize(got);
     content = std::move(text);
@@ -109,43 +111,44 @@ std::string temporaryPathFor(const std::string& path)
 bool replaceFile(const std::string& path, const std::string& content, std::string& error)
 {
     const std::string target = finalTarget(path);
-    struct stat old {};
-    const bool exists = ::stat(target.c_str(), &old) == 0;
-    if (exists && !S_ISREG(old.st_mode)) {
+    std::error_code ec;
+    const fs::file_status old = fs::status(target, ec);
+    const bool exists = fs::exists(old);
+    if (exists && !fs::is_regular_file(old)) {
         error = "Can not replace " + path + ": " +
-                (S_ISDIR(old.st_mode) ? because(EISDIR) : std::string("Not a regular file"));
+                (fs::is_directory(old) ? because(EISDIR) : std::string("Not a regular file"));
         return false;
     }
     const std::string temporary = temporaryPathFor(path);
     auto fail = [&](const std::string& what, int cause) {
-        ::unlink(temporary.c_str());
+        std::error_code ignored;
+        fs::remove(temporary, ignored);
         error = what + ": " + because(cause);
         return false;
     };
     // Never written through a link that someone left at the temporary name.
-    Descriptor out{::open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW | O_CLOEXEC, 0666)};
-    if (out.fd < 0) {
+    if (fs::is_symlink(fs::symlink_status(temporary, ec)))
+        fs::remove(temporary, ec);
+    std::FILE* out = std::fopen(temporary.c_str(), "wb");
+    if (!out) {
         const int cause = errno;
         error = "Can not create " + temporary + ": " + because(cause);
         return false;
     }
-    if (exists && ::fchmod(out.fd, old.st_mode & 07777) != 0)
-        return fail("Can not set the permissions of " + temporary, errno);
-    std::size_t written = 0;
-    while (written < content.size()) {
-        const ssize_t n = ::write(out.fd, content.data() + written, content.size() - written);
-        if (n < 0 && errno == EINTR)
-            continue;
-        if (n < 0)
-            return fail("Can not write " + temporary, errno);
-        written += static_cast<std::size_t>(n);
+    const bool written = std::fwrite(content.data(), 1, content.size(), out) == content.size();
+    const bool synced = written && syncToDisk(out);
+    const int cause = errno;
+    if (std::fclose(out) != 0 || !synced)
+        return fail("Can not write " + temporary, synced ? errno : cause);
+    if (exists) {
+        fs::permissions(temporary, old.permissions(), ec);
+        if (ec)
+            return fail("Can not set the permissions of " + temporary, ec.value());
     }
-    if (::fsync(out.fd) != 0)
-        return fail("Can not write " + temporary, errno);
-    if (::close(out.release()) != 0)
-        return fail("Can not write " + temporary, errno);
-    if (::rename(temporary.c_str(), target.c_str()) != 0)
-        return fail("Can not replace " + path, errno);
+    // Replaces the old file in one step (std::filesystem does so on Windows too).
+    fs::rename(temporary, target, ec);
+    if (ec)
+        return fail("Can not replace " + path, ec.value());
     return true;
 }
 

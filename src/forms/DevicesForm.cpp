@@ -8,9 +8,20 @@
 
 namespace kestrel {
 
+std::string standardDeviceFile(const std::string& programFolder)
+{
+    const std::filesystem::path beside = std::filesystem::path(programFolder) / kStandardDeviceFile;
+    const std::filesystem::path installed =
+        std::filesystem::path(programFolder) / ".." / "share" / "kestrel-config" / kStandardDeviceFile;
+    std::error_code error;
+    return (std::filesystem::exists(beside, error) || !std::filesystem::exists(installed, error) ? beside
+                                                                                                 : installed)
+        .string();
+}
+
 void loadStandardDeviceList(DeviceList& list, const std::string& programFolder, UserDialogs& dialogs)
 {
-    const std::string standard = (std::filesystem::path(programFolder) / kStandardDeviceFile).string();
+    const std::string standard = standardDeviceFile(programFolder);
     if (readDeviceList(list, standard, ListMode::Replace, dialogs) != ListLoad::CannotOpen)
         return;
     dialogs.message("Can not find Device Configuration file at standard location", Icon::Warning);

@@ -6,7 +6,11 @@ namespace kestrel {
 // The device controls without their widgets: the standard list at start-up, Reload DD, Load Device, Save
 // Device.
 
-// Start-up: "KestrelDevices.def" in programFolder. When it cannot be opened: "Can not
+// The standard definitions file: "KestrelDevices.def" beside the program, else the one of an
+// installed program (programFolder/../share/kestrel-config/), else the first.
+std::string standardDeviceFile(const std::string& programFolder);
+
+// Start-up: the standard definitions file (above). When it cannot be opened: "Can not
 // find Device Configuration file at standard location", then the open dialog proposes
 // "KestrelDevices.def"; when that fails too or is cancelled: "No Device Configuration
 // available" and the list stays empty. All warnings.

@@ -14,22 +14,21 @@ LinkControl::LinkControl(Link& l, const int& numberingBase) : link(l), base(numb
 void LinkControl::ScanPorts()
 {
     ComboPort.clear();
-#ifdef _WIN32
-    SerialPort& port = link.port();
-    // Numbered COM ports: try to open each of 1..16, keep those that open.
-    const std::string keep = port.selected();
-    for (int n = 1; n <= 16; ++n) {
-        port.select(std::to_string(n));
-        if (port.open()) {
-            port.close();
-            ComboPort.push_back(std::to_string(n));
+    if (numberedPorts) {
+        SerialPort& port = link.port();
+        // Numbered COM ports: try to open each of 1..16, keep those that open.
+        const std::string keep = port.selected();
+        for (int n = 1; n <= 16; ++n) {
+            port.select(std::to_string(n));
+            if (port.open()) {
+                port.close();
+                ComboPort.push_back(std::to_string(n));
+            }
         }
-    }
-    port.select(keep);
-#else
-    if (systemPorts)
+        port.select(keep);
+    } else if (systemPorts) {
         ComboPort = systemPorts();
-#endif
+    }
     ComboPort.push_back(kSimPortName);
 }
 

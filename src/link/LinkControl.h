@@ -19,7 +19,13 @@ public:
     // `numberingBase` is the session's NumberingBase (0 or 1), read at every call.
     LinkControl(Link& link, const int& numberingBase);
 
-    // Ports the system reports (used on systems without numbered COM ports).
+    // Windows numbers its serial ports (COM1..COM16): the list is the numbers 1..16 that
+    // open. Elsewhere it is what systemPorts reports.
+#ifdef _WIN32
+    bool numberedPorts = true;
+#else
+    bool numberedPorts = false;
+#endif
     std::function<std::vector<std::string>()> systemPorts;
 
     std::vector<std::string> ComboPort; // the port list

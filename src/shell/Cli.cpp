@@ -16,6 +16,7 @@
 #include "shell/ProgramSession.h"
 #include "shell/QtSerialPort.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstdio>
 #include <functional>
@@ -32,7 +33,8 @@ constexpr int kUsage = 2;
 constexpr int kCancelled = 130; // as a shell reports a program ended by Ctrl+C
 
 const char* kUsageText =
-    "usage: kestrel-cli [--port NAME|sim] [--baud 9600|19200|38400] [--address N] [--xaddress N]\n"
+    "usage: kestrel-cli [--version] [--port NAME|sim] [--baud 9600|19200|38400] [--address N] [--xaddress "
+    "N]\n"
     "                   [--corvid] [--one-way] [--number-from-1] COMMAND\n"
     "commands:\n"
     "  ports                         list the ports (\"sim\" is the built-in simulated module)\n"
@@ -340,6 +342,10 @@ bool parse(const std::vector<std::string>& args, CliOptions& o, std::string& err
 
 int runCli(const std::vector<std::string>& args)
 {
+    if (std::find(args.begin(), args.end(), "--version") != args.end()) {
+        std::printf("kestrel-cli %s\n", KESTREL_VERSION);
+        return kOk;
+    }
     CliOptions options;
     std::string error;
     if (!parse(args, options, error)) {

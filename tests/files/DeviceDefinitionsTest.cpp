@@ -245,6 +245,15 @@ TEST(DeviceList, StartUpFallsBackToTheDialog)
     EXPECT_TRUE(dialogs.messages.empty());
     EXPECT_EQ(fromFolder.cboDevice, list.cboDevice);
     EXPECT_EQ(fromFolder.lblDDVersion, "Kestrel standard devices 2026-11-21");
+
+    // An installed program finds it in ../share/kestrel-config/.
+    std::filesystem::create_directories(dir.path / "bin");
+    std::filesystem::create_directories(dir.path / "share" / "kestrel-config");
+    std::filesystem::copy_file(standardFile(), dir.path / "share" / "kestrel-config" / "KestrelDevices.def");
+    DeviceList installed;
+    loadStandardDeviceList(installed, (dir.path / "bin").string(), dialogs);
+    EXPECT_TRUE(dialogs.messages.empty());
+    EXPECT_EQ(installed.cboDevice, list.cboDevice);
 }
 
 TEST(DeviceSaving, SavingFromAMemberWritesTheWholeDeviceFromItsHead)
