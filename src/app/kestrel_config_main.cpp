@@ -1,4 +1,5 @@
 #include "shell/AspectsPage.h"
+#include "shell/CompareDialog.h"
 #include "shell/EditTools.h"
 #include "shell/HelpToolDialogs.h"
 #include "shell/KestrelConfig.h"
@@ -76,7 +77,20 @@ void takeScreenshots(kestrel::KestrelConfig& window, const QString& folder)
             } else
                 tool->exec();
         }
-        QApplication::quit();
+        // Compare with Module after two edits: the ID string and the shown pin's first step.
+        s.general.TextGenIDString = "Up Yard";
+        s.config.step(3, 0, 0).Par0 ^= 1;
+        window.CommandCompare->click();
+        auto* compared = new QTimer(&window);
+        QObject::connect(compared, &QTimer::timeout, &window, [&window, compared, folder] {
+            if (window.LabelAction->isVisible() || !window.jobs.PendingJob.empty() || !window.frmCompare)
+                return;
+            compared->stop();
+            QApplication::processEvents();
+            window.frmCompare->grab().save(folder + "/" + window.frmCompare->objectName() + ".png");
+            QApplication::quit();
+        });
+        compared->start(100);
     });
     poll->start(100);
 }
