@@ -103,6 +103,8 @@ struct Configuration {
     int CurrentStep = 0;   // 0..8
     int NumberingBase = 0; // 0, or 1 while "Start numbering at 1" is checked
 
+    bool operator==(const Configuration&) const = default;
+
     // Range-checked access: a bad index is a ProgramFault.
     PinRecord& pin(int p);
     const PinRecord& pin(int p) const;

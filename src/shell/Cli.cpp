@@ -2,12 +2,14 @@
 
 #include "base/ProgramFault.h"
 #include "base/Text.h"
+#include "files/Backups.h"
 #include "files/ConfigurationFile.h"
 #include "link/CorvidControl.h"
 #include "model/WireLimits.h"
 #include "ops/Bulk.h"
 #include "ops/GeneralCommands.h"
 #include "session/Session.h"
+#include "shell/BackupDialog.h"
 #include "shell/BuiltInSim.h"
 #include "shell/ConsoleDialogs.h"
 #include "shell/ConsoleProgress.h"
@@ -16,6 +18,7 @@
 #include "shell/QtSerialPort.h"
 
 #include <charconv>
+#include <chrono>
 #include <cstdio>
 #include <functional>
 #include <map>
@@ -36,7 +39,9 @@ const char* kUsageText =
     "commands:\n"
     "  ports                         list the ports (\"sim\" is the built-in simulated module)\n"
     "  version                       print the module's firmware version\n"
-    "  read FILE [--compact]         read the whole module and save it as a data file\n"
+    "  read FILE [--compact] [--backup]\n"
+    "                                read the whole module and save it as a data file\n"
+    "                                (--backup: also keep it with the window's automatic backups)\n"
     "  write FILE [--with-pin-config] load a data file and write it to the module\n"
     "  verify FILE                   load a data file and verify the module against it\n"
     "  erase --yes                   erase the module's configuration memory\n"
@@ -53,6 +58,7 @@ struct CliOptions {
     bool yes = false;
     bool compact = false;
     bool withPinConfig = false;
+    bool backup = false;
     std::string command;
     std::vector<std::string> operands;
 };
@@ -108,8 +114,9 @@ int jobStatus(CliContext& c, bool ok)
     return kFailed;
 }
 
-// Read All, then save the data file (full, or compact with --compact). A read that ran
-// through is saved even when a reader reported a problem; the status then says so.
+// Read All, then save the data file (full, or compact with --compact) and, with --backup, a
+// backup as the window keeps after Read All. A read that ran through is saved even when a
+// reader reported a problem; the status then says so.
 int commandRead(CliContext& c)
 {
     if (!ReadAll(c.session))
@@ -119,6 +126,13 @@ int commandRead(CliContext& c)
                                c.options.compact ? SaveForm::Compact : SaveForm::Full, error)) {
         std::fprintf(stderr, "Cannot save %s: %s\n", printable(c.options.operands[0]).c_str(),
                      printable(error).c_str());
+        jobStatus(c, false);
+        return kFailed;
+    }
+    if (c.options.backup && saveBackup(backupRoot().toStdString(), c.session.config, c.session.general,
+                                       std::chrono::system_clock::now(), error)
+                                .empty()) {
+        std::fprintf(stderr, "Cannot save the backup: %s\n", printable(error).c_str());
         jobStatus(c, false);
         return kFailed;
     }
@@ -228,6 +242,8 @@ bool parse(const std::vector<std::string>& args, CliOptions& o, std::string& err
             o.yes = true;
         } else if (a == "--compact") {
             o.compact = true;
+        } else if (a == "--backup") {
+            o.backup = true;
         } else if (a == "--with-pin-config") {
             o.withPinConfig = true;
         } else if (a == "-h" || a == "--help") {
@@ -249,6 +265,10 @@ bool parse(const std::vector<std::string>& args, CliOptions& o, std::string& err
     const bool needsFile = o.command == "read" || o.command == "write" || o.command == "verify";
     if (needsFile && o.operands.size() != 1) {
         error = o.command + " needs one FILE";
+        return false;
+    }
+    if (o.backup && o.command != "read") {
+        error = "--backup goes with read";
         return false;
     }
     if (o.port.empty()) {
