@@ -103,6 +103,8 @@ struct Configuration {
     int CurrentStep = 0;   // 0..8
     int NumberingBase = 0; // 0, or 1 while "Start numbering at 1" is checked
 
+    bool operator==(const Configuration&) const = default;
+
     // Range-checked access: a bad index is a ProgramFault.
     PinRecord& pin(int p);
     const PinRecord& pin(int p) const;
@@ -112,8 +114,6 @@ struct Configuration {
     const StepRecord& step(int p, int a, int s) const;
     EventRecord& events(int p);
     const EventRecord& events(int p) const;
-
-    bool operator==(const Configuration&) const = default;
 };
 
 } // namespace kestrel

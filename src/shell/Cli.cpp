@@ -2,6 +2,7 @@
 
 #include "base/ProgramFault.h"
 #include "base/Text.h"
+#include "files/Backups.h"
 #include "files/ConfigurationFile.h"
 #include "forms/ConfigDiff.h"
 #include "link/CorvidControl.h"
@@ -9,6 +10,7 @@
 #include "ops/Bulk.h"
 #include "ops/GeneralCommands.h"
 #include "session/Session.h"
+#include "shell/BackupDialog.h"
 #include "shell/BuiltInSim.h"
 #include "shell/ConsoleDialogs.h"
 #include "shell/ConsoleProgress.h"
@@ -18,6 +20,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <chrono>
 #include <cstdio>
 #include <functional>
 #include <map>
@@ -39,7 +42,9 @@ const char* kUsageText =
     "commands:\n"
     "  ports                         list the ports (\"sim\" is the built-in simulated module)\n"
     "  version                       print the module's firmware version\n"
-    "  read FILE [--compact]         read the whole module and save it as a data file\n"
+    "  read FILE [--compact] [--backup]\n"
+    "                                read the whole module and save it as a data file\n"
+    "                                (--backup: also keep it with the window's automatic backups)\n"
     "  write FILE [--with-pin-config] load a data file and write it to the module\n"
     "        [--changes-from BASE]   only what differs from BASE.dat, a file the module holds\n"
     "  verify FILE                   load a data file and verify the module against it\n"
@@ -61,6 +66,7 @@ struct CliOptions {
     bool compact = false;
     bool withPinConfig = false;
     std::optional<std::string> changesFrom; // write: BASE.dat, what the module holds
+    bool backup = false;
     std::string command;
     std::vector<std::string> operands;
 };
@@ -130,8 +136,9 @@ int jobStatus(CliContext& c, bool ok)
     return kFailed;
 }
 
-// Read All, then save the data file (full, or compact with --compact). A read that ran
-// through is saved even when a reader reported a problem; the status then says so.
+// Read All, then save the data file (full, or compact with --compact) and, with --backup, a
+// backup as the window keeps after Read All. A read that ran through is saved even when a
+// reader reported a problem; the status then says so.
 int commandRead(CliContext& c)
 {
     if (!ReadAll(c.session))
@@ -141,6 +148,13 @@ int commandRead(CliContext& c)
                                c.options.compact ? SaveForm::Compact : SaveForm::Full, error)) {
         std::fprintf(stderr, "Cannot save %s: %s\n", printable(c.options.operands[0]).c_str(),
                      printable(error).c_str());
+        jobStatus(c, false);
+        return kFailed;
+    }
+    if (c.options.backup && saveBackup(backupRoot().toStdString(), c.session.config, c.session.general,
+                                       std::chrono::system_clock::now(), error)
+                                .empty()) {
+        std::fprintf(stderr, "Cannot save the backup: %s\n", printable(error).c_str());
         jobStatus(c, false);
         return kFailed;
     }
@@ -298,6 +312,8 @@ bool parse(const std::vector<std::string>& args, CliOptions& o, std::string& err
         } else if (a == "--changes-from") {
             if (!value(o.changesFrom.emplace()))
                 return false;
+        } else if (a == "--backup") {
+            o.backup = true;
         } else if (a == "--with-pin-config") {
             o.withPinConfig = true;
         } else if (a == "-h" || a == "--help") {
@@ -324,6 +340,14 @@ bool parse(const std::vector<std::string>& args, CliOptions& o, std::string& err
     }
     if (o.command == "diff" && o.operands.size() != 2) {
         error = "diff needs two FILEs";
+        return false;
+    }
+    if (o.backup && o.command != "read") {
+        error = "--backup goes with read";
+        return false;
+    }
+    if (o.changesFrom && o.command != "write") {
+        error = "--changes-from goes with write";
         return false;
     }
     if (o.port.empty()) {

@@ -56,8 +56,8 @@ CompareDialog::CompareDialog(QWidget* parent) : QDialog(parent)
     CommandCompareWrite = named(new QPushButton("Apply and &Write Changes"), "CommandCompareWrite");
     CommandCompareWrite->setToolTip("Applies, then writes to the module what you kept");
     CommandCompareClose = named(new QPushButton("&Close"), "CommandCompareClose");
-    for (QPushButton* b :
-         {CommandTakeAllModule, CommandKeepAllMine, CommandCompareApply, CommandCompareWrite, CommandCompareClose})
+    for (QPushButton* b : {CommandTakeAllModule, CommandKeepAllMine, CommandCompareApply, CommandCompareWrite,
+                           CommandCompareClose})
         buttons->addWidget(b);
     layout->addLayout(buttons);
     connect(CommandTakeAllModule, &QPushButton::clicked, this, [this] { chooseAll(kTakeModule); });
@@ -86,8 +86,9 @@ void CompareDialog::showDifferences(std::vector<Difference> found, const Configu
             group->setExpanded(true);
             last = d.group;
         }
-        auto* row = new QTreeWidgetItem(group, {QString::fromStdString(d.item), QString::fromStdString(d.first),
-                                                QString::fromStdString(d.second)});
+        auto* row =
+            new QTreeWidgetItem(group, {QString::fromStdString(d.item), QString::fromStdString(d.first),
+                                        QString::fromStdString(d.second)});
         auto* choice = named(new QComboBox, indexed("ComboCompareChoice", static_cast<int>(i)));
         choice->addItems({"keep mine", "take the module's"});
         choice->setAccessibleName(QString::fromStdString(d.item));
@@ -99,7 +100,8 @@ void CompareDialog::showDifferences(std::vector<Difference> found, const Configu
                                         : QString("%1 difference%2 between the module and the configuration")
                                               .arg(n)
                                               .arg(n == 1 ? "" : "s"));
-    for (QPushButton* b : {CommandTakeAllModule, CommandKeepAllMine, CommandCompareApply, CommandCompareWrite})
+    for (QPushButton* b :
+         {CommandTakeAllModule, CommandKeepAllMine, CommandCompareApply, CommandCompareWrite})
         b->setEnabled(n > 0);
 }
 

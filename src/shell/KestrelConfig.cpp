@@ -2,6 +2,7 @@
 #include "forms/DevicesForm.h"
 #include "forms/MainWindowForm.h"
 
+#include "files/Backups.h"
 #include "files/ConfigurationFile.h"
 #include "forms/AspectEditor.h"
 #include "model/AddressIndex.h"
@@ -10,6 +11,7 @@
 #include "ops/EventControl.h"
 #include "ops/PinTransfer.h"
 #include "shell/AspectsPage.h"
+#include "shell/BackupDialog.h"
 #include "shell/Bindings.h"
 #include "shell/BuiltInSim.h"
 #include "shell/CompareDialog.h"
@@ -53,6 +55,7 @@
 #include <QTimer>
 #include <QUndoStack>
 #include <QVBoxLayout>
+#include <chrono>
 
 namespace kestrel {
 
@@ -338,15 +341,22 @@ void KestrelConfig::addJobs()
         };
     };
     jobs.add(Jobs::ReadAll, [this, &s] {
+        bool completed = false;
         runJob(
-            "Read All", [&s] { return ReadAll(s); }, true, true);
+            "Read All", [&s, &completed] { return completed = ReadAll(s); }, true, true, LongJob::ReadAll);
+        if (completed)
+            saveReadBackup();
     });
     jobs.add(Jobs::WriteAll, [this, &s, pinConfigToo] {
         const bool withConfig = pinConfigToo();
         runJob(
-            "Write All", [&s, withConfig] { return WriteAll(s, withConfig); }, false, true);
+            "Write All", [&s, withConfig] { return WriteAll(s, withConfig); }, false, true,
+            LongJob::WriteAll);
     });
-    jobs.add(Jobs::VerifyAll, [this, &s] { runJob("Verify All", [&s] { return VerifyAll(s); }); });
+    jobs.add(Jobs::VerifyAll, [this, &s] {
+        runJob(
+            "Verify All", [&s] { return VerifyAll(s); }, false, false, LongJob::VerifyAll);
+    });
     jobs.add(Jobs::ReadPin, [this, &s] {
         runJob(
             "Read Pin", [&s] { return ReadPin(s, s.config.CurrentPin); }, true);
@@ -362,11 +372,13 @@ void KestrelConfig::addJobs()
     jobs.add(Jobs::WriteDevice, [this, &s] { runJob("Write Device", [&s] { return WriteDevice(s); }); });
     jobs.add(Jobs::ReadAllPins, [this, &s] {
         runJob(
-            "Read All Pins", [&s] { return ReadAllPins(s); }, true);
+            "Read All Pins", [&s] { return ReadAllPins(s); }, true, false, LongJob::ReadAllPins);
     });
     jobs.add(Jobs::WriteAllPins, [this, &s, pinConfigToo] {
         const bool withConfig = pinConfigToo();
-        runJob("Write All Pins", [&s, withConfig] { return WriteAllPins(s, withConfig); });
+        runJob(
+            "Write All Pins", [&s, withConfig] { return WriteAllPins(s, withConfig); }, false, false,
+            LongJob::WriteAllPins);
     });
     jobs.add(Jobs::PAspReadPin, [this, &s] {
         runJob(
@@ -374,7 +386,9 @@ void KestrelConfig::addJobs()
     });
     jobs.add(Jobs::PAspWritePin,
              [this, &s] { runJob("Write Pin", [&s] { return WritePin(s, s.config.CurrentPin); }); });
-    jobs.add(Jobs::VerifyAllPins, [this, verify] { runJob("Verify All Pins", verify(&VerifyAllPins)); });
+    jobs.add(Jobs::VerifyAllPins, [this, verify] {
+        runJob("Verify All Pins", verify(&VerifyAllPins), false, false, LongJob::VerifyAllPins);
+    });
     jobs.add(Jobs::ECWriteAll,
              [this, &s] { runJob("Write All Events", [&s] { return WriteAllEvents(s); }); });
     jobs.add(Jobs::ECReadAll, [this, &s] {
@@ -434,10 +448,15 @@ void KestrelConfig::startJob(JobName name)
 void KestrelConfig::Timer1_Timer() { jobs.Timer1_Timer(); }
 
 void KestrelConfig::runJob(const QString& title, const std::function<bool()>& operation, bool reads,
-                           bool clean)
+                           bool clean, std::optional<LongJob> estimate)
 {
     commitAll();
     JobProgress progress(this, title);
+    // The estimate counts the direct route's frames; a tunnelled job goes without one.
+    if (estimate && !core->link.settings.CheckCorvid)
+        progress.setEstimate(jobTraffic(*estimate, core->config, core->general, core->link.settings,
+                                        CheckWritePinConfig->isChecked()),
+                             9600 << core->linkControl.OptionBitRate);
     core->link.setProgress(&progress);
     QElapsedTimer clock;
     clock.start();
@@ -611,6 +630,7 @@ void KestrelConfig::buildMenus()
         });
         actionRecent[i]->setVisible(false);
     }
+    actionRestoreBackup = add(menuFile, "&Restore from backup...", [this] { restoreFromBackup(); });
     menuFile->addSeparator();
     actionForgetSettings = add(menuFile, "&Forget Remembered Settings", [this] {
         forgetSettings = true;
@@ -892,6 +912,26 @@ void KestrelConfig::loadFile(const QString& path)
         }
     });
     refreshAll();
+}
+
+void KestrelConfig::saveReadBackup()
+{
+    std::string error;
+    std::string saved;
+    (*guard)([&] {
+        saved = saveBackup(backupRoot().toStdString(), core->config, core->general,
+                           std::chrono::system_clock::now(), error);
+    });
+    if (saved.empty())
+        LabelStatusJob->setText(LabelStatusJob->text() +
+                                "; the backup was not saved: " + QString::fromStdString(error));
+}
+
+void KestrelConfig::restoreFromBackup()
+{
+    BackupDialog dialog(listBackups(backupRoot().toStdString()), this);
+    if (dialog.exec() == QDialog::Accepted && !dialog.chosenPath().isEmpty())
+        loadFile(dialog.chosenPath());
 }
 
 void KestrelConfig::CommandReadAll_Click()

@@ -1,6 +1,7 @@
 #pragma once
 #include "files/DeviceDefinitions.h"
 #include "link/CorvidControl.h"
+#include "ops/Estimate.h"
 #include "ops/JobDispatcher.h"
 #include "session/Session.h"
 #include "shell/Guard.h"
@@ -139,6 +140,7 @@ public:
     // Every change of the configuration, general settings and event entries, one step for
     // each handler that changed them (at most 100 kept).
     QUndoStack* undoStack;
+    QAction* actionRestoreBackup; // File > Restore from backup...
 
     // The last files, newest first (at most five).
     QStringList recentFiles() const { return recent; }
@@ -146,6 +148,10 @@ public:
     void loadFile(const QString& path);
     // Saves to a file already chosen; asks for one when path is empty.
     void saveFile(const QString& path, bool compact);
+    // Every completed Read All is kept as a backup (backupRoot()); a failure to keep it is
+    // told in the status bar. Restore chooses one and loads it as Load File does.
+    void saveReadBackup();
+    void restoreFromBackup();
 
 public slots:
     void ComboPort_Click();
@@ -187,9 +193,9 @@ private:
     void addJobs();
     // Runs one job behind the progress dialog, inside the guard, and tells its outcome in
     // the status bar. `reads` jobs fill the pages; `clean` jobs leave the configuration
-    // equal to the module's when they succeed.
+    // equal to the module's when they succeed. A long job's progress shows its `estimate`.
     void runJob(const QString& title, const std::function<bool()>& operation, bool reads = false,
-                bool clean = false);
+                bool clean = false, std::optional<LongJob> estimate = std::nullopt);
     // Takes every typed entry of every page that editing has not yet finished.
     void commitAll();
     // Shows the model on every page.

@@ -28,12 +28,44 @@ void QtProgress::step(int done, int total, const std::string& what)
         return;
     dialog->setMaximum(total);
     dialog->setValue(done);
-    dialog->setLabelText(QString::fromLatin1(what.c_str()));
+    stepText = QString::fromLatin1(what.c_str());
+    showLabel();
     QCoreApplication::processEvents();
 }
 
-void QtProgress::exchanged() { QCoreApplication::processEvents(); }
+void QtProgress::exchanged()
+{
+    if (estimate) {
+        ++exchanges;
+        const auto left = secondsLeft(*estimate, bitRate, exchanges, clock.elapsed() / 1000.0);
+        const QString text =
+            left ? QString("About %1 left").arg(QString::fromStdString(durationText(*left))) : QString();
+        if (text != timeText) {
+            timeText = text;
+            showLabel();
+        }
+    }
+    QCoreApplication::processEvents();
+}
 
 bool QtProgress::cancelled() { return dialog && dialog->wasCanceled(); }
+
+void QtProgress::setEstimate(const JobTraffic& traffic, int baud)
+{
+    estimate = traffic;
+    bitRate = baud;
+    exchanges = 0;
+    clock.start();
+    timeText = QString("About %1 at %2 baud")
+                   .arg(QString::fromStdString(durationText(wireSeconds(traffic, baud))))
+                   .arg(baud);
+    showLabel();
+}
+
+void QtProgress::showLabel()
+{
+    if (dialog)
+        dialog->setLabelText(timeText.isEmpty() ? stepText : stepText + "\n" + timeText);
+}
 
 } // namespace kestrel

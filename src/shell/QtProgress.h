@@ -1,7 +1,12 @@
 #pragma once
 #include "link/Progress.h"
+#include "ops/Estimate.h"
 
+#include <QElapsedTimer>
 #include <QPointer>
+#include <QString>
+
+#include <optional>
 
 class QProgressDialog;
 class QWidget;
@@ -19,8 +24,20 @@ public:
     void exchanged() override;
     bool cancelled() override;
 
+    // A long job's estimate, under the step: "About 1 min 20 s at 19200 baud" before its
+    // first exchange, then the time left ("About 35 s left") as its exchanges complete.
+    void setEstimate(const JobTraffic& traffic, int baud);
+    QString estimateText() const { return timeText; }
+
 private:
+    void showLabel();
     QPointer<QProgressDialog> dialog;
+    QString stepText;
+    QString timeText;
+    std::optional<JobTraffic> estimate;
+    int bitRate = 0;
+    long exchanges = 0;
+    QElapsedTimer clock;
 };
 
 } // namespace kestrel

@@ -2,8 +2,10 @@
 // and Save; nothing typed or pressed ends the program; the port opens again and again;
 // a message raised during a job is above its progress dialog.
 #include "base/ProgramFault.h"
+#include "files/Backups.h"
 #include "files/ConfigurationFile.h"
 #include "gui/GuiRig.h"
+#include "shell/BackupDialog.h"
 #include "shell/EventPage.h"
 #include "shell/GeneralPage.h"
 #include "shell/Guard.h"
@@ -12,12 +14,14 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QDir>
 #include <QMenu>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QRadioButton>
 #include <QSettings>
 #include <QTabWidget>
+#include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -365,4 +369,30 @@ TEST(Window, RequestVersionTheLinkAreaAndTheExtendedAddress)
                          QtDialogs::withDefaultSuffix("dev", "Kestrel Device Definitions|*.def"),
                          QtDialogs::withDefaultSuffix("", "Kestrel Device Definitions|*.def")),
               std::tuple("/tmp/mylayout.dat", "/tmp/my.def", "dev.def", ""));
+}
+
+TEST(Window, ReadAllKeepsABackupThatRestoreFromBackupLoads)
+{
+    Window m;
+    QDir(backupRoot()).removeRecursively();
+    m.job(m.w.CommandReadAll);
+    const Configuration read = m.w.session().config;
+    EXPECT_EQ(m.w.LabelStatusJob->text().indexOf("backup"), -1); // saved without a word
+    const auto backups = listBackups(backupRoot().toStdString());
+    ASSERT_EQ(backups.size(), 1u);
+    EXPECT_EQ(backups[0].id, "Demo layout");
+    EXPECT_EQ(backups[0].version, m.w.LabelGenVersionString->text().toStdString());
+
+    m.w.session().config.pin(3).Description = "Changed since";
+    m.dialogs.defaultAnswer = Answer::Discard;
+    clickInModal("dlgBackups", "CommandCancel");
+    m.w.actionRestoreBackup->trigger();
+    EXPECT_EQ(m.w.session().config.pin(3).Description, "Changed since");
+    clickInModal("dlgBackups", "CommandLoad"); // the newest is chosen at first
+    m.w.actionRestoreBackup->trigger();
+    Configuration restored = m.w.session().config;
+    for (int p = 0; p < kPinCount; ++p) // the live output value is not kept in a data file
+        restored.pin(p).OutputValue = read.pin(p).OutputValue;
+    EXPECT_TRUE(restored == read);
+    EXPECT_EQ(m.w.currentFile().toStdString(), backups[0].path);
 }

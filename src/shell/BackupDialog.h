@@ -1,0 +1,35 @@
+#pragma once
+#include "files/Backups.h"
+
+#include <QDialog>
+#include <QString>
+
+#include <vector>
+
+class QPushButton;
+class QTableWidget;
+
+namespace kestrel {
+
+// Where the window and kestrel-cli keep the automatic backups: "backups" in the program's
+// data folder (~/.local/share/Kestrel/Kestrel Config/backups).
+QString backupRoot();
+
+// File > Restore from backup...: the backups, newest first, with their date, ID and
+// version. Load (or a double-click on a row) accepts the chosen one; Cancel chooses none.
+class BackupDialog : public QDialog {
+    Q_OBJECT
+public:
+    BackupDialog(std::vector<BackupEntry> entries, QWidget* parent = nullptr);
+    // The data file of the chosen backup, "" when none is chosen.
+    QString chosenPath() const;
+
+    QTableWidget* tableBackups;
+    QPushButton* CommandLoad;
+    QPushButton* CommandCancel;
+
+private:
+    std::vector<BackupEntry> backups;
+};
+
+} // namespace kestrel

@@ -1,0 +1,52 @@
+// Automatic backups: names, the side file's ID and version, the newest first, pruning.
+#include "files/Backups.h"
+#include "files/ConfigurationFile.h"
+#include "model/AddressIndex.h"
+#include "support/Files.h"
+#include "support/RecordingDialogs.h"
+#include "support/SimSession.h"
+
+#include <gtest/gtest.h>
+
+using namespace kestrel;
+using namespace kestrel::test;
+
+TEST(Backups, SavedPerModuleListedNewestFirstAndPrunedToTheLastThirty)
+{
+    ScratchDir dir("backups");
+    const std::string root = dir.file("backups");
+    Configuration config = fullConfiguration();
+    RecalcAddressIndex(config);                      // as a read leaves it
+    GeneralSettings general = fullGeneralSettings(); // "Up Main 7", version "1.2.3.4"
+    const auto start = std::chrono::system_clock::now();
+    std::string error;
+    std::vector<std::string> saved;
+    // Two within the same second, then one a minute for a while.
+    for (int i = 0; i < 33; ++i)
+        saved.push_back(
+            saveBackup(root, config, general, start + std::chrono::minutes(i == 0 ? 0 : i - 1), error));
+    general.TextGenIDString = "";
+    general.LabelGenVersionString = "Unknown";
+    const std::string other = saveBackup(root, config, general, start + std::chrono::hours(1), error);
+    ASSERT_EQ(error, "");
+    EXPECT_NE(saved[0], saved[1]);
+    EXPECT_EQ(std::filesystem::path(saved[0]).parent_path().filename(), "Up_Main_7");
+    EXPECT_EQ(std::filesystem::path(other).parent_path().filename(), "no-id");
+
+    const auto list = listBackups(root);
+    ASSERT_EQ(list.size(), kBackupsKept + 1u);
+    EXPECT_EQ(list[0].path, other);
+    EXPECT_EQ(list[0].version, "Unknown");
+    EXPECT_EQ(list[1].path, saved.back());
+    EXPECT_EQ(list[1].id, "Up Main 7");
+    EXPECT_EQ(list[1].version, "1.2.3.4");
+    EXPECT_EQ(list[1].when.size(), 19u);
+    EXPECT_EQ(list.back().path, saved[3]); // the three oldest went, the second of one second too
+    EXPECT_FALSE(std::filesystem::exists(saved[1]));
+
+    Configuration back;
+    GeneralSettings general2;
+    RecordingDialogs dialogs;
+    ASSERT_EQ(loadConfigurationFile(list[1].path, back, general2, dialogs), LoadResult::Loaded);
+    EXPECT_TRUE(back == config);
+}
