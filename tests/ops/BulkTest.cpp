@@ -137,9 +137,7 @@ TEST(BulkScripted, WriteAllSendsSerialAddressingLast)
     for (const auto& r : m.requests) {
         if (r[0] == 96)
             general.push_back({r[0], r[1]});
-        else if (r[0] == 100 && r.size() == 6)
-            ++eventWrites;
-        else if (r[0] == 101)
+        else if ((r[0] == 100 && r.size() == 6) || r[0] == 101)
             ++eventWrites;
         else
             ++pinWrites;
