@@ -122,9 +122,8 @@ TEST(BulkScripted, ModuleThatAnswersNothingEndsReadAllAfterTheVersionRequest)
     m.session.onConfigurationChanged = [&] { ++refreshed; };
     m.silence();
     EXPECT_FALSE(ReadAll(m.session));
-    EXPECT_EQ(m.requests, (std::vector<Data>{{112, 0}}));
-    EXPECT_EQ(refreshed, 1);
-    EXPECT_EQ(m.session.general.LabelGenVersionString, "Unknown");
+    EXPECT_EQ(std::tuple(m.requests, refreshed, m.session.general.LabelGenVersionString),
+              std::tuple(std::vector<Data>{{112, 0}}, 1, "Unknown"));
 }
 
 TEST(BulkScripted, WriteAllSendsSerialAddressingLast)
