@@ -61,7 +61,6 @@ public:
         seen = 0;
         hits = 0;
     }
-    void disarm() { fault = Fault::None; }
 
     int hits = 0;      // requests the fault was let loose on (0 or 1)
     int hitFirst = -1; // first byte of that request frame (direct: address byte with toggle;

@@ -8,6 +8,7 @@
 #include "support/ScriptedModule.h"
 #include "support/SimSession.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 using namespace kestrel;
@@ -161,10 +162,7 @@ TEST(DataFileWriting, CompactWithoutDescriptionsIsHeaderGeneralEventsAndEnd)
 {
     Configuration c;
     const std::string text = writeConfigurationText(c, GeneralSettings{}, SaveForm::Compact);
-    int lines = 0;
-    for (char ch : text)
-        lines += ch == '\n';
-    EXPECT_EQ(lines, 1 + 6 + 64 + 1);
+    EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 1 + 6 + 64 + 1);
     EXPECT_NE(text.find("\"DCC\",0,0,0\r\n\"XAD\",0,0,0,0,0,0,0\r\n"), std::string::npos);
     EXPECT_NE(text.find("\"SPC\",0,\"9600\",7,0,1\r\n"), std::string::npos);
 
@@ -354,8 +352,7 @@ TEST(DataFileReading, FormatErrorsStopTheLoadAndKeepWhatWasRead)
     const Case cases[] = {
         {head + "  \"Cfg\",2,1", "The file ends before \"End\" at line 4, item 4"},
         {head + "  \"Cfg\",2,1\r\n\r\n", "The file ends before \"End\" at line 4, item 4"},
-        {"\"KestrelConfiguration 3100\"\r\n\"ID$\",\"Kept\"\r\n\"Pin\",3,0,0,\"Lamp\"\r\n",
-         "The file ends before \"End\" at line 3, item 6"},
+        {head, "The file ends before \"End\" at line 3, item 6"},
         {head + "\"Pin\",33,0,0,\"x\"\r\n\"End\"\r\n", "Pin index 33 out of range 0..32 at line 4, item 2"},
         {head + "\"Eof\",40,0,0,0,0\r\n\"End\"\r\n", "Pin index 40 out of range 0..32 at line 4, item 2"},
         {head + "\"Asp\",13,\"x\"\r\n\"End\"\r\n", "Aspect index 13 out of range 0..12 at line 4, item 2"},

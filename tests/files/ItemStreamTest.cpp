@@ -42,8 +42,7 @@ TEST(ItemReader, TellsLineAndItemAndWhereTheTextEnded)
     in.next();
     in.next();
     EXPECT_EQ(in.next(), "B");
-    EXPECT_EQ(in.line(), 2);
-    EXPECT_EQ(in.item(), 1);
+    EXPECT_EQ(std::tuple(in.line(), in.item()), std::tuple(2, 1));
     in.next();
     EXPECT_EQ(in.nextByte(), 3);
     EXPECT_EQ(in.item(), 3);
@@ -80,16 +79,12 @@ TEST(ItemReader, NumbersAreCheckedForFormAndRange)
     EXPECT_EQ(message("1.2.3", real), "Number expected, found \"1.2.3\" at line 1, item 1");
 
     ItemReader in("12.5,-0.25,+7,1e3");
-    EXPECT_DOUBLE_EQ(in.nextReal(), 12.5);
-    EXPECT_DOUBLE_EQ(in.nextReal(), -0.25);
-    EXPECT_DOUBLE_EQ(in.nextReal(), 7);
-    EXPECT_DOUBLE_EQ(in.nextReal(), 1000);
+    for (double want : {12.5, -0.25, 7.0, 1000.0})
+        EXPECT_DOUBLE_EQ(in.nextReal(), want);
 
-    EXPECT_TRUE(isNumberItem("31"));
-    EXPECT_TRUE(isNumberItem(".5"));
-    EXPECT_FALSE(isNumberItem(""));
-    EXPECT_FALSE(isNumberItem("PAM"));
-    EXPECT_FALSE(isNumberItem("-"));
+    EXPECT_EQ(std::tuple(isNumberItem("31"), isNumberItem(".5"), isNumberItem(""), isNumberItem("PAM"),
+                         isNumberItem("-")),
+              std::tuple(true, true, false, false, false));
 }
 
 TEST(ItemWriter, WritesQuotedTextNumbersIndentationAndCrLfWhateverTheLocale)

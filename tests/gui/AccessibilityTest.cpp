@@ -121,8 +121,16 @@ TEST(Access, EveryInputIsNamedAndEveryButtonHasItsOwnMnemonic)
                                 new EditStepDialog(s, owner), new TimeToolDialog(owner),
                                 new PatternToolDialog(owner), new EventPatternToolDialog(owner),
                                 new LevelToolDialog(owner)};
-    for (QDialog* tool : tools)
+    for (QDialog* tool : tools) {
         EXPECT_EQ(faultsOf(tool).join(", ").toStdString(), "") << tool->objectName().toStdString();
+        for (QLabel* label : tool->findChildren<QLabel*>()) // in a tool: exactly its label
+            EXPECT_TRUE(!label->buddy() || label->buddy()->accessibleName() == label->text().remove('&'))
+                << label->text().toStdString();
+        for (QAbstractButton* b : tool->findChildren<QAbstractButton*>()) // check boxes and options too
+            EXPECT_TRUE(b->text().contains('&')) << b->objectName().toStdString();
+        auto* ok = tool->findChild<QPushButton*>("OKButton");
+        EXPECT_TRUE(!ok || ok->isDefault()) << tool->objectName().toStdString();
+    }
 }
 
 TEST(Access, TheWindowFits1280x720AndEveryNumberBoxShowsItsNumber)

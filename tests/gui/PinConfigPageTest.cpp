@@ -15,7 +15,7 @@ using namespace kestrel::test;
 
 using PinConfigRig = PageRig<PinConfigPage>;
 
-TEST(PinConfigPage, TheServoIsReadAndClampedEditsAreWrittenToFlashAndReadBack)
+TEST(PinConfigPage, TheServoIsReadClampedWrittenToFlashReadBackAndMovedLive)
 {
     PinConfigRig rig;
     enter(rig.page->TextPCFGPin, "8");
@@ -69,17 +69,10 @@ TEST(PinConfigPage, TheServoIsReadAndClampedEditsAreWrittenToFlashAndReadBack)
                          pg.TextMidpoint->text(), pg.OptionServoRange[3]->isChecked(),
                          pg.ChkSrvSuspended->isChecked()),
               std::tuple(1, "127", "-64", "12", true, true));
-}
 
-TEST(PinConfigPage, LivePositionIsClampedSentAndReadBackAsTheActivePosition)
-{
-    PinConfigRig rig;
-    enter(rig.page->TextPCFGPin, "8");
-    // The module's active parameters start empty: read flash, then set them active.
-    QTest::mouseClick(rig.page->CommandPCFGGetParam[1], Qt::LeftButton);
-    ASSERT_EQ(rig.page->SSTabPCFG->currentIndex(), 1);
+    // The module's active parameters start empty: set them from what was read, then the
+    // live position is clamped, sent and read back as the active position.
     QTest::mouseClick(rig.page->CommandPCFGSetParam[0], Qt::LeftButton);
-
     rig.page->TextPosition->setText("-70");
     QTest::mouseClick(rig.page->CommandSrvLevel, Qt::LeftButton);
     EXPECT_EQ(

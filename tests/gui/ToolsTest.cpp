@@ -216,23 +216,3 @@ TEST(HelpTools, LevelToolClampsEachBoxAndTheOthersFollow)
     EXPECT_TRUE(tool.run(parameter));
     EXPECT_EQ(parameter, 20);
 }
-
-TEST(Tools, EveryInputIsNamedAfterItsLabelAndEveryButtonHasAMnemonic)
-{
-    ToolRig rig;
-    for (QDialog* d : std::initializer_list<QDialog*>{rig.page.get(), &rig.aspectTool, &rig.stepTool,
-                                                      &rig.time, &rig.pattern, &rig.event, &rig.level}) {
-        for (QLabel* label : d->findChildren<QLabel*>())
-            EXPECT_TRUE(!label->buddy() || label->buddy()->accessibleName() == label->text().remove('&'))
-                << label->text().toStdString();
-        for (QWidget* w : d->findChildren<QWidget*>()) {
-            const bool input = w->inherits("QAbstractSpinBox") || w->inherits("QAbstractSlider") ||
-                               (w->inherits("QLineEdit") && !w->objectName().startsWith("qt_"));
-            EXPECT_TRUE(!input || !w->accessibleName().isEmpty()) << w->objectName().toStdString();
-        }
-        for (QAbstractButton* b : d->findChildren<QAbstractButton*>())
-            EXPECT_TRUE(b->text().contains('&')) << b->objectName().toStdString();
-        auto* ok = d->findChild<QPushButton*>("OKButton");
-        EXPECT_TRUE(!ok || ok->isDefault()) << d->objectName().toStdString();
-    }
-}

@@ -23,18 +23,13 @@ std::vector<int> concat(std::initializer_list<std::vector<int>> parts)
     return out;
 }
 
-std::vector<int> reply(int addressByte, std::vector<int> data, int header = -1)
-{
-    return moduleReply(addressByte, data, header);
-}
-
 using DirectRoute = ScriptedLink;
 
 } // namespace
 
 TEST_F(DirectRoute, RequestVersionWorkedExampleWithBurstAndEmptyFrame)
 {
-    port.queue(reply(67, {112, 0, 1, 2, 3, 4}));
+    port.queue(moduleReply(67, {112, 0, 1, 2, 3, 4}));
     EXPECT_TRUE(link.GetVersion());
     // Burst, empty frame to address 0 (3, 192, 189), then 67, 226, 240, 128, 235.
     EXPECT_EQ(port.take(), concat({kBurst, {3, 192, 189}, {67, 226, 240, 128, 235}}));
@@ -43,11 +38,11 @@ TEST_F(DirectRoute, RequestVersionWorkedExampleWithBurstAndEmptyFrame)
               std::tuple("1.2.3.4", true, "[43] [66] [70] [0] [1] [2] [3] [4]", 0u, 0));
 
     // Next frame carries toggle 0 and no burst; then 64 again.
-    port.queue(reply(3, {112, 0, 1, 2, 3, 4}));
+    port.queue(moduleReply(3, {112, 0, 1, 2, 3, 4}));
     EXPECT_TRUE(link.GetVersion());
     auto second = port.take();
     EXPECT_EQ(std::tuple(second.front(), second.size()), std::tuple(3, 5u));
-    port.queue(reply(67, {112, 0, 1, 2, 3, 4}));
+    port.queue(moduleReply(67, {112, 0, 1, 2, 3, 4}));
     link.GetVersion();
     EXPECT_EQ(port.take().front(), 67);
 }
@@ -98,10 +93,10 @@ TEST_F(DirectRoute, SizeOverrunClosedPortAndDataAbove127SendNothing)
 TEST_F(DirectRoute, CorruptedCopyThenGoodCopyAndFrameRestart)
 {
     link.state.LinkToggle = 64;
-    auto bad = reply(67, {112, 0, 9, 9, 9, 9});
+    auto bad = moduleReply(67, {112, 0, 9, 9, 9, 9});
     bad.back() ^= 1;
     // Garbage, a corrupted copy, half a frame cut short by a new start, then the good one.
-    auto good = reply(67, {112, 0, 1, 0, 0, 7});
+    auto good = moduleReply(67, {112, 0, 1, 0, 0, 7});
     auto half = std::vector<int>(good.begin(), good.begin() + 4);
     port.queue(concat({{200, 201}, bad, half, good}));
     EXPECT_TRUE(link.GetVersion());
@@ -144,7 +139,7 @@ TEST_F(DirectRoute, InvalidReplyMessagesAndExtendedAddressBytes)
 {
     link.state.LinkToggle = 64;
     // A reply with the wrong toggle: the expected address is shown without it.
-    port.queue(reply(3, {112, 0, 1, 2, 3, 4}));
+    port.queue(moduleReply(3, {112, 0, 1, 2, 3, 4}));
     link.GetVersion();
     EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"Invalid response received, \r\nReceived: Addr = 3 "
                                                         "Header = 102\r\nExpected: Addr = 3 Header > 95 "});
@@ -153,7 +148,7 @@ TEST_F(DirectRoute, InvalidReplyMessagesAndExtendedAddressBytes)
     // A reply carrying an eXtended address byte we did not send.
     dialogs.clear();
     link.state.LinkToggle = 64;
-    port.queue(reply(67, {7, 112, 0, 1, 2, 3, 4}, 128 + 96 + 16 + 6));
+    port.queue(moduleReply(67, {7, 112, 0, 1, 2, 3, 4}, 128 + 96 + 16 + 6));
     link.GetVersion();
     EXPECT_EQ(dialogs.texts(), std::vector<std::string>{"Unexpected eXtended Address Byte 7"});
     EXPECT_EQ(link.VersionText, "1.2.3.4");
@@ -163,7 +158,7 @@ TEST_F(DirectRoute, InvalidReplyMessagesAndExtendedAddressBytes)
     link.settings.CheckXaddress = true;
     link.settings.TargetXAddress = 9;
     link.state.LinkToggle = 64;
-    port.queue(reply(67, {7, 112, 0, 1, 2, 3, 4}, 128 + 96 + 16 + 6));
+    port.queue(moduleReply(67, {7, 112, 0, 1, 2, 3, 4}, 128 + 96 + 16 + 6));
     link.GetVersion();
     EXPECT_EQ(dialogs.texts(),
               std::vector<std::string>{"Incorrect eXtended Address byte \r\nReceived 7 Expected 9"});
@@ -172,9 +167,9 @@ TEST_F(DirectRoute, InvalidReplyMessagesAndExtendedAddressBytes)
 TEST_F(DirectRoute, GetVersionRejectsWrongSizeAndEcho)
 {
     link.state.LinkToggle = 64;
-    port.queue(reply(67, {112, 0, 1, 2, 3}));
+    port.queue(moduleReply(67, {112, 0, 1, 2, 3}));
     EXPECT_FALSE(link.GetVersion());
-    port.queue(reply(3, {112, 1, 1, 2, 3, 4}));
+    port.queue(moduleReply(3, {112, 1, 1, 2, 3, 4}));
     EXPECT_FALSE(link.GetVersion());
     EXPECT_EQ(dialogs.texts(), (std::vector<std::string>{"GetVersion: No valid response, size <> 6",
                                                          "GetVersion: No valid response"}));

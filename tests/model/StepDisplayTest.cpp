@@ -26,20 +26,19 @@ struct Typed {
 
 TEST(StepDisplay, ShowRules)
 {
+    // Step, parameter, pin, numbering base, shown.
+    const std::tuple<StepRecord, int, int, int, const char*> cases[] = {
+        {{9, 0, 31, 0, 0, 0}, 0, 31, 0, "-1"}, // pin 31: offset 31 reaches pin 30
+        {{9, 0, 31, 0, 0, 0}, 0, 0, 0, "31"},   {{96, 0, 127, 0, 0, 0}, 0, 5, 0, "-1"},
+        {{96, 0, 12, 0, 0, 0}, 0, 5, 0, "12"},  {{18, 0, 0, 0, 0, 0}, 0, 3, 1, "1"},
+        {{18, 0, 31, 0, 0, 0}, 0, 3, 1, "32"},  {{7, 0, 0, 0, 0, 0}, 1, 3, 1, "1"},
+        {{7, 0, 0, 31, 0, 0}, 1, 3, 1, "32"},   {{7, 0, 0, 31, 0, 0}, 1, 3, 0, "31"},
+        {{39, 0, 0, 0, 0, 0}, 1, 0, 0, "-64"},  {{39, 0, 0, 127, 0, 0}, 1, 0, 0, "63"},
+        {{102, 0, 0, 0, 40, 2}, 2, 0, 0, "40"}, {{102, 0, 0, 0, 40, 2}, 3, 0, 0, "2"}};
+    for (const auto& [step, par, pin, base, text] : cases)
+        EXPECT_EQ(shown(step, par, pin, base), text)
+            << int(step.Instruction) << " par " << par << " pin " << pin;
     const StepRecord on{9, 0, 31, 0, 0, 0};
-    EXPECT_EQ(shown(on, 0, 31), "-1"); // pin 31: offset 31 reaches pin 30
-    EXPECT_EQ(shown(on, 0, 0), "31");
-    EXPECT_EQ(shown({96, 0, 127, 0, 0, 0}, 0, 5), "-1");
-    EXPECT_EQ(shown({96, 0, 12, 0, 0, 0}, 0, 5), "12");
-    EXPECT_EQ(shown({18, 0, 0, 0, 0, 0}, 0, 3, 1), "1");
-    EXPECT_EQ(shown({18, 0, 31, 0, 0, 0}, 0, 3, 1), "32");
-    EXPECT_EQ(shown({7, 0, 0, 0, 0, 0}, 1, 3, 1), "1");
-    EXPECT_EQ(shown({7, 0, 0, 31, 0, 0}, 1, 3, 1), "32");
-    EXPECT_EQ(shown({7, 0, 0, 31, 0, 0}, 1, 3, 0), "31");
-    EXPECT_EQ(shown({39, 0, 0, 0, 0, 0}, 1, 0), "-64");
-    EXPECT_EQ(shown({39, 0, 0, 127, 0, 0}, 1, 0), "63");
-    EXPECT_EQ(shown({102, 0, 0, 0, 40, 2}, 2, 0), "40");
-    EXPECT_EQ(shown({102, 0, 0, 0, 40, 2}, 3, 0), "2");
 
     const ParameterBox unused = showParameter({102, 0, 0, 0, 40, 2}, 0, 0, 0);
     EXPECT_EQ(std::tuple(unused.used, unused.text), std::tuple(false, "0"));

@@ -110,9 +110,8 @@ TEST(SimModuleGeneral, WrongLengthWritesChangeNothingEraseNeedsTheConfirmationAn
     EXPECT_EQ(m.memory().idString, "Yard");
     // As the erase is sent: without the bidirectional bit.
     EXPECT_TRUE(feed(bus, busRequest(0, 0, {96, 0, 61, 17, 92, 8, 33, 70, 15, 44}, false)).empty());
-    EXPECT_EQ(m.stats().erases, 1);
-    EXPECT_EQ(m.memory().idString, "");
-    EXPECT_EQ(m.memory().pins[7].aspectLayout, 0);
+    EXPECT_EQ(std::tuple(m.stats().erases, m.memory().idString, m.memory().pins[7].aspectLayout),
+              std::tuple(1, "", 0));
     EXPECT_EQ(ask(bus, 0, {112, 0}), (Bytes{112, 0, 3, 1, 0, 9}));
 }
 
@@ -142,10 +141,7 @@ TEST(SimModulePins, AddressConfigurationTagsInAnyOrder)
     // arrive in an unusual order.
     EXPECT_EQ(ask(bus, 0, {102, 30, 67, 16 + 4, 8 + 6}), (Bytes{102, 30}));
     const PinMemory& pin = m.memory().pins[30];
-    EXPECT_EQ(pin.dccCount, 6);
-    EXPECT_TRUE(pin.xdcc);
-    EXPECT_EQ(pin.lynxCount, 4);
-    EXPECT_EQ(pin.deviceOffset, 3);
+    EXPECT_EQ(std::tuple(pin.dccCount, pin.xdcc, pin.lynxCount, pin.deviceOffset), std::tuple(6, true, 4, 3));
     EXPECT_EQ(ask(bus, 0, {118, 30}), (Bytes{118, 30, 14, 20, 67}));
     m.addressConfigRotation = 1;
     EXPECT_EQ(ask(bus, 0, {118, 30}), (Bytes{118, 30, 20, 67, 14}));

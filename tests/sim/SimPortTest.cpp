@@ -42,10 +42,8 @@ TEST(SimPort, ReplyIsReadableAsSoonAsTheFrameCompletes)
     }
     EXPECT_TRUE(port.waitForBytes(2000));
     EXPECT_EQ(port.bytesWaiting(), 9);
-    EXPECT_EQ(port.readByte(), 67);
-    EXPECT_EQ(port.written(), request);
-    EXPECT_EQ(bus.stats().bytesIn, 5);
-    EXPECT_EQ(bus.stats().exchanges, 1);
+    EXPECT_EQ(std::tuple(port.readByte(), port.written(), bus.stats().bytesIn, bus.stats().exchanges),
+              std::tuple(67, request, 5, 1));
 }
 
 TEST(SimPort, SettingsOpenCloseEmptyWaitAndVanishing)
@@ -54,9 +52,8 @@ TEST(SimPort, SettingsOpenCloseEmptyWaitAndVanishing)
     bus.addModule(0);
     SimPort port(bus);
     port.setSettings("38400,o,8,1");
-    EXPECT_EQ(port.settings(), "38400,o,8,1");
-    EXPECT_FALSE(port.isOpen());
-    EXPECT_FALSE(port.writeByte(67));
+    EXPECT_EQ(std::tuple(port.settings(), port.isOpen(), port.writeByte(67)),
+              std::tuple("38400,o,8,1", false, false));
     ASSERT_TRUE(port.open());
     for (auto b : busRequest(0, 0, {112, 0}))
         port.writeByte(b);
@@ -70,10 +67,8 @@ TEST(SimPort, SettingsOpenCloseEmptyWaitAndVanishing)
     EXPECT_EQ(std::tuple(waitedMs, port.emptyWaits()), std::tuple(2000, 1));
 
     port.setVanished(true);
-    EXPECT_FALSE(port.isOpen());
-    EXPECT_FALSE(port.writeByte(3));
-    EXPECT_FALSE(port.open());
-    EXPECT_FALSE(port.errorString().empty());
+    EXPECT_EQ(std::tuple(port.isOpen(), port.writeByte(3), port.open(), port.errorString().empty()),
+              std::tuple(false, false, false, false));
     port.setVanished(false);
     EXPECT_TRUE(port.open());
 }

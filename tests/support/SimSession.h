@@ -84,30 +84,21 @@ inline GeneralSettings fullGeneralSettings()
 // initial aspects, address counts and events, and one device of three pins (5 to 7).
 inline Configuration fullConfiguration()
 {
+    const auto u8 = [](int v) { return static_cast<std::uint8_t>(v); };
     Configuration c;
     for (int p = 0; p < kPinCount; ++p) {
         auto& pin = c.pin(p);
-        pin.AspectLayout = static_cast<std::uint8_t>(p % 3 == 0 ? 3 : p % 3 == 1 ? 2 : 0);
+        pin.AspectLayout = u8(p % 3 == 0 ? 3 : p % 3 == 1 ? 2 : 0);
         const LayoutSlots slots = layoutSlots(pin.AspectLayout);
         for (int a = 0; a < slots.aspects; ++a)
             for (int s = 0; s < slots.steps; ++s)
                 c.step(p, a, s) = pin.AspectLayout == 3
-                                      ? StepRecord{7,
-                                                   0,
-                                                   static_cast<std::uint8_t>((p * 5 + a) % 100),
-                                                   static_cast<std::uint8_t>(s + 1),
-                                                   static_cast<std::uint8_t>(a),
-                                                   1}
-                                      : StepRecord{3,
-                                                   1,
-                                                   static_cast<std::uint8_t>(p),
-                                                   static_cast<std::uint8_t>(a),
-                                                   static_cast<std::uint8_t>(s + 1),
-                                                   2};
-        pin.InitAspect = static_cast<std::uint8_t>(p % 4);
-        pin.DccCount = static_cast<std::uint8_t>(p % 8);
-        pin.XDccCount = static_cast<std::uint8_t>(p % 2);
-        pin.LynxCount = static_cast<std::uint8_t>((p / 2) % 8);
+                                      ? StepRecord{7, 0, u8((p * 5 + a) % 100), u8(s + 1), u8(a), 1}
+                                      : StepRecord{3, 1, u8(p), u8(a), u8(s + 1), 2};
+        pin.InitAspect = u8(p % 4);
+        pin.DccCount = u8(p % 8);
+        pin.XDccCount = u8(p % 2);
+        pin.LynxCount = u8((p / 2) % 8);
         for (int i = 0; i < 4; ++i) {
             c.events(p).OnEvent[i] = static_cast<std::int16_t>((p + 2 * i) % 13 - 1);
             c.events(p).OffEvent[i] = static_cast<std::int16_t>((3 * p + i) % 13 - 1);
