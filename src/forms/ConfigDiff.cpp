@@ -155,19 +155,8 @@ void addressingFields(Fields& out, const GeneralSettings& g, int base)
 // Modes whose parameters mean the same: not configured, servo, PWM, input, each unknown mode.
 int modeKind(int mode)
 {
-    switch (mode) {
-    case kModeNone:
-    case kModeServo:
-        return mode;
-    case kModePwm:
-    case kModePwm + 1:
-        return 2;
-    case kModeInput:
-    case kModeInput + 1:
-        return 3;
-    default:
-        return 10 + mode;
-    }
+    const int page = pageOfMode(mode);
+    return page >= 0 ? page : 10 + mode;
 }
 
 // One parameter of the pin configuration page: the bits of Pn it shows and how.

@@ -44,4 +44,22 @@ std::vector<int> pinConfigBytes(const PinRecord& rec, int target)
     return out;
 }
 
+int pageOfMode(int mode)
+{
+    switch (mode) {
+    case kModeNone:
+        return 0;
+    case kModeServo:
+        return 1;
+    case kModePwm:
+    case kModePwm + 1:
+        return 2;
+    case kModeInput:
+    case kModeInput + 1:
+        return 3;
+    default:
+        return -1;
+    }
+}
+
 } // namespace kestrel

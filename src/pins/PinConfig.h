@@ -15,6 +15,10 @@ constexpr int kReadFlashConfig = 113; // "q"
 constexpr int kSendActiveConfig = 65; // "A"
 constexpr int kSendFlashConfig = 97;  // "a"
 
+// The Pin Configuration page that shows a mode (0 none, 1 servo, 2 PWM, 3 input; the
+// inverted modes share their page); -1 for an unknown mode.
+int pageOfMode(int mode);
+
 // Stores the n configuration bytes of a "Q"/"q" reply (mode first) into a pin record as
 // ReadPinConfig does: a change of mode clears P1..P12 (a new servo gets both positions at
 // 64), the byte after the mode goes into OutputValue for source 0, a short PWM reply

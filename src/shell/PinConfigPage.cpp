@@ -31,25 +31,6 @@ namespace kestrel {
 namespace {
 const char* const kDynamicTip = "If checked, use active dynamic parameters, else go directly to position";
 
-// The page of SSTabPCFG that shows a mode; -1 for an unknown mode.
-int pageOfMode(int mode)
-{
-    switch (mode) {
-    case kModeNone:
-        return 0;
-    case kModeServo:
-        return 1;
-    case kModePwm:
-    case kModePwm + 1:
-        return 2;
-    case kModeInput:
-    case kModeInput + 1:
-        return 3;
-    default:
-        return -1;
-    }
-}
-
 // The page that a box belongs to.
 int pageOfField(PinField field)
 {

@@ -464,8 +464,8 @@ TEST(DataFileSaving, DccNumbersKeepTheirPointUnderACommaDecimalLocale)
         const std::string text = writeConfigurationText(c, g, SaveForm::Compact);
         Loader l;
         EXPECT_NE(text.find("\"DCC\"," + number + ",0,0\r\n"), std::string::npos) << text;
-        EXPECT_EQ(std::tuple(l.load(text), l.general.TextGenDCCAddress),
-                  std::tuple(LoadResult::Loaded, number));
+        const LoadResult loaded = l.load(text);
+        EXPECT_EQ(std::tuple(loaded, l.general.TextGenDCCAddress), std::tuple(LoadResult::Loaded, number));
     }
 }
 

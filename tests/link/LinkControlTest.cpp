@@ -20,9 +20,8 @@ TEST_F(LinkControlFixture, AddressClampsWithNumberingAndTunneling)
     for (const auto& [corvid, numbering, typed, shown, used] : cases) {
         link.settings.CheckCorvid = corvid;
         base = numbering;
-        EXPECT_EQ(std::tuple(control.TextAddress_Click(typed), link.settings.TargetAddress),
-                  std::tuple(shown, used))
-            << typed;
+        const std::string got = control.TextAddress_Click(typed);
+        EXPECT_EQ(std::tuple(got, link.settings.TargetAddress), std::tuple(shown, used)) << typed;
     }
     base = 0;
     link.settings.CheckCorvid = false;
@@ -39,9 +38,8 @@ TEST_F(LinkControlFixture, ExtendedAddressKeepsThe95To15PairingAndLeavesToggle)
         {"200", 0, "15", 15}, {"95", 0, "95", 95}, {"-4", 0, "0", 0}, {"97", 1, "16", 15}};
     for (const auto& [typed, numbering, shown, used] : cases) {
         base = numbering;
-        EXPECT_EQ(std::tuple(control.txtXaddr_Click(typed), link.settings.TargetXAddress),
-                  std::tuple(shown, used))
-            << typed;
+        const std::string got = control.txtXaddr_Click(typed);
+        EXPECT_EQ(std::tuple(got, link.settings.TargetXAddress), std::tuple(shown, used)) << typed;
     }
     EXPECT_EQ(link.state.LinkToggle, 64);
 }
