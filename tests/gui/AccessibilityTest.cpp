@@ -1,7 +1,4 @@
-// What a screen reader and a small screen get: every control that takes input has a name
-// of its own (not its frame's), every button a mnemonic of its own in its frame that the
-// menu bar does not take; the window fits 1280x720 with every control inside it or in a
-// scroll area; every number box shows its whole number beside arrows that are not squeezed.
+// What a screen reader and a small screen get: named inputs, mnemonics, a window that fits.
 #include "gui/GuiRig.h"
 #include "shell/AspectsPage.h"
 #include "shell/EditTools.h"
@@ -79,10 +76,9 @@ QString frameOf(QWidget* w)
     return {};
 }
 
-// The faults of one page or dialog: unnamed inputs, inputs named otherwise than their
-// label, buttons without a mnemonic, one taken
-// by the menu bar (File, Edit, View, Module, Help) or used twice in a frame. (The general
-// page has more buttons than its captions have letters: its mnemonics repeat across frames.)
+// Unnamed inputs, inputs not named by their label, buttons without a mnemonic of their own in
+// their frame or with one the menu bar takes (mnemonics repeat across frames: the general page
+// has more buttons than its captions have letters).
 QStringList faultsOf(QWidget* root, QWidget* skip = nullptr)
 {
     QStringList faults;

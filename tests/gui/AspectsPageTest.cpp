@@ -1,6 +1,4 @@
-// The aspect page as a user drives it: step rows that follow their instruction and clamp
-// what is typed, the layout options, the pin, aspect, step and help tools behind labels
-// and boxes, device loading, and every pin job from its button against the simulated module.
+// The aspect page as a user drives it, against the built-in simulated module.
 #include "shell/AspectsPage.h"
 #include "gui/GuiRig.h"
 #include "model/PinTools.h"
@@ -49,14 +47,14 @@ TEST(AspectsPage, StepRowsFollowTheirInstructionAndClampWhatIsTyped)
 {
     AspectsRig m;
     QTest::mouseClick(m.page.OptionPAspConf[1], Qt::LeftButton); // "4": aspects 0..3 of nine steps
-    EXPECT_EQ(m.config.pin(1).AspectLayout, 3);
-    EXPECT_TRUE(m.page.ComboPAspInst[8]->isVisible());
+    EXPECT_EQ(std::tuple(int(m.config.pin(1).AspectLayout), m.page.ComboPAspInst[8]->isVisible()),
+              std::tuple(3, true));
 
     m.choose(0, "On");
-    EXPECT_EQ(m.step(0).Instruction, 9);
-    EXPECT_EQ(std::tuple(m.page.LabelPAspOffset->text(), m.page.LabelPAspHParam1->text(),
-                         m.page.TextPAspPar2[0]->isEnabled(), m.page.CheckPAspFade[0]->isVisible()),
-              std::tuple("P.O.", "T(/60)", false, true));
+    EXPECT_EQ(std::tuple(int(m.step(0).Instruction), m.page.LabelPAspOffset->text(),
+                         m.page.LabelPAspHParam1->text(), m.page.TextPAspPar2[0]->isEnabled(),
+                         m.page.CheckPAspFade[0]->isVisible()),
+              std::tuple(9, "P.O.", "T(/60)", false, true));
     // Tab goes through a row left to right, then to the next row.
     QWidget* at = m.page.ComboPAspInst[0];
     for (QWidget* next : std::initializer_list<QWidget*>{m.page.CheckPAspFade[0], m.page.TextPAspOffset[0],
@@ -67,17 +65,17 @@ TEST(AspectsPage, StepRowsFollowTheirInstructionAndClampWhatIsTyped)
         EXPECT_EQ(at, next) << at->objectName().toStdString();
     }
     type(m.page.TextPAspOffset[0], "-3"); // pin 1 has no pin three below it
-    EXPECT_EQ(m.page.TextPAspOffset[0]->text(), "-1");
     type(m.page.TextPAspPar1[0], "200");
-    EXPECT_EQ(m.page.TextPAspPar1[0]->text(), "127");
     QTest::mouseClick(m.page.CheckPAspFade[0], Qt::LeftButton);
-    EXPECT_EQ(m.step(0).Fade, 1);
+    EXPECT_EQ(
+        std::tuple(m.page.TextPAspOffset[0]->text(), m.page.TextPAspPar1[0]->text(), int(m.step(0).Fade)),
+        std::tuple("-1", "127", 1));
 
     // A time instruction shows its duration; the headings follow the row changed last.
     m.choose(1, "Wait");
     type(m.page.TextPAspPar2[1], "50");
-    EXPECT_EQ(m.page.LabelPAspTime[1]->text(), "00:01.00");
-    EXPECT_EQ(m.page.LabelPASpHParam2->text(), "Time");
+    EXPECT_EQ(std::tuple(m.page.LabelPAspTime[1]->text(), m.page.LabelPASpHParam2->text()),
+              std::tuple("00:01.00", "Time"));
 
     // What was typed is what the model holds when the pin is shown again.
     m.pickPin(2);
@@ -108,8 +106,7 @@ TEST(AspectsPage, LayoutOptionsClampTheSelectionAndShowTheirRows)
     EXPECT_EQ(m.page.TextPAspAspect->text(), "3");
 
     QTest::mouseClick(m.page.OptionPAspConf[0], Qt::LeftButton); // "0": no aspects
-    EXPECT_FALSE(m.page.TextPAspAspect->isVisible());
-    EXPECT_FALSE(m.page.ComboPAspInst[0]->isVisible());
+    EXPECT_FALSE(m.page.TextPAspAspect->isVisible() || m.page.ComboPAspInst[0]->isVisible());
     m.config.pin(1).AspectLayout = 1; // a layout the page does not offer shows as "0" and is stored so
     m.pickPin(1);
     EXPECT_EQ(std::tuple(m.page.OptionPAspConf[0]->isChecked(), int(m.config.pin(1).AspectLayout)),
@@ -207,12 +204,11 @@ TEST(AspectsPage, DevicesAreListedAndLoadOntoTheChosenPin)
     EXPECT_EQ(std::tuple(pins[31].DeviceOffset, pins[0].DeviceOffset, pins[1].DeviceOffset,
                          pins[31].DeviceDescription, page.TextDeviceDescription->text().toStdString()),
               std::tuple(0, 31, 30, "Colour light signal, 3 aspects", "Colour light signal, 3 aspects"));
-    m.pickPin(1);
-    EXPECT_EQ(page.TextDevicePin->text(), "31");
-    EXPECT_FALSE(page.TextDeviceDescription->isEnabled()); // a member: the name is its head's
+    m.pickPin(1); // a member: the name is its head's
+    EXPECT_EQ(std::tuple(page.TextDevicePin->text(), page.TextDeviceDescription->isEnabled()),
+              std::tuple("31", false));
 
-    // One pin selection for the window: the pin chosen on the Event Control page is the one
-    // the device goes onto, and its head's name can be typed.
+    // The pin chosen on the Event Control page is the one the device goes onto.
     m.w.tabs->setCurrentWidget(m.w.eventPage);
     type(m.w.eventPage->TextECpin, "7");
     m.w.tabs->setCurrentWidget(&page);
@@ -244,7 +240,7 @@ TEST(AspectsPage, EveryPinJobRunsFromItsButton)
     type(m.page.TextPAspPar2[8], "40");
     const PinRecord written = m.config.pin(1);
 
-    // "Write Asp's", the pin cleared here, "Read Asp's": the module gave it all back.
+    // Written, cleared here, read: the module gave it all back.
     m.job(m.page.CommandPAspWritePin);
     EXPECT_TRUE(m.status().startsWith("Write Pin done")) << m.status().toStdString();
     clearPin(m.config, 1);

@@ -23,24 +23,24 @@ TEST(Compare, EveryDifferenceListedTheTakenOnesShownAndTheKeptOnesWritten)
     CompareDialog& d = *m.w.frmCompare;
     ASSERT_TRUE(d.isVisible());
     ASSERT_EQ(d.choices.size(), 2u);
-    EXPECT_EQ(d.TreeCompare->topLevelItem(0)->child(0)->text(0), "general ID String");
-    EXPECT_EQ(d.TreeCompare->topLevelItem(0)->child(0)->text(1), "\"Demo layout\"");
-    EXPECT_EQ(d.TreeCompare->topLevelItem(1)->child(0)->text(0), "pin 0 aspect 0 step 0");
-    EXPECT_EQ(s.general.TextGenIDString, "Up Yard") << "the shown configuration is untouched by the read";
+    const auto row = [&](int group, int column) {
+        return d.TreeCompare->topLevelItem(group)->child(0)->text(column);
+    };
+    EXPECT_EQ(
+        std::tuple(row(0, 0), row(0, 1), row(1, 0), s.general.TextGenIDString), // the shown one untouched
+        std::tuple("general ID String", "\"Demo layout\"", "pin 0 aspect 0 step 0", "Up Yard"));
     d.choices[0]->setCurrentIndex(1);
     const long before = s.link.stats.exchanges;
     QTest::mouseClick(d.CommandCompareWrite, Qt::LeftButton);
     m.waitIdle();
-    EXPECT_FALSE(d.isVisible());
-    EXPECT_EQ(s.general.TextGenIDString, "Demo layout");
-    EXPECT_EQ(m.w.generalPage->TextGenIDString->text(), "Demo layout");
-    EXPECT_EQ(s.link.stats.exchanges - before, 2) << "the ID string request and the one step";
-    EXPECT_EQ(m.status().left(18), "Write Changes done");
+    // Two exchanges: the ID string request and the one step.
+    EXPECT_EQ(std::tuple(d.isVisible(), s.general.TextGenIDString, m.w.generalPage->TextGenIDString->text(),
+                         s.link.stats.exchanges - before, m.status().left(18)),
+              std::tuple(false, "Demo layout", "Demo layout", 2, "Write Changes done"));
 
     m.job(m.w.CommandCompare);
-    EXPECT_TRUE(d.choices.empty());
-    EXPECT_EQ(d.LabelCompareSummary->text(), "The module holds this configuration: no differences.");
-    EXPECT_TRUE(s.config.step(0, 0, 0) == edited);
+    EXPECT_EQ(std::tuple(d.choices.size(), d.LabelCompareSummary->text(), s.config.step(0, 0, 0) == edited),
+              std::tuple(0u, "The module holds this configuration: no differences.", true));
     QTest::mouseClick(d.CommandCompareClose, Qt::LeftButton);
 
     // The image belongs to the module at address 0: for another, Write Changes asks first.

@@ -1,4 +1,4 @@
-// The Event Control page bound to a session on the built-in simulated module.
+// The Event Control page on the built-in simulated module.
 #include "shell/EventPage.h"
 #include "forms/EventControlForm.h"
 #include "gui/GuiRig.h"
@@ -23,32 +23,29 @@ struct EventPageRig : PageRig<EventPage> {
 TEST(EventPage, ReadOfOnePinShowsTheModulesEntries)
 {
     EventPageRig rig;
+    const auto shown = [&](QLineEdit* const(&boxes)[4]) {
+        QStringList texts;
+        for (QLineEdit* box : boxes)
+            texts << box->text();
+        return texts.join(" ");
+    };
     rig.showPin("8");
-    // Nothing read yet: the program's own table is all zeros.
-    EXPECT_EQ(rig.page->TextECon[1]->text(), "0");
+    EXPECT_EQ(shown(rig.page->TextECon), "0 0 0 0"); // nothing read yet: the program's own table
 
+    // The demonstration module: input 2 runs action 1 on, action 0 off; the others nothing.
     QTest::mouseClick(rig.page->CommandECReadSingle, Qt::LeftButton);
     EXPECT_TRUE(rig.dialogs.messages.empty()) << rig.dialogs.messages[0].text;
-    // The demonstration module: Event-On input 2 runs action 1, Event-Off input 2 action 0,
-    // the other inputs nothing.
-    const char* on[4] = {"-1", "1", "-1", "-1"};
-    const char* off[4] = {"-1", "0", "-1", "-1"};
-    for (int i = 0; i < 4; ++i) {
-        EXPECT_EQ(rig.page->TextECon[i]->text(), on[i]) << i;
-        EXPECT_EQ(rig.page->TextECoff[i]->text(), off[i]) << i;
-    }
-    EXPECT_EQ(rig.page->UpDownECon[1]->value(), 1);
-    EXPECT_EQ(std::tuple(rig.session->config.events(8).OnEvent[1], rig.session->config.events(8).OffEvent[0]),
-              std::tuple(1, -1));
+    EXPECT_EQ(std::tuple(shown(rig.page->TextECon), shown(rig.page->TextECoff),
+                         rig.page->UpDownECon[1]->value(), rig.session->config.events(8).OnEvent[1],
+                         rig.session->config.events(8).OffEvent[0]),
+              std::tuple("-1 1 -1 -1", "-1 0 -1 -1", 1, 1, -1));
 
     // Another pin shows its own entries, the spinner following the box.
     rig.showPin("12");
-    EXPECT_EQ(rig.page->UpDownECpin->value(), 12);
-    EXPECT_EQ(rig.page->TextECon[0]->text(), "0"); // not read yet
+    EXPECT_EQ(std::tuple(rig.page->UpDownECpin->value(), rig.page->TextECon[0]->text()), std::tuple(12, "0"));
     QTest::mouseClick(rig.page->CommandECReadSingle, Qt::LeftButton);
-    EXPECT_EQ(std::tuple(rig.page->TextECon[0]->text(), rig.page->TextECoff[0]->text(),
-                         rig.page->TextECon[1]->text()),
-              std::tuple("1", "0", "-1"));
+    EXPECT_EQ(std::tuple(shown(rig.page->TextECon), shown(rig.page->TextECoff)),
+              std::tuple("1 -1 -1 -1", "0 -1 -1 -1"));
 
     // The whole-module buttons ask the window for their jobs.
     for (QPushButton* b : {rig.page->CommandECRead, rig.page->CommandECWrite, rig.page->CommandECVerify})
@@ -61,23 +58,21 @@ TEST(EventPage, PinBoxAndEntriesAreClampedStoredAndCopiedToAll)
     EventPageRig rig;
     rig.session->config.NumberingBase = 1;
     rig.page->refresh();
-    EXPECT_EQ(rig.page->TextECpin->text(), "1");
-    EXPECT_EQ(std::tuple(rig.page->UpDownECpin->minimum(), rig.page->UpDownECpin->maximum()),
-              std::tuple(1, 32));
+    EXPECT_EQ(std::tuple(rig.page->TextECpin->text(), rig.page->UpDownECpin->minimum(),
+                         rig.page->UpDownECpin->maximum()),
+              std::tuple("1", 1, 32));
     rig.showPin("40");
-    EXPECT_EQ(rig.page->TextECpin->text(), "32");
-    EXPECT_EQ(shownEventPin(*rig.session), 31);
+    EXPECT_EQ(std::tuple(rig.page->TextECpin->text(), shownEventPin(*rig.session)), std::tuple("32", 31));
     rig.session->config.NumberingBase = 0;
     rig.page->refresh();
 
     rig.showPin("5");
     enter(rig.page->TextECoff[2], "15");
-    EXPECT_EQ(rig.page->TextECoff[2]->text(), "11");
-    EXPECT_EQ(std::tuple(rig.page->UpDownECoff[2]->value(), rig.session->config.events(5).OffEvent[2]),
-              std::tuple(11, 11));
     enter(rig.page->TextECon[3], "-4");
-    EXPECT_EQ(rig.page->TextECon[3]->text(), "-1");
-    EXPECT_EQ(rig.session->config.events(5).OnEvent[3], -1);
+    EXPECT_EQ(std::tuple(rig.page->TextECoff[2]->text(), rig.page->UpDownECoff[2]->value(),
+                         rig.session->config.events(5).OffEvent[2], rig.page->TextECon[3]->text(),
+                         rig.session->config.events(5).OnEvent[3]),
+              std::tuple("11", 11, 11, "-1", -1));
 
     // Written to the module and read back, the entries survive (-1 as "none").
     QTest::mouseClick(rig.page->CommandECWriteSingle, Qt::LeftButton);
@@ -102,21 +97,22 @@ TEST(EventPage, PinBoxAndEntriesAreClampedStoredAndCopiedToAll)
 TEST(EventPage, EnableMapReadShowsTheBoxesAndWriteSendsThem)
 {
     EventPageRig rig;
-    // Every box starts checked; uncheck two and write the maps.
-    for (int i = 0; i < 8; ++i)
-        EXPECT_TRUE(rig.page->CheckInitEE[i]->isChecked()) << i;
+    const auto boxes = [&] {
+        QString ticks;
+        for (QCheckBox* box : rig.page->CheckInitEE)
+            ticks += box->isChecked() ? '1' : '0';
+        return ticks;
+    };
+    // Every box starts checked; uncheck two, write the maps, forget them, read them back.
+    EXPECT_EQ(boxes(), "11111111");
     rig.page->CheckInitEE[1]->click();
     rig.page->CheckInitEE[6]->click();
-    EXPECT_EQ(std::tuple(rig.session->general.CheckInitEE[1], rig.session->general.CheckInitEE[6]),
-              std::tuple(0, 0));
+    EXPECT_EQ(rig.session->general.CheckInitEE, (std::array<int, 8>{1, 0, 1, 1, 1, 1, 0, 1}));
     QTest::mouseClick(rig.page->CommandECInitWrite, Qt::LeftButton);
-
-    // Forget them and read them back from the module.
     rig.session->general.CheckInitEE = {1, 1, 1, 1, 1, 1, 1, 1};
     rig.page->refresh();
-    EXPECT_TRUE(rig.page->CheckInitEE[1]->isChecked());
+    EXPECT_EQ(boxes(), "11111111");
     QTest::mouseClick(rig.page->CommandECInitRead, Qt::LeftButton);
     EXPECT_TRUE(rig.dialogs.messages.empty()) << rig.dialogs.messages[0].text;
-    for (int i = 0; i < 8; ++i)
-        EXPECT_EQ(rig.page->CheckInitEE[i]->isChecked(), i != 1 && i != 6) << i;
+    EXPECT_EQ(boxes(), "10111101");
 }

@@ -1,5 +1,4 @@
-// The General page bound to a session on the built-in simulated module, driven by
-// control names.
+// The General page on the built-in simulated module, driven by control names.
 #include "shell/GeneralPage.h"
 #include "files/DemoConfiguration.h"
 #include "gui/GuiRig.h"
@@ -23,6 +22,11 @@ bool checked(QWidget& page, const char* name, int index)
     return child<QAbstractButton>(page, QString("%1_%2").arg(name).arg(index))->isChecked();
 }
 
+std::string text(QWidget& page, const char* name)
+{
+    return child<QWidget>(page, name)->property("text").toString().toStdString();
+}
+
 } // namespace
 
 TEST(GeneralPage, ReadsEveryFamilyOfTheDemonstrationModule)
@@ -40,11 +44,11 @@ TEST(GeneralPage, ReadsEveryFamilyOfTheDemonstrationModule)
     EXPECT_TRUE(m.dialogs.messages.empty()) << m.dialogs.messages[0].text;
     EXPECT_TRUE(m.dialogs.questions.empty());
 
-    EXPECT_EQ(child<QLabel>(page, "LabelGenVersionString")->text(), "1.2.3.4");
-    EXPECT_EQ(child<QLineEdit>(page, "TextGenIDString")->text(), "Demo layout");
-    EXPECT_EQ(child<QLineEdit>(page, "TextGenDCCAddress")->text().toStdString(), demo.TextGenDCCAddress);
-    EXPECT_EQ(child<QLineEdit>(page, "TextGenXDCCAddress")->text().toStdString(), demo.TextGenXDCCAddress);
-    EXPECT_TRUE(checked(page, "OptGenDCC_PRP", demo.OptGenDCC_PRP));
+    EXPECT_EQ(std::tuple(text(page, "LabelGenVersionString"), text(page, "TextGenIDString"),
+                         text(page, "TextGenDCCAddress"), text(page, "TextGenXDCCAddress"),
+                         text(page, "TextGenXaddr"), checked(page, "OptGenDCC_PRP", demo.OptGenDCC_PRP)),
+              std::tuple("1.2.3.4", "Demo layout", demo.TextGenDCCAddress, demo.TextGenXDCCAddress,
+                         std::to_string(demo.ExtendedAddress), true));
 
     // Native mode: the flex-addressing box and its address are hidden.
     EXPECT_EQ(std::tuple(child<QCheckBox>(page, "CheckGenKestrelNative")->isChecked(),
@@ -52,8 +56,6 @@ TEST(GeneralPage, ReadsEveryFamilyOfTheDemonstrationModule)
                          child<QLineEdit>(page, "TextGenLynxaddr")->isHidden(),
                          child<QLabel>(page, "LabelGenXA_4")->isHidden()),
               std::tuple(true, true, true, true));
-    EXPECT_EQ(child<QLineEdit>(page, "TextGenXaddr")->text().toStdString(),
-              std::to_string(demo.ExtendedAddress));
     // Each family of boxes as the module holds it (the demonstration checks some of each).
     const auto all = [](const auto& boxes) { return std::vector<int>(boxes.begin(), boxes.end()); };
     const std::pair<const char*, std::vector<int>> families[] = {
@@ -67,11 +69,11 @@ TEST(GeneralPage, ReadsEveryFamilyOfTheDemonstrationModule)
             EXPECT_EQ(checked(page, name, i), values[i] == 1) << name << i;
     EXPECT_TRUE(checked(page, "ChkGenHWCSink", 0) && checked(page, "CheckLCGreen", 3));
 
-    EXPECT_EQ(child<QComboBox>(page, "ComboGenBaud")->currentText(), "19200");
-    EXPECT_EQ(std::tuple(checked(page, "OptionGenSerialDatabits", 1),
-                         checked(page, "OptionGenSerialParity", 0), checked(page, "OptionGenSerialStop", 0)),
-              std::tuple(true, true, true));
-    EXPECT_EQ(m.session->general.CheckGenSerialEnable, demo.CheckGenSerialEnable);
+    EXPECT_EQ(std::tuple(child<QComboBox>(page, "ComboGenBaud")->currentText(),
+                         checked(page, "OptionGenSerialDatabits", 1),
+                         checked(page, "OptionGenSerialParity", 0), checked(page, "OptionGenSerialStop", 0),
+                         m.session->general.CheckGenSerialEnable),
+              std::tuple("19200", true, true, true, demo.CheckGenSerialEnable));
 }
 
 TEST(GeneralPage, FlexAddressingAsksFirstAndSwapsTheModeControls)
@@ -85,23 +87,19 @@ TEST(GeneralPage, FlexAddressingAsksFirstAndSwapsTheModeControls)
     EXPECT_TRUE(flexAddress->isHidden());
 
     QTest::mouseClick(flex, Qt::LeftButton); // the warning answered Cancel
-    EXPECT_FALSE(flex->isChecked());
-    EXPECT_FALSE(native->isHidden());
+    EXPECT_EQ(std::tuple(flex->isChecked(), native->isHidden()), std::tuple(false, false));
     QTest::mouseClick(flex, Qt::LeftButton); // answered OK
-    ASSERT_EQ(m.dialogs.questions.size(), 2u);
-    EXPECT_EQ(std::tuple(flex->isChecked(), native->isHidden(), flexAddress->isHidden(),
-                         child<QLabel>(page, "LabelGenXA_4")->isHidden()),
-              std::tuple(true, true, false, false));
+    EXPECT_EQ(std::tuple(m.dialogs.questions.size(), flex->isChecked(), native->isHidden(),
+                         flexAddress->isHidden(), child<QLabel>(page, "LabelGenXA_4")->isHidden()),
+              std::tuple(2u, true, true, false, false));
 
     // The flex-address is shown times 4: 41 becomes 40, address 10.
     flexAddress->setText("41");
     click(page, "CommandGenAddrWrite");
-    EXPECT_EQ(flexAddress->text(), "40");
-    EXPECT_EQ(m.session->general.LynxFlexAddress, 10);
+    EXPECT_EQ(std::tuple(flexAddress->text(), m.session->general.LynxFlexAddress), std::tuple("40", 10));
     m.session->general = GeneralSettings{};
     page.refresh();
     click(page, "CommandGenAddrRead"); // no warning on the way in
-    EXPECT_EQ(m.dialogs.questions.size(), 2u);
-    EXPECT_TRUE(flex->isChecked());
-    EXPECT_EQ(flexAddress->text(), "40");
+    EXPECT_EQ(std::tuple(m.dialogs.questions.size(), flex->isChecked(), flexAddress->text()),
+              std::tuple(2u, true, "40"));
 }

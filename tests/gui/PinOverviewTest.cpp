@@ -18,9 +18,8 @@ TEST(PinOverviewPage, ShowsTheNewSumsAfterACountChangesAndChoosesTheRowsPin)
     QStringList headings;
     for (int c = 0; c < table->columnCount(); ++c)
         headings << table->horizontalHeaderItem(c)->text();
-    EXPECT_EQ(table->accessibleName(), "Pin overview");
-    EXPECT_EQ(headings,
-              QStringList({"Pin", "Description", "Mode", "Layout", "Device", "DCC", "eXtd DCC", "Serial"}));
+    EXPECT_EQ(std::tuple(table->accessibleName(), headings.join(",")),
+              std::tuple("Pin overview", "Pin,Description,Mode,Layout,Device,DCC,eXtd DCC,Serial"));
 
     rig.session->general.TextGenDCCAddress = "10";
     rig.pin(0).DccCount = 2;
@@ -43,8 +42,7 @@ TEST(PinOverviewPage, ShowsTheNewSumsAfterACountChangesAndChoosesTheRowsPin)
     // A user's double-click: the first click, then the second (all that mouseDClick sends).
     QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, at.center());
     QTest::mouseDClick(table->viewport(), Qt::LeftButton, {}, at.center());
-    EXPECT_EQ(rig.session->config.CurrentPin, 5);
-    EXPECT_EQ(chosen, 1);
+    EXPECT_EQ(std::tuple(rig.session->config.CurrentPin, chosen), std::tuple(5, 1));
 
     // Return on the current row chooses it too; refresh selects CurrentPin's row.
     rig.page->onPinChosen = nullptr;

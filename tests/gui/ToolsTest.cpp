@@ -1,5 +1,4 @@
-// The aspect page's modal tools through their windows, driven as a user drives them while
-// their modal loop runs.
+// The aspect page's modal tools, driven as a user drives them while their modal loop runs.
 #include "base/ProgramFault.h"
 #include "gui/GuiRig.h"
 #include "shell/EditTools.h"
@@ -32,8 +31,7 @@ void onOpen(QDialog& dialog, const std::function<void()>& user)
 
 void click(QAbstractButton* button) { QTest::mouseClick(button, Qt::LeftButton); }
 
-// The pin tool on one session (the rig's page) and the help tools. Copy, paste, clean and
-// insert are driven through the aspect page's labels in AspectsPageTest.
+// The pin tool (the rig's page) and the help tools; copy and paste: AspectsPageTest.
 struct ToolRig : PageRig<EditPinDialog> {
     EditAspectDialog aspectTool{*session};
     EditStepDialog stepTool{*session};

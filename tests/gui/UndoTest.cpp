@@ -1,5 +1,4 @@
-// Undo and redo in the window: every change of the configuration is one step, named in the
-// Edit menu, and put back on every page without a word to the module.
+// Undo and redo: every change is one named step, put back without a word to the module.
 #include "gui/GuiRig.h"
 #include "shell/AspectsPage.h"
 #include "shell/GeneralPage.h"

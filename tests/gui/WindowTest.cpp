@@ -1,6 +1,4 @@
-// The whole window as a user drives it: typed and ticked edits reach Write All, Verify All
-// and Save; nothing typed or pressed ends the program; the port opens again and again;
-// a message raised during a job is above its progress dialog.
+// The whole window as a user drives it, on the built-in module and on pseudo-terminals.
 #include "base/ProgramFault.h"
 #include "files/Backups.h"
 #include "files/ConfigurationFile.h"
@@ -43,12 +41,11 @@ TEST(Window, GeneralPageEditsReachWriteAllVerifyAllAndTheDataFile)
     EXPECT_EQ(m.dialogs.texts(), std::vector<std::string>{"ID string cut to 12 characters: Up Main Junc"});
     m.dialogs.clear();
     type(page.TextGenIDString, QString::fromUtf8("Yard é 9")); // é cannot be stored: not taken
-    EXPECT_EQ(page.TextGenIDString->text(), "Yard  9");
-    type(page.TextGenDCCAddress, "9000"); // above what the module takes: clamped
-    EXPECT_EQ(page.TextGenDCCAddress->text(), "8191");
-    type(page.TextGenXDCCAddress, "x12"); // digits only
-    EXPECT_EQ(page.TextGenXDCCAddress->text(), "12");
-    // Every box and option of the page once, as they are reachable.
+    type(page.TextGenDCCAddress, "9000");                      // clamped
+    type(page.TextGenXDCCAddress, "x12");                      // digits only
+    EXPECT_EQ(std::tuple(page.TextGenIDString->text(), page.TextGenDCCAddress->text(),
+                         page.TextGenXDCCAddress->text()),
+              std::tuple("Yard  9", "8191", "12"));
     for (QAbstractButton* b : page.findChildren<QAbstractButton*>())
         if (b->isCheckable() && b->isVisible() && !b->isChecked())
             QTest::mouseClick(b, Qt::LeftButton, {}, QPoint(8, b->height() / 2)); // on its indicator
@@ -60,21 +57,21 @@ TEST(Window, GeneralPageEditsReachWriteAllVerifyAllAndTheDataFile)
               std::tuple("Yard  9", "8191", 1, 1, 1, 1));
     EXPECT_TRUE(m.w.windowTitle().startsWith("untitled*")) << m.w.windowTitle().toStdString();
 
-    // Verify All compares what the user sees, so the module differs before the write ...
+    // Verify All compares what the user sees, so the module differs before the write and
+    // holds every edit after it; the jobs keep them on screen.
     m.job(m.w.CommandVerifyAll);
     EXPECT_TRUE(m.w.frmKestrelVerification->isVisible());
-    EXPECT_TRUE(m.report().startsWith("Start General Settings Verification")) << m.report().toStdString();
-    EXPECT_FALSE(m.report().endsWith("Verify OK")) << m.report().toStdString();
+    EXPECT_TRUE(m.report().startsWith("Start General Settings Verification") &&
+                !m.report().endsWith("Verify OK"))
+        << m.report().toStdString();
     EXPECT_TRUE(m.status().contains("the module differs")) << m.status().toStdString();
-    // ... and holds every edit after it. The next job keeps them on screen.
     m.job(m.w.CommandWriteAll);
     EXPECT_TRUE(m.status().startsWith("Write All done in")) << m.status().toStdString();
     EXPECT_EQ(m.w.windowTitle(), "Kestrel Config");
     m.job(m.w.CommandVerifyAll);
-    EXPECT_TRUE(m.report().endsWith("Verify OK")) << m.report().toStdString();
-    EXPECT_EQ(m.status(), "Verify OK");
-    EXPECT_EQ(page.TextGenIDString->text(), "Yard  9");
-    EXPECT_EQ(m.w.session().general.CheckGenXGM, edited.CheckGenXGM);
+    EXPECT_EQ(std::tuple(m.report().endsWith("Verify OK"), m.status(), page.TextGenIDString->text(),
+                         m.w.session().general.CheckGenXGM),
+              std::tuple(true, "Verify OK", "Yard  9", edited.CheckGenXGM));
 
     // Save File writes what the page shows; a typed ID not yet finished is taken too.
     QTemporaryDir dir;
@@ -96,8 +93,8 @@ TEST(Window, GeneralPageEditsReachWriteAllVerifyAllAndTheDataFile)
     type(page.TextGenXaddr, "300");
     EXPECT_EQ(page.TextGenXaddr->text(), "95");
     QTest::mouseClick(m.w.CheckKLnumber, Qt::LeftButton);
-    EXPECT_EQ(page.TextGenXaddr->text(), "96");
-    EXPECT_EQ(page.TextGenIDString->text(), "Yard  9X");
+    EXPECT_EQ(std::tuple(page.TextGenXaddr->text(), page.TextGenIDString->text()),
+              std::tuple("96", "Yard  9X"));
     EXPECT_TRUE(m.dialogs.messages.empty()) << m.dialogs.messages[0].text;
 }
 
@@ -112,17 +109,16 @@ TEST(Window, UnsavedChangesAreAskedAboutBeforeTheyAreLost)
     QTest::mouseClick(m.w.CommandReadAll, Qt::LeftButton);
     EXPECT_TRUE(m.w.jobs.PendingJob.empty());
     QTest::mouseClick(m.w.CommandLoad, Qt::LeftButton);
-    EXPECT_EQ(m.dialogs.questions.size(), 3u);
-    EXPECT_EQ(m.w.session().general.TextGenIDString, "Changed");
+    EXPECT_EQ(std::tuple(m.dialogs.questions.size(), m.w.session().general.TextGenIDString),
+              std::tuple(3u, "Changed"));
     // Save: asked for a file; a cancelled save dialog keeps the window open.
     m.dialogs.answers = {Answer::Save};
     EXPECT_FALSE(m.w.close());
     // Discard: Read All runs and puts the module's ID back.
     m.dialogs.defaultAnswer = Answer::Discard;
     m.job(m.w.CommandReadAll);
-    EXPECT_EQ(m.w.generalPage->TextGenIDString->text(), "Demo layout");
-    EXPECT_FALSE(m.w.unsavedChanges());
-    EXPECT_TRUE(m.w.close());
+    EXPECT_EQ(std::tuple(m.w.generalPage->TextGenIDString->text(), m.w.unsavedChanges(), m.w.close()),
+              std::tuple("Demo layout", false, true));
 }
 
 TEST(Window, NothingTypedOrPressedEndsTheProgram)
@@ -176,19 +172,19 @@ TEST(Window, PseudoTerminalsOpenAgainAtAnyRateAndAfterAnother)
     QTest::mouseClick(m.w.OptionBitRate[2], Qt::LeftButton);
     EXPECT_EQ(version(), "1.1.1.1");
     EXPECT_TRUE(m.w.LabelStatusPort->text().contains("38400"));
-    m.openPort(QString::fromStdString(first.pty())); // the same port chosen again
-    EXPECT_EQ(version(), "1.1.1.1");
-    m.openPort(QString::fromStdString(second.pty()));
-    EXPECT_EQ(version(), "2.2.2.2");
-    m.openPort(QString::fromStdString(first.pty()));
-    EXPECT_EQ(version(), "1.1.1.1");
+    // The same port chosen again, another, and back.
+    for (const auto& [sim, shown] :
+         {std::pair{&first, "1.1.1.1"}, {&second, "2.2.2.2"}, {&first, "1.1.1.1"}}) {
+        m.openPort(QString::fromStdString(sim->pty()));
+        EXPECT_EQ(version(), shown);
+    }
     EXPECT_TRUE(m.dialogs.messages.empty()) << m.dialogs.messages[0].text;
 
-    // The other end goes away: told once, the port is closed; another one opens at once.
+    // The other end goes away: told, the port is closed; another one opens at once.
     first.stop();
     EXPECT_NE(version(), "1.1.1.1");
-    EXPECT_FALSE(m.dialogs.messages.empty());
-    EXPECT_EQ(m.w.LabelStatusPort->text(), "Port closed");
+    EXPECT_EQ(std::tuple(m.dialogs.messages.empty(), m.w.LabelStatusPort->text()),
+              std::tuple(false, "Port closed"));
     m.openPort(QString::fromStdString(second.pty()));
     EXPECT_EQ(version(), "2.2.2.2");
 
