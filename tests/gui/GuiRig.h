@@ -71,6 +71,12 @@ struct Window {
         ASSERT_TRUE(
             QTest::qWaitFor([&] { return !w.LabelAction->isVisible() && w.jobs.PendingJob.empty(); }, 60000));
     }
+    // Makes the window the active one again, for its shortcuts.
+    void activate()
+    {
+        w.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&w));
+    }
     QString report() const { return w.txtVerification ? w.txtVerification->toPlainText() : QString(); }
     QString status() const { return w.LabelStatusJob->text(); }
 };

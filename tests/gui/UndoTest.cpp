@@ -11,20 +11,12 @@
 using namespace kestrel;
 using namespace kestrel::test;
 
-namespace {
-void activate(KestrelConfig& w)
-{
-    w.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&w));
-}
-} // namespace
-
 TEST(Undo, TypingAndToolsOnTheAspectPage)
 {
     Window m;
     AspectsPage& page = *m.w.aspectsPage;
     m.w.tabs->setCurrentWidget(&page);
-    activate(m.w);
+    m.activate();
     QTest::mouseClick(page.OptionPAspConf[1], Qt::LeftButton); // "4" aspects
     const Configuration laidOut = m.w.session().config;
     const PinRecord& pin = m.w.session().config.pin(0);

@@ -237,8 +237,7 @@ TEST(Window, MenusShortcutsAndWhatIsRememberedBetweenRuns)
         m.dialogs.fileNames = {file.toStdString()};
         m.w.menuFile->actions()[3]->trigger(); // "Save As..."
         m.w.session().general.TextGenIDString = "Yard";
-        m.w.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&m.w));
+        m.activate();
         QTest::keyClick(&m.w, Qt::Key_S, Qt::ControlModifier);
         EXPECT_TRUE(m.dialogs.fileNames.empty());
         EXPECT_EQ(std::tuple(m.w.recentFiles(), m.w.actionRecent[0]->text(), m.w.windowTitle()),
@@ -249,15 +248,13 @@ TEST(Window, MenusShortcutsAndWhatIsRememberedBetweenRuns)
         m.waitIdle();
         EXPECT_TRUE(m.status().startsWith("Read All done")) << m.status().toStdString();
         m.dialogs.fileNames = {file.toStdString()};
-        m.w.activateWindow(); // back from the job's progress dialog
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&m.w));
+        m.activate(); // back from the job's progress dialog
         QTest::keyClick(&m.w, Qt::Key_O, Qt::ControlModifier);
         EXPECT_EQ(std::tuple(m.w.session().general.TextGenIDString, m.status()),
                   std::tuple("Yard", "Loaded " + file));
         // A button's mnemonic presses it (a moment later, as a click is animated).
         m.w.tabs->setCurrentIndex(m.w.tabs->count() - 1);
-        m.w.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&m.w));
+        m.activate();
         m.w.tabs->setFocus();
         QTest::keyClick(m.w.tabs, Qt::Key_L, Qt::AltModifier); // "Read A&ll"
         EXPECT_TRUE(QTest::qWaitFor([&] { return m.w.LabelAction->isVisible(); }, 10000));
