@@ -13,7 +13,6 @@
 #include <QSpinBox>
 #include <QStyleOptionFrame>
 #include <QStyleOptionSpinBox>
-#include <QTabWidget>
 
 #include <map>
 

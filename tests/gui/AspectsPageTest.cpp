@@ -9,7 +9,6 @@
 #include <QComboBox>
 #include <QRadioButton>
 #include <QSlider>
-#include <QTabWidget>
 
 using namespace kestrel;
 using namespace kestrel::test;

@@ -5,7 +5,6 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QRadioButton>
 
 using namespace kestrel;
 using namespace kestrel::test;

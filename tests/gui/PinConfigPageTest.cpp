@@ -6,9 +6,7 @@
 
 #include <QCheckBox>
 #include <QRadioButton>
-#include <QSlider>
 #include <QTabBar>
-#include <QTabWidget>
 
 using namespace kestrel;
 using namespace kestrel::test;

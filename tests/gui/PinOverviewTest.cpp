@@ -3,7 +3,6 @@
 #include "gui/GuiRig.h"
 #include "model/AddressIndex.h"
 
-#include <QHeaderView>
 #include <QTableWidget>
 
 using namespace kestrel;

@@ -7,7 +7,6 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QRadioButton>
-#include <QSlider>
 #include <QSpinBox>
 #include <QTimer>
 

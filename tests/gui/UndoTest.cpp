@@ -3,9 +3,7 @@
 #include "shell/AspectsPage.h"
 #include "shell/GeneralPage.h"
 
-#include <QAction>
 #include <QRadioButton>
-#include <QTabWidget>
 #include <QTemporaryDir>
 
 using namespace kestrel;

@@ -10,7 +10,6 @@
 #include "shell/QtDialogs.h"
 #include "support/Process.h"
 
-#include <QAction>
 #include <QCheckBox>
 #include <QDir>
 #include <QMenu>
@@ -18,8 +17,6 @@
 #include <QProgressDialog>
 #include <QRadioButton>
 #include <QSettings>
-#include <QTabWidget>
-#include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTimer>
 
