@@ -16,8 +16,7 @@ using namespace kestrel::test;
 
 namespace {
 
-// The module holds what the session holds (the round trip itself is the fault matrix's
-// starting point and its last check).
+// The module holds what the session holds (the round trip is the fault matrix's check).
 struct BulkSim : ::testing::Test {
     SimSession sim;
     Session& s = sim.session;
@@ -113,8 +112,6 @@ TEST_F(BulkSim, EventMismatchStopsBeforeThePins)
                                             "Verification Stopped\r\n");
 }
 
-// ---- order and stopping, on a scripted module ----
-
 TEST(BulkScripted, ModuleThatAnswersNothingEndsReadAllAfterTheVersionRequest)
 {
     ScriptedModule m;
@@ -183,8 +180,7 @@ TEST_F(BulkSim, CancelledReadAllKeepsWhatWasReadAndStopsQuietly)
     EXPECT_EQ(fresh->jobSummary(), "Read All cancelled at Reading DCC settings");
 }
 
-// Every write checks all it will send before its first byte: a value the wire cannot
-// carry is told once, naming where it is, and the module hears nothing.
+// Told once, naming where the value is.
 TEST_F(BulkSim, AValueThatCannotBeSentStopsTheWriteBeforeItsFirstByte)
 {
     struct Case {
