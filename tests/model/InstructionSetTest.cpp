@@ -30,8 +30,8 @@ TEST(InstructionSet, NormaliseStep)
     StepRecord wait{102, 1, 5, 7, 20, 2};
     const NormalisedStep n = normaliseStep(wait);
     EXPECT_EQ(wait, (StepRecord{102, 0, 0, 0, 20, 2}));
-    EXPECT_EQ(std::tuple(n.fadeVisible, n.fadeCaption), std::tuple(false, ""));
-    EXPECT_EQ(n.headings, (std::array<std::string, 4>{"", "", "Time", "Base"}));
+    EXPECT_EQ(std::tuple(n.fadeVisible, n.fadeCaption, n.headings),
+              std::tuple(false, "", std::array<std::string, 4>{"", "", "Time", "Base"}));
 
     StepRecord on{9, 1, 4, 10, 30, 3};
     const NormalisedStep m = normaliseStep(on);
