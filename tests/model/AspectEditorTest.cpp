@@ -69,12 +69,11 @@ TEST(AspectEditor, SelectorsClamp)
 {
     Configuration c;
     c.NumberingBase = 1;
-    EXPECT_EQ(selectPin(c, "0").text, "1");
-    EXPECT_EQ(c.CurrentPin, 0);
-    const Selection last = selectPin(c, "40");
-    EXPECT_EQ(std::tuple(last.text, c.CurrentPin, last.view.pinText), std::tuple("32", 31, "32"));
-    EXPECT_EQ(selectPin(c, "7").text, "7");
-    EXPECT_EQ(c.CurrentPin, 6);
+    for (const auto& [typed, shown, pin] : {std::tuple{"0", "1", 0}, {"40", "32", 31}, {"7", "7", 6}}) {
+        const Selection selected = selectPin(c, typed);
+        EXPECT_EQ(std::tuple(selected.text, c.CurrentPin, selected.view.pinText),
+                  std::tuple(shown, pin, shown));
+    }
 
     c.Pins[6].AspectLayout = 3;
     EXPECT_EQ(selectAspect(c, "9").text, "3");
