@@ -132,21 +132,15 @@ TEST(PinTransferSim, DeviceIsItsHeadAndTheFollowingPinsThatPointAtIt)
         rig.modulePin(p).aspectLayout = 3;
     rig.modulePin(5).deviceOffset = 31; // head 4
     rig.modulePin(6).deviceOffset = 30; // head 4
-    // The layouts of the given pins in the program and in the module.
     const auto& pins = rig.session.config.Pins;
-    const auto held = [&](std::vector<int> ps) {
+    const auto layouts = [&](std::vector<int> ps, bool inModule) {
         for (int& p : ps)
-            p = pins[p].AspectLayout;
-        return ps;
-    };
-    const auto written = [&](std::vector<int> ps) {
-        for (int& p : ps)
-            p = rig.modulePin(p).aspectLayout;
+            p = inModule ? rig.modulePin(p).aspectLayout : pins[p].AspectLayout;
         return ps;
     };
     rig.session.config.CurrentPin = 5;
     ASSERT_TRUE(ReadDevice(rig.session));
-    EXPECT_EQ(held({3, 4, 5, 6, 7}), (std::vector<int>{0, 3, 3, 3, 0}));
+    EXPECT_EQ(layouts({3, 4, 5, 6, 7}, false), (std::vector<int>{0, 3, 3, 3, 0}));
     EXPECT_EQ(pins[6].DeviceOffset, -2);
 
     for (int p = 3; p <= 7; ++p)
@@ -154,7 +148,7 @@ TEST(PinTransferSim, DeviceIsItsHeadAndTheFollowingPinsThatPointAtIt)
     rig.session.config.Pins[7].DeviceOffset = 0;
     rig.session.config.CurrentPin = 6;
     ASSERT_TRUE(WriteDevice(rig.session));
-    EXPECT_EQ(written({3, 4, 6, 7}), (std::vector<int>{3, 2, 2, 3}));
+    EXPECT_EQ(layouts({3, 4, 6, 7}, true), (std::vector<int>{3, 2, 2, 3}));
 
     // A device that wraps past pin 31 and has a gap: 30, 31 and 1, not 0.
     for (int p : {30, 31, 0, 1})
@@ -163,12 +157,12 @@ TEST(PinTransferSim, DeviceIsItsHeadAndTheFollowingPinsThatPointAtIt)
     rig.modulePin(1).deviceOffset = 29;  // head 30
     rig.session.config.CurrentPin = 1;
     ASSERT_TRUE(ReadDevice(rig.session));
-    EXPECT_EQ(held({30, 31, 0, 1}), (std::vector<int>{3, 3, 0, 3}));
+    EXPECT_EQ(layouts({30, 31, 0, 1}, false), (std::vector<int>{3, 3, 0, 3}));
     for (int p : {30, 31, 0, 1})
         rig.session.config.Pins[p].AspectLayout = 2;
     rig.session.config.CurrentPin = 31;
     ASSERT_TRUE(WriteDevice(rig.session));
-    EXPECT_EQ(written({30, 31, 0, 1}), (std::vector<int>{2, 2, 3, 2}));
+    EXPECT_EQ(layouts({30, 31, 0, 1}, true), (std::vector<int>{2, 2, 3, 2}));
 
     rig.session.config.CurrentPin = 6;
     rig.module.faults.refuse(118, sim::Refusal::WrongEcho, 6);
