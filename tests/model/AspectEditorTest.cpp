@@ -152,8 +152,7 @@ TEST(AspectEditor, StepToolInsertAndDelete)
                 << "layout " << k.layout << " row " << k.row << " step " << s;
     }
     EXPECT_THROW(selectStepRow(c, 9), ProgramFault);
-    // The layout options' clamps are driven through the page (AspectsPageTest); an option
-    // beyond the three is a program fault.
+    // An option beyond the three is a program fault (the clamps: AspectsPageTest).
     EXPECT_THROW(changeLayout(c, 3), ProgramFault);
 }
 
