@@ -11,8 +11,7 @@ TEST(InstructionSet, CodesBeyondTheTableAreProgramFaultsAndTheListKeepsItsOrder)
     EXPECT_THROW(instructionInfo(-1), ProgramFault);
     EXPECT_TRUE(instructionInfo(128).Name.empty());
 
-    // "-" first, then by kind and code; selection by code searches the data, and an unknown
-    // code selects "-".
+    // "-" first, then by kind and code; an unknown code selects "-".
     const auto& list = InstructionTable::instance().list();
     EXPECT_EQ(list[0].name, "-");
     for (std::size_t i = 1; i < list.size(); ++i) {
