@@ -1,5 +1,4 @@
-// Read All, Write All and Verify All: the whole configuration against the simulated
-// module, the order of the steps and where a run stops.
+// Read All, Write All and Verify All: the order of the steps and where a run stops.
 #include "ops/Bulk.h"
 #include "ops/EventControl.h"
 #include "ops/GeneralCommands.h"
