@@ -1,5 +1,4 @@
-// Event control: slot bytes, single and bulk transfer, the entry boxes, the enable
-// maps and the verification lines.
+// Event control: slot bytes, transfers, entry boxes, enable maps and verification lines.
 #include "ops/EventControl.h"
 #include "forms/EventControlForm.h"
 #include "support/ScriptedModule.h"
