@@ -1,5 +1,4 @@
-// General page readers and writers against a scripted module: the requests byte for
-// byte, the reply checks and every message text.
+// General page readers and writers on a scripted module: requests, reply checks, messages.
 #include "ops/GeneralCommands.h"
 #include "forms/GeneralForm.h"
 #include "support/ScriptedModule.h"
@@ -229,8 +228,7 @@ TEST_F(GeneralCommands, LedByteZeroMeansElementSevenAndBitSevenIsIgnored)
 }
 
 namespace {
-// Lets the link refuse exactly the first call of a job (as a job cancelled and then
-// resumed would), so what the writer does after a failed frame can be seen.
+// Refuses the first call of a job, to show what a writer does after a failed frame.
 struct RefuseFirstCall : Progress {
     void step(int, int, const std::string&) override {}
     bool cancelled() override { return calls++ == 0; }
@@ -252,8 +250,7 @@ TEST_F(GeneralCommands, MultiFrameWritersSendEveryFrameUnlessTheyChainOnSuccess)
     g.CheckLCGreen = {0, 0, 0, 1, 0, 0, 0, 0};
     g.CheckLCOrange = {1, 0, 0, 0, 0, 0, 0, 0};
     g.ExtendedAddress = 33;
-    // DCC options, DCC address and eXtended DCC address are sent one after the other,
-    // as are green and orange; only the serial addressing writes go on after success.
+    // The other writers send every frame; the serial addressing ones chain on success.
     const MultiFrameWriter writers[] = {
         {"WriteDCCSettings", WriteDCCSettings, {{96, 4, 10, 3}, {96, 12, 5, 1}}},
         {"WriteLEDControl", WriteLEDControl, {{96, 7, 1}}},
