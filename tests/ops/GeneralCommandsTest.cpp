@@ -91,11 +91,9 @@ TEST_F(GeneralCommands, SerialAddressingNativeBitOnlyCountsWithFlexAddressingOff
     // The two modes exclude each other; addresses are shown with the numbering base.
     EXPECT_EQ(std::tuple(g.CheckGenKestrelNative, g.CheckGenLynxaddr, g.LynxFlexAddress, g.TextGenLynxaddr,
                          g.TextGenLynxaddrVisible, g.CheckGenLynxaddrVisible, g.ExtendedAddress,
-                         g.TextGenXaddr),
-              std::tuple(1, 0, 0, "1", false, false, 17, "18"));
-    const std::array<int, 16> mask{1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
-    EXPECT_EQ(g.CheckGenXGM, mask);
-    EXPECT_EQ(refreshed, 1);
+                         g.TextGenXaddr, g.CheckGenXGM, refreshed),
+              std::tuple(1, 0, 0, "1", false, false, 17, "18",
+                         std::array<int, 16>{1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1}, 1));
 
     // Flex-addressing on: bit 6 is not looked at, the whole byte is the flex-address.
     m.answer({112, 8, 1, 64 + 5});
@@ -174,7 +172,6 @@ TEST_F(GeneralCommands, HardwareConfigurationBadByteStopsAndKeepsEarlierGroupsOt
     g.ChkGenHWCSource = {0, 0, 0, 1};
     m.answer({112, 1, 1, 2, 4, 0}); // group 2 carries 4
     EXPECT_FALSE(ReadHardwareConfig(s));
-    EXPECT_EQ(messages(), (std::vector<std::string>{"No valid response byte"}));
     EXPECT_EQ(std::tuple(g.ChkGenHWCSink, g.ChkGenHWCSource),
               std::tuple(std::array<int, 4>{1, 0, 0, 1}, std::array<int, 4>{0, 1, 0, 1}));
 
@@ -188,12 +185,12 @@ TEST_F(GeneralCommands, HardwareConfigurationBadByteStopsAndKeepsEarlierGroupsOt
     EXPECT_EQ(m.requests, (std::vector<Data>{{96, 1, 0, 1, 2, 3}}));
 
     // A wrong size or type is told, and the read still counts as done.
-    m.dialogs.clear();
     m.answer({112, 1, 0, 0, 0});
     EXPECT_TRUE(ReadHardwareConfig(s));
     m.answer({112, 2, 0, 0, 0, 0});
     EXPECT_TRUE(ReadHardwareConfig(s));
-    EXPECT_EQ(messages(), (std::vector<std::string>{"No valid response size", "No valid response type"}));
+    EXPECT_EQ(messages(), (std::vector<std::string>{"No valid response byte", "No valid response size",
+                                                    "No valid response type"}));
     m.silence();
     EXPECT_FALSE(ReadHardwareConfig(s));
 }
