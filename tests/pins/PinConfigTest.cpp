@@ -97,9 +97,9 @@ TEST(LiveOutput, ServoAndPwmSubCommands)
     sendPwmLevel(rig.session, 20, true);
     sendPwmJump(rig.session, 31);
     EXPECT_EQ(pin.OutputValue, 20);
-    const std::vector<std::vector<int>> expected{
-        {0, 55, 12, 54}, {0, 39, 12, 69}, {0, 39, 12, 0}, {0, 54, 12, 20}, {0, 38, 12, 31}};
-    EXPECT_EQ(rig.take(), expected);
+    EXPECT_EQ(rig.take(),
+              (std::vector<Data>{
+                  {0, 55, 12, 54}, {0, 39, 12, 69}, {0, 39, 12, 0}, {0, 54, 12, 20}, {0, 38, 12, 31}}));
 }
 
 TEST(PinEdits, BoxesClampToTheirRangesAndStoreTheirEncoding)
