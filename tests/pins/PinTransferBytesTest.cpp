@@ -21,12 +21,11 @@ TEST(PinRead, CodeBytesFadeAndAspectMajorOrder)
     rig.answer({118, 5, 0x02, 0x11, 0x40});
     ASSERT_TRUE(PAspReadPin(rig.session, 5));
     const auto& pin = rig.session.config.Pins[5];
+    // Entry 0x73: initial aspect 3, stored plus one.
     EXPECT_EQ(std::tuple(pin.AspectLayout, pin.Aspects[0].Steps[0], pin.Aspects[0].Steps[1],
-                         pin.Aspects[0].Steps[2]),
+                         pin.Aspects[0].Steps[2], pin.InitAspect, pin.DccCount, pin.LynxCount),
               std::tuple(2, (StepRecord{3, 1, 1, 2, 3, 4}), (StepRecord{18, 0, 1, 2, 3, 4}),
-                         (StepRecord{67, 0, 1, 2, 3, 4})));
-    // Entry 0x73: aspect 3, stored plus one.
-    EXPECT_EQ(std::tuple(pin.InitAspect, pin.DccCount, pin.LynxCount), std::tuple(4, 2, 1));
+                         (StepRecord{67, 0, 1, 2, 3, 4}), 4, 2, 1));
 
     const Frames f = rig.take();
     ASSERT_EQ(f.size(), 1u + 36 + 2); // the aspect editor's read stops before "q"
@@ -62,10 +61,9 @@ TEST(PinRead, LayoutOtherThanTwoOrThreeReadsNoStepsAndBadRepliesFail)
     rig.answer({118, 3, 0x00, 0x10, 0x30});             // 0x30 carries no tag
     rig.session.config.Pins[3].InitAspect = 9;
     EXPECT_FALSE(PAspReadPin(rig.session, 3));
-    EXPECT_EQ(rig.session.config.Pins[3].InitAspect, 0);
-    EXPECT_EQ(rig.dialogs.texts(),
-              (std::vector<std::string>{"Read Pin Address Configuration: Invalid Response"}));
-    EXPECT_EQ(rig.take(), (Frames{{114, 3}, {116, 3}, {118, 3}}));
+    EXPECT_EQ(std::tuple(rig.session.config.Pins[3].InitAspect, rig.dialogs.texts(), rig.take()),
+              std::tuple(0, std::vector<std::string>{"Read Pin Address Configuration: Invalid Response"},
+                         Frames{{114, 3}, {116, 3}, {118, 3}}));
 }
 
 TEST(PinWrite, ExactRequestsAndPacingWhenOneWay)
@@ -74,7 +72,6 @@ TEST(PinWrite, ExactRequestsAndPacingWhenOneWay)
     rig.session.link.settings.CheckKestrelBD = false;
     PinRecord& pin = rig.session.config.Pins[30];
     pin.AspectLayout = 3;
-    pin.InitAspect = 0;
     pin.DccCount = 3;
     pin.XDccCount = 1;
     pin.LynxCount = 5;
