@@ -35,7 +35,6 @@ TEST(AspectEditor, ShowAspectFillsThePage)
     p.Description = "Home signal";
     p.DeviceOffset = -2;
     c.Pins[2].DeviceDescription = "Entry";
-    p.InitAspect = 0;
     p.DccCount = 3;
     p.LynxCount = 1;
     p.AspectLayout = 2;
