@@ -293,16 +293,6 @@ TEST_F(GeneralCommands, SerialPortLineByteAndParityCodes)
                                                     "No valid response, msg = 112,12 expected = 112,13"}));
 }
 
-namespace {
-const std::string kEraseFirst =
-    "WARNING !!\r\nThis operation will erase the Kestrel Configuration Memory\r\nContinue?";
-const std::string kEraseSecond =
-    "WARNING !!\r\nThis operation will erase the Kestrel Configuration Memory\r\n"
-    "The green LED on the Kestrel will be ON during this process\r\n"
-    "The erase process may take up to 45 seconds, please be patient\r\n\r\n"
-    "Do you want to cancel this operation?";
-} // namespace
-
 TEST_F(GeneralCommands, EraseAsksTwiceSendsTheConfirmationWithoutWaitingAndRestoresBidirectional)
 {
     m.dialogs.answers = {Answer::Cancel};
@@ -313,7 +303,12 @@ TEST_F(GeneralCommands, EraseAsksTwiceSendsTheConfirmationWithoutWaitingAndResto
     ASSERT_EQ(m.dialogs.questions.size(), 3u);
     EXPECT_EQ(
         std::tuple(m.dialogs.questions[0].text, m.dialogs.questions[2].text, m.dialogs.questions[2].icon),
-        std::tuple(kEraseFirst, kEraseSecond, Icon::Warning));
+        std::tuple("WARNING !!\r\nThis operation will erase the Kestrel Configuration Memory\r\nContinue?",
+                   "WARNING !!\r\nThis operation will erase the Kestrel Configuration Memory\r\n"
+                   "The green LED on the Kestrel will be ON during this process\r\n"
+                   "The erase process may take up to 45 seconds, please be patient\r\n\r\n"
+                   "Do you want to cancel this operation?",
+                   Icon::Warning));
 
     // Cancel at the second: the confirmation goes out without waiting for a reply.
     int changes = 0;
