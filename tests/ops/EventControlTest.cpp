@@ -75,10 +75,7 @@ TEST_F(EventScripted, EntryBoxesClampToMinusOneAndElevenAndCopyToAll)
     s.eventControl.TextECoff = {"-1", "0", "-1", "7"};
     CopyEventsToAll(s);
     for (int p = 0; p < kPinCount; ++p)
-        EXPECT_EQ(std::tuple(s.config.events(p).OnEvent, s.config.events(p).OffEvent),
-                  std::tuple(std::array<std::int16_t, 5>{1, 2, 3, 4, 0},
-                             std::array<std::int16_t, 5>{-1, 0, -1, 7, 0}))
-            << p;
+        EXPECT_EQ(s.config.events(p), (EventRecord{{1, 2, 3, 4, 0}, {-1, 0, -1, 7, 0}})) << p;
 }
 
 TEST_F(EventScripted, EnableMapsAreTheInverseOfTheBoxes)
