@@ -182,10 +182,9 @@ TEST(AspectEditor, AspectTool)
 
     c.CurrentAspect = 5;
     tool.clear(c);
-    for (int s = 0; s <= 8; ++s)
-        EXPECT_EQ(c.Pins[0].Aspects[5].Steps[s], StepRecord{});
-    EXPECT_EQ(c.Pins[0].Aspects[5].Steps[9], (StepRecord{8, 0, 7, 8, 0, 0}));
-    EXPECT_EQ(c.Pins[0].Aspects[5].AspectMark, -1);
+    AspectRecord cleared{"", -1, {}}; // step 9, never used, is kept
+    cleared.Steps[9] = {8, 0, 7, 8, 0, 0};
+    EXPECT_EQ(c.Pins[0].Aspects[5], cleared);
 }
 
 TEST(AspectEditor, NumberingAndHelpDecision)
