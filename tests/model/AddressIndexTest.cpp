@@ -23,8 +23,7 @@ TEST(AddressIndex, RunningSumsOverAllRecords)
     // the spare record takes part in the total
     c.Pins[32].DccCount = 1;
     RecalcDccAddressIndex(c);
-    EXPECT_EQ(c.DccFirstIndex[32], 9);
-    EXPECT_EQ(c.DccTotal, 10);
+    EXPECT_EQ(std::tuple(c.DccFirstIndex[32], c.DccTotal), std::tuple(9, 10));
 }
 
 TEST(AddressIndex, OverflowThrowsAndKeepsNoPartialResult)
@@ -47,7 +46,6 @@ TEST(AddressIndex, OverflowThrowsAndKeepsNoPartialResult)
     for (auto& p : c.Pins)
         p.LynxCount = 0;
     c.Pins[32].LynxCount = 255;
-    c.Pins[0].LynxCount = 0;
     RecalcLynxAddressIndex(c);
     EXPECT_EQ(c.LynxTotal, 255);
 }

@@ -35,7 +35,6 @@ TEST(AspectEditor, ShowAspectFillsThePage)
     p.Description = "Home signal";
     p.DeviceOffset = -2;
     c.Pins[2].DeviceDescription = "Entry";
-    p.InitAspect = 0;
     p.DccCount = 3;
     p.LynxCount = 1;
     p.AspectLayout = 2;
@@ -69,12 +68,11 @@ TEST(AspectEditor, SelectorsClamp)
 {
     Configuration c;
     c.NumberingBase = 1;
-    EXPECT_EQ(selectPin(c, "0").text, "1");
-    EXPECT_EQ(c.CurrentPin, 0);
-    const Selection last = selectPin(c, "40");
-    EXPECT_EQ(std::tuple(last.text, c.CurrentPin, last.view.pinText), std::tuple("32", 31, "32"));
-    EXPECT_EQ(selectPin(c, "7").text, "7");
-    EXPECT_EQ(c.CurrentPin, 6);
+    for (const auto& [typed, shown, pin] : {std::tuple{"0", "1", 0}, {"40", "32", 31}, {"7", "7", 6}}) {
+        const Selection selected = selectPin(c, typed);
+        EXPECT_EQ(std::tuple(selected.text, c.CurrentPin, selected.view.pinText),
+                  std::tuple(shown, pin, shown));
+    }
 
     c.Pins[6].AspectLayout = 3;
     EXPECT_EQ(selectAspect(c, "9").text, "3");
@@ -153,8 +151,7 @@ TEST(AspectEditor, StepToolInsertAndDelete)
                 << "layout " << k.layout << " row " << k.row << " step " << s;
     }
     EXPECT_THROW(selectStepRow(c, 9), ProgramFault);
-    // The layout options' clamps are driven through the page (AspectsPageTest); an option
-    // beyond the three is a program fault.
+    // An option beyond the three is a program fault (the clamps: AspectsPageTest).
     EXPECT_THROW(changeLayout(c, 3), ProgramFault);
 }
 
@@ -185,10 +182,9 @@ TEST(AspectEditor, AspectTool)
 
     c.CurrentAspect = 5;
     tool.clear(c);
-    for (int s = 0; s <= 8; ++s)
-        EXPECT_EQ(c.Pins[0].Aspects[5].Steps[s], StepRecord{});
-    EXPECT_EQ(c.Pins[0].Aspects[5].Steps[9], (StepRecord{8, 0, 7, 8, 0, 0}));
-    EXPECT_EQ(c.Pins[0].Aspects[5].AspectMark, -1);
+    AspectRecord cleared{"", -1, {}}; // step 9, never used, is kept
+    cleared.Steps[9] = {8, 0, 7, 8, 0, 0};
+    EXPECT_EQ(c.Pins[0].Aspects[5], cleared);
 }
 
 TEST(AspectEditor, NumberingAndHelpDecision)

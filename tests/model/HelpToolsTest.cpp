@@ -2,13 +2,11 @@
 #include "base/ProgramFault.h"
 
 #include <gtest/gtest.h>
-#include <set>
 
 using namespace kestrel;
 
-// The tools' windows (tests/gui/ToolsTest.cpp) drive the durations, the pattern sums,
-// Cancel and OK; here what a window cannot reach: out-of-range use, the flags read back
-// on opening, and the clamp of a full seven-output pattern.
+// What the tools' windows (tests/gui/ToolsTest.cpp) cannot reach: out-of-range use, the flags
+// read back on opening and the clamp of a full seven-output pattern.
 TEST(HelpTools, TimeAndPatternToolsOutsideWhatTheirWindowsOffer)
 {
     TimeTool time;
@@ -35,7 +33,6 @@ TEST(HelpTools, TimeAndPatternToolsOutsideWhatTheirWindowsOffer)
 
 TEST(HelpTools, EventPatternRoundTripsEveryValue)
 {
-    std::set<int> seen;
     for (int events = 0; events < 16; ++events)
         for (int option = -1; option < 6; ++option) {
             EventPatternTool::Choice c;
@@ -46,9 +43,7 @@ TEST(HelpTools, EventPatternRoundTripsEveryValue)
             EXPECT_TRUE(v >= 0 && v <= 127) << v;
             EXPECT_EQ(v & 15, events);
             EXPECT_EQ(EventPatternTool::decode(v), c) << v;
-            seen.insert(v);
         }
-    EXPECT_EQ(seen.size(), 16u * 7u);
 
     // absence of an action is 0; the On-Event group carries 64
     EXPECT_EQ(EventPatternTool::optionCaptions()[5], "Execute On-Event");

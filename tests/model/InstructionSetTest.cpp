@@ -11,8 +11,7 @@ TEST(InstructionSet, CodesBeyondTheTableAreProgramFaultsAndTheListKeepsItsOrder)
     EXPECT_THROW(instructionInfo(-1), ProgramFault);
     EXPECT_TRUE(instructionInfo(128).Name.empty());
 
-    // "-" first, then by kind and code; selection by code searches the data, and an unknown
-    // code selects "-".
+    // "-" first, then by kind and code; an unknown code selects "-".
     const auto& list = InstructionTable::instance().list();
     EXPECT_EQ(list[0].name, "-");
     for (std::size_t i = 1; i < list.size(); ++i) {
@@ -30,8 +29,8 @@ TEST(InstructionSet, NormaliseStep)
     StepRecord wait{102, 1, 5, 7, 20, 2};
     const NormalisedStep n = normaliseStep(wait);
     EXPECT_EQ(wait, (StepRecord{102, 0, 0, 0, 20, 2}));
-    EXPECT_EQ(std::tuple(n.fadeVisible, n.fadeCaption), std::tuple(false, ""));
-    EXPECT_EQ(n.headings, (std::array<std::string, 4>{"", "", "Time", "Base"}));
+    EXPECT_EQ(std::tuple(n.fadeVisible, n.fadeCaption, n.headings),
+              std::tuple(false, "", std::array<std::string, 4>{"", "", "Time", "Base"}));
 
     StepRecord on{9, 1, 4, 10, 30, 3};
     const NormalisedStep m = normaliseStep(on);

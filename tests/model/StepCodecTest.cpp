@@ -42,8 +42,7 @@ TEST(StepCodec, CodeByteSplit)
     for (const auto& c : cases) {
         StepRecord s;
         splitCodeByte(c.byte, s);
-        EXPECT_EQ(s.Instruction, c.instruction) << c.byte;
-        EXPECT_EQ(s.Fade, c.fade) << c.byte;
+        EXPECT_EQ(std::tuple(int(s.Instruction), int(s.Fade)), std::tuple(c.instruction, c.fade)) << c.byte;
     }
     for (int b = 64; b < 128; ++b) {
         StepRecord s;

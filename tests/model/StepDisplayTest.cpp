@@ -12,16 +12,6 @@ std::string shown(const StepRecord& s, int par, int pin, int base = 0)
     return showParameter(s, par, pin, base).text;
 }
 
-struct Typed {
-    int code;
-    int parameter;
-    int pin;
-    int base;
-    const char* typed;
-    const char* text; // box afterwards
-    int stored;
-};
-
 } // namespace
 
 TEST(StepDisplay, ShowRules)
@@ -48,7 +38,8 @@ TEST(StepDisplay, ShowRules)
 
 TEST(StepDisplay, AcceptRules)
 {
-    const Typed cases[] = {
+    // Code, parameter, pin, numbering base, typed, shown afterwards, stored.
+    const std::tuple<int, int, int, int, const char*, const char*, int> cases[] = {
         {9, 0, 1, 0, "-3", "-1", 31},   // P.O. on pin 1 cannot reach below pin 0
         {9, 0, 30, 0, "5", "1", 1},     // ... nor above pin 31 from pin 30
         {9, 0, 5, 0, "-2", "-2", 30},   // in range: text kept, five-bit complement stored
@@ -67,11 +58,11 @@ TEST(StepDisplay, AcceptRules)
         {102, 3, 0, 0, "5", "3", 3},                                  // Base
         {102, 3, 0, 0, "-2", "0", 0},    {102, 0, 4, 0, "7", "0", 0}, // unused parameter
     };
-    for (const auto& c : cases) {
-        const StepRecord step{static_cast<std::uint8_t>(c.code), 0, 0, 0, 0, 0};
-        const AcceptedParameter a = acceptParameter(step, c.parameter, c.typed, c.pin, c.base);
-        SCOPED_TRACE(std::to_string(c.code) + " par " + std::to_string(c.parameter) + " typed " + c.typed);
-        EXPECT_EQ(std::tuple(a.text, a.stored), std::tuple(c.text, c.stored));
+    for (const auto& [code, par, pin, base, typed, text, stored] : cases) {
+        const StepRecord step{static_cast<std::uint8_t>(code), 0, 0, 0, 0, 0};
+        const AcceptedParameter a = acceptParameter(step, par, typed, pin, base);
+        EXPECT_EQ(std::tuple(a.text, a.stored), std::tuple(text, stored))
+            << code << " par " << par << " " << typed;
     }
 }
 

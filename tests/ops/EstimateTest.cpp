@@ -1,5 +1,4 @@
-// The time estimate of long jobs: its count of the wire traffic against what the link
-// counts in a real run, and its times against the wire benchmark's.
+// The time estimate of long jobs against a real run's traffic and the wire benchmark.
 #include "ops/Estimate.h"
 #include "FullConfiguration.h"
 #include "ops/Bulk.h"

@@ -1,5 +1,4 @@
-// Event control: slot bytes, single and bulk transfer, the entry boxes, the enable
-// maps and the verification lines.
+// Event control: slot bytes, transfers, entry boxes, enable maps and verification lines.
 #include "ops/EventControl.h"
 #include "forms/EventControlForm.h"
 #include "support/ScriptedModule.h"
@@ -76,10 +75,7 @@ TEST_F(EventScripted, EntryBoxesClampToMinusOneAndElevenAndCopyToAll)
     s.eventControl.TextECoff = {"-1", "0", "-1", "7"};
     CopyEventsToAll(s);
     for (int p = 0; p < kPinCount; ++p)
-        EXPECT_EQ(std::tuple(s.config.events(p).OnEvent, s.config.events(p).OffEvent),
-                  std::tuple(std::array<std::int16_t, 5>{1, 2, 3, 4, 0},
-                             std::array<std::int16_t, 5>{-1, 0, -1, 7, 0}))
-            << p;
+        EXPECT_EQ(s.config.events(p), (EventRecord{{1, 2, 3, 4, 0}, {-1, 0, -1, 7, 0}})) << p;
 }
 
 TEST_F(EventScripted, EnableMapsAreTheInverseOfTheBoxes)
@@ -97,36 +93,12 @@ TEST_F(EventScripted, EnableMapsAreTheInverseOfTheBoxes)
     EXPECT_TRUE(ReadEnableMaps(s));
     EXPECT_EQ(std::tuple(m.requests, s.general.CheckInitEE),
               std::tuple(std::vector<Data>{{112, 11}}, std::array<int, 8>{1, 0, 1, 1, 0, 1, 0, 1}));
-
-    m.answer({112, 11, 0});
-    EXPECT_FALSE(ReadEnableMaps(s));
-    m.answer({112, 10, 0, 0});
-    EXPECT_FALSE(ReadEnableMaps(s));
-    EXPECT_EQ(m.dialogs.texts(),
-              (std::vector<std::string>{"No valid response size", "No valid response type"}));
 }
 
-// ---- against the simulated module ----
-
-namespace {
-struct EventSim : ::testing::Test {
+TEST(EventSim, VerifyWritesOneLinePerDifferingSlotAndTheMaskLines)
+{
     SimSession sim;
     Session& s = sim.session;
-};
-} // namespace
-
-TEST_F(EventSim, ModuleWithoutEventOnGivesOneMessageAndEventOffStillRuns)
-{
-    sim.module.faults.refuse(116, sim::Refusal::WrongEcho);
-    sim.memory().pins[4].eventOff = {0x0F, 0x13, 0x2F, 0x3F};
-    EXPECT_TRUE(ReadAllEvents(s));
-    EXPECT_EQ(sim.dialogs.texts(),
-              (std::vector<std::string>{"Read Event-On: Function not supported by Device"}));
-    EXPECT_EQ(s.config.events(4).OffEvent, (std::array<std::int16_t, 5>{-1, 3, -1, -1, 0}));
-}
-
-TEST_F(EventSim, VerifyWritesOneLinePerDifferingSlotAndTheMaskLines)
-{
     s.config.NumberingBase = 1;
     ASSERT_TRUE(WriteAllEvents(s));
     ASSERT_TRUE(WriteEnableMaps(s));

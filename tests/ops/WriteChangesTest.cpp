@@ -1,5 +1,4 @@
-// Write Changes against the simulated module: only what differs from the module's image
-// goes out, and without a trustworthy image nothing is written unasked.
+// Write Changes: only what differs from a trusted image of the module goes out, else it asks.
 #include "ops/Bulk.h"
 #include "ops/PinTransfer.h"
 #include "support/SimSession.h"

@@ -32,9 +32,8 @@ TEST(ReadPinConfig, ModeChangeClearsAndRepliesAreNormalised)
     pin.ConfigMode = 2;
     pin.ConfigParams.fill(9);
     storePinConfigReply(pin, 1, {4, 1, 2, 3}, 6); // input: mode and three bytes
-    EXPECT_EQ(std::tuple(pin.ConfigMode, pin.P(3)), std::tuple(4, 3));
-    for (int n = 4; n <= 12; ++n)
-        EXPECT_EQ(pin.P(n), 0) << "P" << n;
+    EXPECT_EQ(std::tuple(pin.ConfigMode, pin.ConfigParams),
+              std::tuple(4, std::array<std::uint8_t, 12>{1, 2, 3}));
 
     storePinConfigReply(pin, 1, {2, 10, 1, 5, 20}, 7); // PWM with five bytes only
     EXPECT_EQ(std::tuple(pin.P(4), pin.P(5)), std::tuple(0, 31));
@@ -53,9 +52,8 @@ TEST(ReadPinConfig, WrongPinOrCommandIsNoValidResponse)
     rig.answer({'q', 8, 1, 64});
     rig.answer({'r', 7, 1, 64});
     rig.answer({'q', 7}); // no configuration bytes
-    EXPECT_FALSE(ReadPinConfig(rig.session, 1, 7));
-    EXPECT_FALSE(ReadPinConfig(rig.session, 1, 7));
-    EXPECT_FALSE(ReadPinConfig(rig.session, 1, 7));
+    for (int i = 0; i < 3; ++i)
+        EXPECT_FALSE(ReadPinConfig(rig.session, 1, 7));
     EXPECT_EQ(rig.dialogs.texts(), std::vector<std::string>(3, "No valid response"));
 }
 
@@ -99,9 +97,9 @@ TEST(LiveOutput, ServoAndPwmSubCommands)
     sendPwmLevel(rig.session, 20, true);
     sendPwmJump(rig.session, 31);
     EXPECT_EQ(pin.OutputValue, 20);
-    const std::vector<std::vector<int>> expected{
-        {0, 55, 12, 54}, {0, 39, 12, 69}, {0, 39, 12, 0}, {0, 54, 12, 20}, {0, 38, 12, 31}};
-    EXPECT_EQ(rig.take(), expected);
+    EXPECT_EQ(rig.take(),
+              (std::vector<Data>{
+                  {0, 55, 12, 54}, {0, 39, 12, 69}, {0, 39, 12, 0}, {0, 54, 12, 20}, {0, 38, 12, 31}}));
 }
 
 TEST(PinEdits, BoxesClampToTheirRangesAndStoreTheirEncoding)
