@@ -8,9 +8,10 @@
 
 using namespace kestrel::test;
 
+static const std::string cli = binPath("kestrel-cli");
+
 TEST(CliFiles, ReadFromBuiltInThenWriteVerifyAndReadBackThroughThePty)
 {
-    const std::string cli = binPath("kestrel-cli");
     ScratchDir dir("cli-files");
     const std::string demo = dir.file("demo.dat"), back = dir.file("back.dat");
 
@@ -56,7 +57,6 @@ TEST(CliFiles, ReadFromBuiltInThenWriteVerifyAndReadBackThroughThePty)
 
 TEST(CliFiles, BadFilesAndAddressesAreUsageErrorsAndNothingIsSent)
 {
-    const std::string cli = binPath("kestrel-cli");
     ScratchDir dir("cli-bad");
     const std::string bad = dir.file("bad.dat"), missing = dir.file("missing.dat");
     const std::string head = "\"KestrelConfiguration 3100\"\r\n";
@@ -95,7 +95,6 @@ TEST(CliFiles, BadFilesAndAddressesAreUsageErrorsAndNothingIsSent)
 
 TEST(CliFiles, AJobThatCannotCompleteFailsAndSaysWhatWasIncomplete)
 {
-    const std::string cli = binPath("kestrel-cli");
     ScratchDir dir("cli-incomplete");
     const std::string demo = dir.file("incomplete.dat"), fifo = dir.file("fifo.dat");
     ASSERT_EQ(runProgram(cli, {"read", demo}).status, 0);

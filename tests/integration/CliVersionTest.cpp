@@ -5,10 +5,11 @@
 
 using namespace kestrel::test;
 
+static const std::string cli = binPath("kestrel-cli");
+
 TEST(CliAgainstSimProcess, VersionAtEachBitRateAndAddress)
 {
     SimProcess sim({"--address", "0", "--address", "5", "--version", "9.8.7.6"});
-    const std::string cli = binPath("kestrel-cli");
     for (const char* baud : {"9600", "19200", "38400"}) {
         auto r = runProgram(cli, {"--port", sim.pty(), "--baud", baud, "version"});
         EXPECT_EQ(std::tuple(r.status, r.out, r.err), std::tuple(0, "9.8.7.6\n", "")) << baud;
@@ -25,7 +26,6 @@ TEST(CliAgainstSimProcess, VersionAtEachBitRateAndAddress)
 
 TEST(CliAgainstSimProcess, UsageAndPortErrorsExitWithTwo)
 {
-    const std::string cli = binPath("kestrel-cli");
     auto r = runProgram(cli, {"--port", "/dev/kestrel-no-such-port", "version"});
     EXPECT_EQ(r.status, 2);
     EXPECT_NE(r.err.find("Cannot open port /dev/kestrel-no-such-port"), std::string::npos) << r.err;
@@ -39,7 +39,6 @@ TEST(CliAgainstSimProcess, UsageAndPortErrorsExitWithTwo)
 
 TEST(CliAgainstSimProcess, FaultSwitchesOfTheSimulator)
 {
-    const std::string cli = binPath("kestrel-cli");
     SimProcess refusing({"--refuse", "112,0:length"});
     auto r = runProgram(cli, {"--port", refusing.pty(), "version"});
     EXPECT_EQ(std::tuple(r.status, r.err), std::tuple(1, "GetVersion: No valid response, size <> 6\n"));
