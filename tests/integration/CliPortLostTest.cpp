@@ -36,8 +36,7 @@ TEST(CliPortLost, ReadAndWriteEndWithOneMessageAndThePortServesAgain)
     ScratchDir dir("lost");
     const std::string lost = dir.file("lost-read.dat"), demo = dir.file("demo.dat");
     // The demonstration configuration of the built-in module, to write.
-    const CommandResult saved = runProgram(binPath("kestrel-cli"), {"--port", "sim", "read", demo});
-    ASSERT_EQ(saved.status, 0) << saved.err;
+    ASSERT_EQ(runProgram(binPath("kestrel-cli"), {"--port", "sim", "read", demo}).status, 0);
 
     // Not "No response received ..." nor "Select communications port" per item left; the reason
     // is the system's ("the port hung up" or "Input/output error"), then where the job stopped.
@@ -56,6 +55,5 @@ TEST(CliPortLost, ReadAndWriteEndWithOneMessageAndThePortServesAgain)
     // A port that is there again serves the next job.
     SimProcess sim;
     const CommandResult again = runProgram(binPath("kestrel-cli"), {"--port", sim.pty(), "read", lost});
-    EXPECT_EQ(std::tuple(again.status, again.err), std::tuple(0, ""));
-    EXPECT_TRUE(exists(lost));
+    EXPECT_EQ(std::tuple(again.status, again.err, exists(lost)), std::tuple(0, "", true));
 }
