@@ -5,22 +5,15 @@
 
 using namespace kestrel;
 
-namespace {
-void setCounts(Configuration& c, int pin, int dcc, int xdcc, int lynx)
-{
-    c.pin(pin).DccCount = dcc;
-    c.pin(pin).XDccCount = xdcc;
-    c.pin(pin).LynxCount = lynx;
-}
-} // namespace
-
 TEST(PinOverview, AddressesAreTheRunningSumsFromTheModulesFirstAddressUpToTheLargest)
 {
     Configuration c;
-    setCounts(c, 0, 3, 1, 4);
-    setCounts(c, 1, 1, 0, 1);
-    setCounts(c, 5, 2, 1, 0); // pins 2..4 have none
-    setCounts(c, 6, 0, 1, 0);
+    const int counts[][4] = {{0, 3, 1, 4}, {1, 1, 0, 1}, {5, 2, 1, 0}, {6, 0, 1, 0}}; // pins 2..4 have none
+    for (const auto& [pin, dcc, xdcc, lynx] : counts) {
+        c.pin(pin).DccCount = dcc;
+        c.pin(pin).XDccCount = xdcc;
+        c.pin(pin).LynxCount = lynx;
+    }
     RecalcAddressIndex(c);
 
     struct Case {
