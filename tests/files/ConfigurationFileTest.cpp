@@ -135,9 +135,8 @@ TEST(DataFileWriting, CompactHoldsOnlyDescribedPinsAspectsAndSteps)
         generalAndEventLines() + kPin5 +
         crlf({"    \"Ins\",2,127,0,0,25,1", "  \"Asp\",2,\"Clear\"", "    \"Ins\",0,9,1,0,0,0"}) + kPin6And7 +
         "\"End\"\r\n";
+    // Servo parameter 2 of 200 is written as 200 AND 63 = 8 (and kept so: DataFileSaving).
     EXPECT_EQ(writeConfigurationText(c, sampleGeneral(), SaveForm::Compact), expected);
-    // Servo parameter 2 of 200 was written as 200 AND 63 = 8 and is 8 in memory as well.
-    EXPECT_EQ(c.Pins[5].P(2), 8);
 }
 
 TEST(DataFileWriting, FullHoldsEveryPinEveryAspectOfTheLayoutAndEveryStep)
@@ -182,15 +181,14 @@ TEST(DataFileReading, FullFileReadsBackToTheSameTextUnderACommaDecimalLocale)
     const std::string first = writeConfigurationText(c, sampleGeneral(), SaveForm::Full);
     Loader l;
     ASSERT_EQ(l.load(first), LoadResult::Loaded);
-    EXPECT_TRUE(l.dialogs.messages.empty());
     EXPECT_EQ(writeConfigurationText(l.config, l.general, SaveForm::Full), first);
 
     // Output value from parameter 1; PWM parameters 6..11 cleared; input parameter 5 not in
     // the file, left as it was; the address index rebuilt (pin 5 has 2).
-    EXPECT_EQ(std::tuple(l.general.TextGenXDCCAddress, l.general.TextGenXaddr, l.config.Pins[5].OutputValue,
-                         l.config.Pins[6].P(6), l.config.Pins[7].P(5), l.config.EventMap[0].OnEvent[0],
-                         l.config.DccFirstIndex[6]),
-              std::tuple("0.3", "17", 64, 0, 0, -1, 2));
+    EXPECT_EQ(std::tuple(l.dialogs.messages.size(), l.general.TextGenXDCCAddress, l.general.TextGenXaddr,
+                         l.config.Pins[5].OutputValue, l.config.Pins[6].P(6), l.config.Pins[7].P(5),
+                         l.config.EventMap[0].OnEvent[0], l.config.DccFirstIndex[6]),
+              std::tuple(0u, "0.3", "17", 64, 0, 0, -1, 2));
 }
 
 TEST(DataFileReading, CompactFileLeavesWhatItDoesNotNameEmpty)
@@ -416,8 +414,7 @@ TEST(DataFileSaving, WritesBesideAndReplacesOnlyWhenComplete)
     EXPECT_EQ(std::tuple(slurp(target), c.Pins[5].P(2)), std::tuple("old content", 200));
     std::filesystem::remove(temporaryPathFor(target));
 
-    // A folder is refused, saying why, and leaves no temporary file behind (FIFOs and
-    // links: SpecialFilesPosixTest).
+    // A folder is refused, saying why, leaving no temporary file (FIFOs, links: SpecialFilesPosixTest).
     const std::string folder = dir.file("folder.dat");
     std::filesystem::create_directory(folder);
     std::string text;
