@@ -158,9 +158,8 @@ TEST(DeviceList, ReplaceAppendAndLoadingFromEachEntrysOwnFile)
     dialogs.fileNames = {first, second};
     CommandReloadDD_MouseDown(list, dialogs, 1, 0);
     CommandReloadDD_MouseDown(list, dialogs, 1, 1);
-    EXPECT_TRUE(dialogs.messages.empty());
-    EXPECT_EQ(std::tuple(list.cboDevice, list.paths, list.lblDDVersion),
-              std::tuple(std::vector<std::string>{"Signal", "Button", "Button", "Crane"},
+    EXPECT_EQ(std::tuple(dialogs.messages.size(), list.cboDevice, list.paths, list.lblDDVersion),
+              std::tuple(0u, std::vector<std::string>{"Signal", "Button", "Button", "Crane"},
                          std::vector<std::string>{first, first, second, second}, "Test set + Second set"));
 
     Configuration config;
@@ -199,13 +198,12 @@ TEST(DeviceList, LongCaptionsAndFilesThatCannotBeUsed)
 
     EXPECT_EQ(readDeviceListText(list, "\"KestrelConfiguration 3100\"\r\n", "d", ListMode::Replace, dialogs),
               ListLoad::Invalid);
-    EXPECT_EQ(list.cboDevice, std::vector<std::string>{"A"});
 
     dialogs.fileNames = {""};
     CommandReloadDD_MouseDown(list, dialogs, 1, 0);
     EXPECT_EQ(dialogs.texts(),
               (std::vector<std::string>{"Invalid definition file", "No Device Configuration file selected"}));
-    EXPECT_EQ(list.cboDevice, std::vector<std::string>{"A"});
+    EXPECT_EQ(list.cboDevice, std::vector<std::string>{"A"}); // kept by the invalid file and the cancel
 }
 
 TEST(DeviceList, StartUpFallsBackToTheDialog)
@@ -238,8 +236,7 @@ TEST(DeviceList, StartUpFallsBackToTheDialog)
     std::filesystem::copy_file(standardFile(), dir.path / "share" / "kestrel-config" / "KestrelDevices.def");
     DeviceList installed;
     loadStandardDeviceList(installed, (dir.path / "bin").string(), dialogs);
-    EXPECT_TRUE(dialogs.messages.empty());
-    EXPECT_EQ(installed.cboDevice, list.cboDevice);
+    EXPECT_EQ(std::tuple(dialogs.messages.size(), installed.cboDevice), std::tuple(0u, list.cboDevice));
 }
 
 TEST(DeviceSaving, SavingFromAMemberWritesTheWholeDeviceFromItsHead)
@@ -261,10 +258,8 @@ TEST(DeviceSaving, SavingFromAMemberWritesTheWholeDeviceFromItsHead)
     // Read back, the saved device places the same pins.
     Rig again;
     ASSERT_TRUE(again.load(expected, "Signal", 31));
-    for (int p : {31, 0, 1}) {
-        EXPECT_EQ(again.config.Pins[p].Aspects, r.config.Pins[p].Aspects) << p;
-        EXPECT_EQ(again.config.Pins[p].DeviceOffset, r.config.Pins[p].DeviceOffset) << p;
-    }
+    for (int p : {31, 0, 1})
+        EXPECT_EQ(again.config.Pins[p], r.config.Pins[p]) << p;
 }
 
 TEST(DeviceSaving, AReferralToAMemberIsNoDevice)
