@@ -212,9 +212,9 @@ TEST(DataFileReading, CompactFileLeavesWhatItDoesNotNameEmpty)
 
 TEST(DataFileReading, InsOpSplitsOnlyFrom19To63)
 {
-    // op = 16 x Fade + Instruction; only 19..63 are split, by bit 4.
+    // op = 16 x Fade + Instruction, split only for 19..63 (by bit 4). Before any "Pin" record
+    // the step is not cleared first, and op 17 leaves its fade.
     Loader l;
-    // Before any "Pin" record the step is not cleared first, and op 17 leaves its fade.
     l.config.Pins[0].Aspects[0].Steps[0].Fade = 1;
     ASSERT_EQ(l.load(crlf({"\"KestrelConfiguration 3100\"", "\"Ins\",0,17,0,1,0,0", "\"Pin\",2,3,0,\"x\"",
                            "\"Asp\",0,\"a\"", "\"Ins\",0,17,0,1,0,0", "\"Ins\",1,35,0,5,0,0",
