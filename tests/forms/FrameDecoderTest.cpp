@@ -13,12 +13,8 @@ TEST(FrameDecoder, NamesCommandsItemsPinsAndDataOnBothRoutes)
     constexpr auto Direct = FrameRoute::Direct, Corvid = FrameRoute::Corvid;
     auto badSum = moduleReply(67, {115, 5, 1, 2, 9});
     badSum.back() ^= 3;
-    const struct {
-        FrameDirection direction;
-        FrameRoute route;
-        std::vector<int> bytes;
-        const char *command, *text;
-    } cases[] = {
+    // Direction, route, bytes, command name, text.
+    const std::tuple<FrameDirection, FrameRoute, std::vector<int>, const char*, const char*> cases[] = {
         {Out, Direct, frame({67, 226}, {112, 1}), "read general item",
          "read general item, item 1 (hardware configuration)"},
         {In, Direct, moduleReply(3, {112, 10, 'K', '7'}), "read general item",
@@ -44,9 +40,9 @@ TEST(FrameDecoder, NamesCommandsItemsPinsAndDataOnBothRoutes)
          "tunnel, module 1: reply to read general item, item 1 (hardware configuration), data 5 6"},
         {In, Corvid, corvidFrame({3, 4}), "(not decoded)", "Corvid data 3 4 (not decoded)"},
     };
-    for (const auto& c : cases) {
-        const DecodedFrame f = decodeFrame(c.direction, c.route, c.bytes);
-        EXPECT_EQ(std::tuple(f.command, f.text), std::tuple(c.command, c.text)) << frameBytesText(c.bytes);
+    for (const auto& [direction, route, bytes, command, text] : cases) {
+        const DecodedFrame f = decodeFrame(direction, route, bytes);
+        EXPECT_EQ(std::tuple(f.command, f.text), std::tuple(command, text)) << frameBytesText(bytes);
     }
     EXPECT_EQ(frameBytesText({67, 226, 240, 128, 235, 5}), "43 E2 F0 80 EB 05");
 }
