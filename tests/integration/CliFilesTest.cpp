@@ -60,17 +60,12 @@ TEST(CliFiles, BadFilesAndAddressesAreUsageErrorsAndNothingIsSent)
     ScratchDir dir("cli-bad");
     const std::string bad = dir.file("bad.dat"), missing = dir.file("missing.dat");
     const std::string head = "\"KestrelConfiguration 3100\"\r\n";
-    const std::string pin0 = head + "\"Pin\",0,3,0,\"\"\r\n\"Asp\",0,\"\"\r\n";
-    struct Case {
-        std::vector<std::string> args;
-        std::string file; // written to `bad` first when not empty
-        std::string err;  // part of stderr
-    };
-    const Case cases[] = {
+    // Arguments, the text written to `bad` first (when not empty), part of stderr.
+    const std::tuple<std::vector<std::string>, std::string, std::string> cases[] = {
         {{"write", bad}, "\"KestrelConfig 3100\"\r\n\"End\"\r\n", "Invalid configuration file"},
         {{"verify", missing}, "", "Cannot read " + missing + ": No such file"},
         {{"write", bad},
-         pin0 + "\"PAM\",1,255,255\r\n\"End\"\r\n",
+         head + "\"Pin\",0,3,0,\"\"\r\n\"PAM\",1,255,255\r\n\"End\"\r\n",
          "DCC address count 255 cannot be sent: 0..7"},
         {{"--address", "99", "erase", "--yes"}, "", "--address must be a number from 0 to 15, not \"99\""},
         {{"--address", "abc", "version"}, "", "--address must be a number from 0 to 15, not \"abc\""},
@@ -80,14 +75,14 @@ TEST(CliFiles, BadFilesAndAddressesAreUsageErrorsAndNothingIsSent)
     };
     // Modules 0, 3 and 15 on one bus: none of them may hear a byte.
     SimProcess sim({"--address", "0,3,15"});
-    for (const Case& c : cases) {
-        if (!c.file.empty())
-            spit(bad, c.file);
-        std::vector<std::string> args{"--port", sim.pty()};
-        args.insert(args.end(), c.args.begin(), c.args.end());
-        const auto r = runProgram(cli, args);
-        EXPECT_EQ(r.status, 2) << c.err << "\n" << r.err;
-        EXPECT_NE(r.err.find(c.err), std::string::npos) << r.err;
+    for (const auto& [args, file, err] : cases) {
+        if (!file.empty())
+            spit(bad, file);
+        std::vector<std::string> all{"--port", sim.pty()};
+        all.insert(all.end(), args.begin(), args.end());
+        const auto r = runProgram(cli, all);
+        EXPECT_EQ(r.status, 2) << err << "\n" << r.err;
+        EXPECT_NE(r.err.find(err), std::string::npos) << r.err;
     }
     EXPECT_NE(sim.stop().find("kestrel-sim-stats: exchanges=0 bytes_in=0 "), std::string::npos);
 }
