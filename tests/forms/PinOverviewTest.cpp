@@ -24,7 +24,6 @@ TEST(PinOverview, AddressesAreTheRunningSumsFromTheModulesFirstAddressUpToTheLar
     const Case cases[] = {
         {"100", "7", 0, 0, 9, 0, 0, "100 .. 102", "7", "0 .. 3"}, // no flex-addressing: from 0
         {"100", "7", 0, 0, 9, 0, 1, "103", "No addr in use", "4"},
-        {"100", "7", 0, 0, 9, 0, 2, "No addr in use", "No addr in use", "No addr in use"},
         {"100", "7", 0, 0, 9, 0, 5, "104 .. 105", "8", "No addr in use"},
         {"100", "7", 0, 1, 9, 0, 1, "103", "No addr in use", "40"}, // 9 x 4 + 4
         {"0", "0", 0, 0, 0, 0, 0, "1 .. 3", "1", "0 .. 3"},         // address 0 not answered
