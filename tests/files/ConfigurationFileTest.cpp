@@ -335,7 +335,6 @@ TEST(DataFileReading, FormatErrorsStopTheLoadAndKeepWhatWasRead)
     const std::string tail = "\r\nLoading stopped; what was read before is kept.";
     const std::pair<std::string, std::string> cases[] = {
         {head + "  \"Cfg\",2,1", "The file ends before \"End\" at line 4, item 4"},
-        {head + "  \"Cfg\",2,1\r\n\r\n", "The file ends before \"End\" at line 4, item 4"},
         {head, "The file ends before \"End\" at line 3, item 6"},
         {head + "\"Pin\",33,0,0,\"x\"\r\n\"End\"\r\n", "Pin index 33 out of range 0..32 at line 4, item 2"},
         {head + "\"Asp\",13,\"x\"\r\n\"End\"\r\n", "Aspect index 13 out of range 0..12 at line 4, item 2"},
