@@ -35,14 +35,10 @@ TEST(Backups, SavedPerModuleListedNewestFirstAndPrunedToTheLastThirty)
 
     const auto list = listBackups(root);
     ASSERT_EQ(list.size(), kBackupsKept + 1u);
-    EXPECT_EQ(list[0].path, other);
-    EXPECT_EQ(list[0].version, "Unknown");
-    EXPECT_EQ(list[1].path, saved.back());
-    EXPECT_EQ(list[1].id, "Up Main 7");
-    EXPECT_EQ(list[1].version, "1.2.3.4");
-    EXPECT_EQ(list[1].when.size(), 19u);
-    EXPECT_EQ(list.back().path, saved[3]); // the three oldest went, the second of one second too
-    EXPECT_FALSE(std::filesystem::exists(saved[1]));
+    // The three oldest went, the second of one second too.
+    EXPECT_EQ(std::tuple(list[0].path, list[0].version, list[1].path, list[1].id, list[1].version,
+                         list[1].when.size(), list.back().path, std::filesystem::exists(saved[1])),
+              std::tuple(other, "Unknown", saved.back(), "Up Main 7", "1.2.3.4", 19u, saved[3], false));
 
     Configuration back;
     GeneralSettings general2;

@@ -1,7 +1,6 @@
 #include "files/DeviceDefinitions.h"
 #include "files/TextFile.h"
 #include "forms/DevicesForm.h"
-#include "model/AddressIndex.h"
 #include "model/InstructionSet.h"
 #include "support/Files.h"
 #include "support/RecordingDialogs.h"
@@ -51,16 +50,13 @@ TEST(DeviceLoading, ThreePinDeviceOnPin31WrapsToPins0And1)
     Rig r;
     ASSERT_TRUE(r.load(kTwoDevices, "Signal", 31));
     EXPECT_TRUE(r.dialogs.messages.empty());
-    EXPECT_EQ(std::tuple(r.config.Pins[31].DeviceOffset, r.config.Pins[0].DeviceOffset,
-                         r.config.Pins[1].DeviceOffset, r.config.Pins[31].DeviceDescription,
-                         r.config.Pins[0].Description, r.config.Pins[1].Description,
-                         r.config.Pins[31].InitAspect),
-              std::tuple(0, 31, 30, "Signal", "yellow", "green", 1));
-    EXPECT_EQ(r.config.Pins[31].Aspects[1].Steps[0], (StepRecord{13, 1, 0, 4, 0, 0})); // 29 = 16 + 13
-    EXPECT_EQ(std::tuple(r.config.Pins[31].Aspects[1].Steps[1].Instruction, r.config.Pins[31].DccCount,
-                         r.config.Pins[0].DccCount),
-              std::tuple(17, 2, 0));
-    EXPECT_EQ(r.config.DccTotal, 2); // address index rebuilt
+    const auto& [head, yellow, green] = std::tie(r.config.Pins[31], r.config.Pins[0], r.config.Pins[1]);
+    // Code 29 = fade 16 + 13; the address index is rebuilt.
+    EXPECT_EQ(
+        std::tuple(head.DeviceOffset, yellow.DeviceOffset, green.DeviceOffset, head.DeviceDescription,
+                   yellow.Description, green.Description, head.InitAspect, head.Aspects[1].Steps[0],
+                   head.Aspects[1].Steps[1].Instruction, head.DccCount, yellow.DccCount, r.config.DccTotal),
+        std::tuple(0, 31, 30, "Signal", "yellow", "green", 1, StepRecord{13, 1, 0, 4, 0, 0}, 17, 2, 0, 2));
 }
 
 TEST(DeviceLoading, PinsGetClearedAspectsAndAWarningWhenAlreadyUsed)
@@ -94,14 +90,11 @@ TEST(DeviceLoading, DissolvesTheOldDeviceAtTheHeadAndAtEachTarget)
     const std::string pab = crlf({"\"KestrelDeviceDefinitions\"", "\"Dev\",\"Pair\"", "  \"Pin\",0,0,0,\"a\"",
                                   "  \"Pab\",42,0,0,\"b\"", "\"End\""}); // 42 mod 32 = 10
     ASSERT_TRUE(r.load(pab, "Pair", 4));
-    for (int p = 5; p <= 7; ++p) {
-        EXPECT_EQ(r.config.Pins[p].DeviceOffset, 0) << p;
-        EXPECT_EQ(r.config.Pins[p].DeviceDescription, "") << p;
-    }
-    EXPECT_EQ(std::tuple(r.config.Pins[4].DeviceDescription, r.config.Pins[10].DeviceOffset,
-                         r.config.Pins[10].DeviceDescription),
-              std::tuple("Pair", -6, ""));
-    EXPECT_EQ(r.config.Pins[11].DeviceOffset, 0); // released with "Other"
+    const auto& pins = r.config.Pins; // pin 11 is released with "Other"
+    EXPECT_EQ(std::tuple(pins[4].DeviceDescription, pins[5].DeviceOffset, pins[6].DeviceOffset,
+                         pins[7].DeviceOffset, pins[10].DeviceOffset, pins[10].DeviceDescription,
+                         pins[11].DeviceOffset),
+              std::tuple("Pair", 0, 0, 0, -6, "", 0));
 
     // A member is not dissolved on its own.
     dissolveDevice(r.config, 10);
@@ -132,7 +125,6 @@ TEST(DeviceLoading, MissingDeviceNoSelectionAndBrokenBlocks)
     Rig r;
     EXPECT_FALSE(r.load(kTwoDevices, "Turntable", 0));
     EXPECT_EQ(r.dialogs.texts(), std::vector<std::string>{"No match found"});
-    EXPECT_EQ(r.config.Pins[0].DeviceDescription, "");
 
     r.dialogs.clear();
     DeviceList empty;
@@ -166,9 +158,8 @@ TEST(DeviceList, ReplaceAppendAndLoadingFromEachEntrysOwnFile)
     dialogs.fileNames = {first, second};
     CommandReloadDD_MouseDown(list, dialogs, 1, 0);
     CommandReloadDD_MouseDown(list, dialogs, 1, 1);
-    EXPECT_TRUE(dialogs.messages.empty());
-    EXPECT_EQ(std::tuple(list.cboDevice, list.paths, list.lblDDVersion),
-              std::tuple(std::vector<std::string>{"Signal", "Button", "Button", "Crane"},
+    EXPECT_EQ(std::tuple(dialogs.messages.size(), list.cboDevice, list.paths, list.lblDDVersion),
+              std::tuple(0u, std::vector<std::string>{"Signal", "Button", "Button", "Crane"},
                          std::vector<std::string>{first, first, second, second}, "Test set + Second set"));
 
     Configuration config;
@@ -177,8 +168,7 @@ TEST(DeviceList, ReplaceAppendAndLoadingFromEachEntrysOwnFile)
     EXPECT_EQ(config.Pins[0].ConfigMode, 4);
     list.selected = 2;
     ASSERT_TRUE(CommandPAspPreLoad_Click(list, config, dialogs));
-    EXPECT_EQ(config.Pins[0].ConfigMode, 1);
-    EXPECT_EQ(config.Pins[0].P(11), 11);
+    EXPECT_EQ(std::tuple(config.Pins[0].ConfigMode, config.Pins[0].P(11)), std::tuple(1, 11));
 
     // Plain Reload DD replaces the list; other buttons do nothing.
     dialogs.fileNames = {second, first};
@@ -198,10 +188,8 @@ TEST(DeviceList, LongCaptionsAndFilesThatCannotBeUsed)
                        dialogs);
     readDeviceListText(list, "\"KestrelDeviceDefinitions " + v2 + "\"\r\n\"End\"\r\n", "b", ListMode::Append,
                        dialogs);
-    const std::string joined = v1 + " + " + v2; // 65 characters
-    ASSERT_GT(joined.size(), 50u);
+    const std::string joined = v1 + " + " + v2; // 65 characters, shown as the last 48 after ".."
     EXPECT_EQ(list.lblDDVersion, ".." + joined.substr(joined.size() - 48));
-    EXPECT_EQ(list.lblDDVersion.size(), 50u);
 
     // The header keyword alone gives an empty version text.
     readDeviceListText(list, "\"KestrelDeviceDefinitions\"\r\n\"Dev\",\"A\"\r\n\"End\"\r\n", "c",
@@ -210,13 +198,12 @@ TEST(DeviceList, LongCaptionsAndFilesThatCannotBeUsed)
 
     EXPECT_EQ(readDeviceListText(list, "\"KestrelConfiguration 3100\"\r\n", "d", ListMode::Replace, dialogs),
               ListLoad::Invalid);
-    EXPECT_EQ(list.cboDevice, std::vector<std::string>{"A"});
 
     dialogs.fileNames = {""};
     CommandReloadDD_MouseDown(list, dialogs, 1, 0);
     EXPECT_EQ(dialogs.texts(),
               (std::vector<std::string>{"Invalid definition file", "No Device Configuration file selected"}));
-    EXPECT_EQ(list.cboDevice, std::vector<std::string>{"A"});
+    EXPECT_EQ(list.cboDevice, std::vector<std::string>{"A"}); // kept by the invalid file and the cancel
 }
 
 TEST(DeviceList, StartUpFallsBackToTheDialog)
@@ -236,7 +223,6 @@ TEST(DeviceList, StartUpFallsBackToTheDialog)
     loadStandardDeviceList(list, dir.path.string(), dialogs);
     EXPECT_EQ(dialogs.texts(),
               std::vector<std::string>{"Can not find Device Configuration file at standard location"});
-    EXPECT_FALSE(list.cboDevice.empty());
 
     dialogs.clear();
     DeviceList fromFolder;
@@ -250,8 +236,7 @@ TEST(DeviceList, StartUpFallsBackToTheDialog)
     std::filesystem::copy_file(standardFile(), dir.path / "share" / "kestrel-config" / "KestrelDevices.def");
     DeviceList installed;
     loadStandardDeviceList(installed, (dir.path / "bin").string(), dialogs);
-    EXPECT_TRUE(dialogs.messages.empty());
-    EXPECT_EQ(installed.cboDevice, list.cboDevice);
+    EXPECT_EQ(std::tuple(dialogs.messages.size(), installed.cboDevice), std::tuple(0u, list.cboDevice));
 }
 
 TEST(DeviceSaving, SavingFromAMemberWritesTheWholeDeviceFromItsHead)
@@ -273,10 +258,8 @@ TEST(DeviceSaving, SavingFromAMemberWritesTheWholeDeviceFromItsHead)
     // Read back, the saved device places the same pins.
     Rig again;
     ASSERT_TRUE(again.load(expected, "Signal", 31));
-    for (int p : {31, 0, 1}) {
-        EXPECT_EQ(again.config.Pins[p].Aspects, r.config.Pins[p].Aspects) << p;
-        EXPECT_EQ(again.config.Pins[p].DeviceOffset, r.config.Pins[p].DeviceOffset) << p;
-    }
+    for (int p : {31, 0, 1})
+        EXPECT_EQ(again.config.Pins[p], r.config.Pins[p]) << p;
 }
 
 TEST(DeviceSaving, AReferralToAMemberIsNoDevice)
@@ -298,7 +281,6 @@ TEST(StandardDevices, EveryDeviceLoadsIntoSensibleSteps)
     RecordingDialogs dialogs;
     DeviceList list;
     ASSERT_EQ(readDeviceListText(list, text, standardFile(), ListMode::Replace, dialogs), ListLoad::Loaded);
-    EXPECT_TRUE(dialogs.messages.empty());
     ASSERT_GE(list.cboDevice.size(), 8u);
 
     for (const std::string& name : list.cboDevice) {
@@ -316,10 +298,7 @@ TEST(StandardDevices, EveryDeviceLoadsIntoSensibleSteps)
             const PinRecord& pin = r.config.Pins[p];
             if (pin.Description.empty())
                 continue;
-            EXPECT_EQ(p + pin.DeviceOffset, head);
-            EXPECT_LE(pin.DccCount, addressCountMaximum(AddressKind::Dcc));
-            EXPECT_LE(pin.XDccCount, addressCountMaximum(AddressKind::XDcc));
-            EXPECT_LE(pin.LynxCount, addressCountMaximum(AddressKind::Lynx));
+            EXPECT_EQ(p + pin.DeviceOffset, head); // address counts: the reader refuses too many
             if (pin.ConfigMode == 1) {
                 EXPECT_EQ(pin.P(2) & 8, 8) << "servo parameter 2 in the current layout";
             }

@@ -14,7 +14,6 @@ TEST(DataFileSaving, RefusesAFifoAndFollowsALink)
 {
     ScratchDir dir("special");
     Configuration c;
-    c.Pins[3].DeviceDescription = "Home signal";
     const GeneralSettings general;
     std::string error, text;
 

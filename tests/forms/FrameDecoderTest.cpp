@@ -13,31 +13,24 @@ TEST(FrameDecoder, NamesCommandsItemsPinsAndDataOnBothRoutes)
     constexpr auto Direct = FrameRoute::Direct, Corvid = FrameRoute::Corvid;
     auto badSum = moduleReply(67, {115, 5, 1, 2, 9});
     badSum.back() ^= 3;
-    auto out = [](std::vector<int> head, const std::vector<int>& data) {
-        return frame(std::move(head), data);
-    };
-    const struct {
-        FrameDirection direction;
-        FrameRoute route;
-        std::vector<int> bytes;
-        const char *command, *text;
-    } cases[] = {
-        {Out, Direct, out({67, 226}, {112, 1}), "read general item",
+    // Direction, route, bytes, command name, text.
+    const std::tuple<FrameDirection, FrameRoute, std::vector<int>, const char*, const char*> cases[] = {
+        {Out, Direct, frame({67, 226}, {112, 1}), "read general item",
          "read general item, item 1 (hardware configuration)"},
         {In, Direct, moduleReply(3, {112, 10, 'K', '7'}), "read general item",
          "reply to read general item, item 10 (ID string), text \"K7\""},
         {In, Direct, badSum, "read step", "reply to read step, pin 5, data 1 2 9 (checksum error)"},
-        {Out, Direct, out({67, 128 + 64 + 16 + 4, 128 + 7}, {99, 5, 1, 2}), "write step",
+        {Out, Direct, frame({67, 128 + 64 + 16 + 4, 128 + 7}, {99, 5, 1, 2}), "write step",
          "write step, pin 5, data 1 2"},
-        {Out, Direct, out({67, 196}, {0, 55, 3, 70}), "live output",
+        {Out, Direct, frame({67, 196}, {0, 55, 3, 70}), "live output",
          "live output, servo position dynamic, pin 3, data 70"},
-        {Out, Direct, out({67, 195}, {100, 2, 113}), "write initial aspect",
+        {Out, Direct, frame({67, 195}, {100, 2, 113}), "write initial aspect",
          "write initial aspect, pin 2, data 113"},
         {In, Direct, moduleReply(67, {100, 2}), "write initial aspect or Event-On",
          "reply to write initial aspect or Event-On, pin 2"},
         {Out, Direct, {0, 0, 0, 255, 255, 255, 170, 170, 170}, "wake-up burst", "wake-up burst"},
         {Out, Direct, {3, 192, 189}, "empty frame", "empty frame"},
-        {Out, Direct, out({67, 194}, {50, 1}), "(not decoded)", "command 50 1 (not decoded)"},
+        {Out, Direct, frame({67, 194}, {50, 1}), "(not decoded)", "command 50 1 (not decoded)"},
         {In, Direct, {67, 226, 240}, "(not decoded)", "(not decoded)"}, // cut short
         {Out, Corvid, corvidFrame({}, true), "poll", "poll"},
         {In, Corvid, corvidFrame({1, 2, 48, 37}), "system version", "system version, bytes 48 37"},
@@ -47,9 +40,9 @@ TEST(FrameDecoder, NamesCommandsItemsPinsAndDataOnBothRoutes)
          "tunnel, module 1: reply to read general item, item 1 (hardware configuration), data 5 6"},
         {In, Corvid, corvidFrame({3, 4}), "(not decoded)", "Corvid data 3 4 (not decoded)"},
     };
-    for (const auto& c : cases) {
-        const DecodedFrame f = decodeFrame(c.direction, c.route, c.bytes);
-        EXPECT_EQ(std::tuple(f.command, f.text), std::tuple(c.command, c.text)) << frameBytesText(c.bytes);
+    for (const auto& [direction, route, bytes, command, text] : cases) {
+        const DecodedFrame f = decodeFrame(direction, route, bytes);
+        EXPECT_EQ(std::tuple(f.command, f.text), std::tuple(command, text)) << frameBytesText(bytes);
     }
     EXPECT_EQ(frameBytesText({67, 226, 240, 128, 235, 5}), "43 E2 F0 80 EB 05");
 }

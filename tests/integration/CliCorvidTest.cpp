@@ -12,20 +12,17 @@ TEST(CliThroughCorvid, TunnelThenTransparentModeThenDirectAndAnOldSystemRefusesT
     const std::string cli = binPath("kestrel-cli");
     // Through the tunnel, addresses above 15 are reachable.
     auto r = runProgram(cli, {"--port", sim.pty(), "--corvid", "--address", "20", "version"});
-    EXPECT_EQ(r.status, 0) << r.err;
-    EXPECT_EQ(r.out, "3.1.4.1\n");
+    EXPECT_EQ(std::tuple(r.status, r.out), std::tuple(0, "3.1.4.1\n")) << r.err;
 
     // The system supports tunneling, so switching the unit asks first; without --yes: no.
-    r = runProgram(cli, {"--port", sim.pty(), "transparent"});
-    EXPECT_EQ(r.status, 1);
+    EXPECT_EQ(runProgram(cli, {"--port", sim.pty(), "transparent"}).status, 1);
     r = runProgram(cli, {"--port", sim.pty(), "transparent", "--yes"});
     EXPECT_EQ(r.status, 0) << r.err;
     EXPECT_NE(r.err.find("Your Linkbox has been put in Transparent Mode"), std::string::npos) << r.err;
 
     // Now the direct route passes through the unit.
     r = runProgram(cli, {"--port", sim.pty(), "version"});
-    EXPECT_EQ(r.status, 0) << r.err;
-    EXPECT_EQ(r.out, "3.1.4.1\n");
+    EXPECT_EQ(std::tuple(r.status, r.out), std::tuple(0, "3.1.4.1\n")) << r.err;
 
     // An old system refuses the tunnel.
     SimProcess old({"--corvid", "--system-version", "3.0"});

@@ -20,10 +20,8 @@ TEST(CliDiff, AFileDiffersFromNothingOfItselfAndTheModuleByThePlantedStepAlone)
     spit(planted, text);
 
     auto r = runProgram(cli, {"diff", demo, demo});
-    EXPECT_EQ(r.status, 0) << r.err;
-    EXPECT_EQ(r.out, "");
-    r = runProgram(cli, {"diff", demo, dir.file("missing.dat")});
-    EXPECT_EQ(r.status, 2);
+    EXPECT_EQ(std::tuple(r.status, r.out), std::tuple(0, "")) << r.err;
+    EXPECT_EQ(runProgram(cli, {"diff", demo, dir.file("missing.dat")}).status, 2);
 
     SimProcess sim({"--load", demo});
     r = runProgram(cli, {"--port", sim.pty(), "--number-from-1", "compare", planted});

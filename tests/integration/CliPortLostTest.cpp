@@ -1,6 +1,5 @@
-// kestrel-cli loses its port in the middle of a job: kestrel-sim, paced like a 9600 baud
-// wire so that the job takes a few seconds, is stopped while the job runs, and its
-// pseudo-terminal goes with it. The job ends at once with one message and status 1.
+// kestrel-cli loses its port mid-job: a kestrel-sim paced like a 9600 baud wire (a job takes
+// seconds) stops, its pseudo-terminal with it. The job ends at once: one message, status 1.
 #include "support/Files.h"
 #include "support/Process.h"
 
@@ -14,8 +13,7 @@ using std::filesystem::exists;
 
 namespace {
 
-// Runs kestrel-cli with args against a paced kestrel-sim and stops the simulator a second
-// after the job has started.
+// Stops the paced simulator a second into the job.
 CommandResult runAndPullThePort(const std::vector<std::string>& args, std::string& pty)
 {
     SimProcess sim({"--pace-baud", "9600"});
@@ -38,12 +36,10 @@ TEST(CliPortLost, ReadAndWriteEndWithOneMessageAndThePortServesAgain)
     ScratchDir dir("lost");
     const std::string lost = dir.file("lost-read.dat"), demo = dir.file("demo.dat");
     // The demonstration configuration of the built-in module, to write.
-    const CommandResult saved = runProgram(binPath("kestrel-cli"), {"--port", "sim", "read", demo});
-    ASSERT_EQ(saved.status, 0) << saved.err;
+    ASSERT_EQ(runProgram(binPath("kestrel-cli"), {"--port", "sim", "read", demo}).status, 0);
 
-    // Not "No response received ...", no "Select communications port" for each item left,
-    // and last where the job stopped. The reason is the system's: "the port hung up" or
-    // "Input/output error", as the pty went.
+    // Not "No response received ..." nor "Select communications port" per item left; the reason
+    // is the system's ("the port hung up" or "Input/output error"), then where the job stopped.
     for (const auto& [args, stopped] :
          {std::pair{std::vector<std::string>{"read", lost}, ")\nRead All stopped at Reading pin "},
           {std::vector<std::string>{"write", demo}, ")\nWrite All stopped at Writing "}}) {
@@ -59,6 +55,5 @@ TEST(CliPortLost, ReadAndWriteEndWithOneMessageAndThePortServesAgain)
     // A port that is there again serves the next job.
     SimProcess sim;
     const CommandResult again = runProgram(binPath("kestrel-cli"), {"--port", sim.pty(), "read", lost});
-    EXPECT_EQ(std::tuple(again.status, again.err), std::tuple(0, ""));
-    EXPECT_TRUE(exists(lost));
+    EXPECT_EQ(std::tuple(again.status, again.err, exists(lost)), std::tuple(0, "", true));
 }
