@@ -16,15 +16,7 @@ template <typename Bytes> int closingByte(const Bytes& frame)
     return static_cast<int>(128 + (128 - sum % 128) % 128);
 }
 
-template <typename Bytes> bool sumsToZero(const Bytes& frame)
-{
-    if (frame.empty())
-        return false;
-    unsigned sum = frame[0];
-    for (std::size_t i = 1; i < frame.size(); ++i)
-        sum += static_cast<unsigned>(frame[i]) & 127u;
-    return sum % 128 == 0;
-}
+template <typename Bytes> bool sumsToZero(const Bytes& f) { return !f.empty() && closingByte(f) == 128; }
 
 // The given leading bytes, the data + 128 and the check byte.
 template <typename Bytes = std::vector<int>> Bytes frame(Bytes head, const std::vector<int>& data)
@@ -57,11 +49,8 @@ inline int corvidLength(int header)
     return (header & 8) ? (header & 7) : 8 + 8 * ((header >> 4) & 1) + (header & 7);
 }
 
-// Follows the frames that a client writes, byte by byte. A bus frame: address byte (bit 7
-// clear), header (size in the low nibble, bit 4 an eXtended address byte, bit 5 a reply
-// wanted), the eXtended address, the data and the check byte. A Corvid frame (`corvid`):
-// header (bit 7 clear), the data it announces and the check byte. A byte with bit 7 clear
-// always starts a new frame.
+// Follows the frames that a client writes, byte by byte; a byte with bit 7 clear starts one. A bus
+// header holds the size (low nibble), an eXtended address byte follows (bit 4), a reply wanted (bit 5).
 struct FrameReader {
     bool corvid = false;
     int first = 0;         // the address byte (toggle included), or the Corvid header
