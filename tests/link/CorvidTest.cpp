@@ -96,10 +96,8 @@ TEST_F(Scripted, NoAnswerAndBadCheckByte)
         const double start = clock.secondsSinceMidnight();
         EXPECT_FALSE(link.CorvidExchange(0));
         ASSERT_EQ(dialogs.messages.size(), 2u) << n;
-        EXPECT_EQ(dialogs.messages[0].text.rfind("Checksum Error\r\nSize = " + std::to_string(n) + "< " +
-                                                     hexUpper(n) + std::string(n, '1'),
-                                                 0),
-                  0u)
+        const std::string head = "Checksum Error\r\nSize = " + std::to_string(n) + "< " + hexUpper(n);
+        EXPECT_EQ(dialogs.messages[0].text.rfind(head + std::string(n, '1'), 0), 0u)
             << dialogs.messages[0].text;
         EXPECT_LT(clock.secondsSinceMidnight() - start, 1.0);
     }
@@ -158,9 +156,6 @@ TEST_F(Simulated, TunnelledVersionOfTwoModules)
     EXPECT_EQ(control.TextAddress_Click("20"), "20");
     EXPECT_TRUE(link.GetVersion());
     EXPECT_EQ(std::tuple(link.VersionText, dialogs.messages.size()), std::tuple("2.0.0.1", 0u));
-    // The log shows each frame sent and received.
-    EXPECT_EQ(link.txtCorvidCommunication.rfind("> ", 0), 0u);
-    EXPECT_NE(link.txtCorvidCommunication.find("\r\n< "), std::string::npos);
 }
 
 TEST_F(Simulated, TransparentModeByUnitTypeAndVersion)
@@ -179,13 +174,12 @@ TEST_F(Simulated, TransparentModeByUnitTypeAndVersion)
         {sim::CorvidUnit::Linkbox, 1030, true, "Your Linkbox has been put in Transparent Mode"},
         {sim::CorvidUnit::HubB, 1000, true, "Your Hub-B has been put in Transparent Mode"},
     };
-    system.setSystemVersion(3100); // too old for tunneling: no question asked
     for (const auto& c : cases) {
         sim::SimBus b;
         sim::SimCorvid s{b};
         sim::SimPort p{s};
         p.open();
-        s.setSystemVersion(3100);
+        s.setSystemVersion(3100); // too old for tunneling: no question asked
         s.setUnit(c.unit, c.version);
         Link l{p, clock, dialogs};
         LinkControl lc{l, base};
