@@ -7,10 +7,7 @@
 #include <stdexcept>
 
 using namespace kestrel::sim;
-using kestrel::sim::test::corvidRequest;
-using kestrel::sim::test::feed;
-using kestrel::sim::test::sumsToZero;
-using Bytes = std::vector<std::uint8_t>;
+using namespace kestrel::sim::test;
 
 namespace {
 
@@ -103,7 +100,7 @@ TEST(SimCorvid, TransparentModePassesBytesThrough)
     EXPECT_EQ(std::tuple(rig.corvid.transparent(), rig.corvid.transparentRequests()), std::tuple(true, 1));
     // The wake-up burst, the empty frame and Request Version, straight to the module.
     EXPECT_TRUE(feed(rig.corvid, {0, 0, 0, 255, 255, 255, 170, 170, 170, 3, 192, 189}).empty());
-    EXPECT_EQ(feed(rig.corvid, kestrel::sim::test::kVersionRequest), kestrel::sim::test::kVersionReply);
+    EXPECT_EQ(feed(rig.corvid, kVersionRequest), kVersionReply);
 }
 
 TEST(SimCorvid, PollsDamagedFramesAndFaults)

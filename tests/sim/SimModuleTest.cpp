@@ -4,12 +4,7 @@
 #include <gtest/gtest.h>
 
 using namespace kestrel::sim;
-using kestrel::sim::test::busRequest;
-using kestrel::sim::test::feed;
-using kestrel::sim::test::kVersionReply;
-using kestrel::sim::test::kVersionRequest;
-using kestrel::sim::test::sumsToZero;
-using Bytes = std::vector<std::uint8_t>;
+using namespace kestrel::sim::test;
 
 namespace {
 
@@ -38,10 +33,8 @@ TEST(SimModuleFraming, VersionRequestWorkedExampleAfterBurstAndEmptyFrame)
     SimBus bus;
     SimModule& m = bus.addModule(0);
     EXPECT_TRUE(feed(bus, {0, 0, 0, 255, 255, 255, 170, 170, 170, 3, 192, 189}).empty());
-    // Request Version to address 0 with toggle 64: address byte 67, header 226
-    // (128 + 64 + 32 + size 2), 240 (128 + 112), 128 (item 0), check byte 235.
-    // Reply: 67 (toggle echoed), header 128 + 96 + 6 = 230, 112, 0, version 1.2.3.4,
-    // check byte: 67 + 102 + 112 + 0 + 1 + 2 + 3 + 4 = 291 = 2 * 128 + 35, so 93 + 128.
+    // Request Version to address 0, toggle 64: header 128 + 64 + 32 + size 2, data + 128, check
+    // byte. The reply echoes the address byte; header 128 + 96 + 6; 67 + 102 + 112 + 10 = 291 -> 93 + 128.
     EXPECT_EQ(feed(bus, kVersionRequest), (Bytes{67, 230, 240, 128, 129, 130, 131, 132, 221}));
     EXPECT_EQ(feed(bus, {67, 226, 240, /* restart */ 67, 226, 240, 128, 235}), kVersionReply);
     EXPECT_TRUE(feed(bus, {67, 226, 240, 128, 236}).empty()); // bad check byte: dropped silently

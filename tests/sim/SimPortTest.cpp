@@ -8,8 +8,7 @@
 #include <random>
 
 using namespace kestrel::sim;
-using kestrel::sim::test::busRequest;
-using Bytes = std::vector<std::uint8_t>;
+using namespace kestrel::sim::test;
 
 TEST(SimFraming, RunningSumCheckSatisfiesTheReceiverRule)
 {
