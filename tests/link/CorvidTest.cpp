@@ -160,13 +160,7 @@ TEST_F(Simulated, TunnelledVersionOfTwoModules)
 
 TEST_F(Simulated, TransparentModeByUnitTypeAndVersion)
 {
-    struct Case {
-        sim::CorvidUnit unit;
-        int version;
-        bool switched;
-        const char* text;
-    };
-    const Case cases[] = {
+    const std::tuple<sim::CorvidUnit, int, bool, const char*> cases[] = {
         // The units digit travels in three bits: 1017 is the highest version below 1020.
         {sim::CorvidUnit::HubA, 1017, false, "Your Hub-A does not support this function"},
         {sim::CorvidUnit::HubA, 1020, true, "Your Hub-A has been put in Transparent Mode"},
@@ -174,22 +168,22 @@ TEST_F(Simulated, TransparentModeByUnitTypeAndVersion)
         {sim::CorvidUnit::Linkbox, 1030, true, "Your Linkbox has been put in Transparent Mode"},
         {sim::CorvidUnit::HubB, 1000, true, "Your Hub-B has been put in Transparent Mode"},
     };
-    for (const auto& c : cases) {
+    for (const auto& [unit, version, switched, text] : cases) {
         sim::SimBus b;
         sim::SimCorvid s{b};
         sim::SimPort p{s};
         p.open();
         s.setSystemVersion(3100); // too old for tunneling: no question asked
-        s.setUnit(c.unit, c.version);
+        s.setUnit(unit, version);
         Link l{p, clock, dialogs};
         LinkControl lc{l, base};
         CorvidControl cc{l, lc};
         dialogs.clear();
-        EXPECT_EQ(cc.cmdSetTM_Click(), c.switched) << c.text;
-        ASSERT_EQ(dialogs.messages.size(), 1u) << c.text;
+        EXPECT_EQ(cc.cmdSetTM_Click(), switched) << text;
+        ASSERT_EQ(dialogs.messages.size(), 1u) << text;
         EXPECT_EQ(std::tuple(dialogs.messages[0].text, dialogs.messages[0].icon, s.transparent(),
                              dialogs.questions.size()),
-                  std::tuple(c.text, c.switched ? Icon::Information : Icon::Warning, c.switched, 0u));
+                  std::tuple(text, switched ? Icon::Information : Icon::Warning, switched, 0u));
     }
 }
 
