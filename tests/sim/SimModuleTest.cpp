@@ -26,6 +26,13 @@ Bytes ask(SimBus& bus, int address, const std::vector<int>& data)
     return replyData(feed(bus, busRequest(address, 0, data)));
 }
 
+// One module at address 0.
+struct SimModulePins : ::testing::Test {
+    SimBus bus;
+    SimModule& m = bus.addModule(0);
+};
+using SimModuleFaults = SimModulePins;
+
 } // namespace
 
 TEST(SimModuleFraming, VersionRequestWorkedExampleAfterBurstAndEmptyFrame)
@@ -101,10 +108,8 @@ TEST(SimModuleGeneral, WrongLengthWritesChangeNothingEraseNeedsTheConfirmationAn
     EXPECT_EQ(ask(bus, 0, {112, 0}), (Bytes{112, 0, 3, 1, 0, 9}));
 }
 
-TEST(SimModulePins, StepBytesAreKeptByteForByte)
+TEST_F(SimModulePins, StepBytesAreKeptByteForByte)
 {
-    SimBus bus;
-    bus.addModule(0);
     // Instruction 4 with Par1 = 200, Par2 = 5 travels as 1, 72, 5; code 0x13 = 3 faded.
     EXPECT_EQ(ask(bus, 0, {99, 5, 3, 8, 0x13, 1, 72, 5, 127}), (Bytes{99, 5}));
     EXPECT_EQ(ask(bus, 0, {99, 5, 11, 2, 0x43, 0, 1, 2, 3}), (Bytes{99, 5}));
@@ -117,10 +122,8 @@ TEST(SimModulePins, StepBytesAreKeptByteForByte)
     EXPECT_EQ(ask(bus, 0, {114, 5}), (Bytes{114, 5, 3}));
 }
 
-TEST(SimModulePins, AddressConfigurationTagsInAnyOrder)
+TEST_F(SimModulePins, AddressConfigurationTagsInAnyOrder)
 {
-    SimBus bus;
-    SimModule& m = bus.addModule(0);
     // Pin 30, device starting at pin 1: offset (1 - 30) & 31 = 3, sent 64 + 3; the bytes
     // arrive in an unusual order.
     EXPECT_EQ(ask(bus, 0, {102, 30, 67, 16 + 4, 8 + 6}), (Bytes{102, 30}));
@@ -134,10 +137,8 @@ TEST(SimModulePins, AddressConfigurationTagsInAnyOrder)
     EXPECT_EQ(m.memory().pins[30].lynxCount, 4);
 }
 
-TEST(SimModulePins, InitialAspectAndEventSlots)
+TEST_F(SimModulePins, InitialAspectAndEventSlots)
 {
-    SimBus bus;
-    bus.addModule(0);
     // Factory: no initial aspect (127) and no actions (slot * 16 + 15).
     EXPECT_EQ(ask(bus, 0, {116, 9}), (Bytes{116, 9, 127, 0x0F, 0x1F, 0x2F, 0x3F}));
     EXPECT_EQ(ask(bus, 0, {100, 9, 112 + 4}), (Bytes{100, 9}));
@@ -150,10 +151,8 @@ TEST(SimModulePins, InitialAspectAndEventSlots)
     EXPECT_EQ(ask(bus, 0, {116, 9})[2], 127);
 }
 
-TEST(SimModulePins, PinConfigurationPerModeInFlashAndActive)
+TEST_F(SimModulePins, PinConfigurationPerModeInFlashAndActive)
 {
-    SimBus bus;
-    SimModule& m = bus.addModule(0);
     const std::vector<int> servo{97, 4, 1, 70, 43, 64, 10, 20, 30, 40, 66, 5, 60, 7};
     EXPECT_EQ(ask(bus, 0, servo), (Bytes{97, 4}));
     EXPECT_EQ(ask(bus, 0, {113, 4}), (Bytes{113, 4, 1, 70, 43, 64, 10, 20, 30, 40, 66, 5, 60, 7}));
@@ -177,10 +176,8 @@ TEST(SimModulePins, PinConfigurationPerModeInFlashAndActive)
 
 // The fault switches whose effect the client must shrug off: the fault matrix would pass
 // if they did nothing, so their bytes are checked here.
-TEST(SimModuleFaults, CorruptedCopyAndGarbageBeforeTheGoodReply)
+TEST_F(SimModuleFaults, CorruptedCopyAndGarbageBeforeTheGoodReply)
 {
-    SimBus bus;
-    SimModule& m = bus.addModule(0);
     m.faults.corruptCopies = 1;
     Bytes out = feed(bus, kVersionRequest);
     ASSERT_EQ(out.size(), 18u);
