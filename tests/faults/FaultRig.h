@@ -66,6 +66,13 @@ struct FaultRig {
     }
     // The module as from the factory, the program holding the configuration to write.
     void eraseModule() { module.memory() = module.factoryMemory(); }
+    // The adapter plugged back in and chosen again.
+    void bringBack()
+    {
+        port.setVanished(false);
+        ASSERT_TRUE(session.linkControl.ComboPort_Click("sim"));
+        dialogs.clear();
+    }
     void expectWholeModel() const
     {
         EXPECT_EQ(session.general, sourceGeneral);

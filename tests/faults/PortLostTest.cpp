@@ -12,13 +12,6 @@ using namespace kestrel::test::faults;
 
 namespace {
 
-void bringBack(FaultRig& rig)
-{
-    rig.port.setVanished(false);
-    ASSERT_TRUE(rig.session.linkControl.ComboPort_Click("sim"));
-    rig.dialogs.clear();
-}
-
 TEST(PortLost, DuringATimeOutIsTheOnlyMessage)
 {
     FaultRig rig(false);
@@ -39,7 +32,7 @@ TEST(PortLost, DuringATimeOutIsTheOnlyMessage)
               std::tuple(true, "Unknown"));
 
     rig.port.setWaitHook([&](int ms) { rig.clock.advance(ms / 1000.0); });
-    bringBack(rig);
+    rig.bringBack();
     EXPECT_TRUE(ReadAll(rig.session));
     EXPECT_EQ(std::tuple(rig.dialogs.texts(), rig.session.general),
               std::tuple(std::vector<std::string>{}, rig.sourceGeneral));
@@ -68,7 +61,7 @@ TEST(PortLost, OneWayWriteAllStopsAtTheFirstFailedWrite)
             << p;
     EXPECT_EQ(rig.module.memory().eventOnEnable, rig.module.factoryMemory().eventOnEnable);
 
-    bringBack(rig);
+    rig.bringBack();
     EXPECT_TRUE(WriteAll(rig.session));
     EXPECT_EQ(rig.dialogs.texts(), std::vector<std::string>{});
     EXPECT_TRUE(rig.module.memory() == rig.seeded);
@@ -99,7 +92,7 @@ TEST(PortLost, AJobStartedWhileItIsStillGoneSaysSoOnce)
     EXPECT_EQ(rig.dialogs.texts(),
               std::vector<std::string>{"Cannot open port sim: Port sim: the simulated port has gone away"});
 
-    bringBack(rig);
+    rig.bringBack();
     EXPECT_TRUE(VerifyAll(rig.session));
     EXPECT_EQ(rig.dialogs.texts(), std::vector<std::string>{});
 }
@@ -120,7 +113,7 @@ TEST(PortLost, TunnelledReadAllAndTheNextJob)
 
     // The module's reply to that step read still waits in the Corvid system; it must not
     // be taken for the reply to the next job's first request.
-    bringBack(rig);
+    rig.bringBack();
     rig.forgetModel();
     EXPECT_TRUE(ReadAll(rig.session));
     EXPECT_EQ(rig.dialogs.texts(), std::vector<std::string>{});
