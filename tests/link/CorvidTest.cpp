@@ -50,8 +50,7 @@ TEST_F(Scripted, FramesLogLinesAndSystemVersionAccepted)
                          dialogs.messages.size()),
               std::tuple(true, false, 31, 0u));
 
-    // Poll with toggle 1: header 40 + 64 = 104, check byte 152. Version request with
-    // toggle 0: header 42, data 129, 130; 42+129 = 171, +130 = 301 -> 45; 256 - 45 = 211.
+    // Poll (toggle 1): header 40 + 64, check 152; version request (toggle 0): 42, 129, 130, 211.
     EXPECT_EQ(port.take(), (std::vector<int>{104, 152, 42, 129, 130, 211, 104, 152}));
     EXPECT_EQ(link.txtCorvidCommunication,
               "> 6818\r\n< 6818\r\n> 2A1253\r\n< 2C1230257C\r\n> 6818\r\n< 6818\r\n");

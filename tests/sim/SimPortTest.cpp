@@ -12,8 +12,7 @@ using namespace kestrel::sim::test;
 
 TEST(SimFraming, RunningSumCheckSatisfiesTheReceiverRule)
 {
-    // Worked example: 67, 226, 240, 128 -> running sum 67, 37, 21, 149; 256 - 149 = 107,
-    // below 128, so 235.
+    // Running sum 67, 37, 21, 149 (mod 256); 256 - 149 = 107, below 128, so 235.
     const Bytes request{67, 226, 240, 128};
     EXPECT_EQ(runningSumCheck(request.data(), request.size()), 235);
     std::mt19937 random(7);
