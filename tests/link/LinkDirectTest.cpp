@@ -15,14 +15,6 @@ namespace {
 
 const std::vector<int> kBurst = {0, 0, 0, 255, 255, 255, 170, 170, 170};
 
-std::vector<int> concat(std::initializer_list<std::vector<int>> parts)
-{
-    std::vector<int> out;
-    for (const auto& p : parts)
-        out.insert(out.end(), p.begin(), p.end());
-    return out;
-}
-
 using DirectRoute = ScriptedLink;
 
 } // namespace

@@ -3,6 +3,7 @@
 // the low 7 bits of every later byte is a multiple of 128), never with the client's or the
 // simulator's own code, so that the two can disagree when one of them is wrong.
 #include <cstdint>
+#include <initializer_list>
 #include <vector>
 
 namespace kestrel::test {
@@ -25,6 +26,15 @@ template <typename Bytes = std::vector<int>> Bytes frame(Bytes head, const std::
         head.push_back(static_cast<typename Bytes::value_type>(128 + d));
     head.push_back(static_cast<typename Bytes::value_type>(closingByte(head)));
     return head;
+}
+
+// The frames one after the other, as they go over the wire.
+inline std::vector<int> concat(std::initializer_list<std::vector<int>> parts)
+{
+    std::vector<int> out;
+    for (const auto& p : parts)
+        out.insert(out.end(), p.begin(), p.end());
+    return out;
 }
 
 // A module's reply: address byte, header 128 + 96 + size (or the one given), data.
