@@ -113,14 +113,12 @@ TEST_F(Scripted, TunnelledWriteAndRequestBytes)
     link.settings.CheckCorvid = true;
     link.state.CorvidToggle = 0;
     link.settings.TargetAddress = 2;
-    // A write: the frame 0, 98, 96, 96, 6, 9 then one poll.
+    const auto poll = corvidFrame({}, true);
+    // A write: the tunnel frame (0, T, the module's header, data), then one poll.
     port.queue(corvidFrame({}));
     port.queue(corvidFrame({}, 1));
     EXPECT_TRUE(link.SendKestrelMessage(false, 3, {96, 6, 9}));
-    auto bytes = port.take();
-    EXPECT_EQ(std::vector<int>(bytes.begin(), bytes.begin() + 7),
-              (std::vector<int>{46, 128, 226, 224, 224, 134, 137}));
-    EXPECT_EQ(bytes.size(), 8u + 2u);
+    EXPECT_EQ(port.take(), concat({corvidFrame({0, 98, 96, 96, 6, 9}), poll}));
 
     // eXtended address: 0, T, 112, x, data.
     link.settings.CheckXaddress = true;
@@ -128,9 +126,7 @@ TEST_F(Scripted, TunnelledWriteAndRequestBytes)
     port.queue(corvidFrame({}));
     port.queue(corvidFrame({}, 1));
     link.SendKestrelMessage(false, 1, {5});
-    bytes = port.take();
-    EXPECT_EQ(std::vector<int>(bytes.begin(), bytes.begin() + 6),
-              (std::vector<int>{45, 128, 226, 240, 161, 133}));
+    EXPECT_EQ(port.take(), concat({corvidFrame({0, 98, 112, 33, 5}), poll}));
 }
 
 TEST_F(Scripted, TimeOutAfterGoodPollsLeavesReplyValid)
