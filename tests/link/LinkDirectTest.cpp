@@ -31,11 +31,10 @@ TEST_F(DirectRoute, RequestVersionWorkedExampleWithBurstAndEmptyFrame)
     // Next frame carries toggle 0 and no burst; then 64 again.
     port.queue(moduleReply(3, {112, 0, 1, 2, 3, 4}));
     EXPECT_TRUE(link.GetVersion());
-    auto second = port.take();
-    EXPECT_EQ(std::tuple(second.front(), second.size()), std::tuple(3, 5u));
+    EXPECT_EQ(port.take(), frame({3, 226}, {112, 0}));
     port.queue(moduleReply(67, {112, 0, 1, 2, 3, 4}));
     link.GetVersion();
-    EXPECT_EQ(port.take().front(), 67);
+    EXPECT_EQ(port.take(), frame({67, 226}, {112, 0}));
 }
 
 TEST_F(DirectRoute, AddressChangeResynchronisesAndHeaderBits)
@@ -52,11 +51,10 @@ TEST_F(DirectRoute, AddressChangeResynchronisesAndHeaderBits)
     EXPECT_TRUE(link.SendKestrelMessage(false, 0, {}));
     EXPECT_EQ(port.take(), frame({23, 208, 128 + 95}, {}));
 
-    link.state.LinkToggle = 128; // what an address change does
-    link.SendKestrelMessage(false, 1, {5});
-    auto bytes = port.take();
-    EXPECT_EQ(std::vector<int>(bytes.begin(), bytes.begin() + 9), kBurst);
-    EXPECT_EQ(bytes[12], 64 + 23);
+    link.state.LinkToggle = 128;            // what an address change does
+    link.SendKestrelMessage(false, 1, {5}); // the empty frame after the burst has no eXtended address
+    EXPECT_EQ(port.take(),
+              concat({kBurst, frame({23, 192}, {}), frame({64 + 23, 192 + 16 + 1, 128 + 95}, {5})}));
 }
 
 TEST_F(DirectRoute, SizeOverrunClosedPortAndDataAbove127SendNothing)
