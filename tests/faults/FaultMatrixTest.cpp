@@ -380,7 +380,8 @@ TEST_P(FaultMatrix, EndsAsItShould)
     rig.forgetModel();
     rig.configurationShown = 0;
     EXPECT_TRUE(ReadAll(rig.session));
-    EXPECT_EQ(rig.dialogs.texts(), std::vector<std::string>{});
+    EXPECT_EQ(std::tuple(rig.dialogs.texts(), rig.corvid.pendingReplies()),
+              std::tuple(std::vector<std::string>{}, 0u));
     EXPECT_TRUE(rig.dialogs.questions.empty()); // flex-addressing comes back on without the warning
     if (module == rig.seeded)
         checkReadAll(rig, Model::Whole);

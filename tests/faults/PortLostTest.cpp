@@ -120,26 +120,4 @@ TEST(PortLost, TunnelledReadAllAndTheNextJob)
     rig.expectWholeModel();
 }
 
-TEST(TunnelResync, AFailedCorvidFrameLeavesNoStaleReplyForTheNextRequest)
-{
-    FaultRig rig(true);
-    ASSERT_TRUE(rig.ready);
-    rig.forgetModel();
-    // The Corvid answer to the ID string request is corrupted; the module has answered
-    // all the same, and its reply waits for a poll.
-    rig.wire.arm(Fault::CorruptNoGoodCopy, {112, 10});
-    EXPECT_FALSE(ReadIDString(rig.session));
-    ASSERT_EQ(rig.dialogs.texts().size(), 2u);
-    EXPECT_EQ(std::tuple(rig.dialogs.texts()[1], rig.corvid.pendingReplies()),
-              std::tuple("No answer from Corvid", 1u));
-    rig.dialogs.clear();
-
-    EXPECT_TRUE(RequestVersion(rig.session));
-    EXPECT_EQ(std::tuple(rig.session.general.LabelGenVersionString, rig.dialogs.texts(),
-                         rig.corvid.pendingReplies()),
-              std::tuple("1.2.3.4", std::vector<std::string>{}, 0u));
-    EXPECT_TRUE(ReadIDString(rig.session));
-    EXPECT_EQ(rig.session.general.TextGenIDString, rig.sourceGeneral.TextGenIDString);
-}
-
 } // namespace
