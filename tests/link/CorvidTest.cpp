@@ -18,7 +18,8 @@ namespace {
 
 using Scripted = ScriptedLink;
 
-struct Simulated : ::testing::Test {
+// The link on a simulated Corvid system with modules at 0 and 20.
+struct SimulatedRig {
     FakeClock clock;
     sim::SimBus bus;
     sim::SimCorvid system{bus};
@@ -28,7 +29,7 @@ struct Simulated : ::testing::Test {
     int base = 0;
     LinkControl control{link, base};
     CorvidControl corvid{link, control};
-    Simulated()
+    SimulatedRig()
     {
         clock.tick = 0.005;
         port.setWaitHook([this](int ms) { clock.advance(ms / 1000.0); });
@@ -37,6 +38,7 @@ struct Simulated : ::testing::Test {
         bus.addModule(20, std::nullopt, {2, 0, 0, 1});
     }
 };
+struct Simulated : SimulatedRig, ::testing::Test {};
 
 } // namespace
 
@@ -164,20 +166,13 @@ TEST_F(Simulated, TransparentModeByUnitTypeAndVersion)
         {sim::CorvidUnit::HubB, 1000, true, "Your Hub-B has been put in Transparent Mode"},
     };
     for (const auto& [unit, version, switched, text] : cases) {
-        sim::SimBus b;
-        sim::SimCorvid s{b};
-        sim::SimPort p{s};
-        p.open();
-        s.setSystemVersion(3100); // too old for tunneling: no question asked
-        s.setUnit(unit, version);
-        Link l{p, clock, dialogs};
-        LinkControl lc{l, base};
-        CorvidControl cc{l, lc};
-        dialogs.clear();
-        EXPECT_EQ(cc.cmdSetTM_Click(), switched) << text;
-        ASSERT_EQ(dialogs.messages.size(), 1u) << text;
-        EXPECT_EQ(std::tuple(dialogs.messages[0].text, dialogs.messages[0].icon, s.transparent(),
-                             dialogs.questions.size()),
+        SimulatedRig r;
+        r.system.setSystemVersion(3100); // too old for tunneling: no question asked
+        r.system.setUnit(unit, version);
+        EXPECT_EQ(r.corvid.cmdSetTM_Click(), switched) << text;
+        ASSERT_EQ(r.dialogs.messages.size(), 1u) << text;
+        EXPECT_EQ(std::tuple(r.dialogs.messages[0].text, r.dialogs.messages[0].icon, r.system.transparent(),
+                             r.dialogs.questions.size()),
                   std::tuple(text, switched ? Icon::Information : Icon::Warning, switched, 0u));
     }
 }
