@@ -68,10 +68,7 @@ public:
     {
         const bool ends = parse(b);
         const std::size_t before = out.size();
-        if (tunnel)
-            corvid.write(b);
-        else
-            bus.write(b);
+        inner().write(b);
         drain();
         if (ends && hitInThisFrame)
             frameHit(before);
@@ -120,8 +117,7 @@ private:
     {
         if (fault == Fault::None || hits > 0 || prefix.empty())
             return;
-        const auto r = request();
-        if (r.size() != prefix.size() || r != prefix)
+        if (request() != prefix)
             return;
         if (++seen != wanted)
             return;
@@ -182,11 +178,11 @@ private:
         fault = Fault::None;
     }
 
+    sim::SimEndpoint& inner() { return tunnel ? static_cast<sim::SimEndpoint&>(corvid) : bus; }
     void drain()
     {
-        sim::SimEndpoint& inner = tunnel ? static_cast<sim::SimEndpoint&>(corvid) : bus;
-        while (inner.available())
-            out.push_back(static_cast<std::uint8_t>(inner.read()));
+        while (inner().available())
+            out.push_back(static_cast<std::uint8_t>(inner().read()));
     }
 
     sim::SimBus& bus;
