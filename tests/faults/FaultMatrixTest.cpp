@@ -56,18 +56,14 @@ struct Family {
     std::function<void(FaultRig&, Model)> check;
 };
 
-struct Cell {
+struct Case {
+    const Family* family;
     Fault fault;
     bool result;
     std::vector<std::string> messages;
     int timeouts; // 2 s time-outs waited out
     Model model;
     std::vector<std::string> report = {}; // Verify All's report lines
-};
-
-struct Case {
-    const Family* family;
-    Cell cell;
 };
 
 void checkDccSettings(FaultRig& rig, Model m)
@@ -235,18 +231,18 @@ std::vector<Case> readCells(const Family& f, int replyHeader, bool goesOn, Model
                             const std::string& length = {})
 {
     std::vector<Case> cases{
-        {&f, {Fault::NoReply, false, {kNoResponse}, 1, Model::BeforeTarget}},
-        {&f, {Fault::CorruptNoGoodCopy, false, {kNoResponse}, 1, Model::BeforeTarget}},
-        {&f, {Fault::CorruptThenGood, true, {}, 0, Model::Whole}},
-        {&f, {Fault::Garbage, true, {}, 0, Model::Whole}},
-        {&f, {Fault::OtherAddress, false, {otherAddress(replyHeader)}, 0, Model::BeforeTarget}},
-        {&f, {Fault::PortGoneWaiting, false, {kPortLost}, 0, Model::BeforeTarget}},
-        {&f, {Fault::PortGoneWriting, false, {kPortLost}, 0, Model::BeforeTarget}},
+        {&f, Fault::NoReply, false, {kNoResponse}, 1, Model::BeforeTarget},
+        {&f, Fault::CorruptNoGoodCopy, false, {kNoResponse}, 1, Model::BeforeTarget},
+        {&f, Fault::CorruptThenGood, true, {}, 0, Model::Whole},
+        {&f, Fault::Garbage, true, {}, 0, Model::Whole},
+        {&f, Fault::OtherAddress, false, {otherAddress(replyHeader)}, 0, Model::BeforeTarget},
+        {&f, Fault::PortGoneWaiting, false, {kPortLost}, 0, Model::BeforeTarget},
+        {&f, Fault::PortGoneWriting, false, {kPortLost}, 0, Model::BeforeTarget},
     };
     for (const auto& [fault, text] : {std::pair{Fault::WrongEcho, echo}, {Fault::WrongLength, length}}) {
         const std::string shown = text.empty() ? echo : text;
         cases.push_back(
-            {&f, {fault, goesOn, shown.empty() ? std::vector<std::string>{} : std::vector{shown}, 0, m}});
+            {&f, fault, goesOn, shown.empty() ? std::vector<std::string>{} : std::vector{shown}, 0, m});
     }
     return cases;
 }
@@ -255,15 +251,15 @@ std::vector<Case> readCells(const Family& f, int replyHeader, bool goesOn, Model
 std::vector<Case> writeCells(const Family& f)
 {
     return {
-        {&f, {Fault::NoReply, true, {kNoResponse}, 1, Model::Whole}},
-        {&f, {Fault::CorruptNoGoodCopy, true, {kNoResponse}, 1, Model::Whole}},
-        {&f, {Fault::CorruptThenGood, true, {}, 0, Model::Whole}},
-        {&f, {Fault::Garbage, true, {}, 0, Model::Whole}},
-        {&f, {Fault::WrongEcho, true, {}, 0, Model::Whole}},
-        {&f, {Fault::WrongLength, true, {}, 0, Model::Whole}},
-        {&f, {Fault::OtherAddress, true, {otherAddress(98)}, 0, Model::Whole}},
-        {&f, {Fault::PortGoneWaiting, false, {kPortLost}, 0, Model::ThroughTarget}},
-        {&f, {Fault::PortGoneWriting, false, {kPortLost}, 0, Model::BeforeTarget}},
+        {&f, Fault::NoReply, true, {kNoResponse}, 1, Model::Whole},
+        {&f, Fault::CorruptNoGoodCopy, true, {kNoResponse}, 1, Model::Whole},
+        {&f, Fault::CorruptThenGood, true, {}, 0, Model::Whole},
+        {&f, Fault::Garbage, true, {}, 0, Model::Whole},
+        {&f, Fault::WrongEcho, true, {}, 0, Model::Whole},
+        {&f, Fault::WrongLength, true, {}, 0, Model::Whole},
+        {&f, Fault::OtherAddress, true, {otherAddress(98)}, 0, Model::Whole},
+        {&f, Fault::PortGoneWaiting, false, {kPortLost}, 0, Model::ThroughTarget},
+        {&f, Fault::PortGoneWriting, false, {kPortLost}, 0, Model::BeforeTarget},
     };
 }
 
@@ -283,33 +279,32 @@ std::vector<Case> matrix()
                   "No valid response size"));
     // A single write: when the port goes while its acknowledgement is awaited, it is done.
     for (Case c : writeCells(kMapsWrite)) {
-        if (c.cell.model == Model::ThroughTarget)
-            c.cell.model = Model::Whole;
-        if (c.cell.model == Model::BeforeTarget)
-            c.cell.model = Model::Untouched;
+        if (c.model == Model::ThroughTarget)
+            c.model = Model::Whole;
+        if (c.model == Model::BeforeTarget)
+            c.model = Model::Untouched;
         all.push_back(c);
     }
     add(readCells(kReadAll, 99, false, Model::BeforeTarget, "No valid response"));
     add(writeCells(kWriteAll));
     // Verify All tells a content error in its report.
     for (Case c : readCells(kVerifyAll, 103, false, Model::Untouched, "")) {
-        const bool content = c.cell.fault == Fault::WrongEcho || c.cell.fault == Fault::WrongLength;
-        c.cell.report = content ? kVerifyNotSupported : c.cell.result ? kVerifyOk : kVerifyStopped;
+        const bool content = c.fault == Fault::WrongEcho || c.fault == Fault::WrongLength;
+        c.report = content ? kVerifyNotSupported : c.result ? kVerifyOk : kVerifyStopped;
         all.push_back(c);
     }
     const std::string tooShort = "Get DCC Address: No valid response, size <> 4";
+    const Family* t = &kTunnelRead;
     add({
-        {&kTunnelRead, {Fault::NoReply, true, {tooShort}, 1, Model::AllButTarget}},
-        {&kTunnelRead, {Fault::CorvidSilent, false, {kNoCorvidAnswer}, 1, Model::BeforeTarget}},
-        {&kTunnelRead,
-         {Fault::CorruptNoGoodCopy, false, {kCorvidChecksum, kNoCorvidAnswer}, 0, Model::BeforeTarget}},
-        {&kTunnelRead, {Fault::Garbage, true, {}, 0, Model::Whole}},
-        {&kTunnelRead,
-         {Fault::WrongEcho, true, {"Get DCC Address: No valid response"}, 0, Model::AllButTarget}},
-        {&kTunnelRead, {Fault::WrongLength, true, {tooShort}, 0, Model::AllButTarget}},
-        {&kTunnelRead, {Fault::OtherAddress, true, {tooShort}, 1, Model::AllButTarget}},
-        {&kTunnelRead, {Fault::PortGoneWaiting, false, {kPortLost}, 0, Model::BeforeTarget}},
-        {&kTunnelRead, {Fault::PortGoneWriting, false, {kPortLost}, 0, Model::BeforeTarget}},
+        {t, Fault::NoReply, true, {tooShort}, 1, Model::AllButTarget},
+        {t, Fault::CorvidSilent, false, {kNoCorvidAnswer}, 1, Model::BeforeTarget},
+        {t, Fault::CorruptNoGoodCopy, false, {kCorvidChecksum, kNoCorvidAnswer}, 0, Model::BeforeTarget},
+        {t, Fault::Garbage, true, {}, 0, Model::Whole},
+        {t, Fault::WrongEcho, true, {"Get DCC Address: No valid response"}, 0, Model::AllButTarget},
+        {t, Fault::WrongLength, true, {tooShort}, 0, Model::AllButTarget},
+        {t, Fault::OtherAddress, true, {tooShort}, 1, Model::AllButTarget},
+        {t, Fault::PortGoneWaiting, false, {kPortLost}, 0, Model::BeforeTarget},
+        {t, Fault::PortGoneWriting, false, {kPortLost}, 0, Model::BeforeTarget},
     });
     return all;
 }
@@ -330,14 +325,14 @@ std::string expectedMessage(std::string text, const FaultRig& rig)
 }
 
 // For failure output.
-void PrintTo(const Case& c, std::ostream* os) { *os << c.family->name << " / " << faultName(c.cell.fault); }
+void PrintTo(const Case& c, std::ostream* os) { *os << c.family->name << " / " << faultName(c.fault); }
 
 class FaultMatrix : public ::testing::TestWithParam<Case> {};
 
 TEST_P(FaultMatrix, EndsAsItShould)
 {
     const Family& family = *GetParam().family;
-    const Cell& cell = GetParam().cell;
+    const Case& cell = GetParam();
     FaultRig rig(family.tunnel);
     ASSERT_TRUE(rig.ready) << ::testing::PrintToString(rig.dialogs.texts());
     if (family.writes)
@@ -389,7 +384,7 @@ TEST_P(FaultMatrix, EndsAsItShould)
 
 std::string caseName(const ::testing::TestParamInfo<Case>& info)
 {
-    return info.param.family->name + "_" + faultName(info.param.cell.fault);
+    return info.param.family->name + "_" + faultName(info.param.fault);
 }
 
 INSTANTIATE_TEST_SUITE_P(AllFamilies, FaultMatrix, ::testing::ValuesIn(matrix()), caseName);
