@@ -9,8 +9,6 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
-
 namespace kestrel::test::faults {
 
 inline const std::string kPortLost =
