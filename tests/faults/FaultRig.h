@@ -1,9 +1,6 @@
 #pragma once
-// A session wired through a FaultWire to one simulated module at bus address 0 (directly,
-// or through the simulated Corvid system), on a fake clock that the port's waits advance.
-// The module starts with a full configuration, written to it by the program's own Write
-// All; `source` and `sourceGeneral` keep what was written, `seeded` the module's memory
-// afterwards.
+// A session wired through a FaultWire to a simulated module at address 0 (direct or tunnelled),
+// seeded with a full configuration by the program's own Write All; `seeded` is its memory after.
 #include "FaultWire.h"
 #include "link/CorvidControl.h"
 #include "ops/Bulk.h"
@@ -12,9 +9,10 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
-
 namespace kestrel::test::faults {
+
+inline const std::string kPortLost =
+    "Communications port lost: sim (Port sim: the simulated port has gone away)";
 
 struct FaultRig {
     sim::SimBus bus;
@@ -66,6 +64,21 @@ struct FaultRig {
     }
     // The module as from the factory, the program holding the configuration to write.
     void eraseModule() { module.memory() = module.factoryMemory(); }
+    // The adapter plugged back in and chosen again.
+    void bringBack()
+    {
+        port.setVanished(false);
+        ASSERT_TRUE(session.linkControl.ComboPort_Click("sim"));
+        dialogs.clear();
+    }
+    void expectWholeModel() const
+    {
+        EXPECT_EQ(session.general, sourceGeneral);
+        for (int p = 0; p < kPinCount; ++p)
+            EXPECT_EQ(std::tuple(session.config.pin(p), session.config.events(p)),
+                      std::tuple(source.pin(p), source.events(p)))
+                << p;
+    }
 };
 
 } // namespace kestrel::test::faults

@@ -1,11 +1,9 @@
 #pragma once
-// The wire between the client's port and the simulated module (direct, or through the
-// simulated Corvid system), with one fault let loose on exactly one request: the n-th
-// request whose data (command, item or pin, ...) begin with a given prefix. The fault is
-// armed while that request is still being written, so the module's own fault switches
-// (SimModule::faults, SimCorvid::faults) act on its reply and on nothing else; the few
-// faults that the simulator has no switch for (a reply whose only copy is corrupted on the
-// direct route, garbage before a Corvid frame, the port vanishing) are done here.
+// The wire to the simulated module (direct or through the Corvid system) with one fault let
+// loose on the n-th request whose data begin with a given prefix. It is armed while that request is
+// being written, so the simulator's fault switches hit its reply and nothing else; the faults the
+// simulator has no switch for (the direct reply's only copy corrupted, garbage before a Corvid
+// frame, the port vanishing) are done here.
 #include "sim/SimBus.h"
 #include "sim/SimCorvid.h"
 #include "sim/SimPort.h"
@@ -70,10 +68,7 @@ public:
     {
         const bool ends = parse(b);
         const std::size_t before = out.size();
-        if (tunnel)
-            corvid.write(b);
-        else
-            bus.write(b);
+        inner().write(b);
         drain();
         if (ends && hitInThisFrame)
             frameHit(before);
@@ -122,8 +117,7 @@ private:
     {
         if (fault == Fault::None || hits > 0 || prefix.empty())
             return;
-        const auto r = request();
-        if (r.size() != prefix.size() || r != prefix)
+        if (request() != prefix)
             return;
         if (++seen != wanted)
             return;
@@ -184,11 +178,11 @@ private:
         fault = Fault::None;
     }
 
+    sim::SimEndpoint& inner() { return tunnel ? static_cast<sim::SimEndpoint&>(corvid) : bus; }
     void drain()
     {
-        sim::SimEndpoint& inner = tunnel ? static_cast<sim::SimEndpoint&>(corvid) : bus;
-        while (inner.available())
-            out.push_back(static_cast<std::uint8_t>(inner.read()));
+        while (inner().available())
+            out.push_back(static_cast<std::uint8_t>(inner().read()));
     }
 
     sim::SimBus& bus;

@@ -15,8 +15,6 @@ TEST_F(FrameObserver, RequestAndReplyFramesOnBothRoutes)
     const auto good = moduleReply(67, {112, 1, 5, 6});
     auto bad = good;
     bad.back() ^= 1; // fails its checksum, reported all the same
-    auto badThenGood = bad;
-    badThenGood.insert(badThenGood.end(), good.begin(), good.end());
     const auto request = frame<std::vector<int>>({67, 128 + 96 + 2}, {112, 1});
     const auto tunnel = corvidFrame({0, 96, 96, 112, 1}), poll = corvidFrame({}, true),
                empty = corvidFrame({});
@@ -27,7 +25,7 @@ TEST_F(FrameObserver, RequestAndReplyFramesOnBothRoutes)
         std::vector<Seen> seen;
     } cases[] = {
         {false,
-         {{200}, badThenGood},
+         {{200}, concat({bad, good})},
          {{Out, Direct, request}, {In, Direct, {200}}, {In, Direct, bad}, {In, Direct, good}}},
         {true,
          {empty, tunnelReply},

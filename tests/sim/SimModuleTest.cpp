@@ -4,26 +4,20 @@
 #include <gtest/gtest.h>
 
 using namespace kestrel::sim;
-using kestrel::sim::test::busRequest;
-using kestrel::sim::test::feed;
-using kestrel::sim::test::kVersionReply;
-using kestrel::sim::test::kVersionRequest;
-using kestrel::sim::test::sumsToZero;
-using Bytes = std::vector<std::uint8_t>;
+using namespace kestrel::sim::test;
 
 namespace {
 
-// Data bytes (7-bit) of a single reply frame without eXtended address; checks framing.
+// Data of a single reply frame without eXtended address, which must be the reply the test
+// side builds from them.
 Bytes replyData(const Bytes& frame)
 {
-    EXPECT_GE(frame.size(), 3u);
-    EXPECT_TRUE(sumsToZero(frame));
-    const int n = frame[1] & 15;
-    EXPECT_EQ(frame.size(), static_cast<std::size_t>(n + 3));
-    Bytes data;
-    for (int i = 0; i < n; ++i)
-        data.push_back(frame[2 + i] & 127);
-    return data;
+    std::vector<int> data;
+    for (std::size_t i = 2; i + 1 < frame.size(); ++i)
+        data.push_back(frame[i] & 127);
+    EXPECT_EQ(std::vector<int>(frame.begin(), frame.end()),
+              kestrel::test::moduleReply(frame.empty() ? 0 : frame[0], data));
+    return Bytes(data.begin(), data.end());
 }
 
 Bytes ask(SimBus& bus, int address, const std::vector<int>& data)
@@ -31,19 +25,22 @@ Bytes ask(SimBus& bus, int address, const std::vector<int>& data)
     return replyData(feed(bus, busRequest(address, 0, data)));
 }
 
-} // namespace
+// One module at address 0.
+struct SimModulePins : ::testing::Test {
+    SimBus bus;
+    SimModule& m = bus.addModule(0);
+};
+using SimModuleFaults = SimModulePins;
 
-// ---- framing and addressing ----
+} // namespace
 
 TEST(SimModuleFraming, VersionRequestWorkedExampleAfterBurstAndEmptyFrame)
 {
     SimBus bus;
     SimModule& m = bus.addModule(0);
     EXPECT_TRUE(feed(bus, {0, 0, 0, 255, 255, 255, 170, 170, 170, 3, 192, 189}).empty());
-    // Request Version to address 0 with toggle 64: address byte 67, header 226
-    // (128 + 64 + 32 + size 2), 240 (128 + 112), 128 (item 0), check byte 235.
-    // Reply: 67 (toggle echoed), header 128 + 96 + 6 = 230, 112, 0, version 1.2.3.4,
-    // check byte: 67 + 102 + 112 + 0 + 1 + 2 + 3 + 4 = 291 = 2 * 128 + 35, so 93 + 128.
+    // Request Version to address 0, toggle 64: header 128 + 64 + 32 + size 2, data + 128, check
+    // byte. The reply echoes the address byte; header 128 + 96 + 6; 67 + 102 + 112 + 10 = 291 -> 93 + 128.
     EXPECT_EQ(feed(bus, kVersionRequest), (Bytes{67, 230, 240, 128, 129, 130, 131, 132, 221}));
     EXPECT_EQ(feed(bus, {67, 226, 240, /* restart */ 67, 226, 240, 128, 235}), kVersionReply);
     EXPECT_TRUE(feed(bus, {67, 226, 240, 128, 236}).empty()); // bad check byte: dropped silently
@@ -56,16 +53,14 @@ TEST(SimModuleFraming, AnswersOnlyItsOwnAddressWithTheToggleEchoed)
     bus.addModule(2);
     bus.addModule(5);
     bus.addModule(17); // tunnel-only address: 17 * 4 + 3 = 71 would read as address 1 with toggle
-    EXPECT_TRUE(feed(bus, busRequest(0, 0, {112, 0})).empty());
-    EXPECT_TRUE(feed(bus, busRequest(1, 64, {112, 0})).empty());
     EXPECT_EQ(feed(bus, busRequest(2, 0, {112, 0}))[0], 11);
     EXPECT_EQ(feed(bus, busRequest(5, 64, {112, 0}))[0], 64 + 23);
     EXPECT_EQ(feed(bus, busRequest(5, 0, {112, 0}))[0], 23);
-    // Unknown commands and wrong lengths get no reply.
-    EXPECT_TRUE(feed(bus, busRequest(2, 0, {120, 0})).empty());
-    EXPECT_TRUE(feed(bus, busRequest(2, 0, {112, 9})).empty());
-    EXPECT_TRUE(feed(bus, busRequest(2, 0, {114, 3, 1})).empty());
-    EXPECT_TRUE(feed(bus, busRequest(2, 0, {114, 32})).empty());
+    // Other addresses, unknown commands and wrong lengths get no reply.
+    for (const Bytes& r :
+         {busRequest(0, 0, {112, 0}), busRequest(1, 64, {112, 0}), busRequest(2, 0, {120, 0}),
+          busRequest(2, 0, {112, 9}), busRequest(2, 0, {114, 3, 1}), busRequest(2, 0, {114, 32})})
+        EXPECT_TRUE(feed(bus, r).empty()) << ::testing::PrintToString(r);
     // Without the bidirectional bit a write is carried out and nothing is sent.
     EXPECT_TRUE(feed(bus, busRequest(2, 0, {96, 6, 5}, false)).empty());
     EXPECT_EQ(bus.module(2)->memory().greenLed, 5);
@@ -77,11 +72,8 @@ TEST(SimModuleFraming, ExtendedAddressMatchMismatchAndReaddressing)
     SimBus bus;
     bus.addModule(1, 17);
     bus.addModule(1); // same bus address, no eXtended address
-    const Bytes reply = feed(bus, busRequest(1, 64, {112, 2}, true, 17));
-    // 71, header 128 + 96 + 16 + 3, eXtended address 128 + 17, 112, 2, 17, check.
-    ASSERT_EQ(reply.size(), 7u);
-    EXPECT_EQ(std::tuple(reply[0], reply[1], reply[2]), std::tuple(71, 128 + 96 + 16 + 3, 128 + 17));
-    EXPECT_TRUE(sumsToZero(reply));
+    EXPECT_EQ(feed(bus, busRequest(1, 64, {112, 2}, true, 17)),
+              kestrel::test::frame<Bytes>({71, 128 + 96 + 16 + 3, 128 + 17}, {112, 2, 17}));
     EXPECT_TRUE(feed(bus, busRequest(1, 0, {112, 2}, true, 18)).empty());
     // Without the byte both modules answer, each with its own frame.
     EXPECT_EQ(feed(bus, busRequest(1, 0, {112, 0})).size(), 18u);
@@ -90,8 +82,6 @@ TEST(SimModuleFraming, ExtendedAddressMatchMismatchAndReaddressing)
     EXPECT_TRUE(feed(bus, busRequest(1, 0, {112, 0}, true, 17)).empty());
     EXPECT_FALSE(feed(bus, busRequest(1, 0, {112, 0}, true, 40)).empty());
 }
-
-// ---- general settings (each item's round trip runs in the fault matrix) ----
 
 TEST(SimModuleGeneral, WrongLengthWritesChangeNothingEraseNeedsTheConfirmationAndKeepsTheVersion)
 {
@@ -115,12 +105,8 @@ TEST(SimModuleGeneral, WrongLengthWritesChangeNothingEraseNeedsTheConfirmationAn
     EXPECT_EQ(ask(bus, 0, {112, 0}), (Bytes{112, 0, 3, 1, 0, 9}));
 }
 
-// ---- pins ----
-
-TEST(SimModulePins, StepBytesAreKeptByteForByte)
+TEST_F(SimModulePins, StepBytesAreKeptByteForByte)
 {
-    SimBus bus;
-    bus.addModule(0);
     // Instruction 4 with Par1 = 200, Par2 = 5 travels as 1, 72, 5; code 0x13 = 3 faded.
     EXPECT_EQ(ask(bus, 0, {99, 5, 3, 8, 0x13, 1, 72, 5, 127}), (Bytes{99, 5}));
     EXPECT_EQ(ask(bus, 0, {99, 5, 11, 2, 0x43, 0, 1, 2, 3}), (Bytes{99, 5}));
@@ -133,10 +119,8 @@ TEST(SimModulePins, StepBytesAreKeptByteForByte)
     EXPECT_EQ(ask(bus, 0, {114, 5}), (Bytes{114, 5, 3}));
 }
 
-TEST(SimModulePins, AddressConfigurationTagsInAnyOrder)
+TEST_F(SimModulePins, AddressConfigurationTagsInAnyOrder)
 {
-    SimBus bus;
-    SimModule& m = bus.addModule(0);
     // Pin 30, device starting at pin 1: offset (1 - 30) & 31 = 3, sent 64 + 3; the bytes
     // arrive in an unusual order.
     EXPECT_EQ(ask(bus, 0, {102, 30, 67, 16 + 4, 8 + 6}), (Bytes{102, 30}));
@@ -150,10 +134,8 @@ TEST(SimModulePins, AddressConfigurationTagsInAnyOrder)
     EXPECT_EQ(m.memory().pins[30].lynxCount, 4);
 }
 
-TEST(SimModulePins, InitialAspectAndEventSlots)
+TEST_F(SimModulePins, InitialAspectAndEventSlots)
 {
-    SimBus bus;
-    bus.addModule(0);
     // Factory: no initial aspect (127) and no actions (slot * 16 + 15).
     EXPECT_EQ(ask(bus, 0, {116, 9}), (Bytes{116, 9, 127, 0x0F, 0x1F, 0x2F, 0x3F}));
     EXPECT_EQ(ask(bus, 0, {100, 9, 112 + 4}), (Bytes{100, 9}));
@@ -166,10 +148,8 @@ TEST(SimModulePins, InitialAspectAndEventSlots)
     EXPECT_EQ(ask(bus, 0, {116, 9})[2], 127);
 }
 
-TEST(SimModulePins, PinConfigurationPerModeInFlashAndActive)
+TEST_F(SimModulePins, PinConfigurationPerModeInFlashAndActive)
 {
-    SimBus bus;
-    SimModule& m = bus.addModule(0);
     const std::vector<int> servo{97, 4, 1, 70, 43, 64, 10, 20, 30, 40, 66, 5, 60, 7};
     EXPECT_EQ(ask(bus, 0, servo), (Bytes{97, 4}));
     EXPECT_EQ(ask(bus, 0, {113, 4}), (Bytes{113, 4, 1, 70, 43, 64, 10, 20, 30, 40, 66, 5, 60, 7}));
@@ -193,10 +173,8 @@ TEST(SimModulePins, PinConfigurationPerModeInFlashAndActive)
 
 // The fault switches whose effect the client must shrug off: the fault matrix would pass
 // if they did nothing, so their bytes are checked here.
-TEST(SimModuleFaults, CorruptedCopyAndGarbageBeforeTheGoodReply)
+TEST_F(SimModuleFaults, CorruptedCopyAndGarbageBeforeTheGoodReply)
 {
-    SimBus bus;
-    SimModule& m = bus.addModule(0);
     m.faults.corruptCopies = 1;
     Bytes out = feed(bus, kVersionRequest);
     ASSERT_EQ(out.size(), 18u);

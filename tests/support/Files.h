@@ -43,9 +43,8 @@ inline std::string crlf(std::initializer_list<std::string> lines)
     return out;
 }
 
-// While it lives, numbers print with a decimal comma and thousands grouped by points. No
-// such locale is installed on every machine; a numpunct facet made global has the same
-// effect on every stream made afterwards.
+// While it lives, streams made afterwards print numbers with a decimal comma and thousands
+// grouped by points (a global facet, as no such locale is installed on every machine).
 struct CommaDecimalLocale {
     struct Punct : std::numpunct<char> {
         char do_decimal_point() const override { return ','; }

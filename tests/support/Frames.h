@@ -3,6 +3,7 @@
 // the low 7 bits of every later byte is a multiple of 128), never with the client's or the
 // simulator's own code, so that the two can disagree when one of them is wrong.
 #include <cstdint>
+#include <initializer_list>
 #include <vector>
 
 namespace kestrel::test {
@@ -16,15 +17,7 @@ template <typename Bytes> int closingByte(const Bytes& frame)
     return static_cast<int>(128 + (128 - sum % 128) % 128);
 }
 
-template <typename Bytes> bool sumsToZero(const Bytes& frame)
-{
-    if (frame.empty())
-        return false;
-    unsigned sum = frame[0];
-    for (std::size_t i = 1; i < frame.size(); ++i)
-        sum += static_cast<unsigned>(frame[i]) & 127u;
-    return sum % 128 == 0;
-}
+template <typename Bytes> bool sumsToZero(const Bytes& f) { return !f.empty() && closingByte(f) == 128; }
 
 // The given leading bytes, the data + 128 and the check byte.
 template <typename Bytes = std::vector<int>> Bytes frame(Bytes head, const std::vector<int>& data)
@@ -33,6 +26,15 @@ template <typename Bytes = std::vector<int>> Bytes frame(Bytes head, const std::
         head.push_back(static_cast<typename Bytes::value_type>(128 + d));
     head.push_back(static_cast<typename Bytes::value_type>(closingByte(head)));
     return head;
+}
+
+// The frames one after the other, as they go over the wire.
+inline std::vector<int> concat(std::initializer_list<std::vector<int>> parts)
+{
+    std::vector<int> out;
+    for (const auto& p : parts)
+        out.insert(out.end(), p.begin(), p.end());
+    return out;
 }
 
 // A module's reply: address byte, header 128 + 96 + size (or the one given), data.
@@ -57,11 +59,8 @@ inline int corvidLength(int header)
     return (header & 8) ? (header & 7) : 8 + 8 * ((header >> 4) & 1) + (header & 7);
 }
 
-// Follows the frames that a client writes, byte by byte. A bus frame: address byte (bit 7
-// clear), header (size in the low nibble, bit 4 an eXtended address byte, bit 5 a reply
-// wanted), the eXtended address, the data and the check byte. A Corvid frame (`corvid`):
-// header (bit 7 clear), the data it announces and the check byte. A byte with bit 7 clear
-// always starts a new frame.
+// Follows the frames that a client writes, byte by byte; a byte with bit 7 clear starts one. A bus
+// header holds the size (low nibble), an eXtended address byte follows (bit 4), a reply wanted (bit 5).
 struct FrameReader {
     bool corvid = false;
     int first = 0;         // the address byte (toggle included), or the Corvid header

@@ -16,15 +16,9 @@ std::string readAll(int fd)
 {
     std::string out;
     char buf[4096];
-    for (;;) {
-        const ssize_t n = read(fd, buf, sizeof buf);
+    for (ssize_t n; (n = read(fd, buf, sizeof buf)) > 0 || (n < 0 && errno == EINTR);)
         if (n > 0)
             out.append(buf, static_cast<std::size_t>(n));
-        else if (n < 0 && errno == EINTR)
-            continue;
-        else
-            break;
-    }
     return out;
 }
 

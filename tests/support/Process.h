@@ -16,7 +16,6 @@ public:
     SimProcess& operator=(const SimProcess&) = delete;
 
     const std::string& pty() const { return path; }
-    bool running() const { return pid > 0; }
     // Stops it (SIGTERM) and returns what it wrote on stderr.
     std::string stop();
 

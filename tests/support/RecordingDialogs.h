@@ -3,6 +3,7 @@
 
 #include <deque>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace kestrel::test {
@@ -24,19 +25,15 @@ public:
     Answer ask(const std::string& text, Buttons, Icon icon) override
     {
         questions.push_back({text, icon});
-        if (answers.empty())
-            return defaultAnswer;
-        const Answer a = answers.front();
-        answers.pop_front();
-        return a;
+        return next(answers, defaultAnswer);
     }
     std::string openFileName(const std::string&, const std::string&, const std::string&) override
     {
-        return next();
+        return next(fileNames, {});
     }
     std::string saveFileName(const std::string&, const std::string&, const std::string&) override
     {
-        return next();
+        return next(fileNames, {});
     }
 
     std::vector<std::string> texts() const
@@ -53,13 +50,14 @@ public:
     }
 
 private:
-    std::string next()
+    // The next scripted value, taken off the script; `otherwise` when none is left.
+    template <typename T> static T next(std::deque<T>& script, T otherwise)
     {
-        if (fileNames.empty())
-            return {};
-        auto n = fileNames.front();
-        fileNames.pop_front();
-        return n;
+        if (script.empty())
+            return otherwise;
+        T v = std::move(script.front());
+        script.pop_front();
+        return v;
     }
 };
 

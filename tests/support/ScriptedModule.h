@@ -1,8 +1,7 @@
 #pragma once
-// A module played by the test on a scripted port: every frame the link writes is
-// decoded into its data bytes (command, item or pin, values); a frame that asks for a
-// reply gets the next scripted reply, or silence; with nothing scripted it is
-// acknowledged with its first two bytes, as a module acknowledges a write.
+// A module played by the test on a scripted port: it records the data of every frame the link
+// writes and answers one that wants a reply with the next scripted reply, silence, or (nothing
+// scripted) the frame's first two bytes, as a module acknowledges a write.
 #include "FakeClock.h"
 #include "Frames.h"
 #include "RecordingDialogs.h"
@@ -11,6 +10,7 @@
 
 #include <deque>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace kestrel::test {
@@ -37,13 +37,9 @@ struct ScriptedModule {
     // The requests so far, forgotten as they are handed out.
     std::vector<Data> take()
     {
-        auto out = std::move(requests);
-        requests.clear();
         waited.clear();
-        return out;
+        return std::exchange(requests, {});
     }
-
-    static Data replyFrame(int addressByte, const Data& data) { return moduleReply(addressByte, data); }
 
 private:
     void onByte(int b)
@@ -56,13 +52,12 @@ private:
         if (!frames.wantsReply())
             return;
         const Data& r = frames.data;
-        // Nothing scripted: acknowledged as a module acknowledges a write.
         const std::optional<Data> reply =
             replies.empty() ? Data{r[0], r.size() > 1 ? r[1] : 0} : replies.front();
         if (!replies.empty())
             replies.pop_front();
         if (reply)
-            port.feed(replyFrame(frames.first, *reply));
+            port.feed(moduleReply(frames.first, *reply));
     }
 
     FrameReader frames;

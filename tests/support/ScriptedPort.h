@@ -5,6 +5,7 @@
 #include <deque>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace kestrel::test {
@@ -31,12 +32,7 @@ public:
     void queue(std::vector<int> bytes) { chunks.push_back(std::move(bytes)); }
     void feed(const std::vector<int>& bytes) { input.insert(input.end(), bytes.begin(), bytes.end()); }
     // Takes and returns what was written so far.
-    std::vector<int> take()
-    {
-        auto out = written;
-        written.clear();
-        return out;
-    }
+    std::vector<int> take() { return std::exchange(written, {}); }
 
     void select(const std::string& n) override { name = n; }
     std::string selected() const override { return name; }
