@@ -176,8 +176,7 @@ TEST(AspectsPage, HelpToolsFromTheParameterBoxes)
             QTest::mouseClick(d.findChild<QAbstractButton*>(button), Qt::LeftButton);
         });
         QTest::keyClick(m.page.TextPAspPar2[1], Qt::Key_F2);
-        if (std::string(button) == "CancelButton")
-            EXPECT_EQ(m.step(1), before);
+        EXPECT_TRUE(std::string(button) != "CancelButton" || m.step(1) == before);
     }
     EXPECT_EQ(std::tuple(int(m.step(1).Par2), m.page.TextPAspPar2[1]->text()), std::tuple(63, "63"));
 
