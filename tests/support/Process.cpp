@@ -1,54 +1,48 @@
 #include "Process.h"
 
-#include <cerrno>
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
 #include <poll.h>
+#include <spawn.h>
 #include <stdexcept>
 #include <sys/wait.h>
 #include <unistd.h>
 
+extern char** environ;
+
 namespace kestrel::test {
 
 namespace {
-std::string readAll(int fd)
+// Starts the program with the given descriptors as its stdin, stdout and stderr (-1: the test's own).
+pid_t spawn(const std::string& program, const std::vector<std::string>& args, int in, int out, int err)
 {
-    std::string out;
-    char buf[4096];
-    for (ssize_t n; (n = read(fd, buf, sizeof buf)) > 0 || (n < 0 && errno == EINTR);)
-        if (n > 0)
-            out.append(buf, static_cast<std::size_t>(n));
-    return out;
-}
-
-// Starts the program with its stdout and stderr on pipes, and stdin empty when asked.
-pid_t spawn(const std::string& program, const std::vector<std::string>& args, int& outFd, int& errFd,
-            bool emptyInput)
-{
-    int outPipe[2], errPipe[2];
-    if (pipe(outPipe) != 0 || pipe(errPipe) != 0)
-        throw std::runtime_error("pipe failed");
     std::vector<char*> argv{const_cast<char*>(program.c_str())};
     for (const auto& a : args)
         argv.push_back(const_cast<char*>(a.c_str()));
     argv.push_back(nullptr);
-    const pid_t child = fork();
-    if (child == 0) {
-        if (emptyInput)
-            dup2(open("/dev/null", O_RDONLY), 0);
-        dup2(outPipe[1], 1);
-        dup2(errPipe[1], 2);
-        close(outPipe[0]);
-        close(errPipe[0]);
-        execv(program.c_str(), argv.data());
-        _exit(127);
-    }
-    close(outPipe[1]);
-    close(errPipe[1]);
-    outFd = outPipe[0];
-    errFd = errPipe[0];
+    posix_spawn_file_actions_t io;
+    posix_spawn_file_actions_init(&io);
+    for (const auto& [from, to] : {std::pair{in, 0}, {out, 1}, {err, 2}})
+        if (from >= 0)
+            posix_spawn_file_actions_adddup2(&io, from, to);
+    pid_t child = -1;
+    const int failed = posix_spawn(&child, program.c_str(), &io, nullptr, argv.data(), environ);
+    posix_spawn_file_actions_destroy(&io);
+    if (failed != 0)
+        throw std::runtime_error("cannot start " + program);
     return child;
+}
+
+// What a child wrote to a temporary file; the file is closed.
+std::string contents(std::FILE* file)
+{
+    std::string text;
+    std::rewind(file);
+    for (int c; (c = std::fgetc(file)) != EOF;)
+        text += static_cast<char>(c);
+    std::fclose(file);
+    return text;
 }
 } // namespace
 
@@ -63,16 +57,19 @@ std::string binPath(const std::string& program)
     return path.substr(0, path.rfind('/')) + "/" + program;
 }
 
-SimProcess::SimProcess(const std::vector<std::string>& args)
+SimProcess::SimProcess(const std::vector<std::string>& args) : err(std::tmpfile())
 {
-    int outFd = -1;
-    pid = spawn(binPath("kestrel-sim"), args, outFd, errFd, false);
+    int out[2];
+    if (!err || pipe2(out, O_CLOEXEC) != 0)
+        throw std::runtime_error("no pipe for kestrel-sim");
+    pid = spawn(binPath("kestrel-sim"), args, -1, out[1], fileno(err));
+    close(out[1]);
     // The first line of its output is the pseudo-terminal's path.
-    pollfd p{outFd, POLLIN, 0};
+    pollfd p{out[0], POLLIN, 0};
     char c;
-    while (poll(&p, 1, 10000) > 0 && read(outFd, &c, 1) == 1 && c != '\n')
+    while (poll(&p, 1, 10000) > 0 && read(out[0], &c, 1) == 1 && c != '\n')
         path += c;
-    close(outFd);
+    close(out[0]);
     if (path.empty()) {
         stop();
         throw std::runtime_error("kestrel-sim did not report its pseudo-terminal");
@@ -83,50 +80,26 @@ SimProcess::~SimProcess() { stop(); }
 
 std::string SimProcess::stop()
 {
-    std::string err;
     if (pid > 0) {
         kill(pid, SIGTERM);
-        int status;
-        waitpid(pid, &status, 0);
+        waitpid(pid, nullptr, 0);
         pid = -1;
     }
-    if (errFd >= 0) {
-        err = readAll(errFd);
-        close(errFd);
-        errFd = -1;
-    }
-    return err;
+    std::string text = err ? contents(err) : std::string();
+    err = nullptr;
+    return text;
 }
 
 CommandResult runProgram(const std::string& program, const std::vector<std::string>& args)
 {
-    int outFd = -1, errFd = -1;
-    const pid_t child = spawn(program, args, outFd, errFd, true);
-    CommandResult r;
-    // Read both pipes together so neither can fill up and stall the child.
-    pollfd fds[2] = {{outFd, POLLIN, 0}, {errFd, POLLIN, 0}};
-    int open = 2;
-    char buf[4096];
-    while (open > 0) {
-        if (poll(fds, 2, -1) < 0 && errno != EINTR)
-            break;
-        for (int i = 0; i < 2; ++i) {
-            if (fds[i].fd < 0 || !(fds[i].revents & (POLLIN | POLLHUP)))
-                continue;
-            const ssize_t n = read(fds[i].fd, buf, sizeof buf);
-            if (n > 0) {
-                (i == 0 ? r.out : r.err).append(buf, static_cast<std::size_t>(n));
-            } else {
-                close(fds[i].fd);
-                fds[i].fd = -1;
-                --open;
-            }
-        }
-    }
-    int status;
+    std::FILE* out = std::tmpfile();
+    std::FILE* err = std::tmpfile();
+    const int nothing = open("/dev/null", O_RDONLY | O_CLOEXEC);
+    const pid_t child = spawn(program, args, nothing, fileno(out), fileno(err));
+    close(nothing);
+    int status = 0;
     waitpid(child, &status, 0);
-    r.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    return r;
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, contents(out), contents(err)};
 }
 
 } // namespace kestrel::test

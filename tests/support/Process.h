@@ -1,4 +1,5 @@
 #pragma once
+#include <cstdio>
 #include <string>
 #include <vector>
 
@@ -21,7 +22,7 @@ public:
 
 private:
     int pid = -1;
-    int errFd = -1;
+    std::FILE* err = nullptr; // its stderr
     std::string path;
 };
 
