@@ -41,6 +41,8 @@ TEST_F(GeneralCommands, IdStringIsCutToTwelveSentWithItsLengthAndReadAsLengthMin
     EXPECT_FALSE(ReadIDString(s));
     EXPECT_EQ(messages(), (std::vector<std::string>{"No valid response", "No valid response"}));
     EXPECT_EQ(g.TextGenIDString, "Yard");
+    m.silence(); // no reply at all
+    EXPECT_FALSE(ReadIDString(s));
 }
 
 TEST_F(GeneralCommands, DccAddressIsSixBitsLowAndTheRestHighBothWays)

@@ -64,6 +64,9 @@ TEST(PinRead, LayoutOtherThanTwoOrThreeReadsNoStepsAndBadRepliesFail)
     EXPECT_EQ(std::tuple(rig.session.config.Pins[3].InitAspect, rig.dialogs.texts(), rig.take()),
               std::tuple(0, std::vector<std::string>{"Read Pin Address Configuration: Invalid Response"},
                          Frames{{114, 3}, {116, 3}, {118, 3}}));
+    rig.answer({114, 3, 0});
+    rig.answer({116, 3, 0x7F, 0x0F, 0x1F, 0x2F, 0x3F});
+    EXPECT_FALSE(PAspReadPin(rig.session, 3)); // no reply to the address configuration
 }
 
 TEST(PinWrite, ExactRequestsAndPacingWhenOneWay)
