@@ -53,9 +53,9 @@ TEST(SimModuleFraming, AnswersOnlyItsOwnAddressWithTheToggleEchoed)
     bus.addModule(2);
     bus.addModule(5);
     bus.addModule(17); // tunnel-only address: 17 * 4 + 3 = 71 would read as address 1 with toggle
-    EXPECT_EQ(feed(bus, busRequest(2, 0, {112, 0}))[0], 11);
-    EXPECT_EQ(feed(bus, busRequest(5, 64, {112, 0}))[0], 64 + 23);
-    EXPECT_EQ(feed(bus, busRequest(5, 0, {112, 0}))[0], 23);
+    EXPECT_EQ(feed(bus, busRequest(2, 0, {112, 0})).at(0), 11);
+    EXPECT_EQ(feed(bus, busRequest(5, 64, {112, 0})).at(0), 64 + 23);
+    EXPECT_EQ(feed(bus, busRequest(5, 0, {112, 0})).at(0), 23);
     // Other addresses, unknown commands and wrong lengths get no reply.
     for (const Bytes& r :
          {busRequest(0, 0, {112, 0}), busRequest(1, 64, {112, 0}), busRequest(2, 0, {120, 0}),
@@ -145,7 +145,7 @@ TEST_F(SimModulePins, InitialAspectAndEventSlots)
     EXPECT_EQ(ask(bus, 0, {117, 9}), (Bytes{117, 9, 0x0F, 0x11, 0x2F, 0x25}));
     EXPECT_TRUE(feed(bus, busRequest(0, 0, {100, 9, 0x64})).empty()); // tag 6: refused
     EXPECT_EQ(ask(bus, 0, {100, 9, 127}), (Bytes{100, 9}));
-    EXPECT_EQ(ask(bus, 0, {116, 9})[2], 127);
+    EXPECT_EQ(ask(bus, 0, {116, 9}).at(2), 127);
 }
 
 TEST_F(SimModulePins, PinConfigurationPerModeInFlashAndActive)
