@@ -276,9 +276,7 @@ TEST(DataFileReading, OlderVersionsReadWhatTheyHeld)
     ASSERT_EQ(v31.load(crlf({"\"KestrelConfiguration 0031\"", "\"DCC\",202,6", "\"Pin\",1,0,0,\"a\"",
                              "\"PAM\",4,2", "\"End\""})),
               LoadResult::Loaded);
-    ASSERT_EQ(v31.dialogs.messages.size(), 1u);
-    EXPECT_EQ(std::tuple(v31.dialogs.messages[0].text, v31.dialogs.messages[0].icon),
-              std::tuple("Data File Version = 31", Icon::Information));
+    EXPECT_EQ(v31.dialogs.messages, (std::vector<Shown>{{"Data File Version = 31", Icon::Information}}));
     const auto& [g, p1] = std::tie(v31.general, v31.config.Pins[1]);
     EXPECT_EQ(std::tuple(g.TextGenDCCAddress, g.TextGenXDCCAddress, g.OptGenDCC_PRP, g.ChkGenDCC_BPSI,
                          p1.DccCount, p1.LynxCount, p1.XDccCount),
@@ -321,10 +319,8 @@ TEST(DataFileReading, BadHeaderChangesNothing)
                                    "\"KestrelDeviceDefinitions 3100\"\r\n\"End\"\r\n", "", "\r\n"}) {
         Loader l;
         EXPECT_EQ(l.load(text), LoadResult::InvalidHeader);
-        ASSERT_EQ(l.dialogs.messages.size(), 1u);
-        EXPECT_EQ(
-            std::tuple(l.dialogs.messages[0].text, l.dialogs.messages[0].icon, l.general.TextGenIDString),
-            std::tuple("Invalid configuration file", Icon::Warning, ""));
+        EXPECT_EQ(std::tuple(l.dialogs.messages, l.general.TextGenIDString),
+                  std::tuple(std::vector<Shown>{{"Invalid configuration file", Icon::Warning}}, ""));
     }
 }
 
@@ -361,12 +357,12 @@ TEST(DataFileReading, FormatErrorsStopTheLoadAndKeepWhatWasRead)
     for (const auto& [text, message] : cases) {
         Loader l;
         EXPECT_EQ(l.load(text), LoadResult::FormatError) << message;
-        ASSERT_EQ(l.dialogs.messages.size(), 1u);
         // What was read stays, and the address index is rebuilt from it.
         EXPECT_EQ(
-            std::tuple(l.dialogs.messages[0].text, l.dialogs.messages[0].icon, l.general.TextGenIDString,
-                       l.config.Pins[3].Description, l.config.DccFirstIndex[4]),
-            std::tuple("Error in configuration file: " + message + tail, Icon::Warning, "Kept", "Lamp", 1));
+            std::tuple(l.dialogs.messages, l.general.TextGenIDString, l.config.Pins[3].Description,
+                       l.config.DccFirstIndex[4]),
+            std::tuple(std::vector<Shown>{{"Error in configuration file: " + message + tail, Icon::Warning}},
+                       "Kept", "Lamp", 1));
     }
 
     // Index 32 (the spare record), aspect 12 and step 9 are within the bounds.

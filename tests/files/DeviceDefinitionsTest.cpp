@@ -68,13 +68,13 @@ TEST(DeviceLoading, PinsGetClearedAspectsAndAWarningWhenAlreadyUsed)
     r.config.Pins[7].Aspects[4].Description = "old aspect";
     r.config.Pins[7].Aspects[4].Steps[2].Instruction = 9;
     ASSERT_TRUE(r.load(kTwoDevices, "Signal", 5));
-    ASSERT_EQ(r.dialogs.messages.size(), 1u);
     // Overwritten all the same, the old aspects cleared.
     const PinRecord& p = r.config.Pins[7];
+    EXPECT_EQ(std::tuple(p.Description, p.Aspects[4].Description, p.Aspects[4].Steps[2].Instruction),
+              std::tuple("green", "", 0));
     EXPECT_EQ(
-        std::tuple(r.dialogs.messages[0].text, r.dialogs.messages[0].icon, p.Description,
-                   p.Aspects[4].Description, p.Aspects[4].Steps[2].Instruction),
-        std::tuple("The following Pin numbers were already used: \r\n 6, 8", Icon::Warning, "green", "", 0));
+        r.dialogs.messages,
+        (std::vector<Shown>{{"The following Pin numbers were already used: \r\n 6, 8", Icon::Warning}}));
 }
 
 TEST(DeviceLoading, DissolvesTheOldDeviceAtTheHeadAndAtEachTarget)

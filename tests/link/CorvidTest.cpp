@@ -65,20 +65,18 @@ TEST_F(Scripted, OldSystemRefusedWithProtocolText)
     port.queue(corvidFrame({1, 2, 0x18, 0x00}));
     port.queue(corvidFrame({}, 1));
     EXPECT_FALSE(corvid.CheckCorvid_Click(true));
-    ASSERT_EQ(dialogs.messages.size(), 1u);
     // The final poll is sent all the same.
-    EXPECT_EQ(
-        std::tuple(link.settings.CheckCorvid, dialogs.messages[0].text, dialogs.messages[0].icon,
-                   port.take().size()),
-        std::tuple(false, "Your system does not support this function\r\nProtocol = 3.0", Icon::Warning, 8u));
+    EXPECT_EQ(std::tuple(link.settings.CheckCorvid, port.take().size()), std::tuple(false, 8u));
+    EXPECT_EQ(dialogs.messages,
+              (std::vector<Shown>{
+                  {"Your system does not support this function\r\nProtocol = 3.0", Icon::Warning}}));
 }
 
 TEST_F(Scripted, NoAnswerAndBadCheckByte)
 {
     EXPECT_FALSE(corvid.CheckCorvid_Click(true)); // nothing answers the poll
-    ASSERT_EQ(dialogs.messages.size(), 1u);
-    EXPECT_EQ(std::tuple(dialogs.messages[0].text, dialogs.messages[0].icon, link.settings.CheckCorvid),
-              std::tuple("No answer from Corvid", Icon::Warning, false));
+    EXPECT_EQ(std::tuple(dialogs.messages, link.settings.CheckCorvid),
+              std::tuple(std::vector<Shown>{{"No answer from Corvid", Icon::Warning}}, false));
 
     dialogs.clear();
     auto bad = corvidFrame({1, 2, 3});
@@ -170,10 +168,9 @@ TEST_F(Simulated, TransparentModeByUnitTypeAndVersion)
         r.system.setSystemVersion(3100); // too old for tunneling: no question asked
         r.system.setUnit(unit, version);
         EXPECT_EQ(r.corvid.cmdSetTM_Click(), switched) << text;
-        ASSERT_EQ(r.dialogs.messages.size(), 1u) << text;
-        EXPECT_EQ(std::tuple(r.dialogs.messages[0].text, r.dialogs.messages[0].icon, r.system.transparent(),
-                             r.dialogs.questions.size()),
-                  std::tuple(text, switched ? Icon::Information : Icon::Warning, switched, 0u));
+        EXPECT_EQ(std::tuple(r.dialogs.messages, r.system.transparent(), r.dialogs.questions.size()),
+                  std::tuple(std::vector<Shown>{{text, switched ? Icon::Information : Icon::Warning}},
+                             switched, 0u));
     }
 }
 

@@ -41,8 +41,7 @@ TEST_F(EventScripted, ReadSinglePinUsesTheDifferentReplyLayoutsAndShowsTheEntrie
 {
     s.eventControl.TextECpin = "40"; // clamped to pin 31
     // Event-On: length 7, an initial aspect entry before the slots; Event-Off: length 6.
-    m.answer({116, 31, 0x7F, 0x01, 0x1F, 0x25, 0x3A});
-    m.answer({117, 31, 0x04, 0x1F, 0x2F, 0x3F});
+    m.answer({{116, 31, 0x7F, 0x01, 0x1F, 0x25, 0x3A}, {117, 31, 0x04, 0x1F, 0x2F, 0x3F}});
     EXPECT_TRUE(ReadSingleEvents(s));
     EXPECT_EQ(std::tuple(m.requests, s.eventControl.TextECpin, s.eventControl.TextECon,
                          s.eventControl.TextECoff, s.config.events(31).OnEvent[2]),
@@ -86,9 +85,8 @@ TEST_F(EventScripted, EnableMapsAreTheInverseOfTheBoxes)
     WriteEnableMaps(s);
     s.general.CheckInitEE = {1, 0, 1, 1, 0, 1, 1, 1};
     WriteEnableMaps(s);
-    EXPECT_EQ(m.requests, (std::vector<Data>{{96, 11, 0, 0}, {96, 11, 15, 15}, {96, 11, 2, 1}}));
+    EXPECT_EQ(m.take(), (std::vector<Data>{{96, 11, 0, 0}, {96, 11, 15, 15}, {96, 11, 2, 1}}));
 
-    m.requests.clear();
     m.answer({112, 11, 0x12, 0x05}); // bits 4..7 unused
     EXPECT_TRUE(ReadEnableMaps(s));
     EXPECT_EQ(std::tuple(m.requests, s.general.CheckInitEE),

@@ -53,12 +53,11 @@ TEST_F(GeneralCommands, DccAddressIsSixBitsLowAndTheRestHighBothWays)
     m.answer({112, 4, 10, 3});     // 3 * 64 + 10 = 202
     m.answer({112, 12, 5, 1});     // 69
     EXPECT_TRUE(ReadDCCSettings(s));
-    EXPECT_EQ(m.requests, (std::vector<Data>{{112, 5}, {112, 4}, {112, 12}}));
+    EXPECT_EQ(m.take(), (std::vector<Data>{{112, 5}, {112, 4}, {112, 12}}));
     EXPECT_EQ(std::tuple(g.OptGenDCC_PRP, g.ChkGenDCC_BPSI, g.ChkGenDCCAllow0, g.TextGenDCCAddress,
                          g.TextGenXDCCAddress, refreshed),
               std::tuple(2, 1, 1, "202", "69", 2));
 
-    m.requests.clear();
     g.ChkGenDCC_BPSI = 0;
     EXPECT_TRUE(WriteDCCSettings(s));
     EXPECT_EQ(m.requests, (std::vector<Data>{{96, 5, 2 + 8}, {96, 4, 10, 3}, {96, 12, 5, 1}}));
@@ -67,13 +66,9 @@ TEST_F(GeneralCommands, DccAddressIsSixBitsLowAndTheRestHighBothWays)
 TEST_F(GeneralCommands, DccOptionsAndExtendedAddressErrorsAreToldAndTheReaderGoesOn)
 {
     // The address item's errors and a missing reply: FaultMatrix GeneralRead_*.
-    m.answer({112, 5}); // length 2
-    m.answer({112, 4, 10, 3});
-    m.answer({112, 12, 5}); // length 3
+    m.answer({{112, 5}, {112, 4, 10, 3}, {112, 12, 5}}); // the first and the last one byte short
     EXPECT_TRUE(ReadDCCSettings(s));
-    m.answer({113, 5, 0});
-    m.answer({112, 4, 10, 3});
-    m.answer({112, 12, 5, 1});
+    m.answer({{113, 5, 0}, {112, 4, 10, 3}, {112, 12, 5, 1}});
     EXPECT_TRUE(ReadDCCSettings(s));
     EXPECT_EQ(messages(),
               (std::vector<std::string>{"Received Address, cannot read DCC options", "No valid response",
@@ -85,9 +80,7 @@ TEST_F(GeneralCommands, SerialAddressingNativeBitOnlyCountsWithFlexAddressingOff
     int refreshed = 0;
     s.onPinAddressDisplayChanged = [&] { ++refreshed; };
     s.config.NumberingBase = 1;
-    m.answer({112, 8, 0, 64});
-    m.answer({112, 2, 17});
-    m.answer({112, 3, 1, 2 + 16, 4, 8}); // bit 4 of the second group is ignored
+    m.answer({{112, 8, 0, 64}, {112, 2, 17}, {112, 3, 1, 2 + 16, 4, 8}}); // bit 4 of group 2 is ignored
     EXPECT_TRUE(ReadSerialAddressing(s));
     EXPECT_EQ(m.requests, (std::vector<Data>{{112, 8}, {112, 2}, {112, 3}}));
     // The two modes exclude each other; addresses are shown with the numbering base.
@@ -98,9 +91,7 @@ TEST_F(GeneralCommands, SerialAddressingNativeBitOnlyCountsWithFlexAddressingOff
                          std::array<int, 16>{1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1}, 1));
 
     // Flex-addressing on: bit 6 is not looked at, the whole byte is the flex-address.
-    m.answer({112, 8, 1, 64 + 5});
-    m.answer({112, 2, 17});
-    m.answer({112, 3, 0, 0, 0, 0});
+    m.answer({{112, 8, 1, 64 + 5}, {112, 2, 17}, {112, 3, 0, 0, 0, 0}});
     EXPECT_TRUE(ReadSerialAddressing(s));
     EXPECT_EQ(std::tuple(g.CheckGenLynxaddr, g.CheckGenKestrelNative, g.LynxFlexAddress, g.TextGenLynxaddr,
                          g.TextGenLynxaddrVisible, g.CheckGenKestrelNativeVisible),
@@ -108,9 +99,7 @@ TEST_F(GeneralCommands, SerialAddressingNativeBitOnlyCountsWithFlexAddressingOff
     EXPECT_TRUE(messages().empty());
 
     // Each wrong reply is told, and the reader goes on.
-    m.answer({112, 8, 0});             // length 3
-    m.answer({112, 9, 5});             // wrong echo
-    m.answer({112, 3, 0, 0, 0, 0, 0}); // length 7
+    m.answer({{112, 8, 0}, {112, 9, 5}, {112, 3, 0, 0, 0, 0, 0}}); // length 3, wrong echo, length 7
     EXPECT_TRUE(ReadSerialAddressing(s));
     EXPECT_EQ(messages(), (std::vector<std::string>{"No valid response, size = 3 expected = 4",
                                                     "No valid response, msg = 112,9 expected = 112,2",
@@ -124,9 +113,8 @@ TEST_F(GeneralCommands, SerialAddressingWritesChainOnSuccess)
     g.ExtendedAddress = 33;
     g.CheckGenXGM = {1, 1, 1, 1, 0, 1, 0, 0, 0, 0, 0, 0, 1, 0, 0, 1};
     EXPECT_TRUE(WriteSerialAddressing(s));
-    EXPECT_EQ(m.requests, (std::vector<Data>{{96, 8, 0, 64}, {96, 3, 15, 2, 0, 9}, {96, 2, 33}}));
+    EXPECT_EQ(m.take(), (std::vector<Data>{{96, 8, 0, 64}, {96, 3, 15, 2, 0, 9}, {96, 2, 33}}));
 
-    m.requests.clear();
     g.CheckGenKestrelNative = 0;
     g.CheckGenLynxaddr = 1;
     WriteSerialAddressing(s);
@@ -138,13 +126,12 @@ TEST_F(GeneralCommands, FlexAddressingWarningUnlessSuppressed)
     m.dialogs.answers = {Answer::Cancel};
     g.CheckGenLynxaddr = 1;
     CheckGenLynxaddr_Click(s);
-    ASSERT_EQ(m.dialogs.questions.size(), 1u);
-    EXPECT_EQ(std::tuple(m.dialogs.questions[0].text, m.dialogs.questions[0].icon, g.CheckGenLynxaddr,
-                         g.CheckGenKestrelNativeVisible),
-              std::tuple("Lynx Flexible Addressing is a complex concept !!\r\n"
-                         "It should only be activated by experienced users\r\n"
-                         "that understand the details very well !",
-                         Icon::Warning, 0, true));
+    EXPECT_EQ(std::tuple(m.dialogs.questions, g.CheckGenLynxaddr, g.CheckGenKestrelNativeVisible),
+              std::tuple(std::vector<Shown>{{"Lynx Flexible Addressing is a complex concept !!\r\n"
+                                             "It should only be activated by experienced users\r\n"
+                                             "that understand the details very well !",
+                                             Icon::Warning}},
+                         0, true));
 
     g.CheckGenLynxaddr = 1;
     CheckGenLynxaddr_Click(s); // answered OK
@@ -160,9 +147,7 @@ TEST_F(GeneralCommands, FlexAddressingWarningUnlessSuppressed)
     EXPECT_FALSE(g.CheckGenLynxaddrVisible);
 
     // The read button suppresses the warning only for the read.
-    m.answer({112, 8, 1, 3});
-    m.answer({112, 2, 0});
-    m.answer({112, 3, 0, 0, 0, 0});
+    m.answer({{112, 8, 1, 3}, {112, 2, 0}, {112, 3, 0, 0, 0, 0}});
     g.SuppressAddrWarning = false;
     EXPECT_TRUE(CommandGenAddrRead_Click(s));
     EXPECT_EQ(std::tuple(m.dialogs.questions.size(), g.SuppressAddrWarning), std::tuple(2u, false));
@@ -201,8 +186,7 @@ TEST_F(GeneralCommands, LedByteZeroMeansElementSevenAndBitSevenIsIgnored)
 {
     g.CheckLCGreen = {1, 1, 1, 1, 1, 1, 1, 0};
     g.CheckLCOrange = {1, 0, 1, 0, 1, 0, 1, 1};
-    m.answer({112, 6, 0});
-    m.answer({112, 7, 5});
+    m.answer({{112, 6, 0}, {112, 7, 5}});
     EXPECT_TRUE(ReadLEDControl(s));
     EXPECT_EQ(std::tuple(m.requests, g.CheckLCGreen, g.CheckLCOrange),
               std::tuple(std::vector<Data>{{112, 6}, {112, 7}}, std::array<int, 8>{0, 0, 0, 0, 0, 0, 0, 1},
@@ -212,8 +196,7 @@ TEST_F(GeneralCommands, LedByteZeroMeansElementSevenAndBitSevenIsIgnored)
     setLedBoxes(boxes, 128);
     EXPECT_EQ(boxes, (std::array<int, 8>{0, 0, 0, 0, 0, 0, 0, 0}));
 
-    m.answer({112, 6, 1 + 8 + 64});
-    m.answer({112, 6, 3}); // wrong echo for orange: message, green kept
+    m.answer({{112, 6, 1 + 8 + 64}, {112, 6, 3}}); // orange echoed wrong: a message, green kept
     EXPECT_TRUE(ReadLEDControl(s));
     EXPECT_EQ(g.CheckLCGreen, (std::array<int, 8>{1, 0, 0, 1, 0, 0, 1, 0}));
     EXPECT_EQ(messages(), (std::vector<std::string>{"No valid response"}));

@@ -49,9 +49,7 @@ TEST(ReadPinConfig, ModeChangeClearsAndRepliesAreNormalised)
 TEST(ReadPinConfig, WrongPinOrCommandIsNoValidResponse)
 {
     ScriptedModule rig;
-    rig.answer({'q', 8, 1, 64});
-    rig.answer({'r', 7, 1, 64});
-    rig.answer({'q', 7}); // no configuration bytes
+    rig.answer({{'q', 8, 1, 64}, {'r', 7, 1, 64}, {'q', 7}}); // the last without configuration bytes
     for (int i = 0; i < 3; ++i)
         EXPECT_FALSE(ReadPinConfig(rig.session, 1, 7));
     EXPECT_EQ(rig.dialogs.texts(), std::vector<std::string>(3, "No valid response"));

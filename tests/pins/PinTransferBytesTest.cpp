@@ -17,8 +17,7 @@ TEST(PinRead, CodeBytesFadeAndAspectMajorOrder)
     for (int a = 0; a < 12; ++a)
         for (int s = 0; s < 3; ++s)
             rig.answer({115, 5, a, s, a == 0 ? codes[s] : 0, 1, 2, 3, 4});
-    rig.answer({116, 5, 0x73, 0x0F, 0x1F, 0x2F, 0x3F});
-    rig.answer({118, 5, 0x02, 0x11, 0x40});
+    rig.answer({{116, 5, 0x73, 0x0F, 0x1F, 0x2F, 0x3F}, {118, 5, 0x02, 0x11, 0x40}});
     ASSERT_TRUE(PAspReadPin(rig.session, 5));
     const auto& pin = rig.session.config.Pins[5];
     // Entry 0x73: initial aspect 3, stored plus one.
@@ -43,9 +42,9 @@ TEST(PinRead, AddressBytesInAnyOrderAndDevicePointer)
     for (const Case& c : {Case{30, {0x43, 0x0B, 0x15}, -29}, Case{30, {0x15, 0x41, 0x0B}, 1},
                           Case{0, {0x0B, 0x15, 0x5F}, 31}}) {
         ScriptedModule rig;
-        rig.answer({114, c.pin, 0});
-        rig.answer({116, c.pin, 0x7F, 0x0F, 0x1F, 0x2F, 0x3F});
-        rig.answer({118, c.pin, c.bytes[0], c.bytes[1], c.bytes[2]});
+        rig.answer({{114, c.pin, 0},
+                    {116, c.pin, 0x7F, 0x0F, 0x1F, 0x2F, 0x3F},
+                    {118, c.pin, c.bytes[0], c.bytes[1], c.bytes[2]}});
         ASSERT_TRUE(PAspReadPin(rig.session, c.pin));
         const auto& pin = rig.session.config.Pins[c.pin];
         EXPECT_EQ(std::tuple(pin.DeviceOffset, pin.DccCount, pin.XDccCount, pin.LynxCount, pin.InitAspect),
@@ -64,8 +63,7 @@ TEST(PinRead, LayoutOtherThanTwoOrThreeReadsNoStepsAndBadRepliesFail)
     EXPECT_EQ(std::tuple(rig.session.config.Pins[3].InitAspect, rig.dialogs.texts(), rig.take()),
               std::tuple(0, std::vector<std::string>{"Read Pin Address Configuration: Invalid Response"},
                          Frames{{114, 3}, {116, 3}, {118, 3}}));
-    rig.answer({114, 3, 0});
-    rig.answer({116, 3, 0x7F, 0x0F, 0x1F, 0x2F, 0x3F});
+    rig.answer({{114, 3, 0}, {116, 3, 0x7F, 0x0F, 0x1F, 0x2F, 0x3F}});
     EXPECT_FALSE(PAspReadPin(rig.session, 3)); // no reply to the address configuration
 }
 

@@ -2,19 +2,27 @@
 #include "base/UserDialogs.h"
 
 #include <deque>
+#include <ostream>
 #include <string>
 #include <utility>
 #include <vector>
 
 namespace kestrel::test {
 
+// A message or question as it was put to the user.
+struct Shown {
+    std::string text;
+    Icon icon;
+    bool operator==(const Shown&) const = default;
+    friend void PrintTo(const Shown& s, std::ostream* os)
+    {
+        *os << s.text << " (icon " << int(s.icon) << ')';
+    }
+};
+
 // Records every message and question; answers questions from a script (OK by default).
 class RecordingDialogs : public UserDialogs {
 public:
-    struct Shown {
-        std::string text;
-        Icon icon;
-    };
     std::vector<Shown> messages;
     std::vector<Shown> questions;
     std::deque<Answer> answers;

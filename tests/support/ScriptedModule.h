@@ -9,6 +9,7 @@
 #include "session/Session.h"
 
 #include <deque>
+#include <initializer_list>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -33,6 +34,10 @@ struct ScriptedModule {
     }
 
     void answer(Data data) { replies.push_back(std::move(data)); }
+    void answer(std::initializer_list<Data> several)
+    {
+        replies.insert(replies.end(), several.begin(), several.end());
+    }
     void silence() { replies.push_back(std::nullopt); }
     // The requests so far, forgotten as they are handed out.
     std::vector<Data> take()
