@@ -1,4 +1,5 @@
 #include "files/ConfigurationFile.h"
+#include "files/DemoConfiguration.h"
 #include "files/TextFile.h"
 #include "forms/MainWindowForm.h"
 #include "ops/Bulk.h"
@@ -170,6 +171,17 @@ TEST(DataFileWriting, CompactWithoutDescriptionsIsHeaderGeneralEventsAndEnd)
     g.CheckGenKestrelNative = 1;
     g.LynxFlexAddress = 9;
     EXPECT_NE(writeConfigurationText(c, g, SaveForm::Compact).find("\"XAD\",64,0,0,"), std::string::npos);
+}
+
+TEST(DemoConfiguration, BuildsItsAddressIndexAndWritesAsItsDataFileText)
+{
+    Configuration c;
+    GeneralSettings g;
+    fillDemoConfiguration(c, g);
+    EXPECT_GT(c.DccTotal, 0); // the address index is built
+
+    // It is a compact data file as this program writes it.
+    EXPECT_EQ(writeConfigurationText(c, g, SaveForm::Compact), demoConfigurationText());
 }
 
 TEST(DataFileReading, FullFileReadsBackToTheSameTextUnderACommaDecimalLocale)

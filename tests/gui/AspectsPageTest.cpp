@@ -248,11 +248,7 @@ TEST(AspectsPage, EveryPinJobRunsFromItsButton)
     sameSteps();
     EXPECT_EQ(m.page.ComboPAspInst[8]->currentText(), "Wait");
 
-    struct Case {
-        QPushButton* button;
-        const char* outcome;
-    };
-    const Case cases[] = {
+    const std::pair<QPushButton*, const char*> cases[] = {
         {m.page.CommandPAspWriteAspect, "Write Aspect done"},
         {m.page.CommandReadPin, "Read Pin done"},
         {m.page.CommandWritePin, "Write Pin done"},
@@ -262,9 +258,9 @@ TEST(AspectsPage, EveryPinJobRunsFromItsButton)
         {m.w.CommandReadAllPins, "Read All Pins done"},
         {m.w.CommandVerifyAllPins, "Verify All Pins done"},
     };
-    for (const Case& c : cases) {
-        m.job(c.button);
-        EXPECT_TRUE(m.status().startsWith(c.outcome)) << c.outcome << ": " << m.status().toStdString();
+    for (const auto& [button, outcome] : cases) {
+        m.job(button);
+        EXPECT_TRUE(m.status().startsWith(outcome)) << outcome << ": " << m.status().toStdString();
     }
     sameSteps();
     EXPECT_FALSE(m.page.CommandPAspTestAspect->isEnabled()); // the module has no test command

@@ -101,26 +101,24 @@ TEST(HelpTools, PatternToolComposesTheParameterFromItsBoxes)
 TEST(HelpTools, TimeToolShowsTheDurationsAndOkSetsTimeAndBase)
 {
     TimeToolDialog tool;
-    struct Case {
-        QString typed, base;
-        int slider;
-        QString maxTime, time;
-    };
-    for (const Case& k :
-         {Case{"3", "3", 63, "10:45.12", "10:45.12"}, Case{"0", "0", 50, "00:01.26", "00:01.00"},
-          Case{"7", "3", 1, "10:45.12", "00:10.24"}}) {
+    // The base typed, the base taken, the slider, the longest time and the time shown.
+    const std::tuple<QString, QString, int, QString, QString> cases[] = {
+        {"3", "3", 63, "10:45.12", "10:45.12"},
+        {"0", "0", 50, "00:01.26", "00:01.00"},
+        {"7", "3", 1, "10:45.12", "00:10.24"}};
+    for (const auto& [typed, base, slider, maxTime, time] : cases) {
         StepRecord step{102, 0, 0, 0, 5, 1}; // "Wait"
         onOpen(tool, [&] {
-            enter(tool.TextCTBase, k.typed);
-            tool.SliderCTTime->setValue(k.slider);
+            enter(tool.TextCTBase, typed);
+            tool.SliderCTTime->setValue(slider);
             EXPECT_EQ(std::tuple(tool.TextCTBase->text(), tool.UpDownCTBase->value(),
                                  tool.LabelCTMaxTimeValue->text(), tool.LabelCTTimeValue->text()),
-                      std::tuple(k.base, k.base.toInt(), k.maxTime, k.time))
-                << k.typed.toStdString();
+                      std::tuple(base, base.toInt(), maxTime, time))
+                << typed.toStdString();
             click(tool.OKButton);
         });
         EXPECT_TRUE(tool.run(step));
-        EXPECT_EQ(std::tuple(step.Par2, step.Par3), std::tuple(k.slider, k.base.toInt()));
+        EXPECT_EQ(std::tuple(step.Par2, step.Par3), std::tuple(slider, base.toInt()));
     }
 }
 

@@ -128,12 +128,8 @@ TEST(AspectEditor, StepToolInsertAndDelete)
     c.CurrentAspect = 2;
     // The steps after the edit, as the mark they hold (-1: empty). Layout 2 shows three
     // rows, layout 3 nine: the edit stays within them, steps below are untouched.
-    struct Case {
-        int layout, row;
-        void (*edit)(Configuration&);
-        std::array<int, kStepRecords> steps;
-    };
-    const Case cases[] = {
+    // The layout, the row selected, the edit, the steps after it.
+    const std::tuple<int, int, void (*)(Configuration&), std::array<int, kStepRecords>> cases[] = {
         {2, 0, insertStep, {-1, 0, 1, 3, 4, 5, 6, 7, 8, 9}}, // old row 2 is lost
         {2, 2, insertStep, {0, 1, -1, 3, 4, 5, 6, 7, 8, 9}},
         {2, 0, deleteStep, {1, 2, -1, 3, 4, 5, 6, 7, 8, 9}},
@@ -141,14 +137,14 @@ TEST(AspectEditor, StepToolInsertAndDelete)
         {3, 0, insertStep, {-1, 0, 1, 2, 3, 4, 5, 6, 7, 9}},
         {3, 3, deleteStep, {0, 1, 2, 4, 5, 6, 7, 8, -1, 9}},
     };
-    for (const Case& k : cases) {
-        c.Pins[1].AspectLayout = static_cast<std::uint8_t>(k.layout);
+    for (const auto& [layout, row, edit, steps] : cases) {
+        c.Pins[1].AspectLayout = static_cast<std::uint8_t>(layout);
         const AspectRecord& a = filledAspect(c);
-        selectStepRow(c, k.row);
-        k.edit(c);
+        selectStepRow(c, row);
+        edit(c);
         for (int s = 0; s < kStepRecords; ++s)
-            EXPECT_EQ(a.Steps[s], k.steps[s] < 0 ? StepRecord{} : mark(k.steps[s]))
-                << "layout " << k.layout << " row " << k.row << " step " << s;
+            EXPECT_EQ(a.Steps[s], steps[s] < 0 ? StepRecord{} : mark(steps[s]))
+                << "layout " << layout << " row " << row << " step " << s;
     }
     EXPECT_THROW(selectStepRow(c, 9), ProgramFault);
     // An option beyond the three is a program fault (the clamps: AspectsPageTest).

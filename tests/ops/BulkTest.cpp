@@ -70,12 +70,8 @@ TEST_F(BulkSim, GeneralMismatchesAreAllListedInOrder)
 
 TEST_F(BulkSim, ReplyErrorsStopTheGeneralStageExceptAWrongDccAddressLength)
 {
-    struct Case {
-        sim::Refusal refusal;
-        int item;
-        std::string lines; // between the first line and "Verification Stopped"
-    };
-    const Case cases[] = {
+    // The refusal, the item refused, the lines between the first and "Verification Stopped".
+    const std::tuple<sim::Refusal, int, std::string> cases[] = {
         {sim::Refusal::WrongLength, 13, "Serial Port Config: No valid response, size = 5 expected = 4\r\n"},
         {sim::Refusal::WrongEcho, 8,
          "Serial Address Settings: No valid response, msg = 113,8 expected = 112,8\r\n"},
@@ -88,13 +84,13 @@ TEST_F(BulkSim, ReplyErrorsStopTheGeneralStageExceptAWrongDccAddressLength)
         {sim::Refusal::NoReply, 6, ""},
     };
     s.general.ComboGenBaud = 0; // differs from the module: seen only by a stage that goes on
-    for (const Case& c : cases) {
+    for (const auto& [refusal, item, lines] : cases) {
         sim.module.faults.refused.clear();
-        sim.module.faults.refuse(112, c.refusal, c.item);
+        sim.module.faults.refuse(112, refusal, item);
         EXPECT_FALSE(VerifyAll(s));
         EXPECT_EQ(s.report.txtVerification,
-                  "Start General Settings Verification\r\n" + c.lines + "Verification Stopped\r\n")
-            << c.item;
+                  "Start General Settings Verification\r\n" + lines + "Verification Stopped\r\n")
+            << item;
     }
 }
 
@@ -179,13 +175,9 @@ TEST_F(BulkSim, CancelledReadAllKeepsWhatWasReadAndStopsQuietly)
 // Told once, naming where the value is.
 TEST_F(BulkSim, AValueThatCannotBeSentStopsTheWriteBeforeItsFirstByte)
 {
-    struct Case {
-        std::function<void(Session&)> spoil;
-        std::function<bool(Session&)> write;
-        std::string message;
-    };
     const auto writeAll = [](Session& x) { return WriteAll(x, true); };
-    const Case cases[] = {
+    // What spoils the model, the write, the one message.
+    const std::tuple<std::function<void(Session&)>, std::function<bool(Session&)>, std::string> cases[] = {
         {[](Session& x) { x.general.TextGenDCCAddress = "9000"; }, writeAll,
          "DCC address 9000 cannot be sent: 0..8191"},
         {[](Session& x) { x.general.TextGenIDString = "Caf\xc3\xa9"; }, WriteIDString,
@@ -199,15 +191,15 @@ TEST_F(BulkSim, AValueThatCannotBeSentStopsTheWriteBeforeItsFirstByte)
         {[](Session& x) { x.config.EventMap[9].OffEvent[3] = 15; }, WriteAllEvents,
          "Pin 9: Event-Off(3) action 15 cannot be sent: -1..14"},
     };
-    for (const Case& c : cases) {
+    for (const auto& [spoil, write, message] : cases) {
         auto fresh = sim.fresh();
         fresh->config = s.config;
         fresh->general = s.general;
-        c.spoil(*fresh);
+        spoil(*fresh);
         sim.dialogs.clear();
         const long before = sim.bus.stats().bytesIn;
-        EXPECT_FALSE(c.write(*fresh)) << c.message;
-        EXPECT_EQ(sim.dialogs.texts(), std::vector<std::string>{c.message});
-        EXPECT_EQ(sim.bus.stats().bytesIn, before) << c.message;
+        EXPECT_FALSE(write(*fresh)) << message;
+        EXPECT_EQ(std::tuple(sim.dialogs.texts(), sim.bus.stats().bytesIn),
+                  std::tuple(std::vector<std::string>{message}, before));
     }
 }

@@ -216,12 +216,6 @@ struct RefuseFirstCall : Progress {
     bool cancelled() override { return calls++ == 0; }
     int calls = 0;
 };
-
-struct MultiFrameWriter {
-    const char* name;
-    bool (*write)(Session&);
-    std::vector<Data> afterFailedFirst; // frames sent when the first one was not taken
-};
 } // namespace
 
 TEST_F(GeneralCommands, MultiFrameWritersSendEveryFrameUnlessTheyChainOnSuccess)
@@ -232,19 +226,20 @@ TEST_F(GeneralCommands, MultiFrameWritersSendEveryFrameUnlessTheyChainOnSuccess)
     g.CheckLCGreen = {0, 0, 0, 1, 0, 0, 0, 0};
     g.CheckLCOrange = {1, 0, 0, 0, 0, 0, 0, 0};
     g.ExtendedAddress = 33;
-    // The other writers send every frame; the serial addressing ones chain on success.
-    const MultiFrameWriter writers[] = {
+    // The other writers send every frame; the serial addressing ones chain on success. The writer,
+    // and the frames it sends when the first one was not taken.
+    const std::tuple<const char*, bool (*)(Session&), std::vector<Data>> writers[] = {
         {"WriteDCCSettings", WriteDCCSettings, {{96, 4, 10, 3}, {96, 12, 5, 1}}},
         {"WriteLEDControl", WriteLEDControl, {{96, 7, 1}}},
         {"WriteSerialAddressing", WriteSerialAddressing, {}},
     };
-    for (const auto& w : writers) {
-        SCOPED_TRACE(w.name);
+    for (const auto& [name, write, afterFailedFirst] : writers) {
+        SCOPED_TRACE(name);
         RefuseFirstCall refuse;
         s.link.setProgress(&refuse);
-        EXPECT_FALSE(w.write(s));
+        EXPECT_FALSE(write(s));
         s.link.setProgress(nullptr);
-        EXPECT_EQ(m.take(), w.afterFailedFirst);
+        EXPECT_EQ(m.take(), afterFailedFirst);
         EXPECT_TRUE(messages().empty());
     }
 }

@@ -1,6 +1,7 @@
 // Write Changes: only what differs from a trusted image of the module goes out, else it asks.
 #include "ops/Bulk.h"
 #include "ops/PinTransfer.h"
+#include "support/Frames.h"
 #include "support/SimSession.h"
 
 #include <gtest/gtest.h>
@@ -50,12 +51,8 @@ struct WriteChangesSim : ::testing::Test {
 
 TEST_F(WriteChangesSim, OnlyWhatDiffersGoesOutInWriteAllsOrder)
 {
-    struct Case {
-        const char* what;
-        std::function<void(Session&)> edit;
-        std::vector<int> commands; // after the ID string request (112)
-    };
-    const std::vector<Case> cases = {
+    // What, the edit, the commands sent after the ID string request (112).
+    const std::tuple<const char*, std::function<void(Session&)>, std::vector<int>> cases[] = {
         {"one step", [](Session& t) { t.config.step(3, 1, 4).Par1 ^= 1; }, {112, 99}},
         {"two items",
          [](Session& t) {
@@ -63,10 +60,8 @@ TEST_F(WriteChangesSim, OnlyWhatDiffersGoesOutInWriteAllsOrder)
              t.config.events(5).OffEvent[2] ^= 1;
          },
          {112, 96, 101}},
-        {"a layout",
-         [](Session& t) { t.config.pin(1).AspectLayout = 3; },
-         {112, 98, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99,
-          99,  99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99, 99}},
+        {"a layout", [](Session& t) { t.config.pin(1).AspectLayout = 3; },
+         concat({{112, 98}, std::vector<int>(36, 99)})}, // all 4 x 9 steps
         {"a configuration and an initial aspect",
          [](Session& t) {
              t.config.pin(6).InitAspect ^= 1;
@@ -75,12 +70,12 @@ TEST_F(WriteChangesSim, OnlyWhatDiffersGoesOutInWriteAllsOrder)
          {112, 100, 97}},
         {"nothing", [](Session&) {}, {112}},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.what);
+    for (const auto& [what, edit, expected] : cases) {
+        SCOPED_TRACE(what);
         sent.clear();
-        c.edit(s);
+        edit(s);
         ASSERT_TRUE(WriteChanges(s));
-        EXPECT_EQ(commands(), c.commands);
+        EXPECT_EQ(commands(), expected);
         EXPECT_TRUE(moduleMatches());
     }
     EXPECT_EQ(sim.dialogs.texts().back(), "Nothing to write: the module holds this configuration.");

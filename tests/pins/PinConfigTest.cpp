@@ -102,13 +102,8 @@ TEST(LiveOutput, ServoAndPwmSubCommands)
 
 TEST(PinEdits, BoxesClampToTheirRangesAndStoreTheirEncoding)
 {
-    struct Case {
-        PinField field;
-        const char* typed;
-        const char* shown;
-        int stored;
-    };
-    const Case cases[] = {
+    // The box, what is typed, what it then shows, what it stores.
+    const std::tuple<PinField, const char*, const char*, int> cases[] = {
         {PinField::TextSrvMaxSpd, "0", "1", 1},      {PinField::TextSrvMaxAccel, "200", "127", 127},
         {PinField::TextBounceUp, "5", "0", 64},      {PinField::TextBounceUp, "-70", "-63", 1},
         {PinField::TextBounceDown, "-3", "0", 64},   {PinField::TextBounceDown, "63", "63", 127},
@@ -117,13 +112,12 @@ TEST(PinEdits, BoxesClampToTheirRangesAndStoreTheirEncoding)
         {PinField::TextPWMLevel, "40", "31", 31},    {PinField::TextPWMAccel, "-5", "0", 0},
         {PinField::TextPWMOnLevel, "32", "31", 31},  {PinField::TextInputDelay1, "99", "31", 31},
     };
-    for (const Case& c : cases) {
+    for (const auto& [field, typed, shown, stored] : cases) {
         PinRecord pin;
-        const CommittedField out = commitPinField(pin, c.field, c.typed);
-        EXPECT_EQ(out.text, c.shown) << c.typed;
-        EXPECT_EQ(out.stored, c.stored) << c.typed;
-        const PinFieldRule rule = pinFieldRule(c.field);
-        EXPECT_EQ(rule.byte == 0 ? pin.OutputValue : pin.P(rule.byte), c.stored);
+        const CommittedField out = commitPinField(pin, field, typed);
+        EXPECT_EQ(std::tuple(out.text, out.stored), std::tuple(shown, stored)) << typed;
+        const PinFieldRule rule = pinFieldRule(field);
+        EXPECT_EQ(rule.byte == 0 ? pin.OutputValue : pin.P(rule.byte), stored);
     }
 
     PinRecord pin;

@@ -34,21 +34,17 @@ TEST(PinRead, CodeBytesFadeAndAspectMajorOrder)
 
 TEST(PinRead, AddressBytesInAnyOrderAndDevicePointer)
 {
-    struct Case {
-        int pin;
-        std::vector<int> bytes;
-        int offset;
-    };
-    for (const Case& c : {Case{30, {0x43, 0x0B, 0x15}, -29}, Case{30, {0x15, 0x41, 0x0B}, 1},
-                          Case{0, {0x0B, 0x15, 0x5F}, 31}}) {
+    // The pin, the three address bytes, the device offset they give.
+    const std::tuple<int, std::array<int, 3>, int> cases[] = {
+        {30, {0x43, 0x0B, 0x15}, -29}, {30, {0x15, 0x41, 0x0B}, 1}, {0, {0x0B, 0x15, 0x5F}, 31}};
+    for (const auto& [p, bytes, offset] : cases) {
         ScriptedModule rig;
-        rig.answer({{114, c.pin, 0},
-                    {116, c.pin, 0x7F, 0x0F, 0x1F, 0x2F, 0x3F},
-                    {118, c.pin, c.bytes[0], c.bytes[1], c.bytes[2]}});
-        ASSERT_TRUE(PAspReadPin(rig.session, c.pin));
-        const auto& pin = rig.session.config.Pins[c.pin];
+        rig.answer(
+            {{114, p, 0}, {116, p, 0x7F, 0x0F, 0x1F, 0x2F, 0x3F}, {118, p, bytes[0], bytes[1], bytes[2]}});
+        ASSERT_TRUE(PAspReadPin(rig.session, p));
+        const auto& pin = rig.session.config.Pins[p];
         EXPECT_EQ(std::tuple(pin.DeviceOffset, pin.DccCount, pin.XDccCount, pin.LynxCount, pin.InitAspect),
-                  std::tuple(c.offset, 3, 1, 5, 0));
+                  std::tuple(offset, 3, 1, 5, 0));
     }
 }
 
