@@ -64,18 +64,16 @@ TEST(PinConfigPage, TheServoIsReadClampedWrittenToFlashReadBackAndMovedLive)
     QTest::mouseClick(rig.page->CommandPCFGSetParam[0], Qt::LeftButton);
     rig.page->TextPosition->setText("-70");
     QTest::mouseClick(rig.page->CommandSrvLevel, Qt::LeftButton);
-    EXPECT_EQ(
-        std::tuple(rig.page->TextPosition->text(), rig.page->SliderServo->value(), rig.pin(8).OutputValue),
-        std::tuple("-64", -64, 0));
+    EXPECT_EQ(std::tuple(pg.TextPosition->text(), pg.SliderServo->value(), rig.pin(8).OutputValue),
+              std::tuple("-64", -64, 0));
 
     // Jump does not change the record; the module's active position does change.
     rig.page->TextPosition->setText("30");
     QTest::mouseClick(rig.page->CommandStopSrv, Qt::LeftButton);
     EXPECT_EQ(rig.pin(8).OutputValue, 0);
     QTest::mouseClick(rig.page->CommandPCFGGetParam[0], Qt::LeftButton);
-    EXPECT_EQ(
-        std::tuple(rig.pin(8).OutputValue, rig.page->TextPosition->text(), rig.page->SliderServo->value()),
-        std::tuple(64 + 30, "30", 30));
+    EXPECT_EQ(std::tuple(rig.pin(8).OutputValue, pg.TextPosition->text(), pg.SliderServo->value()),
+              std::tuple(64 + 30, "30", 30));
     EXPECT_TRUE(rig.dialogs.messages.empty()) << rig.dialogs.messages[0].text;
 }
 

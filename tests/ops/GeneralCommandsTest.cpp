@@ -249,11 +249,10 @@ TEST_F(GeneralCommands, SerialPortLineByteAndParityCodes)
     // Baud code 4 ("38400"), 8 = data bits index 1, 32 = parity 2, 64 = stop index 1.
     m.answer({112, 13, 1, 4 + 8 + 32 + 64});
     EXPECT_TRUE(ReadSerialPortSettings(s));
-    EXPECT_EQ(std::tuple(g.CheckGenSerialEnable, g.ComboGenBaud, g.OptionGenSerialDatabits,
+    EXPECT_EQ(std::tuple(m.take(), g.CheckGenSerialEnable, g.ComboGenBaud, g.OptionGenSerialDatabits,
                          g.OptionGenSerialStop, g.OptionGenSerialParity),
-              std::tuple(1, 4, 1, 1, 2));
+              std::tuple(std::vector<Data>{{112, 13}}, 1, 4, 1, 1, 2));
 
-    m.requests.clear();
     WriteSerialPortSettings(s);
     g.OptionGenSerialParity = 3;
     g.OptionGenSerialStop = 0;
