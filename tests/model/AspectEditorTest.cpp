@@ -126,9 +126,9 @@ TEST(AspectEditor, StepToolInsertAndDelete)
     Configuration c;
     c.CurrentPin = 1;
     c.CurrentAspect = 2;
-    // The steps after the edit, as the mark they hold (-1: empty). Layout 2 shows three
-    // rows, layout 3 nine: the edit stays within them, steps below are untouched.
-    // The layout, the row selected, the edit, the steps after it.
+    // The layout, the row selected, the edit, and the steps after it as the mark they hold (-1:
+    // empty). Layout 2 shows three rows, layout 3 nine: the edit stays within them, steps below are
+    // untouched.
     const std::tuple<int, int, void (*)(Configuration&), std::array<int, kStepRecords>> cases[] = {
         {2, 0, insertStep, {-1, 0, 1, 3, 4, 5, 6, 7, 8, 9}}, // old row 2 is lost
         {2, 2, insertStep, {0, 1, -1, 3, 4, 5, 6, 7, 8, 9}},
