@@ -171,9 +171,12 @@ bool Link::send(const std::vector<int>& bytes)
         recording->push_back(bytes);
         return true;
     }
+    replyMissing = false;
     const bool ok = SendKestrelMessage(false, static_cast<int>(bytes.size()), fromVector(bytes));
+    // A write whose reply went missing may not have arrived: the rest goes out one-way, but
+    // what the module holds is no longer known.
     if (onExchange)
-        onExchange(bytes, false, ok);
+        onExchange(bytes, false, ok && !replyMissing);
     return ok;
 }
 
@@ -252,6 +255,7 @@ bool Link::SendKestrelMessage(bool expectReply, int size, const std::array<int, 
                 return false;
             ui.message("No response received, resetting bidirectional communication");
             setBidirectional(false);
+            replyMissing = true;
             if (missingReplyFails) {
                 state.LinkToggle = (state.LinkToggle + 64) % 128;
                 noteExchange();

@@ -75,6 +75,8 @@ public:
     // message, and CheckKestrelBD unchecked as always), so that a job stops there instead
     // of going on one-way. The batch tool sets it when it asked for replies.
     bool missingReplyFails = false;
+    // The last send's reply was awaited and did not come.
+    bool replyMissing = false;
 
     SerialPort& port() { return serial; }
     Clock& clock() { return time; }

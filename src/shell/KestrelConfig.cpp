@@ -30,6 +30,7 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QDialog>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QEvent>
 #include <QFileInfo>
@@ -47,6 +48,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
+#include <QScreen>
+#include <QScrollArea>
 #include <QSettings>
 #include <QSignalBlocker>
 #include <QSpinBox>
@@ -105,6 +108,40 @@ bool configurationDiffers(const Configuration& x, const GeneralSettings& g, cons
            x.XDccFirstIndex != y.XDccFirstIndex || x.LynxFirstIndex != y.LynxFirstIndex ||
            x.DccTotal != y.DccTotal || x.XDccTotal != y.XDccTotal || x.LynxTotal != y.LynxTotal ||
            filed(g) != filed(h);
+}
+
+// Hands every event of the program to a test of the window's before it is delivered.
+class EventGate : public QObject {
+public:
+    EventGate(std::function<bool(QObject*, QEvent*)> test, QObject* parent)
+        : QObject(parent), test(std::move(test))
+    {
+    }
+    bool eventFilter(QObject* watched, QEvent* event) override { return test(watched, event); }
+
+private:
+    std::function<bool(QObject*, QEvent*)> test;
+};
+
+// Whether every difference a verification reported is a pin's configuration (and there is one).
+bool onlyPinConfigurationsDiffer(const std::vector<std::string>& lines)
+{
+    bool any = false;
+    for (const std::string& line : lines)
+        if (line.find("does not compare") != std::string::npos) {
+            if (line.find("Pinconfig") == std::string::npos)
+                return false;
+            any = true;
+        }
+    return any;
+}
+
+// Whether a path lies in the program's backups folder, which is never the user's file.
+bool inBackups(const QString& path)
+{
+    const QString root = QDir(backupRoot()).canonicalPath();
+    const QString folder = QFileInfo(QFileInfo(path).absolutePath()).canonicalFilePath();
+    return !root.isEmpty() && !folder.isEmpty() && (folder == root || folder.startsWith(root + '/'));
 }
 
 // One undo step: the states before and after what the user did. Typing on in the same box
@@ -177,9 +214,16 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     CommandCompare->setToolTip("Reads the module beside the configuration and lists every difference");
     CheckWritePinConfig = named(new QCheckBox("Write pin configurations too"), "CheckWritePinConfig");
     CheckWritePinConfig->setToolTip("Also writes each pin's servo, PWM or input parameters to flash");
+    CheckWritePinConfig->setChecked(true); // so that what is written verifies
     CommandSave = named(new QPushButton("&Save File"), "CommandSave");
     CommandSave->setToolTip("Shift+Save File to save compact");
     CommandSave->installEventFilter(this);
+    // From the keyboard (Space, Return, Alt+S) the keys held decide as a mouse press's do:
+    // with Shift the compact file. A mouse press has saved at the press already.
+    connect(CommandSave, &QPushButton::clicked, this, [this] {
+        const bool shift = QApplication::keyboardModifiers() & Qt::ShiftModifier;
+        CommandSave_MouseDown(1, shift ? 1 : 0);
+    });
     CommandLoad = named(new QPushButton("L&oad File"), "CommandLoad");
     CommandReadAllPins = named(new QPushButton("Read All &Pins"), "CommandReadAllPins");
     CommandReadAllPins->setToolTip(
@@ -252,8 +296,10 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     setCentralWidget(central);
 
     LabelStatusPort = named(new QLabel, "LabelStatusPort");
+    LabelStatusModule = named(new QLabel, "LabelStatusModule");
     LabelStatusJob = named(new QLabel, "LabelStatusJob");
     statusBar()->addWidget(LabelStatusPort);
+    statusBar()->addWidget(LabelStatusModule);
     statusBar()->addWidget(LabelStatusJob, 1);
     guard->after = [this] { updateWindowState(); };
     guard->afterFault = [this] { refreshAll(); };
@@ -276,6 +322,7 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     core->report.onLine = [this](const std::string& line) {
         ensureVerificationWindow();
         txtVerification->appendPlainText(latin1(line));
+        jobReport.push_back(line);
     };
     core->onShowVerification = [this] {
         ensureVerificationWindow();
@@ -304,9 +351,58 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     });
     buildMenus();
     loadSettings();
-    markClean();
+    work.untitled(&core->config, &core->general); // nothing of the user's yet
     refreshAll();
     undoStack->clear(); // what the start-up did is not the user's
+
+    jobButtons = {CommandReadAll,
+                  CommandWriteAll,
+                  CommandVerifyAll,
+                  CommandWriteChanges,
+                  CommandCompare,
+                  CommandReadAllPins,
+                  CommandWriteAllPins,
+                  CommandVerifyAllPins,
+                  aspectsPage->CommandReadPin,
+                  aspectsPage->CommandWritePin,
+                  aspectsPage->CommandReadDevice,
+                  aspectsPage->CommandWriteDevice,
+                  aspectsPage->CommandPAspReadPin,
+                  aspectsPage->CommandPAspWritePin,
+                  aspectsPage->CommandPAspWriteAspect,
+                  eventPage->CommandECRead,
+                  eventPage->CommandECWrite,
+                  eventPage->CommandECVerify};
+    writers = {CommandWriteAll,
+               CommandWriteChanges,
+               CommandWriteAllPins,
+               aspectsPage->CommandWritePin,
+               aspectsPage->CommandWriteDevice,
+               aspectsPage->CommandPAspWritePin,
+               aspectsPage->CommandPAspWriteAspect,
+               eventPage->CommandECWrite,
+               eventPage->CommandECWriteSingle,
+               eventPage->CommandECInitWrite,
+               generalPage->CommandGenIDWrite,
+               generalPage->CommandGenDCCWrite,
+               generalPage->CommandGenAddrWrite,
+               generalPage->CommandGenHWCWrite,
+               generalPage->CommandLCWrite,
+               generalPage->CommandGenSerialWrite,
+               generalPage->CommandGenEraseFlash,
+               pinConfigPage->CommandPCFGSetParam[1]};
+    // Every event of the program passes here first: input waits while a job is asked for or
+    // runs, and a mnemonic (Alt+letter, one key) on a button that writes asks first.
+    gate = new EventGate(
+        [this](QObject* watched, QEvent* event) {
+            if (blocksInput(watched, event))
+                return true;
+            auto* button = qobject_cast<QAbstractButton*>(watched);
+            return event->type() == QEvent::Shortcut && button && writers.contains(button) &&
+                   !confirmKeyboardWrite(button);
+        },
+        this);
+    qApp->installEventFilter(gate);
 
     // A push button names the change its handler makes ("Read Pin", "Copy to All"; a lone
     // word with its frame: "Read (DCC)"); a press that ends without a click names nothing.
@@ -331,9 +427,9 @@ void KestrelConfig::addJobs()
 {
     Session& s = *core;
     auto pinConfigToo = [this] { return CheckWritePinConfig->isChecked(); };
+    // A verification of a part adds its lines to the report; only Verify All starts it afresh.
     auto verify = [&s](bool (*run)(Session&)) {
         return [&s, run] {
-            s.report.clear();
             const bool ok = run(s);
             if (s.onShowVerification)
                 s.onShowVerification();
@@ -343,26 +439,32 @@ void KestrelConfig::addJobs()
     jobs.add(Jobs::ReadAll, [this, &s] {
         bool completed = false;
         runJob(
-            "Read All", [&s, &completed] { return completed = ReadAll(s); }, true, true, LongJob::ReadAll);
-        if (completed)
-            saveReadBackup();
+            "Read All", [&s, &completed] { return completed = ReadAll(s); }, true, false, LongJob::ReadAll);
+        if (!completed)
+            return;
+        saveReadBackup();
+        if (work.readFromModule(s.general)) {
+            LabelStatusJob->setText(LabelStatusJob->text() + "; the file held another module, so the "
+                                                             "configuration is now untitled");
+            updateWindowState();
+        }
     });
     jobs.add(Jobs::WriteAll, [this, &s, pinConfigToo] {
-        const bool withConfig = pinConfigToo();
+        const bool withConfig = pinConfigWritten = pinConfigToo();
         runJob(
-            "Write All", [&s, withConfig] { return WriteAll(s, withConfig); }, false, true,
+            "Write All", [&s, withConfig] { return WriteAll(s, withConfig); }, false, false,
             LongJob::WriteAll);
     });
     jobs.add(Jobs::VerifyAll, [this, &s] {
         runJob(
-            "Verify All", [&s] { return VerifyAll(s); }, false, false, LongJob::VerifyAll);
+            "Verify All", [&s] { return VerifyAll(s); }, false, true, LongJob::VerifyAll);
     });
     jobs.add(Jobs::ReadPin, [this, &s] {
         runJob(
             "Read Pin", [&s] { return ReadPin(s, s.config.CurrentPin); }, true);
     });
     jobs.add(Jobs::WritePin, [this, &s, pinConfigToo] {
-        const bool withConfig = pinConfigToo();
+        const bool withConfig = pinConfigWritten = pinConfigToo();
         runJob("Write Pin", [&s, withConfig] { return WritePin(s, s.config.CurrentPin, withConfig); });
     });
     jobs.add(Jobs::ReadDevice, [this, &s] {
@@ -375,7 +477,7 @@ void KestrelConfig::addJobs()
             "Read All Pins", [&s] { return ReadAllPins(s); }, true, false, LongJob::ReadAllPins);
     });
     jobs.add(Jobs::WriteAllPins, [this, &s, pinConfigToo] {
-        const bool withConfig = pinConfigToo();
+        const bool withConfig = pinConfigWritten = pinConfigToo();
         runJob(
             "Write All Pins", [&s, withConfig] { return WriteAllPins(s, withConfig); }, false, false,
             LongJob::WriteAllPins);
@@ -387,7 +489,7 @@ void KestrelConfig::addJobs()
     jobs.add(Jobs::PAspWritePin,
              [this, &s] { runJob("Write Pin", [&s] { return WritePin(s, s.config.CurrentPin); }); });
     jobs.add(Jobs::VerifyAllPins, [this, verify] {
-        runJob("Verify All Pins", verify(&VerifyAllPins), false, false, LongJob::VerifyAllPins);
+        runJob("Verify All Pins", verify(&VerifyAllPins), false, true, LongJob::VerifyAllPins);
     });
     jobs.add(Jobs::ECWriteAll,
              [this, &s] { runJob("Write All Events", [&s] { return WriteAllEvents(s); }); });
@@ -395,11 +497,11 @@ void KestrelConfig::addJobs()
         runJob(
             "Read All Events", [&s] { return ReadAllEvents(s); }, true);
     });
-    jobs.add(Jobs::ECVerify, [this, verify] { runJob("Verify Event Control", verify(&VerifyEventControl)); });
+    jobs.add(Jobs::ECVerify,
+             [this, verify] { runJob("Verify Event Control", verify(&VerifyEventControl), false, true); });
     jobs.add(Jobs::WriteChanges, [this, &s, pinConfigToo] {
-        const bool withConfig = pinConfigToo();
-        runJob(
-            "Write Changes", [&s, withConfig] { return WriteChanges(s, withConfig); }, false, true);
+        const bool withConfig = pinConfigWritten = pinConfigToo();
+        runJob("Write Changes", [&s, withConfig] { return WriteChanges(s, withConfig); });
     });
     jobs.add(Jobs::CompareModule, [this, &s] {
         Configuration module;
@@ -441,16 +543,67 @@ void KestrelConfig::showComparison(const Configuration& module, const GeneralSet
 void KestrelConfig::startJob(JobName name)
 {
     commitAll();
+    if (!jobAsked)
+        focusBeforeJob = QApplication::focusWidget();
+    jobAsked = true; // from now until the job ends the window waits
     LabelAction->setVisible(true);
     jobs.request(name);
 }
 
-void KestrelConfig::Timer1_Timer() { jobs.Timer1_Timer(); }
+void KestrelConfig::Timer1_Timer()
+{
+    if (jobs.running())
+        return;
+    jobs.Timer1_Timer();
+    if (!jobAsked)
+        return;
+    jobAsked = false;
+    LabelAction->setVisible(false);
+    // The keyboard goes back where it was, whatever boxes the job raised.
+    activateWindow();
+    if (focusBeforeJob && focusBeforeJob->isVisible() && focusBeforeJob->isEnabled())
+        focusBeforeJob->setFocus(Qt::OtherFocusReason);
+}
+
+bool KestrelConfig::blocksInput(QObject* target, QEvent* event) const
+{
+    if (!jobAsked && !jobs.running())
+        return false;
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+        // Before the job begins, another job's button replaces the job asked for.
+        if (!jobs.running() && jobButtons.contains(qobject_cast<QAbstractButton*>(target)))
+            return false;
+        break;
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::Wheel:
+    case QEvent::Shortcut:
+    case QEvent::ContextMenu:
+        break;
+    default:
+        return false;
+    }
+    // The progress dialog and the boxes a job raises take their input.
+    const auto* widget = qobject_cast<QWidget*>(target);
+    const QWidget* modal = QApplication::activeModalWidget();
+    return !(widget && modal && widget->window() == modal);
+}
+
+bool KestrelConfig::confirmKeyboardWrite(QAbstractButton* button)
+{
+    return core->dialogs().ask("\"" + spoken(button->text()).toStdString() +
+                                   "\" writes to the module. Write now?",
+                               Buttons::YesNo, Icon::Question) == Answer::Yes;
+}
 
 void KestrelConfig::runJob(const QString& title, const std::function<bool()>& operation, bool reads,
-                           bool clean, std::optional<LongJob> estimate)
+                           bool verifies, std::optional<LongJob> estimate)
 {
     commitAll();
+    jobReport.clear();
     JobProgress progress(this, title);
     // The estimate counts the direct route's frames; a tunnelled job goes without one.
     if (estimate && !core->link.settings.CheckCorvid)
@@ -461,14 +614,10 @@ void KestrelConfig::runJob(const QString& title, const std::function<bool()>& op
     QElapsedTimer clock;
     clock.start();
     bool ok = false;
-    const auto reportEndsWith = [this](const std::string& line) {
-        const std::string& text = core->report.txtVerification;
-        const std::string tail = line + "\r\n";
-        return text.size() >= tail.size() && text.compare(text.size() - tail.size(), tail.size(), tail) == 0;
-    };
     core->beginJob(title.toStdString()); // the whole-module jobs within count as part of it
     const bool noFault = (*guard)(title.toStdString(), [&] { ok = operation(); });
-    core->endJob(noFault && ok);
+    // A verification that ran to its end has done its job, whatever it found.
+    core->endJob(noFault && (ok || verifies));
     core->link.setProgress(nullptr);
     LabelAction->setVisible(false);
 
@@ -481,21 +630,25 @@ void KestrelConfig::runJob(const QString& title, const std::function<bool()>& op
         outcome = title + " stopped by a program error; the configuration is as it was before";
     else if (progress.cancelled())
         outcome = title + " cancelled " + whereStopped(progress.last) + partial;
-    else if (!ok && reportEndsWith("Verification Stopped"))
-        outcome = title + ": the module differs, see the verification report";
+    else if (verifies && summary.isEmpty())
+        outcome = ok ? (title == "Verify All" ? QString("Verify OK")
+                                              : title + ": the module holds the configuration")
+                     : title + ": the module differs, see the verification report";
     else if (!ok && progress.last.empty() && !summary.isEmpty())
         outcome = summary; // stopped before its first step
     else if (!ok)
         outcome = title + " stopped " + whereStopped(progress.last) + partial;
     else if (!summary.isEmpty())
         outcome = summary + partial;
-    else if (title == "Verify All" && reportEndsWith("Verify OK"))
-        outcome = "Verify OK";
     else
         outcome = QString("%1 done in %2 s").arg(title).arg(clock.elapsed() / 1000.0, 0, 'f', 1);
+    // A write that went wrong on the way leaves the module's content unknown.
+    if (!verifies && !reads && !summary.isEmpty() && !core->moduleImage())
+        outcome += "; the module may hold only part of it";
     LabelStatusJob->setText(outcome);
-    if (noFault && ok && clean && summary.isEmpty())
-        markClean();
+    if (verifies && !ok && !pinConfigWritten && onlyPinConfigurationsDiffer(jobReport))
+        core->report.line("The pins' configurations were not written: check \"Write pin configurations "
+                          "too\" and write again.");
     refreshAll();
 }
 
@@ -522,25 +675,16 @@ void KestrelConfig::refreshAll()
     updateWindowState();
 }
 
-bool KestrelConfig::unsavedChanges() const
-{
-    return core->config.Pins != cleanConfig.Pins || core->config.EventMap != cleanConfig.EventMap ||
-           filed(core->general) != filed(cleanGeneral);
-}
-
-void KestrelConfig::markClean()
-{
-    cleanConfig = core->config;
-    cleanGeneral = core->general;
-    updateWindowState();
-}
+bool KestrelConfig::unsavedChanges() const { return work.unsaved(core->config, core->general); }
 
 void KestrelConfig::updateWindowState()
 {
-    const QString name = fileName.isEmpty() ? QString() : QFileInfo(fileName).fileName();
+    const QString name = currentFile().isEmpty() ? QString() : QFileInfo(currentFile()).fileName();
     const bool changed = unsavedChanges();
+    LabelStatusModule->setText(
+        QString::fromStdString(moduleStateText(core->moduleImage(), core->config, core->general)));
     // "Kestrel Config" while nothing is changed; "mylayout.dat* - Kestrel Config" (or
-    // "untitled*") while the configuration differs from its file, read or write.
+    // "untitled*") while the configuration differs from its file or was never saved.
     if (name.isEmpty() && !changed)
         setWindowTitle("Kestrel Config");
     else
@@ -574,6 +718,10 @@ bool KestrelConfig::keepChangesSafe(const char* doing)
 
 void KestrelConfig::closeEvent(QCloseEvent* event)
 {
+    if (jobAsked || jobs.running()) { // the job ends first
+        event->ignore();
+        return;
+    }
     bool leave = false;
     (*guard)([&] { leave = keepChangesSafe("Closing the window"); });
     if (leave) {
@@ -594,17 +742,36 @@ void KestrelConfig::saveFile(const QString& path, bool compact)
     commitAll();
     (*guard)([&] {
         std::string written = path.toStdString();
-        if (written.empty())
-            written = kestrel::CommandSave_MouseDown(*core, 1, compact ? 1 : 0);
-        else if (!saveConfigurationTo(*core, written, compact ? SaveForm::Compact : SaveForm::Full))
-            written.clear();
-        if (written.empty())
+        const SaveForm form = compact ? SaveForm::Compact : SaveForm::Full;
+        if (!written.empty() && written == work.file() && work.changedOnDisk() &&
+            core->dialogs().ask(QFileInfo(path).fileName().toStdString() +
+                                    " has changed on disk since it was loaded or saved here.\r\n"
+                                    "Replace it with the configuration shown?",
+                                Buttons::YesNo, Icon::Warning) != Answer::Yes)
             return;
-        fileName = QString::fromStdString(written);
-        markClean();
-        remember(fileName);
-        LabelStatusJob->setText(QString("Saved %1%2").arg(fileName, compact ? " (compact)" : ""));
+        if (written.empty()) {
+            written = core->dialogs().saveFileName("Save Configuration", kConfigFileFilter, "");
+            if (!written.empty() && inBackups(QString::fromStdString(written))) {
+                core->dialogs().message("The backups folder is the program's own: choose another folder "
+                                        "for the file.",
+                                        Icon::Warning);
+                return;
+            }
+        }
+        if (written.empty() || !saveConfigurationTo(*core, written, form))
+            return;
+        const QString name = QString::fromStdString(written);
+        if (compact)
+            work.compactSaved(written); // saved only when it loads back to all that is shown
+        else
+            work.fileHolds(written, core->config, core->general);
+        remember(name);
+        LabelStatusJob->setText(QString("Saved %1%2").arg(name, compact ? " (compact)" : ""));
+        if (compact && unsavedChanges())
+            LabelStatusJob->setText(LabelStatusJob->text() +
+                                    "; it does not hold everything shown, so the work is still unsaved");
     });
+    updateWindowState();
 }
 
 void KestrelConfig::buildMenus()
@@ -618,7 +785,7 @@ void KestrelConfig::buildMenus()
     add(
         menuFile, "&Load File...", [this] { loadFile(QString()); }, QKeySequence::Open);
     actionSave = add(
-        menuFile, "&Save", [this] { saveFile(fileName, false); }, QKeySequence::Save);
+        menuFile, "&Save", [this] { saveFile(currentFile(), false); }, QKeySequence::Save);
     add(menuFile, "Save &Compact...", [this] { saveFile(QString(), true); });
     add(
         menuFile, "Save &As...", [this] { saveFile(QString(), false); }, QKeySequence::SaveAs);
@@ -661,7 +828,7 @@ void KestrelConfig::buildMenus()
     auto press = [](QAbstractButton* b) { return [b] { b->click(); }; };
     add(menuModule, "Request &Version", press(CommandGenVersion));
     add(menuModule, "&Read All", press(CommandReadAll), QKeySequence("Ctrl+R"));
-    add(menuModule, "&Write All", press(CommandWriteAll), QKeySequence("Ctrl+W"));
+    add(menuModule, "&Write All", press(CommandWriteAll)); // no key: a write starts only from a choice
     add(menuModule, "Write Chan&ges", press(CommandWriteChanges));
     add(menuModule, "Verify &All", press(CommandVerifyAll));
     add(menuModule, "Compare wi&th Module...", press(CommandCompare));
@@ -763,6 +930,8 @@ void KestrelConfig::about()
 
 void KestrelConfig::remember(const QString& path)
 {
+    if (inBackups(path))
+        return;
     const QString full = QFileInfo(path).absoluteFilePath();
     recent.removeAll(full);
     recent.prepend(full);
@@ -784,7 +953,8 @@ void KestrelConfig::showRecent()
 void KestrelConfig::loadSettings()
 {
     QSettings store("Kestrel", "Kestrel Config");
-    restoreGeometry(store.value("window/geometry").toByteArray());
+    if (!restoreGeometry(store.value("window/geometry").toByteArray()))
+        firstSize();
     auto& lc = core->linkControl;
     auto& link = core->link.settings;
     const int rate = std::clamp(store.value("link/bitRate", lc.OptionBitRate).toInt(), 0, 2);
@@ -795,16 +965,41 @@ void KestrelConfig::loadSettings()
         CheckKLnumber_Click();
     }
     link.TargetAddress = std::clamp(store.value("link/address", 0).toInt(), 0, 15);
-    link.CheckXaddress = store.value("link/extended", false).toBool(); // asked about when it was first set
     link.TargetXAddress = std::clamp(store.value("link/extendedAddress", 0).toInt(), 0, 95);
+    if (store.value("link/extended", false).toBool()) // asked about again, as when it was set
+        (*guard)([&] { lc.CheckXaddress_Click(true); });
+    CheckWritePinConfig->setChecked(store.value("jobs/writePinConfigurations", true).toBool());
     boxes.setFolder(store.value("files/folder").toString());
-    recent = store.value("files/recent").toStringList().mid(0, 5);
+    recent.clear();
+    for (const QString& file : store.value("files/recent").toStringList())
+        if (!inBackups(file) && recent.size() < 5)
+            recent << file;
+    typedPorts = store.value("link/typedPorts").toStringList();
+    fillPortList();
     showRecent();
     refreshLinkDisplays();
     // The last port (or, on a first start, the simulated module), shown but not yet opened.
     ComboPort->setEditText(store.value("link/port", "sim").toString());
     ComboPort->setToolTip("The serial port; \"sim\" is a simulated module built into the program. "
                           "Return or a choice from the list opens it.");
+}
+
+void KestrelConfig::firstSize()
+{
+    // Each page scrolls inside its own area; the whole layout is the window with the
+    // largest page's content shown without scrolling.
+    QSize content;
+    for (const QScrollArea* area : tabs->findChildren<QScrollArea*>())
+        if (area->widget())
+            content = content.expandedTo(area->widget()->sizeHint());
+    QSize whole = sizeHint();
+    const QSize page = tabs->currentWidget() ? tabs->currentWidget()->sizeHint() : QSize();
+    whole.rwidth() = std::max(whole.width(), content.width() + whole.width() - page.width() + 40);
+    whole.rheight() += std::max(0, content.height() - page.height()) + 40;
+    const QScreen* screen = QApplication::primaryScreen();
+    const QSize room =
+        screen ? screen->availableSize() - (frameGeometry().size() - geometry().size()) : whole;
+    resize(whole.boundedTo(room));
 }
 
 void KestrelConfig::saveSettings()
@@ -823,6 +1018,8 @@ void KestrelConfig::saveSettings()
     store.setValue("link/address", link.TargetAddress);
     store.setValue("link/extended", link.CheckXaddress);
     store.setValue("link/extendedAddress", link.TargetXAddress);
+    store.setValue("jobs/writePinConfigurations", CheckWritePinConfig->isChecked());
+    store.setValue("link/typedPorts", typedPorts);
     store.setValue("files/folder", boxes.folder());
     store.setValue("files/recent", recent);
 }
@@ -885,11 +1082,11 @@ void KestrelConfig::cmdSetTM_Click()
 
 void KestrelConfig::CommandLoad_Click() { loadFile(QString()); }
 
-void KestrelConfig::loadFile(const QString& path)
+void KestrelConfig::loadFile(const QString& path, bool backup)
 {
-    if (!keepChangesSafe("Loading a file"))
+    if (!keepChangesSafe(backup ? "Restoring a backup" : "Loading a file"))
         return;
-    (*guard)("Load File", [this, &path] {
+    (*guard)(backup ? "Restore from Backup" : "Load File", [this, &path, backup] {
         const LoadOutcome loaded = path.isEmpty() ? kestrel::CommandLoad_Click(*core)
                                                   : loadConfigurationFrom(*core, path.toStdString());
         if (loaded.path.empty())
@@ -897,12 +1094,18 @@ void KestrelConfig::loadFile(const QString& path)
         const QString name = QString::fromStdString(loaded.path);
         switch (loaded.result) {
         case LoadResult::Loaded:
-            fileName = name;
-            markClean();
+            // A backup stays the program's: the configuration from it is untitled.
+            if (backup || inBackups(name)) {
+                work.untitled(&core->config, &core->general);
+                LabelStatusJob->setText("Restored the backup " + name + " as an untitled configuration");
+                break;
+            }
+            work.fileHolds(loaded.path, core->config, core->general);
             remember(name);
             LabelStatusJob->setText("Loaded " + name);
             break;
         case LoadResult::FormatError:
+            work.untitled(); // what was read is not what the file holds
             LabelStatusJob->setText("Load stopped at a fault in " + name +
                                     ": the pages show what was read before it");
             break;
@@ -931,7 +1134,7 @@ void KestrelConfig::restoreFromBackup()
 {
     BackupDialog dialog(listBackups(backupRoot().toStdString()), this);
     if (dialog.exec() == QDialog::Accepted && !dialog.chosenPath().isEmpty())
-        loadFile(dialog.chosenPath());
+        loadFile(dialog.chosenPath(), true);
 }
 
 void KestrelConfig::CommandReadAll_Click()
@@ -951,6 +1154,7 @@ KestrelConfig::~KestrelConfig()
     for (QObject* child : findChildren<QObject*>())
         QObject::disconnect(child, nullptr, this, nullptr);
     QObject::disconnect(qApp, nullptr, this, nullptr);
+    qApp->removeEventFilter(gate);
     // The session refers to the dialogs of the window: it goes first.
     guard.reset();
     program.reset();
@@ -1055,6 +1259,9 @@ void KestrelConfig::fillPortList()
     ComboPort->clear();
     for (const auto& p : core->linkControl.ComboPort)
         ComboPort->addItem(QString::fromStdString(p));
+    for (const QString& typed : typedPorts)
+        if (ComboPort->findText(typed) < 0)
+            ComboPort->addItem(typed);
     // The port in use stays chosen; with none, the box is empty.
     ComboPort->setCurrentIndex(-1);
     ComboPort->setEditText(
@@ -1089,8 +1296,19 @@ void KestrelConfig::refreshLinkDisplays()
 
 void KestrelConfig::ComboPort_Click()
 {
-    const std::string chosen = ComboPort->currentText().trimmed().toStdString();
+    const QString typed = ComboPort->currentText().trimmed();
+    const std::string chosen = typed.toStdString();
     (*guard)([&] { core->linkControl.ComboPort_Click(chosen); });
+    // A path typed by hand that opened joins the list, this time and next.
+    if (core->link.port().isOpen() && ComboPort->findText(typed) < 0 && !typed.isEmpty()) {
+        typedPorts.removeAll(typed);
+        typedPorts.prepend(typed);
+        while (typedPorts.size() > 8)
+            typedPorts.removeLast();
+        const QSignalBlocker block(ComboPort);
+        ComboPort->addItem(typed);
+        ComboPort->setCurrentIndex(ComboPort->findText(typed));
+    }
 }
 
 void KestrelConfig::cmdRefreshComm_Click()
@@ -1176,7 +1394,7 @@ bool KestrelConfig::eventFilter(QObject* watched, QEvent* event)
     if (watched == CommandSave && event->type() == QEvent::MouseButtonPress) {
         const auto [button, shift] = pressOf(static_cast<QMouseEvent*>(event));
         CommandSave_MouseDown(button, shift);
-        return false;
+        return true; // done: no click follows
     }
     return QMainWindow::eventFilter(watched, event);
 }

@@ -1,5 +1,6 @@
 #pragma once
 #include "files/DeviceDefinitions.h"
+#include "forms/WorkState.h"
 #include "link/CorvidControl.h"
 #include "ops/Estimate.h"
 #include "ops/JobDispatcher.h"
@@ -9,6 +10,7 @@
 #include "shell/QtDialogs.h"
 
 #include <QMainWindow>
+#include <QPointer>
 #include <memory>
 
 class QCheckBox;
@@ -25,6 +27,7 @@ class QTabWidget;
 class QTimer;
 class QCloseEvent;
 class QAction;
+class QAbstractButton;
 class QMenu;
 class QUndoStack;
 
@@ -53,9 +56,10 @@ public:
 
     Session& session() { return *core; }
 
-    // The file the configuration was last loaded from or saved to ("" for none), and
-    // whether it differs from what was last loaded, saved, read or written.
-    QString currentFile() const { return fileName; }
+    // The file the configuration was last loaded from or saved to ("" while untitled), and
+    // whether it differs from what that file holds (or was never saved). Reading or writing
+    // the module changes neither.
+    QString currentFile() const { return QString::fromStdString(work.file()); }
     bool unsavedChanges() const;
 
     // Link area
@@ -120,6 +124,7 @@ public:
 
     // The status bar: the port, and what the last job did.
     QLabel* LabelStatusPort;
+    QLabel* LabelStatusModule; // whether the module holds what is shown
     QLabel* LabelStatusJob;
 
     JobDispatcher jobs;
@@ -144,8 +149,9 @@ public:
 
     // The last files, newest first (at most five).
     QStringList recentFiles() const { return recent; }
-    // Loads a file already chosen, as Load File does after its dialog.
-    void loadFile(const QString& path);
+    // Loads a file already chosen, as Load File does after its dialog. A backup loads as an
+    // untitled configuration: Save asks for a name, and it joins no recent files.
+    void loadFile(const QString& path, bool backup = false);
     // Saves to a file already chosen; asks for one when path is empty.
     void saveFile(const QString& path, bool compact);
     // Every completed Read All is kept as a backup (backupRoot()); a failure to keep it is
@@ -192,17 +198,23 @@ private:
     void fillPortList();
     void addJobs();
     // Runs one job behind the progress dialog, inside the guard, and tells its outcome in
-    // the status bar. `reads` jobs fill the pages; `clean` jobs leave the configuration
-    // equal to the module's when they succeed. A long job's progress shows its `estimate`.
+    // the status bar. `reads` jobs fill the pages; `verifies` jobs compare the module with
+    // the configuration in the report. A long job's progress shows its `estimate`.
     void runJob(const QString& title, const std::function<bool()>& operation, bool reads = false,
-                bool clean = false, std::optional<LongJob> estimate = std::nullopt);
+                bool verifies = false, std::optional<LongJob> estimate = std::nullopt);
     // Takes every typed entry of every page that editing has not yet finished.
     void commitAll();
     // Shows the model on every page.
     void refreshAll();
     // The title (file name, "*" for unsaved changes) and the port's state.
     void updateWindowState();
-    void markClean();
+    // Whether the module's job buttons are pressed from the keyboard (a mnemonic) and
+    // the button writes to the module: a question first. True when it may go on.
+    bool confirmKeyboardWrite(QAbstractButton* button);
+    // From a job's button press to the job's end the window takes no input but the
+    // progress dialog's (and its boxes'); a job button pressed before the job began
+    // replaces the job asked for.
+    bool blocksInput(QObject* target, QEvent* event) const;
     // Over unsaved changes: Save / Discard / Cancel. True when the caller may go on.
     bool keepChangesSafe(const char* doing);
     void startJob(JobName name);
@@ -213,6 +225,8 @@ private:
     // What the program remembers between runs (QSettings): the port, bit rate, module and
     // eXtended address, numbering, window geometry, the last folder and the last files.
     void loadSettings();
+    // A first start: as large as the screen allows, up to what shows every page whole.
+    void firstSize();
     void saveSettings();
     void remember(const QString& path); // a file loaded or saved joins the recent files
     void showRecent();
@@ -227,12 +241,18 @@ private:
     CorvidControl* corvid = nullptr; // program's Corvid controls
     std::unique_ptr<Guard> guard;
     QGroupBox* linkFrame = nullptr; // the frame LabelPort's double-click shows and hides
-    QString fileName;
+    WorkState work;                 // which file, and whether it holds what is shown
     QStringList recent;
     bool forgetSettings = false;
-    bool corvidLogDismissed = false; // closed by the user: new lines do not force it open
-    Configuration cleanConfig;       // as last loaded, saved, read or written
-    GeneralSettings cleanGeneral;
+    bool corvidLogDismissed = false;         // closed by the user: new lines do not force it open
+    bool jobAsked = false;                   // a job's button was pressed: input waits for its end
+    QList<QAbstractButton*> jobButtons;      // the buttons that start jobs
+    QList<QAbstractButton*> writers;         // the buttons that write to the module
+    bool pinConfigWritten = true;            // the last write sent the pins' configurations too
+    std::vector<std::string> jobReport;      // the report's lines written since the job began
+    QPointer<QWidget> focusBeforeJob;        // where the keyboard goes back to when the job ends
+    QStringList typedPorts;                  // port paths typed by the user, kept in the port list
+    QObject* gate = nullptr;                 // sees every event of the program first
     std::shared_ptr<const EditState> latest; // the state the last step left, shared with the next
     bool restoring = false;                  // undo or redo is showing a state: no step of it
     int editRun = 0;                         // moves on with the focus: typing after it is a new step

@@ -4,6 +4,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QPointer>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -60,11 +61,28 @@ QWidget* QtDialogs::owner() const
 namespace {
 int showBox(QMessageBox& box)
 {
+    // Every answer has its letter (Alt+S, Alt+D, ...).
+    for (auto [which, caption] :
+         {std::pair{QMessageBox::Save, "&Save"}, std::pair{QMessageBox::Discard, "&Discard"},
+          std::pair{QMessageBox::Cancel, "&Cancel"}, std::pair{QMessageBox::Yes, "&Yes"},
+          std::pair{QMessageBox::No, "&No"}, std::pair{QMessageBox::Ok, "&OK"}})
+        if (QAbstractButton* button = box.button(which))
+            button->setText(caption);
+    // The keyboard goes back where it was when the box closes, also after two in a row.
+    const QPointer<QWidget> active = QApplication::activeWindow();
+    const QPointer<QWidget> focus = QApplication::focusWidget();
     box.setWindowModality(Qt::ApplicationModal);
     box.show();
     box.raise();
     box.activateWindow();
-    return box.exec();
+    const int answer = box.exec();
+    box.hide();
+    if (active) {
+        active->activateWindow();
+        if (focus && focus->isVisible())
+            focus->setFocus(Qt::OtherFocusReason);
+    }
+    return answer;
 }
 } // namespace
 

@@ -256,7 +256,7 @@ TEST(AspectsPage, EveryPinJobRunsFromItsButton)
         {m.page.CommandWriteDevice, "Write Device done"},
         {m.w.CommandWriteAllPins, "Write All Pins done"},
         {m.w.CommandReadAllPins, "Read All Pins done"},
-        {m.w.CommandVerifyAllPins, "Verify All Pins done"},
+        {m.w.CommandVerifyAllPins, "Verify All Pins: the module holds the configuration"},
     };
     for (const auto& [button, outcome] : cases) {
         m.job(button);

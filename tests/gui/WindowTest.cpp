@@ -3,6 +3,7 @@
 #include "files/Backups.h"
 #include "files/ConfigurationFile.h"
 #include "gui/GuiRig.h"
+#include "shell/AspectsPage.h"
 #include "shell/BackupDialog.h"
 #include "shell/EventPage.h"
 #include "shell/GeneralPage.h"
@@ -31,7 +32,9 @@ TEST(Window, GeneralPageEditsReachWriteAllVerifyAllAndTheDataFile)
     QTest::mouseClick(m.w.CommandReadAll, Qt::LeftButton); // the job waits for the timer
     EXPECT_EQ(std::tuple(m.w.LabelAction->isVisible(), m.w.jobs.PendingJob), std::tuple(true, "ReadAll"));
     m.waitIdle();
-    EXPECT_EQ(m.w.windowTitle(), "Kestrel Config");
+    EXPECT_EQ(
+        std::tuple(m.w.windowTitle(), m.w.LabelStatusModule->text()),
+        std::tuple("untitled* - Kestrel Config", "The module holds what is shown")); // read, never saved
     GeneralPage& page = *m.w.generalPage;
 
     type(page.TextGenIDString, "Up Main Junction 7"); // the module keeps 12 characters: told, and cut
@@ -64,7 +67,9 @@ TEST(Window, GeneralPageEditsReachWriteAllVerifyAllAndTheDataFile)
     EXPECT_TRUE(m.status().contains("the module differs")) << m.status().toStdString();
     m.job(m.w.CommandWriteAll);
     EXPECT_TRUE(m.status().startsWith("Write All done in")) << m.status().toStdString();
-    EXPECT_EQ(m.w.windowTitle(), "Kestrel Config");
+    EXPECT_EQ(
+        std::tuple(m.w.windowTitle(), m.w.LabelStatusModule->text()),
+        std::tuple("untitled* - Kestrel Config", "The module holds what is shown")); // written, not saved
     m.job(m.w.CommandVerifyAll);
     EXPECT_EQ(std::tuple(m.report().endsWith("Verify OK"), m.status(), page.TextGenIDString->text(),
                          m.w.session().general.CheckGenXGM),
@@ -111,11 +116,25 @@ TEST(Window, UnsavedChangesAreAskedAboutBeforeTheyAreLost)
     // Save: asked for a file; a cancelled save dialog keeps the window open.
     m.dialogs.answers = {Answer::Save};
     EXPECT_FALSE(m.w.close());
-    // Discard: Read All runs and puts the module's ID back.
+    // Discard: Read All runs and puts the module's ID back; what was read was never saved.
     m.dialogs.defaultAnswer = Answer::Discard;
     m.job(m.w.CommandReadAll);
-    EXPECT_EQ(std::tuple(m.w.generalPage->TextGenIDString->text(), m.w.unsavedChanges(), m.w.close()),
-              std::tuple("Demo layout", false, true));
+    EXPECT_EQ(std::tuple(m.w.generalPage->TextGenIDString->text(), m.w.unsavedChanges()),
+              std::tuple("Demo layout", true));
+    // Saved, then a description only the file keeps: writing the module does not save it,
+    // and a compact file that leaves pins out does not either.
+    QTemporaryDir dir;
+    m.dialogs.fileNames = {dir.filePath("a.dat").toStdString(), dir.filePath("b.dat").toStdString()};
+    m.w.saveFile(QString(), false);
+    type(m.w.aspectsPage->TextPAspDesc, "Kept in the file only");
+    for (QPushButton* write : {m.w.CommandWriteAll, m.w.CommandWriteChanges})
+        m.job(write);
+    m.w.saveFile(QString(), true);
+    m.dialogs.clear();
+    EXPECT_EQ(std::tuple(m.w.windowTitle(), m.w.LabelStatusModule->text()),
+              std::tuple("b.dat* - Kestrel Config", "The module holds what is shown"));
+    EXPECT_TRUE(m.w.close());
+    EXPECT_EQ(m.dialogs.questions.size(), 1u);
 }
 
 TEST(Window, NothingTypedOrPressedEndsTheProgram)
@@ -245,7 +264,8 @@ TEST(Window, MenusShortcutsAndWhatIsRememberedBetweenRuns)
         m.waitIdle();
         EXPECT_TRUE(m.status().startsWith("Read All done")) << m.status().toStdString();
         m.dialogs.fileNames = {file.toStdString()};
-        m.activate(); // back from the job's progress dialog
+        m.dialogs.defaultAnswer = Answer::Discard; // what was read is not kept
+        m.activate();                              // back from the job's progress dialog
         QTest::keyClick(&m.w, Qt::Key_O, Qt::ControlModifier);
         EXPECT_EQ(std::tuple(m.w.session().general.TextGenIDString, m.status()),
                   std::tuple("Yard", "Loaded " + file));
@@ -257,10 +277,12 @@ TEST(Window, MenusShortcutsAndWhatIsRememberedBetweenRuns)
         EXPECT_TRUE(QTest::qWaitFor([&] { return m.w.LabelAction->isVisible(); }, 10000));
         m.waitIdle();
         EXPECT_TRUE(m.status().startsWith("Read All done")) << m.status().toStdString();
+        // The file held module "Yard": the one read now makes the configuration untitled, so
+        // that Ctrl+S cannot put it over another module's file.
+        EXPECT_EQ(m.w.windowTitle(), "untitled* - Kestrel Config");
         type(m.w.TextAddress, "3");
-        m.w.CheckKLnumber->click(); // shown numbers move; the file's content does not
+        m.w.CheckKLnumber->click(); // shown numbers move
         m.w.OptionBitRate[2]->click();
-        EXPECT_FALSE(m.w.unsavedChanges());
 
         // The Corvid log shows itself when first written to, and stays closed once closed.
         m.w.session().link.onCorvidLog("poll");
@@ -380,5 +402,13 @@ TEST(Window, ReadAllKeepsABackupThatRestoreFromBackupLoads)
     for (int p = 0; p < kPinCount; ++p) // the live output value is not kept in a data file
         restored.pin(p).OutputValue = read.pin(p).OutputValue;
     EXPECT_TRUE(restored == read);
-    EXPECT_EQ(m.w.currentFile().toStdString(), backups[0].path);
+    // The backup opens untitled and joins no recent files: Save asks for a name, and the
+    // backups folder is refused as a place for it.
+    EXPECT_EQ(std::tuple(m.w.currentFile(), m.w.recentFiles(), m.w.unsavedChanges()),
+              std::tuple("", QStringList(), false));
+    m.dialogs.fileNames = {backups[0].path};
+    m.activate();
+    QTest::keyClick(&m.w, Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(std::tuple(m.dialogs.fileNames.size(), m.dialogs.messages.size(), m.w.currentFile()),
+              std::tuple(0u, 1u, ""));
 }
