@@ -23,8 +23,14 @@ class SilentDialogs : public UserDialogs {
 public:
     void message(const std::string&, Icon) override {}
     Answer ask(const std::string&, Buttons, Icon) override { return Answer::Cancel; }
-    std::string openFileName(const std::string&, const std::string&, const std::string&) override { return {}; }
-    std::string saveFileName(const std::string&, const std::string&, const std::string&) override { return {}; }
+    std::string openFileName(const std::string&, const std::string&, const std::string&) override
+    {
+        return {};
+    }
+    std::string saveFileName(const std::string&, const std::string&, const std::string&) override
+    {
+        return {};
+    }
 };
 
 // What only the data file keeps: the module has no place for it.
@@ -51,7 +57,8 @@ bool WorkState::unsaved(const Configuration& config, const GeneralSettings& gene
     return !heldText || *heldText != fileContent(config, general);
 }
 
-void WorkState::fileHolds(const std::string& file, const Configuration& config, const GeneralSettings& general)
+void WorkState::fileHolds(const std::string& file, const Configuration& config,
+                          const GeneralSettings& general)
 {
     path = file;
     heldText = fileContent(config, general);
@@ -94,7 +101,8 @@ bool WorkState::readFromModule(const GeneralSettings& read)
 
 bool WorkState::changedOnDisk() const { return !path.empty() && fingerprintOf(path) != fingerprint; }
 
-std::string moduleStateText(const ModuleImage* image, const Configuration& config, const GeneralSettings& general)
+std::string moduleStateText(const ModuleImage* image, const Configuration& config,
+                            const GeneralSettings& general)
 {
     if (!image)
         return "What the module holds is not known";

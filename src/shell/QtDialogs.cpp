@@ -69,8 +69,11 @@ int showBox(QMessageBox& box)
         if (QAbstractButton* button = box.button(which))
             button->setText(caption);
     // The keyboard goes back where it was when the box closes, also after two in a row.
-    const QPointer<QWidget> active = QApplication::activeWindow();
-    const QPointer<QWidget> focus = QApplication::focusWidget();
+    // Right after another box the window may not be active yet: its own window then.
+    QPointer<QWidget> active = QApplication::activeWindow();
+    if (!active && box.parentWidget())
+        active = box.parentWidget()->window();
+    const QPointer<QWidget> focus = active ? active->focusWidget() : nullptr;
     box.setWindowModality(Qt::ApplicationModal);
     box.show();
     box.raise();

@@ -3,6 +3,7 @@
 #include "files/Backups.h"
 #include "files/ConfigurationFile.h"
 #include "gui/GuiRig.h"
+#include "session/ModuleImage.h"
 #include "shell/AspectsPage.h"
 #include "shell/BackupDialog.h"
 #include "shell/EventPage.h"
@@ -411,4 +412,84 @@ TEST(Window, ReadAllKeepsABackupThatRestoreFromBackupLoads)
     QTest::keyClick(&m.w, Qt::Key_S, Qt::ControlModifier);
     EXPECT_EQ(std::tuple(m.dialogs.fileNames.size(), m.dialogs.messages.size(), m.w.currentFile()),
               std::tuple(0u, 1u, ""));
+}
+
+TEST(Window, NoKeyWritesToTheModuleWithoutAQuestion)
+{
+    Window m;
+    m.job(m.w.CommandReadAll);
+    std::vector<std::vector<int>> writes;
+    auto tracked = m.w.session().link.onExchange;
+    m.w.session().link.onExchange = [&](const std::vector<int>& bytes, bool reply, bool ok) {
+        if (changesModule(bytes))
+            writes.push_back(bytes);
+        tracked(bytes, reply, ok);
+    };
+    const auto press = [&](QKeyCombination keys) {
+        m.activate();
+        QTest::keyClick(&m.w, keys.key(), keys.keyboardModifiers());
+        if (QWidget* menu = QApplication::activePopupWidget())
+            menu->close();
+        QTest::qWait(150); // a mnemonic's click is animated
+        m.waitIdle();
+    };
+    // Yes: the key goes on to write.
+    m.dialogs.defaultAnswer = Answer::Yes;
+    m.w.tabs->setCurrentIndex(m.w.tabs->count() - 1);
+    press(QKeyCombination(Qt::AltModifier, Qt::Key_W)); // "&Write All"
+    EXPECT_EQ(std::tuple(m.dialogs.questions.size(), m.status().left(14), writes.empty()),
+              std::tuple(1u, "Write All done", false));
+    writes.clear();
+    m.dialogs.clear();
+    m.dialogs.defaultAnswer = Answer::No; // no to every question: keep, do not write
+    for (QAction* action : m.w.findChildren<QAction*>())
+        for (const QKeySequence& keys : action->shortcuts())
+            if (action->menu() == nullptr && !action->text().contains("About"))
+                press(keys[0]);
+    int asked = 0;
+    for (int page = 0; page < m.w.tabs->count(); ++page) {
+        m.w.tabs->setCurrentIndex(page);
+        for (QAbstractButton* b : m.w.findChildren<QAbstractButton*>()) {
+            const QKeySequence letter = QKeySequence::mnemonic(b->text());
+            if (b->isVisibleTo(&m.w) && !letter.isEmpty() &&
+                !QString("FEVMH").contains(letter.toString().back())) {
+                press(QKeyCombination(Qt::AltModifier, letter[0].key()));
+                asked += !m.dialogs.questions.empty();
+                m.dialogs.clear();
+            }
+        }
+    }
+    EXPECT_TRUE(writes.empty()) << writes.size() << " writes, the first command " << writes[0][0];
+    EXPECT_GE(asked, 4); // Write All, Write Changes, Write All Pins and each page's writes asked
+}
+
+TEST(Window, InputWaitsFromAJobsPressToItsEndAndTheKeyboardComesBack)
+{
+    Window m;
+    // Refresh pressed after Read All would close the port under the job; Ctrl+S would ask.
+    QTest::mouseClick(m.w.CommandReadAll, Qt::LeftButton);
+    QTest::mouseClick(m.w.cmdRefreshComm, Qt::LeftButton);
+    QTest::keyClick(&m.w, Qt::Key_S, Qt::ControlModifier);
+    m.waitIdle();
+    EXPECT_TRUE(m.status().startsWith("Read All done")) << m.status().toStdString();
+    EXPECT_TRUE(m.w.LabelStatusPort->text().startsWith("Port sim open"));
+    EXPECT_TRUE(m.dialogs.questions.empty() && m.dialogs.fileNames.empty());
+    // Two job buttons pressed before the tick: only the later job runs.
+    QTest::mouseClick(m.w.CommandWriteAll, Qt::LeftButton);
+    QTest::mouseClick(m.w.CommandVerifyAll, Qt::LeftButton);
+    m.waitIdle();
+    EXPECT_EQ(m.status(), "Verify OK");
+
+    // Two boxes in a row, then the keyboard is where it was.
+    QtDialogs boxes(&m.w);
+    m.activate();
+    m.w.generalPage->TextGenIDString->setFocus();
+    onModal("dlgQuestion", [](QDialog& d) {
+        onModal("dlgMessage", [](QDialog& e) { e.accept(); });
+        QTest::keyClick(&d, Qt::Key_N, Qt::AltModifier); // "&No"
+    });
+    EXPECT_EQ(boxes.ask("Write All instead?", Buttons::YesNo, Icon::Question), Answer::No);
+    boxes.message("Nothing was written.", Icon::None);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&m.w));
+    EXPECT_EQ(QApplication::focusWidget(), m.w.generalPage->TextGenIDString);
 }

@@ -117,4 +117,18 @@ TEST_F(WriteChangesSim, APinWriteKeepsTheImageAndAFailureOrAnotherModuleDropsIt)
     EXPECT_TRUE(WriteChanges(s));
     EXPECT_EQ(s.lastJob().job, "Write Changes");
     EXPECT_TRUE(moduleMatches());
+
+    // A write's reply that goes missing: the rest goes out one-way, and the image goes, so
+    // that the next Write Changes cannot say the module holds what it may not.
+    auto tracked = s.link.onExchange;
+    s.link.onExchange = [&, tracked](const std::vector<int>& bytes, bool reply, bool ok) {
+        tracked(bytes, reply, ok);
+        if (bytes[0] == 112) // the ID string's reply came: the first write's will not
+            sim.module.faults.dropReplies = 1;
+    };
+    s.config.step(3, 1, 4).Par1 ^= 1;
+    s.general.TextGenDCCAddress = "77";
+    EXPECT_TRUE(WriteChanges(s));
+    EXPECT_EQ(std::tuple(s.moduleImage(), s.link.settings.CheckKestrelBD, s.jobSummary().substr(0, 31)),
+              std::tuple(nullptr, false, "Write Changes incomplete: 1 pro"));
 }
