@@ -493,3 +493,32 @@ TEST(Window, InputWaitsFromAJobsPressToItsEndAndTheKeyboardComesBack)
     EXPECT_TRUE(QTest::qWaitForWindowActive(&m.w));
     EXPECT_EQ(QApplication::focusWidget(), m.w.generalPage->TextGenIDString);
 }
+
+TEST(Window, WhatIsWrittenVerifiesOrTheReportSaysHow)
+{
+    {
+        // A remembered eXtended address comes back only through its question.
+        QSettings("Kestrel", "Kestrel Config").setValue("link/extended", true);
+        RecordingDialogs asked;
+        asked.defaultAnswer = Answer::Cancel;
+        KestrelConfig w(nullptr, &asked);
+        ASSERT_EQ(asked.questions.size(), 1u);
+        EXPECT_EQ(std::pair(asked.questions[0].text.substr(0, 28), w.CheckXaddress->isChecked()),
+                  std::pair(std::string("eXtended Addressing is inten"), false));
+    }
+    Window m;
+    m.job(m.w.CommandReadAll);
+    m.w.session().config.pin(8).P(6) ^= 1; // the servo's 1/Mass, kept in flash
+    ASSERT_TRUE(m.w.CheckWritePinConfig->isChecked());
+    QTest::mouseClick(m.w.CheckWritePinConfig, Qt::LeftButton);
+    m.job(m.w.CommandWriteAll);
+    m.job(m.w.CommandVerifyAllPins);
+    m.job(m.w.CommandVerifyAllPins); // a part's verification adds to the report
+    const QStringList lines = m.report().split('\n');
+    EXPECT_EQ(lines.filter("Pinconfig does not compare").size(), 2) << m.report().toStdString();
+    EXPECT_TRUE(lines.back().startsWith("The pins' configurations were not written: check"));
+    QTest::mouseClick(m.w.CheckWritePinConfig, Qt::LeftButton);
+    m.job(m.w.CommandWriteAll);
+    m.job(m.w.CommandVerifyAll);
+    EXPECT_EQ(m.status(), "Verify OK");
+}
