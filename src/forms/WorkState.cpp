@@ -54,13 +54,24 @@ std::string fileContent(const Configuration& config, const GeneralSettings& gene
 
 bool WorkState::unsaved(const Configuration& config, const GeneralSettings& general) const
 {
-    return !heldText || *heldText != fileContent(config, general);
+    if (!unsavedMemo.holds(nullptr, config, general))
+        unsavedMemo.keep(nullptr, config, general, !heldText || *heldText != fileContent(config, general));
+    return *unsavedMemo.answer;
+}
+
+std::string WorkState::moduleState(const ModuleImage* image, const Configuration& config,
+                                   const GeneralSettings& general) const
+{
+    if (!moduleMemo.holds(image, config, general))
+        moduleMemo.keep(image, config, general, moduleStateText(image, config, general));
+    return *moduleMemo.answer;
 }
 
 void WorkState::fileHolds(const std::string& file, const Configuration& config,
                           const GeneralSettings& general)
 {
     path = file;
+    unsavedMemo.answer.reset();
     heldText = fileContent(config, general);
     heldId = general.TextGenIDString;
     fingerprint = fingerprintOf(file);
@@ -69,6 +80,7 @@ void WorkState::fileHolds(const std::string& file, const Configuration& config,
 void WorkState::compactSaved(const std::string& file)
 {
     path = file;
+    unsavedMemo.answer.reset();
     fingerprint = fingerprintOf(file);
     Configuration config;
     GeneralSettings general;
@@ -83,6 +95,7 @@ void WorkState::compactSaved(const std::string& file)
 void WorkState::untitled(const Configuration* asShown, const GeneralSettings* general)
 {
     path.clear();
+    unsavedMemo.answer.reset();
     fingerprint.reset();
     heldId.clear();
     if (asShown && general)

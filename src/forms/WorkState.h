@@ -36,7 +36,34 @@ public:
     // replaced by something else); false for an untitled configuration.
     bool changedOnDisk() const;
 
+    // moduleStateText, worked out again only when something it depends on changed.
+    std::string moduleState(const ModuleImage* image, const Configuration& config,
+                            const GeneralSettings& general) const;
+
 private:
+    // The last question and its answer: a window asks after every keystroke, and the
+    // configuration compares far faster than it is written out.
+    template <typename Answer> struct Memo {
+        Configuration config;
+        GeneralSettings general;
+        std::optional<ModuleImage> image;
+        std::optional<Answer> answer;
+        bool holds(const ModuleImage* i, const Configuration& c, const GeneralSettings& g) const
+        {
+            return answer && config == c && general == g && image.has_value() == (i != nullptr) &&
+                   (!i || (image->config == i->config && image->general == i->general));
+        }
+        void keep(const ModuleImage* i, const Configuration& c, const GeneralSettings& g, Answer a)
+        {
+            config = c;
+            general = g;
+            image = i ? std::optional<ModuleImage>(*i) : std::nullopt;
+            answer = std::move(a);
+        }
+    };
+    mutable Memo<bool> unsavedMemo;
+    mutable Memo<std::string> moduleMemo;
+
     std::string path;
     std::optional<std::string> heldText; // the full data file text of what the file holds
     std::string heldId;                  // the ID string the file holds

@@ -682,7 +682,7 @@ void KestrelConfig::updateWindowState()
     const QString name = currentFile().isEmpty() ? QString() : QFileInfo(currentFile()).fileName();
     const bool changed = unsavedChanges();
     LabelStatusModule->setText(
-        QString::fromStdString(moduleStateText(core->moduleImage(), core->config, core->general)));
+        QString::fromStdString(work.moduleState(core->moduleImage(), core->config, core->general)));
     // "Kestrel Config" while nothing is changed; "mylayout.dat* - Kestrel Config" (or
     // "untitled*") while the configuration differs from its file or was never saved.
     if (name.isEmpty() && !changed)
