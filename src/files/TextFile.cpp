@@ -115,7 +115,8 @@ bool replaceFile(const std::string& path, const std::string& content, std::strin
     // Links that lead back to themselves (or on too long): nothing to replace, and the
     // link itself is never replaced in its place.
     if (fs::is_symlink(fs::symlink_status(target, ec))) {
-        error = "Can not replace " + path + ": " + because(ELOOP);
+        error = "Can not replace " + path + ": " +
+                std::make_error_code(std::errc::too_many_symbolic_link_levels).message();
         return false;
     }
     const fs::file_status old = fs::status(target, ec);
