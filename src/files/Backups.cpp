@@ -18,14 +18,28 @@ namespace {
 
 constexpr const char* kDataSuffix = ".dat";
 constexpr const char* kInfoSuffix = ".info";
-constexpr std::size_t kStampLength = 19; // 2026-11-23_14-05-09
+constexpr const char* kIncompleteMark = "_incomplete";
+constexpr std::size_t kStampLength = 19;  // 2026-11-23_14-05-09
+constexpr std::size_t kCounterLength = 4; // _002
+constexpr std::size_t kMarkLength = 11;   // _incomplete
 constexpr int kMostInOneSecond = 999;
 
-// "2026-11-23_14-05-09" or the same with "_002" .. "_999": a backup's name without suffix.
-bool isBackupStem(const std::string& stem)
+// A backup's name without suffix: "2026-11-23_14-05-09", then "_002" .. "_999" for a later
+// one within the same second, then "_incomplete" for an incomplete read.
+struct BackupName {
+    std::string stamp; // the time and the counter: what orders the backups
+    int counter = 1;   // 1 for none
+    bool incomplete = false;
+};
+
+bool parseBackupStem(std::string stem, BackupName& name)
 {
+    name.incomplete = stem.size() > kMarkLength &&
+                      stem.compare(stem.size() - kMarkLength, kMarkLength, kIncompleteMark) == 0;
+    if (name.incomplete)
+        stem.resize(stem.size() - kMarkLength);
     const std::string pattern = "dddd-dd-dd_dd-dd-dd";
-    if (stem.size() != kStampLength && stem.size() != kStampLength + 4)
+    if (stem.size() != kStampLength && stem.size() != kStampLength + kCounterLength)
         return false;
     const std::string full = stem.size() == kStampLength ? pattern : pattern + "_ddd";
     for (std::size_t i = 0; i < full.size(); ++i) {
@@ -33,6 +47,8 @@ bool isBackupStem(const std::string& stem)
         if (full[i] == 'd' ? !digit : stem[i] != full[i])
             return false;
     }
+    name.counter = stem.size() == kStampLength ? 1 : std::stoi(stem.substr(kStampLength + 1));
+    name.stamp = std::move(stem);
     return true;
 }
 
@@ -46,25 +62,41 @@ std::string stampOf(std::chrono::system_clock::time_point now)
     return text;
 }
 
-// The backups of one module folder, newest first (the names sort as their times do).
-std::vector<fs::path> backupsIn(const fs::path& folder)
+struct FoundBackup {
+    fs::path data;
+    BackupName name;
+};
+
+// Complete ones first, each kind newest first (the names sort as their times do).
+bool listedBefore(const FoundBackup& a, const FoundBackup& b)
 {
-    std::vector<fs::path> found;
+    if (a.name.incomplete != b.name.incomplete)
+        return b.name.incomplete;
+    return a.name.stamp > b.name.stamp;
+}
+
+// The backups of one module folder, in the order they are listed.
+std::vector<FoundBackup> backupsIn(const fs::path& folder)
+{
+    std::vector<FoundBackup> found;
     std::error_code ec;
     for (fs::directory_iterator it(folder, ec), end; !ec && it != end; it.increment(ec)) {
         const fs::path& p = it->path();
-        if (p.extension() == kDataSuffix && isBackupStem(p.stem().string()) && it->is_regular_file(ec))
-            found.push_back(p);
+        BackupName name;
+        if (p.extension() == kDataSuffix && parseBackupStem(p.stem().string(), name) &&
+            it->is_regular_file(ec))
+            found.push_back({p, std::move(name)});
     }
-    std::sort(found.begin(), found.end(), [](const fs::path& a, const fs::path& b) { return a > b; });
+    std::sort(found.begin(), found.end(), listedBefore);
     return found;
 }
 
 fs::path infoPath(fs::path data) { return data.replace_extension(kInfoSuffix); }
 
-std::string infoText(const GeneralSettings& g)
+std::string infoText(const GeneralSettings& g, BackupKind kind)
 {
-    return "id=" + g.TextGenIDString + "\nversion=" + g.LabelGenVersionString + "\n";
+    return "id=" + g.TextGenIDString + "\nversion=" + g.LabelGenVersionString + "\n" +
+           (kind == BackupKind::Incomplete ? "incomplete=yes\n" : "");
 }
 
 // The value of "key=..." in a side file's text.
@@ -82,21 +114,51 @@ std::string infoValue(const std::string& text, const std::string& key)
     return "";
 }
 
+// Whether the side file of a backup names the module id (a folder of an older naming may
+// hold backups of several modules; those of the others are theirs to keep).
+bool backupOf(const fs::path& data, const std::string& id)
+{
+    std::string info, why;
+    return readTextFile(infoPath(data).string(), info, why) && infoValue(info, "id") == id;
+}
+
+// Deletes the module's oldest backups beyond the last kBackupsKept, keeping `made`.
+void prune(const fs::path& folder, const fs::path& made, BackupKind kind, const std::string& id)
+{
+    std::vector<FoundBackup> others = backupsIn(folder);
+    std::erase_if(others, [&](const FoundBackup& b) { return b.data == made || !backupOf(b.data, id); });
+    std::error_code ec;
+    for (std::size_t i = kBackupsKept - 1; i < others.size(); ++i) {
+        if (kind == BackupKind::Incomplete && !others[i].name.incomplete)
+            continue;
+        fs::remove(others[i].data, ec);
+        fs::remove(infoPath(others[i].data), ec);
+    }
+}
+
 } // namespace
 
 std::string backupFolderName(const std::string& id)
 {
     if (id.empty())
-        return "no-id";
-    std::string name = id;
-    for (char& c : name)
-        if (!std::isalnum(static_cast<unsigned char>(c)) && c != '-' && c != '_')
-            c = '_';
+        return "no-id"; // '-' is encoded in every other name
+    static const char hex[] = "0123456789ABCDEF";
+    std::string name;
+    for (const char c : id) {
+        const auto byte = static_cast<unsigned char>(c);
+        if ((byte < 128 && std::isalnum(byte)) || c == '_') {
+            name += c;
+        } else {
+            name += '%';
+            name += hex[byte >> 4];
+            name += hex[byte & 15];
+        }
+    }
     return name;
 }
 
 std::string saveBackup(const std::string& root, Configuration& config, const GeneralSettings& general,
-                       std::chrono::system_clock::time_point now, std::string& error)
+                       std::chrono::system_clock::time_point now, std::string& error, BackupKind kind)
 {
     const fs::path folder = fs::path(root) / backupFolderName(general.TextGenIDString);
     std::error_code ec;
@@ -105,13 +167,20 @@ std::string saveBackup(const std::string& root, Configuration& config, const Gen
         error = "cannot create " + folder.string() + ": " + ec.message();
         return "";
     }
+    // The counter goes on from the highest one of this second, so that the names of one
+    // second keep the order in which they were saved, also after the first were pruned.
     const std::string stamp = stampOf(now);
+    int counter = 1;
+    for (const FoundBackup& b : backupsIn(folder))
+        if (b.name.stamp.compare(0, kStampLength, stamp) == 0)
+            counter = std::max(counter, b.name.counter + 1);
+    const char* mark = kind == BackupKind::Incomplete ? kIncompleteMark : "";
     fs::path data;
-    for (int n = 1; n <= kMostInOneSecond && data.empty(); ++n) {
-        char counter[8] = "";
-        if (n > 1)
-            std::snprintf(counter, sizeof counter, "_%03d", n);
-        const fs::path candidate = folder / (stamp + counter + kDataSuffix);
+    for (; counter <= kMostInOneSecond && data.empty(); ++counter) {
+        char number[8] = "";
+        if (counter > 1)
+            std::snprintf(number, sizeof number, "_%03d", counter);
+        const fs::path candidate = folder / (stamp + number + mark + kDataSuffix);
         if (!fs::exists(fs::symlink_status(candidate, ec)) &&
             !fs::exists(fs::symlink_status(infoPath(candidate), ec)))
             data = candidate;
@@ -121,44 +190,41 @@ std::string saveBackup(const std::string& root, Configuration& config, const Gen
         return "";
     }
     // The side file first, so that a listed data file always has its version.
-    if (!replaceFile(infoPath(data).string(), infoText(general), error) ||
+    if (!replaceFile(infoPath(data).string(), infoText(general, kind), error) ||
         !saveConfigurationFile(data.string(), config, general, SaveForm::Full, error)) {
         fs::remove(infoPath(data), ec);
         return "";
     }
-    const auto kept = backupsIn(folder);
-    for (std::size_t i = kBackupsKept; i < kept.size(); ++i) {
-        fs::remove(kept[i], ec);
-        fs::remove(infoPath(kept[i]), ec);
-    }
+    prune(folder, data, kind, general.TextGenIDString);
     return data.string();
 }
 
 std::vector<BackupEntry> listBackups(const std::string& root)
 {
-    std::vector<BackupEntry> entries;
+    std::vector<FoundBackup> found;
     std::error_code ec;
     for (fs::directory_iterator it(root, ec), end; !ec && it != end; it.increment(ec)) {
         if (!it->is_directory(ec))
             continue;
-        for (const fs::path& data : backupsIn(it->path())) {
-            const std::string stem = data.stem().string();
-            BackupEntry e;
-            e.path = data.string();
-            e.when = stem.substr(0, 10) + " " + stem.substr(11, 8);
-            std::replace(e.when.begin() + 11, e.when.end(), '-', ':');
-            std::string info, why;
-            if (readTextFile(infoPath(data).string(), info, why)) {
-                e.id = infoValue(info, "id");
-                e.version = infoValue(info, "version");
-            }
-            entries.push_back(std::move(e));
-        }
+        for (FoundBackup& b : backupsIn(it->path()))
+            found.push_back(std::move(b));
     }
-    // Newest first across modules: by the name's time, then by the counter within a second.
-    std::stable_sort(entries.begin(), entries.end(), [](const BackupEntry& a, const BackupEntry& b) {
-        return fs::path(a.path).filename() > fs::path(b.path).filename();
-    });
+    // Across modules in the same order: complete first, each kind newest first.
+    std::stable_sort(found.begin(), found.end(), listedBefore);
+    std::vector<BackupEntry> entries;
+    for (const FoundBackup& b : found) {
+        BackupEntry e;
+        e.path = b.data.string();
+        e.when = b.name.stamp.substr(0, 10) + " " + b.name.stamp.substr(11, 8);
+        std::replace(e.when.begin() + 11, e.when.end(), '-', ':');
+        e.incomplete = b.name.incomplete;
+        std::string info, why;
+        if (readTextFile(infoPath(b.data).string(), info, why)) {
+            e.id = infoValue(info, "id");
+            e.version = infoValue(info, "version");
+        }
+        entries.push_back(std::move(e));
+    }
     return entries;
 }
 

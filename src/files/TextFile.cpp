@@ -42,7 +42,7 @@ std::string finalTarget(const std::string& path)
             return p.string();
         p = next.is_absolute() ? next : p.parent_path() / next;
     }
-    return p.string(); // a loop: the rename below reports it
+    return p.string(); // a loop: still a link, which replaceFile() refuses
 }
 
 } // namespace
@@ -112,6 +112,13 @@ bool replaceFile(const std::string& path, const std::string& content, std::strin
 {
     const std::string target = finalTarget(path);
     std::error_code ec;
+    // Links that lead back to themselves (or on too long): nothing to replace, and the
+    // link itself is never replaced in its place.
+    if (fs::is_symlink(fs::symlink_status(target, ec))) {
+        error = "Can not replace " + path + ": " +
+                std::make_error_code(std::errc::too_many_symbolic_link_levels).message();
+        return false;
+    }
     const fs::file_status old = fs::status(target, ec);
     const bool exists = fs::exists(old);
     if (exists && !fs::is_regular_file(old)) {

@@ -20,7 +20,8 @@ std::string temporaryPathFor(const std::string& path);
 // never a part: the text goes to a temporary file beside the target, which is then
 // renamed over it. A symbolic link is followed and its target replaced; the new file
 // keeps the old one's permissions. A target that exists and is not a regular file (a
-// device, a FIFO, a folder) is refused. On failure the target is untouched, the
+// device, a FIFO, a folder) is refused, and so is a link that never ends in a file (a
+// loop: "Too many levels of symbolic links"). On failure the target is untouched, the
 // temporary file is removed, false is returned and error says what failed and why
 // ("Can not write /x/.a.dat.saving: No space left on device").
 bool replaceFile(const std::string& path, const std::string& content, std::string& error);

@@ -387,15 +387,21 @@ bool Link::sendTunnelled(bool expectReply, int size, const std::array<int, 15>& 
         tunnelStale = true;
         return false;
     }
-    if (!expectReply) {
+    // A write is answered by one poll; the module's acknowledgement is not waited for,
+    // unless a missing reply is to fail the call and replies are wanted (the module then
+    // acknowledges the write as it answers a request; nothing answers an erase, sent
+    // with "Bidirectional Comm." unchecked).
+    if (!expectReply && !(missingReplyFails && settings.CheckKestrelBD)) {
         state.ReplyValid = CorvidExchange(0);
         tunnelStale = !state.ReplyValid;
         return state.ReplyValid;
     }
     auto& buf = state.ReplyBuffer;
     const double start = time.secondsSinceMidnight();
+    bool taken = false;
     while (state.ReplyValid) {
         if (buf[1] == 0 && buf[0] >= 4 && buf[2] == t) {
+            taken = true;
             buf[0] = (buf[2] & 31) * 4 + 3;
             buf[1] = 0;
             if (buf[3] & 16) {
@@ -420,6 +426,13 @@ bool Link::sendTunnelled(bool expectReply, int size, const std::array<int, 15>& 
         if (remaining(start) <= 0)
             break;
         state.ReplyValid = CorvidExchange(0);
+    }
+    // The Corvid system answered every poll, but the module never did: a time-out that
+    // leaves the last poll's frame, which the callers reject by its size, unless a missing
+    // reply fails the call.
+    if (state.ReplyValid && !taken && missingReplyFails) {
+        ui.message("No response received from the module through the Corvid system");
+        state.ReplyValid = false;
     }
     tunnelStale = !state.ReplyValid;
     return state.ReplyValid;

@@ -71,9 +71,11 @@ public:
     LinkSettings settings;
     LinkState state;
     LinkStats stats;
-    // When set, a reply that goes missing on the direct route fails the call (after the
-    // message, and CheckKestrelBD unchecked as always), so that a job stops there instead
-    // of going on one-way. The batch tool sets it when it asked for replies.
+    // When set, a reply that goes missing fails the call, so that a job stops there
+    // instead of going on one-way: on the direct route after the message, with
+    // CheckKestrelBD unchecked as always; on the tunnel route, where every request and
+    // write then waits for the module's reply, after a message of its own. The batch tool
+    // sets it when it asked for replies.
     bool missingReplyFails = false;
     // The last send's reply was awaited and did not come.
     bool replyMissing = false;

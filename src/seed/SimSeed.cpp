@@ -12,7 +12,11 @@ namespace {
 class CollectingDialogs : public UserDialogs {
 public:
     std::string text;
-    void message(const std::string& t, Icon) override { text += (text.empty() ? "" : "; ") + t; }
+    // The first line of each: what the window would add ("Loading stopped; ...") is not so here.
+    void message(const std::string& t, Icon) override
+    {
+        text += (text.empty() ? "" : "; ") + t.substr(0, t.find("\r\n"));
+    }
     Answer ask(const std::string&, Buttons, Icon) override { return Answer::Ok; }
     std::string openFileName(const std::string&, const std::string&, const std::string&) override
     {
@@ -49,6 +53,9 @@ bool seedModule(sim::SimBus& bus, int address, const Configuration& config, cons
     // the file's, like any module that is written.
     if (module->hasXAddress())
         module->memory().extendedAddress = keptXAddress;
+    // Then it starts as a module does that was written and switched on again: its pins run
+    // the configuration in flash.
+    module->memory().powerUp();
     if (!ok)
         error = dialogs.text.empty() ? "the module refused the configuration" : dialogs.text;
     return ok;
@@ -59,8 +66,9 @@ bool seedModuleFromFile(sim::SimBus& bus, int address, const std::string& path, 
     Configuration config;
     GeneralSettings general;
     CollectingDialogs dialogs;
-    if (loadConfigurationFile(path, config, general, dialogs) != LoadResult::Loaded) {
-        error = "cannot load " + path + (dialogs.text.empty() ? "" : ": " + dialogs.text);
+    std::string why;
+    if (loadConfigurationFile(path, config, general, dialogs, &why) != LoadResult::Loaded) {
+        error = "cannot load " + path + ": " + (!why.empty() ? why : dialogs.text);
         return false;
     }
     return seedModule(bus, address, config, general, error);

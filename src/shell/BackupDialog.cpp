@@ -38,8 +38,13 @@ BackupDialog::BackupDialog(std::vector<BackupEntry> entries, QWidget* parent)
     for (int row = 0; row < tableBackups->rowCount(); ++row) {
         const BackupEntry& e = backups[static_cast<std::size_t>(row)];
         int column = 0;
-        for (const std::string& text : {e.when, e.id, e.version})
-            tableBackups->setItem(row, column++, new QTableWidgetItem(QString::fromLatin1(text.c_str())));
+        for (const std::string& text : {e.incomplete ? e.when + " (incomplete)" : e.when, e.id, e.version}) {
+            auto* item = new QTableWidgetItem(QString::fromLatin1(text.c_str()));
+            if (e.incomplete)
+                item->setToolTip(
+                    "The read reported problems: this backup may hold values the module never sent");
+            tableBackups->setItem(row, column++, item);
+        }
     }
     tableBackups->resizeColumnsToContents();
     if (!backups.empty())

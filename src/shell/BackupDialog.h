@@ -15,8 +15,10 @@ namespace kestrel {
 // data folder (~/.local/share/Kestrel/Kestrel Config/backups).
 QString backupRoot();
 
-// File > Restore from backup...: the backups, newest first, with their date, ID and
-// version. Load (or a double-click on a row) accepts the chosen one; Cancel chooses none.
+// File > Restore from backup...: the backups as listBackups() orders them (the complete
+// ones newest first, then those of incomplete reads, their date marked "(incomplete)"),
+// with their date, ID and version. Load (or a double-click on a row) accepts the chosen one; Cancel chooses
+// none.
 class BackupDialog : public QDialog {
     Q_OBJECT
 public:

@@ -151,8 +151,10 @@ int commandRead(CliContext& c)
         jobStatus(c, false);
         return kFailed;
     }
+    // A read that reported problems is kept only as an incomplete backup.
+    const BackupKind kind = c.session.lastJob().incomplete() ? BackupKind::Incomplete : BackupKind::Complete;
     if (c.options.backup && saveBackup(backupRoot().toStdString(), c.session.config, c.session.general,
-                                       std::chrono::system_clock::now(), error)
+                                       std::chrono::system_clock::now(), error, kind)
                                 .empty()) {
         std::fprintf(stderr, "Cannot save the backup: %s\n", printable(error).c_str());
         jobStatus(c, false);
@@ -231,6 +233,10 @@ int fileCommand(const CliOptions& o, UserDialogs& dialogs)
 // so going on means answering it with Cancel.
 int commandErase(CliContext& c)
 {
+    // Nothing answers an erase: with replies asked for, the module shows first that it is
+    // there, so that an erase of nobody is never reported as done.
+    if (c.options.yes && !c.options.oneWay && !c.session.link.GetVersion())
+        return kFailed;
     if (c.options.yes)
         c.dialogs.scripted = {Answer::Ok, Answer::Cancel};
     else
@@ -348,6 +354,11 @@ bool parse(const std::vector<std::string>& args, CliOptions& o, std::string& err
     }
     if (o.changesFrom && o.command != "write") {
         error = "--changes-from goes with write";
+        return false;
+    }
+    if (o.changesFrom && o.oneWay) {
+        error = "--changes-from cannot go with --one-way: without replies the module's ID string cannot be "
+                "checked, so another module could be written";
         return false;
     }
     if (o.port.empty()) {

@@ -7,9 +7,12 @@
 
 namespace kestrel {
 
-// A text for the console: line ends (LF, CR LF) as they are, every other control
-// character written as \xNN, so that nothing the module or a file holds (a NUL, an
-// escape sequence) reaches the terminal raw.
+// A text for the console: line ends (LF, CR LF) and well-formed UTF-8 as they are;
+// every other control character written as \xNN, every byte that is no part of a
+// well-formed UTF-8 character (0x9B, an 8-bit CSI, among them) as \xNN, and the C1
+// controls, the bidirectional marks, embeddings, overrides and isolates and the line
+// and paragraph separators as \uNNNN, so that nothing the module or a file holds (a NUL,
+// an escape sequence, a text that reorders what follows it) reaches the terminal raw.
 std::string printable(std::string_view text);
 
 // The batch tool's dialogs: every message goes to stderr; questions are answered

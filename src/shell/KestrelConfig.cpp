@@ -1123,7 +1123,8 @@ void KestrelConfig::saveReadBackup()
     std::string saved;
     (*guard)([&] {
         saved = saveBackup(backupRoot().toStdString(), core->config, core->general,
-                           std::chrono::system_clock::now(), error);
+                           std::chrono::system_clock::now(), error,
+                           core->lastJob().incomplete() ? BackupKind::Incomplete : BackupKind::Complete);
     });
     if (saved.empty())
         LabelStatusJob->setText(LabelStatusJob->text() +

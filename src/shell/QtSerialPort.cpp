@@ -12,6 +12,7 @@
 
 #ifndef _WIN32
 #include <poll.h>
+#include <termios.h>
 #endif
 
 namespace kestrel {
@@ -54,15 +55,36 @@ bool QtSerialPort::open()
         error = port().errorString().toStdString();
         return false;
     }
-    if (!port().setBaudRate(baud) || !port().setParity(QSerialPort::OddParity) ||
-        !port().setDataBits(QSerialPort::Data8) || !port().setStopBits(QSerialPort::OneStop) ||
-        !port().setFlowControl(QSerialPort::NoFlowControl)) {
+    if (!applySettings() && !(clearParity() && applySettings())) {
         error = "cannot set " + settingsText + ": " + port().errorString().toStdString();
         port().close();
         return false;
     }
     port().clear();
     return true;
+}
+
+bool QtSerialPort::applySettings()
+{
+    return port().setBaudRate(baud) && port().setParity(QSerialPort::OddParity) &&
+           port().setDataBits(QSerialPort::Data8) && port().setStopBits(QSerialPort::OneStop) &&
+           port().setFlowControl(QSerialPort::NoFlowControl);
+}
+
+bool QtSerialPort::clearParity()
+{
+#ifndef _WIN32
+    // A program that ended without closing the port (killed) leaves a pseudo-terminal with
+    // odd parity, which it cannot be set to again ("Invalid argument"): no parity first.
+    termios t{};
+    const int fd = static_cast<int>(port().handle());
+    if (::tcgetattr(fd, &t) != 0)
+        return false;
+    t.c_cflag &= ~static_cast<tcflag_t>(PARENB | PARODD);
+    return ::tcsetattr(fd, TCSANOW, &t) == 0;
+#else
+    return false;
+#endif
 }
 
 // True when the other end has gone (an adapter pulled out, a pseudo-terminal whose other

@@ -32,6 +32,11 @@ public:
 
 private:
     bool failed();
+    // Odd parity, 8 data bits, 1 stop bit, no flow control at the bit rate chosen.
+    bool applySettings();
+    // Takes the parity off the open port by the system's own call; false where that
+    // cannot be done.
+    bool clearParity();
     void flushWrites();
     // A new QSerialPort for every open: one that was closed cannot set odd parity on a
     // pseudo-terminal again ("Invalid argument"), so a reopened port would be refused.

@@ -9,6 +9,12 @@ void PinMemory::setOutputValue(std::uint8_t v)
     activeConfig[1] = v;
 }
 
+void ModuleMemory::powerUp()
+{
+    for (PinMemory& pin : pins)
+        pin.activeConfig = pin.flashConfig;
+}
+
 bool ModuleMemory::readItem(int item, std::vector<std::uint8_t>& data) const
 {
     switch (item) {

@@ -59,6 +59,11 @@ struct ModuleMemory {
     std::array<std::uint8_t, 4> firmwareVersion{1, 2, 3, 4}; // item 0 (read only)
     std::array<PinMemory, kModulePins> pins{};
 
+    // What the module does when it starts: every pin takes its flash configuration as
+    // the active one, the output starting where the flash set puts it (a servo's start
+    // position, a PWM pin's level).
+    void powerUp();
+
     int dccAddress() const { return dccAddressHigh * 64 + dccAddressLow; }
     int xdccAddress() const { return xdccAddressHigh * 64 + xdccAddressLow; }
 

@@ -26,6 +26,7 @@ SimModule::SimModule(int busAddress, std::optional<std::uint8_t> xaddress,
     memory_.firmwareVersion = firmwareVersion;
     if (xaddress)
         memory_.extendedAddress = *xaddress;
+    memory_.powerUp();
     factory_ = memory_;
 }
 

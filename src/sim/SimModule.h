@@ -78,6 +78,8 @@ public:
     int busAddress() const { return busAddress_; }
     bool hasXAddress() const { return hasXAddress_; }
 
+    // What it stores. One that is given a new memory (seeded, loaded) starts again with
+    // memory().powerUp(), as after switching it off and on.
     ModuleMemory& memory() { return memory_; }
     const ModuleMemory& memory() const { return memory_; }
     // The state an erase returns to: factory values with this module's version and

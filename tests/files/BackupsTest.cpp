@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 using namespace kestrel;
 using namespace kestrel::test;
 
@@ -30,7 +32,7 @@ TEST(Backups, SavedPerModuleListedNewestFirstAndPrunedToTheLastThirty)
     const std::string other = saveBackup(root, config, general, start + std::chrono::hours(1), error);
     ASSERT_EQ(error, "");
     EXPECT_NE(saved[0], saved[1]);
-    EXPECT_EQ(std::filesystem::path(saved[0]).parent_path().filename(), "Up_Main_7");
+    EXPECT_EQ(std::filesystem::path(saved[0]).parent_path().filename(), "Up%20Main%207");
     EXPECT_EQ(std::filesystem::path(other).parent_path().filename(), "no-id");
 
     const auto list = listBackups(root);
@@ -45,4 +47,34 @@ TEST(Backups, SavedPerModuleListedNewestFirstAndPrunedToTheLastThirty)
     RecordingDialogs dialogs;
     ASSERT_EQ(loadConfigurationFile(list[1].path, back, general2, dialogs), LoadResult::Loaded);
     EXPECT_TRUE(back == config);
+
+    std::set<std::string> folders; // every ID a folder of its own
+    for (const std::string id :
+         {"Demo layout", "Demo.layout", "Demo_layout", "Demo-layout", "no-id", "", "D\0"})
+        folders.insert(backupFolderName(id == "D" ? std::string("D\0", 2) : id));
+    EXPECT_EQ(folders.size(), 7u);
+}
+
+TEST(Backups, TheNewOneOutlivesItsPruningAndIncompleteReadsComeLast)
+{
+    ScratchDir dir("backups-prune");
+    const std::string root = dir.file("backups");
+    Configuration config;
+    const GeneralSettings general;
+    const auto now = std::chrono::system_clock::now();
+    std::string error, last;
+    for (int i = 0; i < 32; ++i) // within one second: the last is the newest
+        last = saveBackup(root, config, general, now, error);
+    EXPECT_EQ(listBackups(root)[0].path, last);
+    for (int i = 0; i < 30; ++i) // named an hour later (a clock put back), then one more now
+        saveBackup(root, config, general, now + std::chrono::hours(1), error);
+    last = saveBackup(root, config, general, now, error);
+    ASSERT_TRUE(std::filesystem::exists(last)) << error;
+    // An incomplete read is kept beside the 30 complete ones, marked and listed last.
+    const std::string incomplete = saveBackup(root, config, general, now, error, BackupKind::Incomplete);
+    const auto list = listBackups(root);
+    ASSERT_EQ(list.size(), kBackupsKept + 1u);
+    EXPECT_EQ(
+        std::tuple(list.back().path, list.back().incomplete, list[0].incomplete, list[kBackupsKept - 1].path),
+        std::tuple(incomplete, true, false, last));
 }

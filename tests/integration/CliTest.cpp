@@ -6,8 +6,8 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstdlib>
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 #include <thread>
 
 using namespace kestrel;
@@ -19,6 +19,8 @@ static const std::string cli = binPath("kestrel-cli");
 TEST(CliAgainstSimProcess, VersionAtEachBitRateAndAddress)
 {
     SimProcess sim({"--address", "0", "--address", "5", "--version", "9.8.7.6"});
+    // Left with odd parity by a client that was killed, the port opens all the same.
+    ASSERT_NE(std::system(("stty -F " + sim.pty() + " parenb parodd 2>/dev/null").c_str()), -1);
     for (const char* baud : {"9600", "19200", "38400"}) {
         auto r = runProgram(cli, {"--port", sim.pty(), "--baud", baud, "version"});
         EXPECT_EQ(std::tuple(r.status, r.out, r.err), std::tuple(0, "9.8.7.6\n", "")) << baud;
@@ -67,6 +69,16 @@ TEST(CliThroughCorvid, TunnelThenTransparentModeThenDirectAndAnOldSystemRefusesT
     // Through the tunnel, addresses above 15 are reachable.
     auto r = runProgram(cli, {"--port", sim.pty(), "--corvid", "--address", "20", "version"});
     EXPECT_EQ(std::tuple(r.status, r.out), std::tuple(0, "3.1.4.1\n")) << r.err;
+    // Behind the live system nobody answers at address 5: the jobs fail, as on the direct route.
+    ScratchDir dir("cli-corvid");
+    spit(dir.file("demo.dat"), demoConfigurationText());
+    for (const char* job : {"write", "verify"}) {
+        r = runProgram(cli, {"--port", sim.pty(), "--corvid", "--address", "5", job, dir.file("demo.dat")});
+        EXPECT_EQ(
+            std::tuple(r.status, r.err.rfind("No response received from the module through the Corvid", 0)),
+            std::tuple(1, 0u))
+            << job << r.err;
+    }
 
     // The system supports tunneling, so switching the unit asks first; without --yes: no.
     EXPECT_EQ(runProgram(cli, {"--port", sim.pty(), "transparent"}).status, 1);
@@ -148,6 +160,9 @@ TEST(CliFiles, BadFilesAndAddressesAreUsageErrorsAndNothingIsSent)
         {{"--number-from-1", "--address", "0", "version"}, "", "--address must be a number from 1 to 16"},
         {{"--xaddress", "96", "version"}, "", "--xaddress must be a number from 0 to 95"},
         {{"--port", "", "version"}, "", "--port needs a port name"},
+        {{"--one-way", "write", bad, "--changes-from", bad},
+         "",
+         "without replies the module's ID string cannot"},
     };
     // Modules 0, 3 and 15 on one bus: none of them may hear a byte.
     SimProcess sim({"--address", "0,3,15"});
@@ -166,7 +181,7 @@ TEST(CliFiles, BadFilesAndAddressesAreUsageErrorsAndNothingIsSent)
 TEST(CliFiles, AJobThatCannotCompleteFailsAndSaysWhatWasIncomplete)
 {
     ScratchDir dir("cli-incomplete");
-    const std::string demo = dir.file("incomplete.dat"), fifo = dir.file("fifo.dat");
+    const std::string demo = dir.file("incomplete.dat"), loop = dir.file("loop.dat");
     ASSERT_EQ(runProgram(cli, {"read", demo}).status, 0);
 
     // A silent module: the write stops at its first exchange, not going on blind, and says where.
@@ -187,21 +202,20 @@ TEST(CliFiles, AJobThatCannotCompleteFailsAndSaysWhatWasIncomplete)
                      "reported, the first: Read Event-Off: Function not supported by Device\n");
     EXPECT_EQ(slurp(demo).rfind("\"KestrelConfiguration 3100\"", 0), 0u);
 
-    // A read is never saved over something that is not a regular file.
-    ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
-    r = runProgram(cli, {"read", fifo});
-    EXPECT_EQ(r.status, 1);
-    EXPECT_NE(r.err.find("Cannot save " + fifo + ": Can not replace " + fifo + ": Not a regular file"),
-              std::string::npos)
+    // A read is never saved over a link that leads back to itself (nor a FIFO, a folder).
+    std::filesystem::create_symlink("loop.dat", loop);
+    r = runProgram(cli, {"read", loop});
+    EXPECT_EQ(std::tuple(r.status, std::filesystem::is_symlink(loop)), std::tuple(1, true));
+    EXPECT_NE(
+        r.err.find("Cannot save " + loop + ": Can not replace " + loop + ": Too many levels of symbolic"),
+        std::string::npos)
         << r.err;
 
-    // A control character of the ID reaches stdout escaped.
-    spit(demo, "\"KestrelConfiguration 3100\"\r\n\"ID$\",\"A\x01"
+    // Control characters (C0, 0x9B alone and in UTF-8, bidirectional overrides) reach stdout escaped.
+    spit(demo, "\"KestrelConfiguration 3100\"\r\n\"Pin\",0,0,0,\"A\x01\x9B\xC2\x9B\xE2\x80\xAE\xE2\x81\xA6"
                "B\"\r\n\"End\"\r\n");
-    const auto v = runProgram(cli, {"verify", demo});
-    EXPECT_EQ(v.status, 1);
-    EXPECT_NE(v.out.find("ID does not compare: KestrelConfig = <A\\x01B> Kestrel = <"), std::string::npos)
-        << v.out;
+    const auto v = runProgram(cli, {"show", demo});
+    EXPECT_NE(v.out.find("description: \"A\\x01\\x9B\\u009B\\u202E\\u2066B\"\n"), std::string::npos) << v.out;
 }
 
 TEST(CliDiff, AFileDiffersFromNothingOfItselfAndTheModuleByThePlantedStepAlone)

@@ -1,4 +1,6 @@
 // Runs the kestrel-sim executable and talks to it through its pseudo-terminal.
+#include "files/DemoConfiguration.h"
+#include "support/Files.h"
 #include "support/Frames.h"
 #include "support/Process.h"
 
@@ -57,4 +59,25 @@ TEST(KestrelSimProcess, AnswersThroughItsPseudoTerminalAcrossReopen)
     const std::string summary = sim.stop(); // written on a clean exit
     EXPECT_NE(summary.find("2 exchanges"), std::string::npos) << summary;
     EXPECT_NE(summary.find("at 38400 baud"), std::string::npos) << summary;
+}
+
+TEST(KestrelSimProcess, StartsWithTheFlashConfigurationActiveAndSaysWhyAFileCannotBeLoaded)
+{
+    using namespace kestrel::test;
+    const ScratchDir dir("sim-load");
+    const std::string demo = dir.file("demo.dat"), bad = dir.file("bad.dat");
+    spit(demo, kestrel::demoConfigurationText());
+    SimProcess sim({"--load", demo});
+    // Get Pin Config ("Q") of the servo pin 8 answers its flash configuration ("Cfg",1,39,25,...).
+    EXPECT_EQ(
+        exchange(sim.pty(), {0, 0, 0, 255, 255, 255, 170, 170, 170, 3, 192, 189, 67, 226, 209, 136, 130}, 17),
+        frame<Bytes>({67, 238}, {81, 8, 1, 39, 25, 64, 60, 40, 20, 10, 64, 0, 64, 0}));
+
+    spit(bad, "\"KestrelConfiguration 3100\"\r\n\"Pin\",x\r\n");
+    for (const auto& [file, why] :
+         {std::pair{dir.file("none.dat"), ": No such file or directory\n"},
+          {bad, ": Error in configuration file: Number expected, found \"x\" at line 2, item 2\n"}}) {
+        const auto r = runProgram(binPath("kestrel-sim"), {"--load", file});
+        EXPECT_EQ(std::tuple(r.status, r.err), std::tuple(2, "kestrel-sim: cannot load " + file + why));
+    }
 }
