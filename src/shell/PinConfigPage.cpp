@@ -435,8 +435,15 @@ void PinConfigPage::refresh()
     LabelInpHWCWarn->setVisible(v.LabelInpHWCWarn);
     for (const auto& [field, box] : fields)
         shown[box] = box->text();
-    if (!v.message.empty())
+    // An unknown mode is told once for the pin shown, not on every refresh (a tab change,
+    // a job's end); again when another pin or mode is shown or the pin is read anew.
+    const std::pair<int, int> shownPin{session.config.CurrentPin, pin().ConfigMode};
+    if (v.message.empty())
+        toldUnknown.reset();
+    else if (toldUnknown != shownPin) {
+        toldUnknown = shownPin;
         session.dialogs().message(v.message, Icon::None);
+    }
 }
 
 void PinConfigPage::showEvent(QShowEvent* event)
@@ -555,6 +562,7 @@ void PinConfigPage::CommandPCFGGetParam_Click(int index)
 {
     commitPending();
     guard([&] { ReadPinConfig(session, index, session.config.CurrentPin); });
+    toldUnknown.reset();
     refresh();
 }
 

@@ -200,14 +200,17 @@ TEST(AspectEditor, NumberingAndHelpDecision)
         {13, HelpBox::Par1, HelpToolKind::Pattern},
         {37, HelpBox::Par1, HelpToolKind::Pattern},
         {16, HelpBox::Par1, HelpToolKind::EventPattern},
-        {38, HelpBox::Par1, HelpToolKind::Level}, // "Set Level"
-        // then the two without a tool:
+        // then those without a tool, the "Level" boxes of 0..31 among them (no room for 16 x level)
         {102, HelpBox::Par1, HelpToolKind::None},
-        {13, HelpBox::Par2, HelpToolKind::None}};
+        {13, HelpBox::Par2, HelpToolKind::None},
+        {38, HelpBox::Par1, HelpToolKind::None},
+        {96, HelpBox::Par1, HelpToolKind::None},
+        {97, HelpBox::Par1, HelpToolKind::None},
+        {18, HelpBox::Par2, HelpToolKind::None}};
     test::RecordingDialogs dialogs;
     for (const auto& [instruction, box, kind] : help)
         EXPECT_EQ(helpToolFor({static_cast<std::uint8_t>(instruction), 0, 0, 0, 0, 0}, box, dialogs), kind)
             << instruction;
     EXPECT_EQ(dialogs.texts(),
-              std::vector<std::string>(2, "Help tool not available for this box with the selected command"));
+              std::vector<std::string>(6, "Help tool not available for this box with the selected command"));
 }
