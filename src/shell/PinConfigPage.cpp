@@ -117,8 +117,8 @@ PinConfigPage::PinConfigPage(Session& s, Guard* sharedGuard, QWidget* parent)
 
     auto* transfer = named(new QGroupBox("Pin Configuration"), "FramePCFGTransfer");
     auto* row = new QHBoxLayout(transfer);
-    const char* getCaptions[2] = {"&Get Pin Config", "Re&ad Pin Config"};
-    const char* setCaptions[2] = {"Set &Pin Config", "&Write Pin Config"};
+    const char* getCaptions[2] = {"Get Pin Config", "Re&ad Pin Config"};
+    const char* setCaptions[2] = {"Set Pin Config", "Write Pin Config"};
     const char* getTips[2] = {"Gets the active parameters", "Reads the parameters from Flash memory"};
     const char* setTips[2] = {"Sets Active Servo parameters (not permanent)",
                               "Writes Servo Parameters to Flash memory"};
@@ -175,7 +175,7 @@ QWidget* PinConfigPage::buildServoPage()
     SliderServo = named(new QSlider(Qt::Horizontal), "SliderServo");
     SliderServo->setRange(-64, 63);
     SliderServo->setTracking(false); // sends when let go, not for every step of a drag
-    CommandSrvLevel = named(new QPushButton("Se&t Position"), "CommandSrvLevel");
+    CommandSrvLevel = named(new QPushButton("Set Position"), "CommandSrvLevel");
     CheckSrvDynamic = named(new QCheckBox("Dynamic"), "CheckSrvDynamic");
     CheckSrvDynamic->setToolTip(kDynamicTip);
     CommandStopSrv = named(new QPushButton("&Jump"), "CommandStopSrv");
@@ -278,7 +278,7 @@ QWidget* PinConfigPage::buildPwmPage()
     SliderPWM = named(new QSlider(Qt::Horizontal), "SliderPWM");
     SliderPWM->setRange(0, 31);
     SliderPWM->setTracking(false);
-    CommandPWMLevel = named(new QPushButton("&Set Level"), "CommandPWMLevel");
+    CommandPWMLevel = named(new QPushButton("Set Level"), "CommandPWMLevel");
     CheckPWMSlow = named(new QCheckBox("Slow"), "CheckPWMSlow");
     CheckPWMSlow->setToolTip(kDynamicTip);
     CommandPWMJump = named(new QPushButton("J&ump"), "CommandPWMJump");

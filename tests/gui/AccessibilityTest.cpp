@@ -2,12 +2,18 @@
 #include "gui/GuiRig.h"
 #include "shell/AspectsPage.h"
 #include "shell/EditTools.h"
+#include "shell/EventPage.h"
+#include "shell/GeneralPage.h"
 #include "shell/HelpToolDialogs.h"
+#include "shell/PinConfigPage.h"
+#include "shell/PinOverview.h"
 
 #include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QGroupBox>
 #include <QKeySequence>
+#include <QMenuBar>
+#include <QRadioButton>
 #include <QScrollArea>
 #include <QSlider>
 #include <QSpinBox>
@@ -49,8 +55,8 @@ bool frameName(QWidget* w, const QString& name)
 }
 
 // Walks the accessible tree under `root` but not `skip`: the inputs without a name of their
-// own go to `faults`, the push buttons to `buttons`.
-void walk(QAccessibleInterface* node, QWidget* skip, QStringList& faults, QList<QPushButton*>& buttons)
+// own go to `faults`.
+void walk(QAccessibleInterface* node, QWidget* skip, QStringList& faults)
 {
     if (!node || !node->isValid() || node->object() == skip)
         return;
@@ -60,39 +66,15 @@ void walk(QAccessibleInterface* node, QWidget* skip, QStringList& faults, QList<
         if (name.trimmed().isEmpty() || frameName(w, name))
             faults << QString("%1 %2 (\"%3\")").arg(w->metaObject()->className(), w->objectName(), name);
     }
-    if (auto* b = qobject_cast<QPushButton*>(w))
-        buttons << b;
     for (int i = 0; i < node->childCount(); ++i)
-        walk(node->child(i), skip, faults, buttons);
+        walk(node->child(i), skip, faults);
 }
 
-// The frame a button is in, as a key.
-QString frameOf(QWidget* w)
-{
-    for (QWidget* p = w->parentWidget(); p; p = p->parentWidget())
-        if (qobject_cast<QGroupBox*>(p))
-            return QString::number(reinterpret_cast<quintptr>(p));
-    return {};
-}
-
-// Unnamed inputs, inputs not named by their label, buttons without a mnemonic of their own in
-// their frame or with one the menu bar takes (mnemonics repeat across frames: the general page
-// has more buttons than its captions have letters).
+// Unnamed inputs and inputs not named by their label.
 QStringList faultsOf(QWidget* root, QWidget* skip = nullptr)
 {
     QStringList faults;
-    QList<QPushButton*> buttons;
-    walk(QAccessible::queryAccessibleInterface(root), skip, faults, buttons);
-    std::map<QString, QString> used;
-    for (QPushButton* b : buttons) {
-        const QString key = QKeySequence::mnemonic(b->text()).toString();
-        if (key.isEmpty() && b->shortcut().isEmpty())
-            faults << b->objectName() + ": no mnemonic";
-        else if (QStringList{"Alt+F", "Alt+E", "Alt+V", "Alt+M", "Alt+H"}.contains(key))
-            faults << b->objectName() + ": " + key + " is the menu bar's";
-        else if (!key.isEmpty() && !used.emplace(frameOf(b) + key, b->objectName()).second)
-            faults << b->objectName() + ": " + key + " is also " + used[frameOf(b) + key] + "'s";
-    }
+    walk(QAccessible::queryAccessibleInterface(root), skip, faults);
     for (QLabel* label : root->findChildren<QLabel*>()) // a label names the control it is for
         if (label->buddy() && !(skip && skip->isAncestorOf(label)) &&
             !label->buddy()->accessibleName().contains(plain(label->text())))
@@ -100,7 +82,66 @@ QStringList faultsOf(QWidget* root, QWidget* skip = nullptr)
     return faults;
 }
 
+// Every Alt+key the window answers as it is shown: the menu bar's, then the visible buttons',
+// check boxes', options', frames' and buddy labels' (key -> captions).
+std::map<QString, QStringList> mnemonicsShown(KestrelConfig& w)
+{
+    std::map<QString, QStringList> keys;
+    const auto add = [&](const QString& caption) {
+        const QString key = QKeySequence::mnemonic(caption).toString();
+        if (!key.isEmpty())
+            keys[key] << caption;
+    };
+    for (QAction* menu : w.menuBar()->actions())
+        add(menu->text());
+    for (QWidget* c : w.findChildren<QWidget*>())
+        if (c->isVisible()) {
+            auto* label = qobject_cast<QLabel*>(c);
+            auto* frame = qobject_cast<QGroupBox*>(c);
+            if (auto* b = qobject_cast<QAbstractButton*>(c))
+                add(b->text());
+            else if (label && label->buddy())
+                add(label->text());
+            else if (frame)
+                add(frame->title());
+        }
+    return keys;
+}
+
 } // namespace
+
+TEST(Access, NoMnemonicIsTakenTwiceWhileAPageIsShown)
+{
+    Window m(false);
+    KestrelConfig& w = m.w;
+    Configuration& c = w.session().config;
+    const auto mode = [&](int configMode) {
+        return [&, configMode] {
+            c.pin(c.CurrentPin).ConfigMode = static_cast<std::uint8_t>(configMode);
+            w.pinConfigPage->refresh();
+        };
+    };
+    const std::tuple<const char*, QWidget*, std::function<void()>> pages[] = {
+        {"General", w.generalPage, [] {}},
+        {"Event Control", w.eventPage, [] {}},
+        {"Pin Configuration, servo", w.pinConfigPage, mode(1)},
+        {"Pin Configuration, PWM", w.pinConfigPage, mode(2)},
+        {"Pin Configuration, input", w.pinConfigPage, mode(4)},
+        {"Aspects, nine steps", w.aspectsPage,
+         [&] { QTest::mouseClick(w.aspectsPage->OptionPAspConf[1], Qt::LeftButton); }},
+        {"Pin Overview", w.pinOverviewPage, [] {}},
+    };
+    for (const auto& [name, page, setUp] : pages) {
+        w.tabs->setCurrentWidget(page);
+        setUp();
+        QApplication::processEvents();
+        QStringList clashes;
+        for (const auto& [key, captions] : mnemonicsShown(w))
+            if (captions.size() > 1)
+                clashes << key + ": " + captions.join(" / ");
+        EXPECT_EQ(clashes.join(", ").toStdString(), "") << name;
+    }
+}
 
 TEST(Access, EveryInputIsNamedAndEveryButtonHasItsOwnMnemonic)
 {
