@@ -25,6 +25,7 @@
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QVBoxLayout>
@@ -328,6 +329,16 @@ QWidget* AspectsPage::buildDeviceArea()
     // A click by mouse, Space, Return or Alt+D, with the keys held when it was pressed.
     connect(CommandReloadDD, &QPushButton::clicked, this,
             [this] { CommandReloadDD_MouseDown(1, std::exchange(reloadShift, 0)); });
+    // Its mnemonic with Shift appends, as Shift with the mouse does.
+    auto* appendKey = new QShortcut(
+        QKeySequence(QKeySequence::mnemonic(CommandReloadDD->text())[0].toCombined() | Qt::SHIFT),
+        CommandReloadDD);
+    const auto append = [this] {
+        reloadShift = 1;
+        CommandReloadDD->animateClick();
+    };
+    connect(appendKey, &QShortcut::activated, this, append);
+    connect(appendKey, &QShortcut::activatedAmbiguously, this, append);
     return frame;
 }
 
@@ -657,7 +668,7 @@ void AspectsPage::reloadDeviceDefinitions(bool append) { CommandReloadDD_MouseDo
 
 int AspectsPage::focusedStepRow() const
 {
-    const QWidget* focus = QApplication::focusWidget();
+    const QWidget* focus = window()->focusWidget(); // kept while a menu is open
     for (int r = 0; r < kStepRows; ++r)
         for (const QWidget* w :
              std::initializer_list<const QWidget*>{ComboPAspInst[r], CheckPAspFade[r], TextPAspOffset[r],

@@ -2,11 +2,13 @@
 #include "shell/AspectsPage.h"
 #include "gui/GuiRig.h"
 #include "model/PinTools.h"
+#include "shell/EditTools.h"
 #include "shell/EventPage.h"
 
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QMenu>
 #include <QRadioButton>
 #include <QSlider>
 
@@ -52,8 +54,9 @@ TEST(AspectsPage, StepRowsFollowTheirInstructionAndClampWhatIsTyped)
     m.choose(0, "On");
     EXPECT_EQ(std::tuple(int(m.step(0).Instruction), m.page.LabelPAspOffset->text(),
                          m.page.LabelPAspHParam1->text(), m.page.TextPAspPar2[0]->isEnabled(),
-                         m.page.CheckPAspFade[0]->isVisible()),
-              std::tuple(9, "P.O.", "T(/60)", false, true));
+                         m.page.CheckPAspFade[0]->isVisible(), m.page.CheckPAspFade[0]->text(),
+                         m.page.TextPAspPar3[0]->toolTip()),
+              std::tuple(9, "P.O.", "T(/60)", false, true, "Fade", "Double-click for help-tool"));
     // Tab goes through a row left to right, then to the next row.
     QWidget* at = m.page.ComboPAspInst[0];
     for (QWidget* next : std::initializer_list<QWidget*>{m.page.CheckPAspFade[0], m.page.TextPAspOffset[0],
@@ -178,8 +181,8 @@ TEST(AspectsPage, HelpToolsFromTheParameterBoxes)
     }
     EXPECT_EQ(std::tuple(int(m.step(1).Par2), m.page.TextPAspPar2[1]->text()), std::tuple(63, "63"));
 
-    // A box whose instruction has no tool says so.
-    m.choose(2, "On");
+    // A box whose instruction has no tool says so; a "Level" of 0..31 has no room for the level tool.
+    m.choose(2, "Set Level");
     m.doubleClick(m.page.TextPAspPar1[2]);
     EXPECT_EQ(m.dialogs.texts().back(), "Help tool not available for this box with the selected command");
 }
@@ -215,14 +218,29 @@ TEST(AspectsPage, DevicesAreListedAndLoadOntoTheChosenPin)
     QTest::keyClicks(page.TextDeviceDescription, "Home");
     EXPECT_EQ(pins[7].DeviceDescription, "Home");
 
-    // Shift alone appends the chosen definitions; Shift with Ctrl replaces.
+    // Reload DD by mouse, Space, Return and Alt+D: Shift alone appends the chosen definitions,
+    // anything else replaces them.
     const int count = page.cboDevice->count();
     const std::string standard = QCoreApplication::applicationDirPath().toStdString() + "/KestrelDevices.def";
-    m.dialogs.fileNames = {standard, standard};
-    QTest::mousePress(page.CommandReloadDD, Qt::LeftButton, Qt::ShiftModifier);
-    EXPECT_EQ(page.cboDevice->count(), 2 * count);
-    QTest::mousePress(page.CommandReloadDD, Qt::LeftButton, Qt::ShiftModifier | Qt::ControlModifier);
-    EXPECT_EQ(page.cboDevice->count(), count);
+    m.dialogs.fileNames.assign(6, standard);
+    m.activate(); // for the mnemonics
+    page.CommandReloadDD->setFocus();
+    const std::tuple<std::function<void()>, int> presses[] = {
+        {[&] { QTest::mouseClick(page.CommandReloadDD, Qt::LeftButton, Qt::ShiftModifier); }, 2},
+        {[&] {
+             QTest::mouseClick(page.CommandReloadDD, Qt::LeftButton, Qt::ShiftModifier | Qt::ControlModifier);
+         },
+         1},
+        {[&] { QTest::keyClick(page.CommandReloadDD, Qt::Key_Space, Qt::ShiftModifier); }, 2},
+        {[&] { QTest::keyClick(&page, Qt::Key_D, Qt::AltModifier); }, 1},
+        {[&] { QTest::keyClick(&page, Qt::Key_D, Qt::AltModifier | Qt::ShiftModifier); }, 2},
+        {[&] { QTest::keyClick(page.CommandReloadDD, Qt::Key_Return); }, 1}};
+    for (const auto& [press, times] : presses) {
+        press();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return page.cboDevice->count() == times * count; }, 1000))
+            << page.cboDevice->count() << " devices, expected " << times * count << " after press "
+            << &press - &std::get<0>(presses[0]) << " files left " << m.dialogs.fileNames.size();
+    }
 }
 
 TEST(AspectsPage, EveryPinJobRunsFromItsButton)
@@ -264,4 +282,64 @@ TEST(AspectsPage, EveryPinJobRunsFromItsButton)
     }
     sameSteps();
     EXPECT_FALSE(m.page.CommandPAspTestAspect->isEnabled()); // the module has no test command
+}
+
+TEST(AspectsPage, AnOverflowingTimeShowsOvflowAndAFaultInTheRefreshIsToldOnce)
+{
+    AspectsRig m;
+    m.pickPin(4);
+    QTest::mouseClick(m.page.OptionPAspConf[2], Qt::LeftButton);
+    m.step(1) = {102, 0, 0, 0, 100, 3}; // "Wait", Time 100, Base 3: more ticks than 16 bits hold
+    m.job(m.page.CommandWritePin);
+    m.step(1) = {};
+    m.job(m.page.CommandReadPin);
+    EXPECT_EQ(std::tuple(m.page.LabelPAspTime[1]->text(), m.step(1).Par2, m.dialogs.texts().size()),
+              std::tuple("OVFLOW", 100, 0u));
+
+    // A page whose own refresh faults again after a fault: told once, and the refresh ends.
+    m.config.CurrentAspect = 40;
+    m.page.refresh();
+    EXPECT_EQ(m.dialogs.texts(),
+              std::vector<std::string>{
+                  "Program error, the operation was stopped: Index out of range: current aspect = 40"});
+    m.config.CurrentAspect = 0;
+}
+
+TEST(AspectsPage, ToolsFromContextMenusAndTheEditMenuActions)
+{
+    AspectsRig m;
+    QTest::mouseClick(m.page.OptionPAspConf[2], Qt::LeftButton); // "12"
+    const StepRecord on{9, 0, 0, 5, 0, 0}, off{8, 0, 0, 6, 0, 0};
+    m.step(0) = on;
+    m.step(1) = off;
+    m.page.refresh();
+    // The keys open a row's context menu; its commands are the tool's, chosen with the keys.
+    const auto choose = [](QWidget* row, Qt::Key key, const QString& command) {
+        QTest::keyClick(row, key, key == Qt::Key_F10 ? Qt::ShiftModifier : Qt::NoModifier);
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr) << command.toStdString();
+        for (QAction* a : menu->actions())
+            if (a->text() == command)
+                menu->setActiveAction(a);
+        ASSERT_EQ(menu->activeAction()->text(), command);
+        QTest::keyClick(menu, Qt::Key_Return);
+    };
+    choose(m.page.ComboPAspInst[0], Qt::Key_F10, "&Delete Step");
+    EXPECT_EQ(std::tuple(m.step(0), m.step(1), m.page.ComboPAspInst[0]->currentText()),
+              std::tuple(off, StepRecord{}, "Off"));
+    choose(m.page.TextPAspAspect, Qt::Key_Menu, "&Copy Aspect");
+    type(m.page.TextPAspAspect, "2");
+    choose(m.page.TextPAspAspect, Qt::Key_Menu, "&Paste Aspect");
+    choose(m.page.TextPAspOutput, Qt::Key_F10, "&Copy Pin");
+    EXPECT_EQ(std::tuple(m.step(0), m.page.dlgEditPin->tool.hasContent()), std::tuple(off, true));
+
+    // The Edit menu's entries open the tools: the step tool on the row that has the focus.
+    m.page.ComboPAspInst[1]->setFocus();
+    clickInModal("dlgEditStep", "commandInsert");
+    m.page.actionStepTool->trigger();
+    EXPECT_EQ(std::tuple(m.config.CurrentStep, m.step(0), m.step(1)), std::tuple(1, off, StepRecord{}));
+    QTest::mouseClick(m.page.OptionPAspConf[0], Qt::LeftButton); // no aspects: no aspect or step tool
+    EXPECT_EQ(std::tuple(m.page.actionPinTool->isEnabled(), m.page.actionAspectTool->isEnabled(),
+                         m.page.actionStepTool->isEnabled()),
+              std::tuple(true, false, false));
 }

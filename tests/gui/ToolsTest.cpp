@@ -120,6 +120,17 @@ TEST(HelpTools, TimeToolShowsTheDurationsAndOkSetsTimeAndBase)
         EXPECT_TRUE(tool.run(step));
         EXPECT_EQ(std::tuple(step.Par2, step.Par3), std::tuple(slider, base.toInt()));
     }
+    // The base box follows as it is typed in (clamped at once) and as it is clicked.
+    StepRecord step{102, 0, 0, 0, 63, 0};
+    onOpen(tool, [&] {
+        tool.TextCTBase->selectAll();
+        QTest::keyClicks(tool.TextCTBase, "7");
+        const QString typed = tool.TextCTBase->text() + " " + tool.LabelCTTimeValue->text();
+        tool.TextCTBase->setText("1");
+        QTest::mouseClick(tool.TextCTBase, Qt::LeftButton);
+        EXPECT_EQ(std::tuple(typed, tool.LabelCTTimeValue->text()), std::tuple("3 10:45.12", "00:10.08"));
+    });
+    tool.run(step);
 }
 
 namespace {
