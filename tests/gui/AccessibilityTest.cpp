@@ -13,7 +13,6 @@
 #include <QGroupBox>
 #include <QKeySequence>
 #include <QMenuBar>
-#include <QRadioButton>
 #include <QScrollArea>
 #include <QSlider>
 #include <QSpinBox>
@@ -82,32 +81,6 @@ QStringList faultsOf(QWidget* root, QWidget* skip = nullptr)
     return faults;
 }
 
-// Every Alt+key the window answers as it is shown: the menu bar's, then the visible buttons',
-// check boxes', options', frames' and buddy labels' (key -> captions).
-std::map<QString, QStringList> mnemonicsShown(KestrelConfig& w)
-{
-    std::map<QString, QStringList> keys;
-    const auto add = [&](const QString& caption) {
-        const QString key = QKeySequence::mnemonic(caption).toString();
-        if (!key.isEmpty())
-            keys[key] << caption;
-    };
-    for (QAction* menu : w.menuBar()->actions())
-        add(menu->text());
-    for (QWidget* c : w.findChildren<QWidget*>())
-        if (c->isVisible()) {
-            auto* label = qobject_cast<QLabel*>(c);
-            auto* frame = qobject_cast<QGroupBox*>(c);
-            if (auto* b = qobject_cast<QAbstractButton*>(c))
-                add(b->text());
-            else if (label && label->buddy())
-                add(label->text());
-            else if (frame)
-                add(frame->title());
-        }
-    return keys;
-}
-
 } // namespace
 
 TEST(Access, NoMnemonicIsTakenTwiceWhileAPageIsShown)
@@ -115,31 +88,37 @@ TEST(Access, NoMnemonicIsTakenTwiceWhileAPageIsShown)
     Window m(false);
     KestrelConfig& w = m.w;
     Configuration& c = w.session().config;
-    const auto mode = [&](int configMode) {
-        return [&, configMode] {
-            c.pin(c.CurrentPin).ConfigMode = static_cast<std::uint8_t>(configMode);
-            w.pinConfigPage->refresh();
-        };
-    };
-    const std::tuple<const char*, QWidget*, std::function<void()>> pages[] = {
-        {"General", w.generalPage, [] {}},
-        {"Event Control", w.eventPage, [] {}},
-        {"Pin Configuration, servo", w.pinConfigPage, mode(1)},
-        {"Pin Configuration, PWM", w.pinConfigPage, mode(2)},
-        {"Pin Configuration, input", w.pinConfigPage, mode(4)},
-        {"Aspects, nine steps", w.aspectsPage,
-         [&] { QTest::mouseClick(w.aspectsPage->OptionPAspConf[1], Qt::LeftButton); }},
-        {"Pin Overview", w.pinOverviewPage, [] {}},
-    };
-    for (const auto& [name, page, setUp] : pages) {
+    c.pin(c.CurrentPin).AspectLayout = 3; // every step row shown
+    const std::pair<QWidget*, int> pages[] = {
+        // each page, the pin configuration's in each mode
+        {w.generalPage, 0},   {w.eventPage, 0},   {w.pinConfigPage, 1},  {w.pinConfigPage, 2},
+        {w.pinConfigPage, 4}, {w.aspectsPage, 0}, {w.pinOverviewPage, 0}};
+    for (const auto& [page, mode] : pages) {
+        c.pin(c.CurrentPin).ConfigMode = static_cast<std::uint8_t>(mode);
         w.tabs->setCurrentWidget(page);
-        setUp();
-        QApplication::processEvents();
+        w.pinConfigPage->refresh();
+        // The captions of the menu bar and of the visible buttons, check boxes, options, frames
+        // and buddy labels, by the Alt+key they take.
+        QStringList captions;
+        for (QAction* menu : w.menuBar()->actions())
+            captions << menu->text();
+        for (QWidget* control : w.findChildren<QWidget*>()) {
+            auto* button = qobject_cast<QAbstractButton*>(control);
+            auto* label = qobject_cast<QLabel*>(control);
+            auto* frame = qobject_cast<QGroupBox*>(control);
+            if (control->isVisible() && (button || (label && label->buddy()) || frame))
+                captions << (button ? button->text() : label ? label->text() : frame->title());
+        }
+        std::map<QString, QStringList> keys;
+        for (const QString& caption : captions)
+            keys[QKeySequence::mnemonic(caption).toString()] << caption;
+        keys.erase("");
         QStringList clashes;
-        for (const auto& [key, captions] : mnemonicsShown(w))
-            if (captions.size() > 1)
-                clashes << key + ": " + captions.join(" / ");
-        EXPECT_EQ(clashes.join(", ").toStdString(), "") << name;
+        for (const auto& [key, taking] : keys)
+            if (taking.size() > 1)
+                clashes << key + ": " + taking.join(" / ");
+        EXPECT_EQ(clashes.join(", ").toStdString(), "")
+            << page->objectName().toStdString() << ", mode " << mode;
     }
 }
 
