@@ -109,7 +109,8 @@ TEST(HelpTools, TimeToolShowsTheDurationsAndOkSetsTimeAndBase)
     for (const auto& [typed, base, slider, maxTime, time] : cases) {
         StepRecord step{102, 0, 0, 0, 5, 1}; // "Wait"
         onOpen(tool, [&] {
-            enter(tool.TextCTBase, typed);
+            tool.TextCTBase->clear();
+            QTest::keyClicks(tool.TextCTBase, typed); // taken as typed, no Return
             tool.SliderCTTime->setValue(slider);
             EXPECT_EQ(std::tuple(tool.TextCTBase->text(), tool.UpDownCTBase->value(),
                                  tool.LabelCTMaxTimeValue->text(), tool.LabelCTTimeValue->text()),
@@ -120,14 +121,12 @@ TEST(HelpTools, TimeToolShowsTheDurationsAndOkSetsTimeAndBase)
         EXPECT_TRUE(tool.run(step));
         EXPECT_EQ(std::tuple(step.Par2, step.Par3), std::tuple(slider, base.toInt()));
     }
-    // The base box follows as it is typed in (clamped at once) and as it is clicked.
+    // The base box is taken when it is clicked as well.
     StepRecord step{102, 0, 0, 0, 63, 0};
     onOpen(tool, [&] {
-        QTest::keyClicks(tool.TextCTBase, "7"); // "07"
-        const QString typed = tool.TextCTBase->text() + " " + tool.LabelCTTimeValue->text();
         tool.TextCTBase->setText("1");
         QTest::mouseClick(tool.TextCTBase, Qt::LeftButton);
-        EXPECT_EQ(std::tuple(typed, tool.LabelCTTimeValue->text()), std::tuple("3 10:45.12", "00:10.08"));
+        EXPECT_EQ(tool.LabelCTTimeValue->text(), "00:10.08");
     });
     tool.run(step);
 }
