@@ -2,7 +2,6 @@
 #include "shell/AspectsPage.h"
 #include "gui/GuiRig.h"
 #include "model/PinTools.h"
-#include "shell/EditTools.h"
 #include "shell/EventPage.h"
 
 #include <QAbstractItemView>
