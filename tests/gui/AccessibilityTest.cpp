@@ -90,8 +90,7 @@ TEST(Access, NoMnemonicIsTakenTwiceWhileAPageIsShown)
     for (const auto& [tab, mode] : pages) {
         c.pin(c.CurrentPin).ConfigMode = static_cast<std::uint8_t>(mode);
         w.tabs->setCurrentIndex(tab);
-        // The captions of the menu bar and of the visible buttons, check boxes, options, frames
-        // and buddy labels, by the Alt+key they take.
+        // The captions of the menu bar and the visible buttons, options, frames and buddy labels.
         QStringList captions;
         for (QAction* menu : w.menuBar()->actions())
             captions << menu->text();
