@@ -727,15 +727,22 @@ bool AspectsPage::eventFilter(QObject* watched, QEvent* event)
 {
     const auto type = event->type();
     if (watched == CommandReloadDD) {
-        // The keys held at the press decide (Shift alone appends); Alt is the mnemonic's.
+        // The keys held at the press decide (Shift alone appends); Alt is the mnemonic's. A
+        // press that ends without a click leaves nothing behind for a later click.
+        const int pressed = type == QEvent::KeyPress ? static_cast<QKeyEvent*>(event)->key() : 0;
+        const bool pressKey =
+            pressed == Qt::Key_Space || pressed == Qt::Key_Return || pressed == Qt::Key_Enter;
         if (type == QEvent::MouseButtonPress)
             reloadShift = pressOf(static_cast<QMouseEvent*>(event)).second;
-        else if (type == QEvent::KeyPress || type == QEvent::Shortcut) {
+        else if (pressKey || type == QEvent::Shortcut) {
             const Qt::KeyboardModifiers keys = type == QEvent::KeyPress
                                                    ? static_cast<QKeyEvent*>(event)->modifiers()
                                                    : QGuiApplication::keyboardModifiers();
             reloadShift = (keys & Qt::ShiftModifier ? 1 : 0) | (keys & Qt::ControlModifier ? 2 : 0);
         }
+        if (type == QEvent::MouseButtonRelease && // let go outside the button: no click follows
+            !CommandReloadDD->rect().contains(static_cast<QMouseEvent*>(event)->position().toPoint()))
+            reloadShift = 0;
         return QWidget::eventFilter(watched, event);
     }
     // The tools' context menu: the right button, the Menu key or Shift+F10 on a row.
