@@ -355,7 +355,13 @@ HelpToolKind helpToolFor(const StepRecord& step, HelpBox box, UserDialogs& dialo
     if (box != HelpBox::Time) {
         const int parameter = box == HelpBox::Par1 ? 1 : box == HelpBox::Par2 ? 2 : 3;
         const InstructionInfo& info = instructionInfo(step.Instruction);
-        if (info.used(parameter) && info.caption(parameter) == "Level")
+        // The level tool composes 16 x level + time index, 0..127: only a box that takes
+        // all of that range can hold its value.
+        const int lowest = parameter == 1 ? info.Par1Min + info.Par1Shift : 0;
+        const int highest = parameter == 1   ? info.Par1Max + info.Par1Shift
+                            : parameter == 2 ? par2Maximum(step.Instruction)
+                                             : 3;
+        if (info.used(parameter) && info.caption(parameter) == "Level" && lowest <= 0 && highest >= 127)
             return HelpToolKind::Level;
     }
     dialogs.message("Help tool not available for this box with the selected command");

@@ -148,9 +148,9 @@ enum class HelpBox { Time, Par1, Par2, Par3 };
 enum class HelpToolKind { None, Time, Pattern, EventPattern, Level };
 // The tool to open; None after telling the user
 // "Help tool not available for this box with the selected command". Besides the time,
-// pattern and event-pattern tools that the instruction's HelpTool names, every parameter
-// box captioned "Level" offers the level tool (its value is then taken as if typed, so
-// it keeps the box's range).
+// pattern and event-pattern tools that the instruction's HelpTool names, a parameter box
+// captioned "Level" offers the level tool where its range takes the tool's whole value
+// (0..127); a "Level" of 0..31 offers none.
 HelpToolKind helpToolFor(const StepRecord& step, HelpBox box, UserDialogs& dialogs);
 HelpToolKind helpToolForRow(Configuration& config, int row, HelpBox box, UserDialogs& dialogs);
 

@@ -248,13 +248,8 @@ std::string stepValue(const StepRecord& step, int pin, int base)
     }
     if (step.Fade)
         text += " Fade";
-    if (step.Instruction > 63) {
-        try {
-            text += " " + stepTimeText(step);
-        } catch (const ProgramFault&) {
-            text += " OVFLOW"; // a time the module's 16-bit count cannot hold
-        }
-    }
+    if (step.Instruction > 63)
+        text += " " + stepTimeText(step);
     return text;
 }
 

@@ -181,6 +181,8 @@ std::string stepTimeText(const StepRecord& step)
 {
     if (step.Instruction <= 63)
         return "00:00.00";
+    if (step.Par2 * std::pow(8.0, step.Par3) > 32767)
+        return kTimeOverflow;
     return durationText(durationTicks(step.Par2, step.Par3));
 }
 

@@ -48,7 +48,10 @@ int durationTicks(int time, int base);
 // Ticks shown as "mm:ss.hh" (minutes, seconds, hundredths, two digits each).
 std::string durationText(int ticks);
 
-// The time label of a step row: "00:00.00" for codes up to 63, else Par2 x 8^Par3 ticks.
+// The time label of a step row: "00:00.00" for codes up to 63, else Par2 x 8^Par3 ticks,
+// and kTimeOverflow for a time the module's 16-bit count cannot hold (a value typed
+// nowhere, e.g. Time 100 with Base 3 from a file). Every step can be shown.
+inline constexpr const char* kTimeOverflow = "OVFLOW";
 std::string stepTimeText(const StepRecord& step);
 
 } // namespace kestrel

@@ -8,9 +8,12 @@
 #include "shell/HelpToolDialogs.h"
 #include "shell/Widgets.h"
 
+#include <QAction>
+#include <QApplication>
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -18,9 +21,11 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QVBoxLayout>
@@ -48,10 +53,10 @@ QLineEdit* numberBox(const QString& name, int width = 44)
 }
 
 const char* const kToolTip = "Click for copy/paste tools";
-const char* const kHelpTip = "Double-click for help-tool\nF2 opens it from the keyboard";
-const char* const kLevelHelpTip =
-    "Double-click for help-tool\nF2 opens it from the keyboard; a \"Level\" box "
-    "opens the level tool";
+const char* const kHelpTip = "Double-click for help-tool";
+const char* const kHelpKey = "F2 opens the help tool";
+constexpr int kPinRow = -2; // the rows of a context menu: the pin's, the aspect's, a step's
+constexpr int kAspectRow = -1;
 const char* const kTestTip = "The module has no command to test an aspect, so this is not available";
 } // namespace
 
@@ -66,6 +71,13 @@ AspectsPage::AspectsPage(Session& s, DeviceList& list, std::function<void(JobNam
     layout->addWidget(buildPinArea());
     layout->addWidget(buildAspectArea(), 1);
     layout->addWidget(buildDeviceArea());
+
+    actionPinTool = new QAction("&Pin Tool...", this);
+    actionAspectTool = new QAction("&Aspect Tool...", this);
+    actionStepTool = new QAction("&Step Tool...", this);
+    connect(actionPinTool, &QAction::triggered, this, &AspectsPage::LabelPAspOutput_Click);
+    connect(actionAspectTool, &QAction::triggered, this, &AspectsPage::LabelPAspAspect_Click);
+    connect(actionStepTool, &QAction::triggered, this, [this] { LabelPAspStep_Click(focusedStepRow()); });
     bind();
 }
 
@@ -133,13 +145,13 @@ QWidget* AspectsPage::buildPinArea()
 
     // The pin's own jobs, beside the pin they act on.
     auto* jobs = new QHBoxLayout;
-    CommandReadPin = named(new QPushButton("Read &Pin"), "CommandReadPin");
+    CommandReadPin = named(new QPushButton("Re&ad Pin"), "CommandReadPin");
     CommandReadPin->setToolTip("Reads this pin from the module: aspects, addresses and pin configuration");
-    CommandWritePin = named(new QPushButton("Write Pi&n"), "CommandWritePin");
+    CommandWritePin = named(new QPushButton("Write Pin"), "CommandWritePin");
     CommandWritePin->setToolTip("Writes this pin to the module: aspects and addresses");
-    CommandReadDevice = named(new QPushButton("Re&ad Device"), "CommandReadDevice");
+    CommandReadDevice = named(new QPushButton("Read Device"), "CommandReadDevice");
     CommandReadDevice->setToolTip("Reads every pin of this pin's device from the module");
-    CommandWriteDevice = named(new QPushButton("&Write Device"), "CommandWriteDevice");
+    CommandWriteDevice = named(new QPushButton("Write Device"), "CommandWriteDevice");
     CommandWriteDevice->setToolTip("Writes every pin of this pin's device to the module");
     for (QPushButton* b : {CommandReadPin, CommandWritePin, CommandReadDevice, CommandWriteDevice})
         jobs->addWidget(b);
@@ -152,6 +164,7 @@ QWidget* AspectsPage::buildPinArea()
     connect(CommandReadDevice, &QPushButton::clicked, this, [this] { startJob(Jobs::ReadDevice); });
     connect(CommandWriteDevice, &QPushButton::clicked, this, [this] { startJob(Jobs::WriteDevice); });
     LabelPAspOutput->installEventFilter(this);
+    TextPAspOutput->installEventFilter(this);
     return frame;
 }
 
@@ -180,6 +193,7 @@ QWidget* AspectsPage::buildAspectArea()
     aspectRow->addWidget(init);
     layout->addLayout(aspectRow);
     LabelPAspAspect->installEventFilter(this);
+    TextPAspAspect->installEventFilter(this);
 
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(6);
@@ -222,11 +236,14 @@ QWidget* AspectsPage::buildAspectArea()
             parameters[p]->setAccessibleName(QString("Parameter %1, step %2").arg(p).arg(r));
         for (QLineEdit* box : {TextPAspPar1[r], TextPAspPar2[r], TextPAspPar3[r]}) {
             box->setToolTip(kHelpTip);
-            box->installEventFilter(this);
+            box->setAccessibleDescription(kHelpKey);
         }
         LabelPAspTime[r] = named(new QLabel("00:00.00"), indexed("LabelPAspTime", r));
         LabelPAspTime[r]->setToolTip(kHelpTip);
-        LabelPAspTime[r]->installEventFilter(this);
+        for (QWidget* w : std::initializer_list<QWidget*>{ComboPAspInst[r], CheckPAspFade[r],
+                                                          TextPAspOffset[r], TextPAspPar1[r], TextPAspPar2[r],
+                                                          TextPAspPar3[r], LabelPAspTime[r]})
+            w->installEventFilter(this); // help tools and the step tool's context menu
         const QList<QWidget*> row{LabelPAspStep[r], ComboPAspInst[r], CheckPAspFade[r], TextPAspOffset[r],
                                   TextPAspPar1[r],  TextPAspPar2[r],  TextPAspPar3[r],  LabelPAspTime[r]};
         for (int c = 0; c < row.size(); ++c)
@@ -260,13 +277,13 @@ QWidget* AspectsPage::buildAspectArea()
     CheckPAspShowDetails->setChecked(true);
     CheckPAspShowDetails->setToolTip("Shows or hides the transfer buttons, the step headings and the "
                                      "pin configuration's parameter buttons");
-    CommandPAspReadPin = named(new QPushButton("Rea&d Asp's"), "CommandPAspReadPin");
+    CommandPAspReadPin = named(new QPushButton("Read Asp's"), "CommandPAspReadPin");
     CommandPAspReadPin->setToolTip("Reads this pin's aspects, initial aspect and addresses from the module");
-    CommandPAspWritePin = named(new QPushButton("W&rite Asp's"), "CommandPAspWritePin");
+    CommandPAspWritePin = named(new QPushButton("Write Asp's"), "CommandPAspWritePin");
     CommandPAspWritePin->setToolTip("Writes this pin's aspects, initial aspect and addresses to the module");
-    CommandPAspWriteAspect = named(new QPushButton("Wr&ite Aspect"), "CommandPAspWriteAspect");
+    CommandPAspWriteAspect = named(new QPushButton("Write Aspect"), "CommandPAspWriteAspect");
     CommandPAspWriteAspect->setToolTip("Writes only the steps of the selected aspect to the module");
-    CommandPAspTestAspect = named(new QPushButton("&Test Aspect"), "CommandPAspTestAspect");
+    CommandPAspTestAspect = named(new QPushButton("Test Aspect"), "CommandPAspTestAspect");
     CommandPAspTestAspect->setEnabled(false);
     CommandPAspTestAspect->setToolTip(kTestTip);
     buttons->addWidget(CheckPAspShowDetails);
@@ -291,12 +308,13 @@ QWidget* AspectsPage::buildDeviceArea()
     cboDevice = named(new QComboBox, "cboDevice");
     cboDevice->setMinimumWidth(220);
     cboDevice->setAccessibleName("Device to load");
-    CommandPAspPreLoad = named(new QPushButton("&Load Device"), "CommandPAspPreLoad");
+    CommandPAspPreLoad = named(new QPushButton("Load Device"), "CommandPAspPreLoad");
     CommandPAspPreLoad->setToolTip("Places the chosen device on the pins, its first pin on this pin");
-    CommandSaveDevice = named(new QPushButton("&Save Device"), "CommandSaveDevice");
+    CommandSaveDevice = named(new QPushButton("Save Device"), "CommandSaveDevice");
     CommandSaveDevice->setToolTip("Saves this pin's device to a definitions file of its own");
-    CommandReloadDD = named(new QPushButton("Rel&oad DD"), "CommandReloadDD");
+    CommandReloadDD = named(new QPushButton("Reload &DD"), "CommandReloadDD");
     CommandReloadDD->setToolTip("Reload DD to load new file, Shift + Reload DD to append");
+    CommandReloadDD->setAutoDefault(true); // Return presses it as Space does
     CommandReloadDD->installEventFilter(this);
     lblDDVersion = named(new QLabel, "lblDDVersion");
     row->addWidget(cboDevice, 1);
@@ -308,6 +326,19 @@ QWidget* AspectsPage::buildDeviceArea()
     connect(cboDevice, &QComboBox::activated, this, [this](int index) { devices.selected = index; });
     connect(CommandPAspPreLoad, &QPushButton::clicked, this, &AspectsPage::CommandPAspPreLoad_Click);
     connect(CommandSaveDevice, &QPushButton::clicked, this, &AspectsPage::CommandSaveDevice_Click);
+    // A click by mouse, Space, Return or Alt+D, with the keys held when it was pressed.
+    connect(CommandReloadDD, &QPushButton::clicked, this,
+            [this] { CommandReloadDD_MouseDown(1, std::exchange(reloadShift, 0)); });
+    // Its mnemonic with Shift appends, as Shift with the mouse does.
+    auto* appendKey = new QShortcut(
+        QKeySequence(QKeySequence::mnemonic(CommandReloadDD->text())[0].toCombined() | Qt::SHIFT),
+        CommandReloadDD);
+    const auto append = [this] {
+        reloadShift = 1;
+        CommandReloadDD->animateClick();
+    };
+    connect(appendKey, &QShortcut::activated, this, append);
+    connect(appendKey, &QShortcut::activatedAmbiguously, this, append);
     return frame;
 }
 
@@ -414,6 +445,8 @@ void AspectsPage::bind()
             w->setVisible(aspects);
         showHeadings();
         showDetails();
+        actionAspectTool->setEnabled(aspects);
+        actionStepTool->setEnabled(aspects);
     });
     b.display([this] {
         const QSignalBlocker block(cboDevice);
@@ -446,6 +479,7 @@ void AspectsPage::showRow(int r)
     {
         const QSignalBlocker block(CheckPAspFade[r]);
         CheckPAspFade[r]->setChecked(row.fadeChecked);
+        CheckPAspFade[r]->setText(latin1(row.fadeCaption));
         CheckPAspFade[r]->setVisible(visible && row.fadeVisible);
     }
     QLineEdit* boxes[4] = {TextPAspOffset[r], TextPAspPar1[r], TextPAspPar2[r], TextPAspPar3[r]};
@@ -457,8 +491,6 @@ void AspectsPage::showRow(int r)
             QString("%1, step %2")
                 .arg(caption.empty() ? QString("Parameter %1").arg(p) : latin1(caption))
                 .arg(r));
-        if (p > 0)
-            boxes[p]->setToolTip(row.parameters[p].used && caption == "Level" ? kLevelHelpTip : kHelpTip);
     }
     if (!row.timeText.empty())
         LabelPAspTime[r]->setText(latin1(row.timeText));
@@ -517,12 +549,31 @@ void AspectsPage::run(const std::function<void()>& handler)
     guard(handler);
 }
 
+EditPinDialog& AspectsPage::pinTool()
+{
+    if (!dlgEditPin)
+        dlgEditPin = new EditPinDialog(session, this);
+    return *dlgEditPin;
+}
+
+EditAspectDialog& AspectsPage::aspectTool()
+{
+    if (!dlgEditAspect)
+        dlgEditAspect = new EditAspectDialog(session, this);
+    return *dlgEditAspect;
+}
+
+EditStepDialog& AspectsPage::stepTool()
+{
+    if (!dlgEditStep)
+        dlgEditStep = new EditStepDialog(session, this);
+    return *dlgEditStep;
+}
+
 void AspectsPage::LabelPAspOutput_Click()
 {
     run([this] {
-        if (!dlgEditPin)
-            dlgEditPin = new EditPinDialog(session, this);
-        dlgEditPin->run();
+        pinTool().run();
         guard.name(dlgEditPin->chosen.toStdString());
         RecalcAddressIndex(session.config); // a pasted or cleared pin brings its own counts
     });
@@ -531,10 +582,10 @@ void AspectsPage::LabelPAspOutput_Click()
 
 void AspectsPage::LabelPAspAspect_Click()
 {
+    if (!view.layout.aspectControlsVisible) // a pin without aspects (from the Edit menu)
+        return;
     run([this] {
-        if (!dlgEditAspect)
-            dlgEditAspect = new EditAspectDialog(session, this);
-        dlgEditAspect->run();
+        aspectTool().run();
         guard.name(dlgEditAspect->chosen.toStdString());
     });
     refresh();
@@ -542,11 +593,11 @@ void AspectsPage::LabelPAspAspect_Click()
 
 void AspectsPage::LabelPAspStep_Click(int row)
 {
+    if (!view.layout.aspectControlsVisible)
+        return;
     run([this, row] {
         selectStepRow(session.config, row);
-        if (!dlgEditStep)
-            dlgEditStep = new EditStepDialog(session, this);
-        dlgEditStep->run();
+        stepTool().run();
         guard.name(dlgEditStep->chosen.toStdString());
     });
     refresh();
@@ -613,17 +664,111 @@ void AspectsPage::CommandReloadDD_MouseDown(int button, int shift)
     bindings.show();
 }
 
+void AspectsPage::reloadDeviceDefinitions(bool append) { CommandReloadDD_MouseDown(1, append ? 1 : 0); }
+
+int AspectsPage::focusedStepRow() const
+{
+    const QWidget* focus = window()->focusWidget(); // kept while a menu is open
+    for (int r = 0; r < kStepRows; ++r)
+        for (const QWidget* w :
+             std::initializer_list<const QWidget*>{ComboPAspInst[r], CheckPAspFade[r], TextPAspOffset[r],
+                                                   TextPAspPar1[r], TextPAspPar2[r], TextPAspPar3[r]})
+            if (focus == w)
+                return r;
+    const int chosen = session.config.CurrentStep;
+    return chosen >= 0 && chosen < kStepRows && view.layout.rowVisible[chosen] ? chosen : 0;
+}
+
+void AspectsPage::toolCommand(int row, QPushButton* commandButton)
+{
+    auto* tool = qobject_cast<ToolDialog*>(commandButton->window());
+    run([&] {
+        if (row >= 0)
+            selectStepRow(session.config, row);
+        tool->perform(commandButton);
+        guard.name(tool->chosen.toStdString());
+        if (row == kPinRow)
+            RecalcAddressIndex(session.config); // a pasted or cleared pin brings its own counts
+    });
+    if (row == kPinRow)
+        pinReplaced();
+    else
+        refresh();
+}
+
+void AspectsPage::showToolMenu(QWidget* on, int row, const QPoint& where)
+{
+    if (row != kPinRow && !view.layout.aspectControlsVisible)
+        return;
+    auto* box = qobject_cast<QLineEdit*>(on);
+    QMenu* menu = box ? box->createStandardContextMenu() : new QMenu(this);
+    menu->setObjectName("menuTools");
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    if (box)
+        menu->addSeparator();
+    QList<QPushButton*> commands;
+    if (row == kPinRow)
+        commands = {pinTool().CommandCopyPin, pinTool().CommandPastePin, pinTool().CommandClearPin};
+    else if (row == kAspectRow)
+        commands = {aspectTool().CommandCopy, aspectTool().CommandPaste, aspectTool().CommandClear,
+                    aspectTool().CommandClean};
+    else
+        commands = {stepTool().commandInsert, stepTool().commandDelete};
+    QAction* first = nullptr;
+    for (QPushButton* b : commands) {
+        QAction* a = menu->addAction(b->text(), this, [this, row, b] { toolCommand(row, b); });
+        first = first ? first : a;
+    }
+    menu->popup(where);
+    menu->setActiveAction(first);
+}
+
 bool AspectsPage::eventFilter(QObject* watched, QEvent* event)
 {
     const auto type = event->type();
+    if (watched == CommandReloadDD) {
+        // The keys held at the press decide (Shift alone appends); Alt is the mnemonic's. A
+        // press that ends without a click leaves nothing behind for a later click.
+        const int pressed = type == QEvent::KeyPress ? static_cast<QKeyEvent*>(event)->key() : 0;
+        const bool pressKey =
+            pressed == Qt::Key_Space || pressed == Qt::Key_Return || pressed == Qt::Key_Enter;
+        if (type == QEvent::MouseButtonPress)
+            reloadShift = pressOf(static_cast<QMouseEvent*>(event)).second;
+        else if (pressKey || type == QEvent::Shortcut) {
+            const Qt::KeyboardModifiers keys = type == QEvent::KeyPress
+                                                   ? static_cast<QKeyEvent*>(event)->modifiers()
+                                                   : QGuiApplication::keyboardModifiers();
+            reloadShift = (keys & Qt::ShiftModifier ? 1 : 0) | (keys & Qt::ControlModifier ? 2 : 0);
+        }
+        if (type == QEvent::MouseButtonRelease && // let go outside the button: no click follows
+            !CommandReloadDD->rect().contains(static_cast<QMouseEvent*>(event)->position().toPoint()))
+            reloadShift = 0;
+        return QWidget::eventFilter(watched, event);
+    }
+    // The tools' context menu: the right button, the Menu key or Shift+F10 on a row.
+    const auto* key = type == QEvent::KeyPress ? static_cast<QKeyEvent*>(event) : nullptr;
+    const bool menuKey = key && (key->key() == Qt::Key_Menu ||
+                                 (key->key() == Qt::Key_F10 && key->modifiers() == Qt::ShiftModifier));
+    if (type == QEvent::ContextMenu || menuKey) {
+        auto* w = static_cast<QWidget*>(watched);
+        const QPoint where = type == QEvent::ContextMenu ? static_cast<QContextMenuEvent*>(event)->globalPos()
+                                                         : w->mapToGlobal(QPoint(0, w->height()));
+        int row = watched == LabelPAspOutput || watched == TextPAspOutput   ? kPinRow
+                  : watched == LabelPAspAspect || watched == TextPAspAspect ? kAspectRow
+                                                                            : kStepRows;
+        for (int r = 0; r < kStepRows && row == kStepRows; ++r)
+            for (QWidget* c : std::initializer_list<QWidget*>{
+                     LabelPAspStep[r], ComboPAspInst[r], CheckPAspFade[r], TextPAspOffset[r], TextPAspPar1[r],
+                     TextPAspPar2[r], TextPAspPar3[r], LabelPAspTime[r]})
+                if (watched == c)
+                    row = r;
+        if (row != kStepRows) {
+            showToolMenu(w, row, where);
+            return true;
+        }
+    }
     if (type == QEvent::MouseButtonPress) {
         const auto* mouse = static_cast<QMouseEvent*>(event);
-        if (watched == CommandReloadDD) {
-            // The press decides, with the keys held: Shift alone appends.
-            const auto [button, shift] = pressOf(mouse);
-            CommandReloadDD_MouseDown(button, shift);
-            return false;
-        }
         if (mouse->button() != Qt::LeftButton)
             return QWidget::eventFilter(watched, event);
         if (watched == LabelPAspOutput) {
@@ -640,8 +785,7 @@ bool AspectsPage::eventFilter(QObject* watched, QEvent* event)
                 return true;
             }
     }
-    const bool help = type == QEvent::MouseButtonDblClick ||
-                      (type == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_F2);
+    const bool help = type == QEvent::MouseButtonDblClick || (key && key->key() == Qt::Key_F2);
     if (help)
         for (int r = 0; r < kStepRows; ++r) {
             const std::pair<QObject*, HelpBox> boxes[4] = {{LabelPAspTime[r], HelpBox::Time},

@@ -10,6 +10,7 @@
 #include <functional>
 #include <memory>
 
+class QAction;
 class QButtonGroup;
 class QCheckBox;
 class QComboBox;
@@ -123,6 +124,19 @@ public:
     QPushButton* CommandSaveDevice;
     QPushButton* CommandReloadDD;
 
+    // The Edit menu's entries for the tools: each opens its tool as a click on its label
+    // does, on the selected pin, the selected aspect, and the step row that has the focus
+    // (else the row chosen last). The aspect and step tools are disabled while the pin has
+    // no aspects. The rows themselves offer the tools' commands in a context menu (right
+    // button, Shift+F10 or the Menu key).
+    QAction* actionPinTool;    // "&Pin Tool..."
+    QAction* actionAspectTool; // "&Aspect Tool..."
+    QAction* actionStepTool;   // "&Step Tool..."
+
+    // Reload DD, for the File menu: replaces the device definitions with a chosen file, or
+    // appends that file's devices (Shift held on the button).
+    void reloadDeviceDefinitions(bool append);
+
     // The tools, made on first use and kept (their clipboards live as long as the page).
     EditPinDialog* dlgEditPin = nullptr;
     EditAspectDialog* dlgEditAspect = nullptr;
@@ -142,6 +156,8 @@ public slots:
     void CommandSaveDevice_Click();
     // Left button (1) only; Shift (1) appends, anything else replaces.
     void CommandReloadDD_MouseDown(int button, int shift);
+    // The step row (0..8) a tool acts on from the Edit menu.
+    int focusedStepRow() const;
     void CheckPAspShowDetails_Click();
 
 protected:
@@ -160,6 +176,15 @@ private:
     // After a tool or a device load: the page and, through onPinChosen, the window.
     void pinReplaced();
     StepRecord& step(int row);
+    // The tools, made on first use.
+    EditPinDialog& pinTool();
+    EditAspectDialog& aspectTool();
+    EditStepDialog& stepTool();
+    // A context menu on a row: the pin tool's (row -2), the aspect tool's (-1) or a step
+    // row's commands, below a text box's own.
+    void showToolMenu(QWidget* on, int row, const QPoint& where);
+    // One command of a tool run on the selected pin, aspect, or step `row`.
+    void toolCommand(int row, QPushButton* commandButton);
     // A handler that reaches the model: pending entries first, inside the guard.
     void run(const std::function<void()>& handler);
 
@@ -169,7 +194,8 @@ private:
     std::unique_ptr<Guard> ownGuard;
     Guard& guard;
     Bindings bindings;
-    AspectView view; // what the page shows
+    AspectView view;     // what the page shows
+    int reloadShift = 0; // the keys held when Reload DD was pressed (1 = Shift alone)
 };
 
 } // namespace kestrel

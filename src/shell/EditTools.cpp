@@ -68,6 +68,17 @@ bool ToolDialog::runModal()
     return accepted;
 }
 
+void ToolDialog::perform(QPushButton* commandButton)
+{
+    fault = nullptr;
+    chosen.clear();
+    running = true; // a fault is kept, not thrown through the click
+    commandButton->click();
+    running = false;
+    if (fault)
+        std::rethrow_exception(std::exchange(fault, nullptr));
+}
+
 void ToolDialog::command(const std::function<void()>& action)
 {
     if (const auto* b = qobject_cast<const QPushButton*>(sender()))

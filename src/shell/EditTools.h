@@ -24,6 +24,10 @@ public:
     // The caption of the command chosen last ("Paste Pin"), what the change is called.
     QString chosen;
 
+    // One of the tool's commands chosen without showing the tool (from a context or the
+    // Edit menu): it runs as its button's click, and a program fault is thrown from here.
+    void perform(QPushButton* commandButton);
+
 protected:
     // Shows the tool modally until it closes; true when it was accepted.
     bool runModal();

@@ -43,9 +43,9 @@ EventPage::EventPage(Session& s, std::function<void(JobName job)> start, Guard* 
 
     auto* pinRow = new QHBoxLayout;
     NumberEntry* pin = entry("ECpin", 0, kPinCount - 1, TextECpin, UpDownECpin);
-    CommandECReadSingle = named(new QPushButton("Re&ad"), "CommandECReadSingle");
-    CommandECWriteSingle = named(new QPushButton("Wri&te"), "CommandECWriteSingle");
-    CommandECcopy = named(new QPushButton("&Copy to All"), "CommandECcopy");
+    CommandECReadSingle = named(new QPushButton("Rea&d"), "CommandECReadSingle");
+    CommandECWriteSingle = named(new QPushButton("Write"), "CommandECWriteSingle");
+    CommandECcopy = named(new QPushButton("Copy to &All"), "CommandECcopy");
     pinRow->addWidget(captionFor("Pin", TextECpin));
     UpDownECpin->setAccessibleName("Pin");
     pinRow->addWidget(pin);
@@ -90,7 +90,7 @@ EventPage::EventPage(Session& s, std::function<void(JobName job)> start, Guard* 
                 .arg(i % 4 + 1));
         table->addWidget(CheckInitEE[i], 4 + i / 4, 1 + i % 4);
     }
-    CommandECInitRead = named(new QPushButton("Rea&d Enable Map"), "CommandECInitRead");
+    CommandECInitRead = named(new QPushButton("Read Enable Map"), "CommandECInitRead");
     CommandECInitWrite = named(new QPushButton("Write Ena&ble Map"), "CommandECInitWrite");
     table->addWidget(CommandECInitRead, 4, 5);
     table->addWidget(CommandECInitWrite, 5, 5);
@@ -116,9 +116,9 @@ EventPage::EventPage(Session& s, std::function<void(JobName job)> start, Guard* 
     // The event control of every pin, as jobs.
     auto* all = named(new QGroupBox("All Pins"), "FrameECAll");
     auto* allRow = new QHBoxLayout(all);
-    CommandECRead = named(new QPushButton("&Read All Events"), "CommandECRead");
-    CommandECWrite = named(new QPushButton("&Write All Events"), "CommandECWrite");
-    CommandECVerify = named(new QPushButton("Ver&ify Event Control"), "CommandECVerify");
+    CommandECRead = named(new QPushButton("Read All Events"), "CommandECRead");
+    CommandECWrite = named(new QPushButton("Write All Events"), "CommandECWrite");
+    CommandECVerify = named(new QPushButton("Verify Event Control"), "CommandECVerify");
     allRow->addWidget(CommandECRead);
     allRow->addWidget(CommandECWrite);
     allRow->addWidget(CommandECVerify);

@@ -126,8 +126,8 @@ QGroupBox* GeneralPage::buildIdentity()
     LabelGenVersionString->setMinimumWidth(90);
     TextGenIDString = named(new QLineEdit, "TextGenIDString");
     TextGenIDString->setToolTip("At most 12 characters, letters, digits and signs without accents");
-    CommandGenIDRead = button("&Read", "CommandGenIDRead");
-    CommandGenIDWrite = button("&Write", "CommandGenIDWrite");
+    CommandGenIDRead = button("Re&ad", "CommandGenIDRead");
+    CommandGenIDWrite = button("Write", "CommandGenIDWrite");
 
     TextGenIDString->setMinimumWidth(140);
     grid->addWidget(CommandGenVersion, 0, 0);
@@ -167,7 +167,7 @@ QGroupBox* GeneralPage::buildDcc()
     grid->addWidget(ChkGenDCCAllow0, 4, 0, 1, 2);
 
     CommandGenDCCRead = button("Rea&d", "CommandGenDCCRead");
-    CommandGenDCCWrite = button("Wr&ite", "CommandGenDCCWrite");
+    CommandGenDCCWrite = button("Write", "CommandGenDCCWrite");
     grid->addLayout(buttonRow(CommandGenDCCRead, CommandGenDCCWrite), 5, 0, 1, 3);
     grid->setColumnStretch(2, 1);
     return frame;
@@ -215,8 +215,8 @@ QGroupBox* GeneralPage::buildAddressing()
     }
     grid->addWidget(mask, 3, 0, 1, 3);
 
-    CommandGenAddrRead = button("Re&ad", "CommandGenAddrRead");
-    CommandGenAddrWrite = button("Wri&te", "CommandGenAddrWrite");
+    CommandGenAddrRead = button("Read", "CommandGenAddrRead");
+    CommandGenAddrWrite = button("Write", "CommandGenAddrWrite");
     grid->addLayout(buttonRow(CommandGenAddrRead, CommandGenAddrWrite), 4, 0, 1, 3);
     grid->setColumnStretch(2, 1);
     return frame;
@@ -240,8 +240,8 @@ QGroupBox* GeneralPage::buildHardware()
     tabOrder({ChkGenHWCSink[0], ChkGenHWCSink[1], ChkGenHWCSink[2], ChkGenHWCSink[3], ChkGenHWCSource[0],
               ChkGenHWCSource[1], ChkGenHWCSource[2], ChkGenHWCSource[3]});
 
-    CommandGenHWCRead = button("Read &Config", "CommandGenHWCRead");
-    CommandGenHWCWrite = button("Write C&onfig", "CommandGenHWCWrite");
+    CommandGenHWCRead = button("Read Config", "CommandGenHWCRead");
+    CommandGenHWCWrite = button("Write Config", "CommandGenHWCWrite");
     column->addLayout(buttonRow(CommandGenHWCRead, CommandGenHWCWrite));
     return frame;
 }
@@ -303,8 +303,8 @@ QGroupBox* GeneralPage::buildLeds()
         grid->addWidget(CheckLCGreen[i], i + 1, 0);
         grid->addWidget(CheckLCOrange[i], i + 1, 1);
     }
-    CommandLCRead = button("Read &Settings", "CommandLCRead");
-    CommandLCWrite = button("Write Setti&ngs", "CommandLCWrite");
+    CommandLCRead = button("Read Settings", "CommandLCRead");
+    CommandLCWrite = button("Write Settings", "CommandLCWrite");
     grid->addLayout(buttonRow(CommandLCRead, CommandLCWrite), 9, 0, 1, 2);
     return frame;
 }
@@ -358,8 +358,8 @@ QGroupBox* GeneralPage::buildSerialPort()
     options->addWidget(parity);
     grid->addLayout(options, 1, 0, 1, 4);
 
-    CommandGenSerialRead = button("Read Settin&gs", "CommandGenSerialRead");
-    CommandGenSerialWrite = button("Write &Settings", "CommandGenSerialWrite");
+    CommandGenSerialRead = button("Read Settings", "CommandGenSerialRead");
+    CommandGenSerialWrite = button("Write Settings", "CommandGenSerialWrite");
     grid->addLayout(buttonRow(CommandGenSerialRead, CommandGenSerialWrite), 2, 0, 1, 4);
     grid->setColumnStretch(3, 1);
     return frame;
@@ -369,7 +369,7 @@ QGroupBox* GeneralPage::buildErase()
 {
     auto* frame = named(new QGroupBox("Configuration Memory"), "FrameGenErase");
     auto* row = new QHBoxLayout(frame);
-    CommandGenEraseFlash = button("Erase F&lash", "CommandGenEraseFlash");
+    CommandGenEraseFlash = button("Erase Flash", "CommandGenEraseFlash");
     CommandGenEraseFlash->setToolTip("Erases the whole configuration of the module (takes up to 45 seconds)");
     row->addWidget(CommandGenEraseFlash);
     row->addStretch();

@@ -29,9 +29,24 @@ bool Guard::operator()(const std::string& name, const std::function<void()>& han
         session.config = before.config;
         session.general = before.general;
         session.eventControl = before.eventControl;
-        session.dialogs().message(fault, Icon::Warning);
-        if (afterFault)
-            afterFault();
+        // Within the refresh after a fault, the handlers it runs are guarded as ever, but
+        // only one fault is told (none that repeats the one that caused the refresh), and
+        // none starts another refresh.
+        if (!refreshing || (!std::exchange(refreshFault, true) && fault != told))
+            session.dialogs().message(fault, Icon::Warning);
+        if (afterFault && !refreshing) {
+            refreshing = true;
+            refreshFault = false;
+            told = fault;
+            try {
+                afterFault();
+            } catch (const std::exception& e) { // outside the refresh's guards: told the same way
+                const std::string again = programFaultMessage(e.what());
+                if (!std::exchange(refreshFault, true) && again != told)
+                    session.dialogs().message(again, Icon::Warning);
+            }
+            refreshing = false;
+        }
     } else if (done) {
         done(before, std::exchange(running, std::string()), control);
     }

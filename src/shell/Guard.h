@@ -43,6 +43,8 @@ public:
     // Called after every outermost handler, fault or not.
     std::function<void()> after;
     // Called after a fault has been shown and the model restored (the pages show it again).
+    // A fault raised inside it (by a handler the refresh runs) is told once for the whole
+    // refresh and does not start another refresh.
     std::function<void()> afterFault;
     // Called after every outermost handler that ended without fault, with the state before
     // it, what it was named and the control it was given.
@@ -51,6 +53,9 @@ public:
 private:
     Session& session;
     int depth = 0;
+    bool refreshing = false;   // inside afterFault
+    bool refreshFault = false; // a fault came up during this refresh
+    std::string told;          // the fault that started it
     std::string running;
 };
 

@@ -6,6 +6,7 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QDialogButtonBox>
+#include <QEvent>
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -112,7 +113,10 @@ TimeToolDialog::TimeToolDialog(QWidget* parent) : ToolDialog("dlgCT", "KestrelCo
     layout->addWidget(okCancel(OKButton, CancelButton));
     layout->setSizeConstraint(QLayout::SetFixedSize);
 
+    // The durations follow the box as it is typed in, clicked and left (and on Return).
     connect(TextCTBase, &QLineEdit::editingFinished, this, &TimeToolDialog::TextCTBase_Change);
+    connect(TextCTBase, &QLineEdit::textEdited, this, &TimeToolDialog::TextCTBase_Change);
+    TextCTBase->installEventFilter(this);
     connect(UpDownCTBase, &QSpinBox::valueChanged, this, &TimeToolDialog::UpDownCTBase_Change);
     connect(SliderCTTime, &QSlider::valueChanged, this, &TimeToolDialog::SliderCTTime_Change);
     connect(OKButton, &QPushButton::clicked, this, [this] {
@@ -144,6 +148,14 @@ void TimeToolDialog::TextCTBase_Change()
         setTextIfChanged(TextCTBase, shown);
         showTool();
     });
+}
+
+bool TimeToolDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == TextCTBase &&
+        (event->type() == QEvent::MouseButtonRelease || event->type() == QEvent::FocusOut))
+        TextCTBase_Change();
+    return ToolDialog::eventFilter(watched, event);
 }
 
 void TimeToolDialog::UpDownCTBase_Change(int base)

@@ -43,6 +43,9 @@ public slots:
     void UpDownCTBase_Change(int base);
     void SliderCTTime_Change(int time);
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void showTool(); // the controls from the tool
 };

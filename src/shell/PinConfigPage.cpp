@@ -117,8 +117,8 @@ PinConfigPage::PinConfigPage(Session& s, Guard* sharedGuard, QWidget* parent)
 
     auto* transfer = named(new QGroupBox("Pin Configuration"), "FramePCFGTransfer");
     auto* row = new QHBoxLayout(transfer);
-    const char* getCaptions[2] = {"&Get Pin Config", "Re&ad Pin Config"};
-    const char* setCaptions[2] = {"Set &Pin Config", "&Write Pin Config"};
+    const char* getCaptions[2] = {"Get Pin Config", "Re&ad Pin Config"};
+    const char* setCaptions[2] = {"Set Pin Config", "Write Pin Config"};
     const char* getTips[2] = {"Gets the active parameters", "Reads the parameters from Flash memory"};
     const char* setTips[2] = {"Sets Active Servo parameters (not permanent)",
                               "Writes Servo Parameters to Flash memory"};
@@ -175,7 +175,7 @@ QWidget* PinConfigPage::buildServoPage()
     SliderServo = named(new QSlider(Qt::Horizontal), "SliderServo");
     SliderServo->setRange(-64, 63);
     SliderServo->setTracking(false); // sends when let go, not for every step of a drag
-    CommandSrvLevel = named(new QPushButton("Se&t Position"), "CommandSrvLevel");
+    CommandSrvLevel = named(new QPushButton("Set Position"), "CommandSrvLevel");
     CheckSrvDynamic = named(new QCheckBox("Dynamic"), "CheckSrvDynamic");
     CheckSrvDynamic->setToolTip(kDynamicTip);
     CommandStopSrv = named(new QPushButton("&Jump"), "CommandStopSrv");
@@ -278,7 +278,7 @@ QWidget* PinConfigPage::buildPwmPage()
     SliderPWM = named(new QSlider(Qt::Horizontal), "SliderPWM");
     SliderPWM->setRange(0, 31);
     SliderPWM->setTracking(false);
-    CommandPWMLevel = named(new QPushButton("&Set Level"), "CommandPWMLevel");
+    CommandPWMLevel = named(new QPushButton("Set Level"), "CommandPWMLevel");
     CheckPWMSlow = named(new QCheckBox("Slow"), "CheckPWMSlow");
     CheckPWMSlow->setToolTip(kDynamicTip);
     CommandPWMJump = named(new QPushButton("J&ump"), "CommandPWMJump");
@@ -435,8 +435,15 @@ void PinConfigPage::refresh()
     LabelInpHWCWarn->setVisible(v.LabelInpHWCWarn);
     for (const auto& [field, box] : fields)
         shown[box] = box->text();
-    if (!v.message.empty())
+    // An unknown mode is told once for the pin shown, not on every refresh (a tab change,
+    // a job's end); again when another pin or mode is shown or the pin is read anew.
+    const std::pair<int, int> shownPin{session.config.CurrentPin, pin().ConfigMode};
+    if (v.message.empty())
+        toldUnknown.reset();
+    else if (toldUnknown != shownPin) {
+        toldUnknown = shownPin;
         session.dialogs().message(v.message, Icon::None);
+    }
 }
 
 void PinConfigPage::showEvent(QShowEvent* event)
@@ -555,6 +562,7 @@ void PinConfigPage::CommandPCFGGetParam_Click(int index)
 {
     commitPending();
     guard([&] { ReadPinConfig(session, index, session.config.CurrentPin); });
+    toldUnknown.reset();
     refresh();
 }
 

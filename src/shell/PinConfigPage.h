@@ -8,6 +8,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include <QSignalBlocker>
@@ -39,8 +40,8 @@ public:
     explicit PinConfigPage(Session& session, Guard* guard = nullptr, QWidget* parent = nullptr);
 
     // Shows CurrentPin: the pin box and its configuration (a parameter typed but not yet
-    // taken is taken first). An unknown mode is reported through the session's dialogs
-    // and leaves the page as it was.
+    // taken is taken first). An unknown mode is reported through the session's dialogs,
+    // once for the pin shown, and leaves the page as it was.
     void refresh();
     // Takes every parameter box whose text was typed but not yet taken.
     void commitPending();
@@ -134,7 +135,8 @@ private:
     std::unique_ptr<Guard> ownGuard;
     Guard& guard;
     std::map<PinField, QLineEdit*> fields;
-    std::map<QLineEdit*, QString> shown; // what each parameter box was last given
+    std::map<QLineEdit*, QString> shown;            // what each parameter box was last given
+    std::optional<std::pair<int, int>> toldUnknown; // the pin and unknown mode told last
 };
 
 } // namespace kestrel

@@ -7,6 +7,7 @@
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QMenu>
 #include <QRadioButton>
 #include <QSlider>
 
@@ -52,8 +53,9 @@ TEST(AspectsPage, StepRowsFollowTheirInstructionAndClampWhatIsTyped)
     m.choose(0, "On");
     EXPECT_EQ(std::tuple(int(m.step(0).Instruction), m.page.LabelPAspOffset->text(),
                          m.page.LabelPAspHParam1->text(), m.page.TextPAspPar2[0]->isEnabled(),
-                         m.page.CheckPAspFade[0]->isVisible()),
-              std::tuple(9, "P.O.", "T(/60)", false, true));
+                         m.page.CheckPAspFade[0]->isVisible(), m.page.CheckPAspFade[0]->text(),
+                         m.page.TextPAspPar3[0]->toolTip()),
+              std::tuple(9, "P.O.", "T(/60)", false, true, "Fade", "Double-click for help-tool"));
     // Tab goes through a row left to right, then to the next row.
     QWidget* at = m.page.ComboPAspInst[0];
     for (QWidget* next : std::initializer_list<QWidget*>{m.page.CheckPAspFade[0], m.page.TextPAspOffset[0],
@@ -115,7 +117,7 @@ TEST(AspectsPage, LayoutOptionsClampTheSelectionAndShowTheirRows)
     EXPECT_EQ(std::tuple(m.page.TextPaspDCCn->text(), m.page.TextPAspXDCCn->text()), std::tuple("7", "1"));
 }
 
-TEST(AspectsPage, EditToolsBehindTheLabels)
+TEST(AspectsPage, EditToolsBehindTheLabelsInTheRowsMenusAndInTheEditMenu)
 {
     AspectsRig m;
     QTest::mouseClick(m.page.OptionPAspConf[2], Qt::LeftButton); // "12": three steps an aspect
@@ -128,9 +130,21 @@ TEST(AspectsPage, EditToolsBehindTheLabels)
     QTest::mouseClick(m.page.LabelPAspStep[0], Qt::LeftButton);
     EXPECT_EQ(std::tuple(m.step(0), m.step(1), m.step(2), m.step(3)), std::tuple(StepRecord{}, on, off, on));
     EXPECT_EQ(m.page.ComboPAspInst[1]->currentText(), "On");
+    // A row's context menu (Shift+F10 or the Menu key) offers its tool's commands, chosen with the keys.
+    const auto choose = [](QWidget* row, Qt::Key key, const QString& command) {
+        QTest::keyClick(row, key, key == Qt::Key_F10 ? Qt::ShiftModifier : Qt::NoModifier);
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr) << command.toStdString();
+        for (QAction* a : menu->actions())
+            if (a->text() == command)
+                menu->setActiveAction(a);
+        QTest::keyClick(menu, Qt::Key_Return);
+    };
+    choose(m.page.ComboPAspInst[0], Qt::Key_F10, "&Delete Step");
+    EXPECT_EQ(std::tuple(m.step(0), m.step(1), m.step(2), m.page.ComboPAspInst[0]->currentText()),
+              std::tuple(on, off, StepRecord{}, "On"));
 
     // Clean keeps the steps before the first empty one and clears the rest.
-    m.step(0) = on;
     m.step(1) = StepRecord{0, 1, 2, 3, 4, 5};
     m.step(2) = off;
     m.config.aspect(1, 0).Description = "Clear";
@@ -138,17 +152,30 @@ TEST(AspectsPage, EditToolsBehindTheLabels)
     QTest::mouseClick(m.page.LabelPAspAspect, Qt::LeftButton);
     EXPECT_EQ(std::tuple(m.step(0), m.step(1), m.step(2), m.config.aspect(1, 0).Description),
               std::tuple(on, StepRecord{}, StepRecord{}, ""));
+    choose(m.page.TextPAspAspect, Qt::Key_Menu, "&Copy Aspect");
+    type(m.page.TextPAspAspect, "2");
+    choose(m.page.TextPAspAspect, Qt::Key_Menu, "&Paste Aspect");
+    EXPECT_EQ(m.step(0), on);
 
     // A pin of a device copied onto another pin still refers to the same head.
     m.config.pin(3).DeviceOffset = -3;
     m.pickPin(3);
-    clickInModal("dlgEditPin", "CommandCopyPin");
-    QTest::mouseClick(m.page.LabelPAspOutput, Qt::LeftButton);
+    choose(m.page.TextPAspOutput, Qt::Key_F10, "&Copy Pin");
     m.pickPin(5);
     clickInModal("dlgEditPin", "CommandPastePin");
     QTest::mouseClick(m.page.LabelPAspOutput, Qt::LeftButton);
     EXPECT_EQ(std::tuple(int(m.config.pin(5).DeviceOffset), m.page.TextDevicePin->text()),
               std::tuple(-5, "0"));
+
+    // The Edit menu's step tool acts on the row that has the focus; without aspects there is none.
+    QTest::mouseClick(m.page.OptionPAspConf[2], Qt::LeftButton);
+    m.page.ComboPAspInst[1]->setFocus();
+    clickInModal("dlgEditStep", "commandInsert");
+    m.page.actionStepTool->trigger();
+    QTest::mouseClick(m.page.OptionPAspConf[0], Qt::LeftButton);
+    EXPECT_EQ(std::tuple(m.config.CurrentStep, m.page.actionPinTool->isEnabled(),
+                         m.page.actionAspectTool->isEnabled(), m.page.actionStepTool->isEnabled()),
+              std::tuple(1, true, false, false));
 }
 
 TEST(AspectsPage, HelpToolsFromTheParameterBoxes)
@@ -178,8 +205,8 @@ TEST(AspectsPage, HelpToolsFromTheParameterBoxes)
     }
     EXPECT_EQ(std::tuple(int(m.step(1).Par2), m.page.TextPAspPar2[1]->text()), std::tuple(63, "63"));
 
-    // A box whose instruction has no tool says so.
-    m.choose(2, "On");
+    // A box whose instruction has no tool says so; a "Level" of 0..31 has no room for the level tool.
+    m.choose(2, "Set Level");
     m.doubleClick(m.page.TextPAspPar1[2]);
     EXPECT_EQ(m.dialogs.texts().back(), "Help tool not available for this box with the selected command");
 }
@@ -215,14 +242,23 @@ TEST(AspectsPage, DevicesAreListedAndLoadOntoTheChosenPin)
     QTest::keyClicks(page.TextDeviceDescription, "Home");
     EXPECT_EQ(pins[7].DeviceDescription, "Home");
 
-    // Shift alone appends the chosen definitions; Shift with Ctrl replaces.
+    // Reload DD by mouse, Alt+D, Return and Space: Shift alone appends, anything else replaces.
     const int count = page.cboDevice->count();
-    const std::string standard = QCoreApplication::applicationDirPath().toStdString() + "/KestrelDevices.def";
-    m.dialogs.fileNames = {standard, standard};
-    QTest::mousePress(page.CommandReloadDD, Qt::LeftButton, Qt::ShiftModifier);
-    EXPECT_EQ(page.cboDevice->count(), 2 * count);
-    QTest::mousePress(page.CommandReloadDD, Qt::LeftButton, Qt::ShiftModifier | Qt::ControlModifier);
-    EXPECT_EQ(page.cboDevice->count(), count);
+    m.dialogs.fileNames.assign(5,
+                               QCoreApplication::applicationDirPath().toStdString() + "/KestrelDevices.def");
+    m.activate(); // for the mnemonic
+    page.CommandReloadDD->setFocus();
+    const auto shift = Qt::ShiftModifier;
+    const std::tuple<QWidget*, Qt::Key, Qt::KeyboardModifiers, int> presses[] = {
+        {page.CommandReloadDD, Qt::Key_unknown, shift, 2}, // the mouse
+        {page.CommandReloadDD, Qt::Key_unknown, shift | Qt::ControlModifier, 1},
+        {&page, Qt::Key_D, shift | Qt::AltModifier, 2},
+        {page.CommandReloadDD, Qt::Key_Return, {}, 1},
+        {page.CommandReloadDD, Qt::Key_Space, shift, 2}};
+    for (const auto& [to, key, keys, times] : presses) {
+        key == Qt::Key_unknown ? QTest::mouseClick(to, Qt::LeftButton, keys) : QTest::keyClick(to, key, keys);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return page.cboDevice->count() == times * count; }, 1000)) << key;
+    }
 }
 
 TEST(AspectsPage, EveryPinJobRunsFromItsButton)
@@ -233,7 +269,8 @@ TEST(AspectsPage, EveryPinJobRunsFromItsButton)
     type(m.page.TextPAspPar1[0], "25");
     type(m.page.TextPAspAspect, "3");
     m.choose(8, "Wait");
-    type(m.page.TextPAspPar2[8], "40");
+    m.step(8).Par2 = 100; // with Base 3 more ticks than 16 bits hold (as a data file may give)
+    m.step(8).Par3 = 3;
     const PinRecord written = m.config.pin(1);
 
     // Written, cleared here, read: the module gave it all back.
@@ -246,7 +283,8 @@ TEST(AspectsPage, EveryPinJobRunsFromItsButton)
             EXPECT_EQ(m.config.pin(1).Aspects[a].Steps, written.Aspects[a].Steps) << "aspect " << a;
     };
     sameSteps();
-    EXPECT_EQ(m.page.ComboPAspInst[8]->currentText(), "Wait");
+    EXPECT_EQ(std::tuple(m.page.ComboPAspInst[8]->currentText(), m.page.LabelPAspTime[8]->text()),
+              std::tuple("Wait", "OVFLOW"));
 
     const std::pair<QPushButton*, const char*> cases[] = {
         {m.page.CommandPAspWriteAspect, "Write Aspect done"},
@@ -264,4 +302,10 @@ TEST(AspectsPage, EveryPinJobRunsFromItsButton)
     }
     sameSteps();
     EXPECT_FALSE(m.page.CommandPAspTestAspect->isEnabled()); // the module has no test command
+    EXPECT_TRUE(m.dialogs.texts().empty());
+
+    m.config.CurrentAspect = 40; // a refresh that faults again after a fault: told once, and it ends
+    m.page.refresh();
+    EXPECT_EQ(m.dialogs.texts().size(), 1u);
+    m.config.CurrentAspect = 0;
 }

@@ -126,4 +126,9 @@ TEST(PinConfigPage, AnUnknownModeIsReportedAndLeavesThePage)
     EXPECT_EQ(std::tuple(rig.session->config.CurrentPin, rig.dialogs.texts(),
                          rig.page->SSTabPCFG->currentIndex(), rig.pin(21).ConfigMode),
               std::tuple(21, std::vector<std::string>{"Unknown configuration: 7"}, 1, 7));
+    rig.page->refresh(); // shown again (a change of tab): not told again; shown anew it is
+    EXPECT_EQ(rig.dialogs.texts().size(), 1u);
+    enter(rig.page->TextPCFGPin, "1");
+    enter(rig.page->TextPCFGPin, "22");
+    EXPECT_EQ(rig.dialogs.texts().size(), 2u);
 }

@@ -109,7 +109,8 @@ TEST(HelpTools, TimeToolShowsTheDurationsAndOkSetsTimeAndBase)
     for (const auto& [typed, base, slider, maxTime, time] : cases) {
         StepRecord step{102, 0, 0, 0, 5, 1}; // "Wait"
         onOpen(tool, [&] {
-            enter(tool.TextCTBase, typed);
+            tool.TextCTBase->clear();
+            QTest::keyClicks(tool.TextCTBase, typed); // taken as typed, no Return
             tool.SliderCTTime->setValue(slider);
             EXPECT_EQ(std::tuple(tool.TextCTBase->text(), tool.UpDownCTBase->value(),
                                  tool.LabelCTMaxTimeValue->text(), tool.LabelCTTimeValue->text()),
@@ -120,6 +121,14 @@ TEST(HelpTools, TimeToolShowsTheDurationsAndOkSetsTimeAndBase)
         EXPECT_TRUE(tool.run(step));
         EXPECT_EQ(std::tuple(step.Par2, step.Par3), std::tuple(slider, base.toInt()));
     }
+    // The base box is taken when it is clicked as well.
+    StepRecord step{102, 0, 0, 0, 63, 0};
+    onOpen(tool, [&] {
+        tool.TextCTBase->setText("1");
+        QTest::mouseClick(tool.TextCTBase, Qt::LeftButton);
+        EXPECT_EQ(tool.LabelCTTimeValue->text(), "00:10.08");
+    });
+    tool.run(step);
 }
 
 namespace {

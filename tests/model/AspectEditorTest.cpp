@@ -194,20 +194,18 @@ TEST(AspectEditor, NumberingAndHelpDecision)
     EXPECT_EQ(std::tuple(off.legend, off.view.pinText, c.NumberingBase),
               std::tuple("Pin       0..7         8..15      16..23       24..31", "9", 0));
 
+    // Last those without a tool, the "Level" boxes of 0..31 among them (no room for 16 x level).
+    using B = HelpBox;
+    using K = HelpToolKind;
     const std::tuple<int, HelpBox, HelpToolKind> help[] = {
-        {102, HelpBox::Time, HelpToolKind::Time},
-        {120, HelpBox::Par3, HelpToolKind::Time},
-        {13, HelpBox::Par1, HelpToolKind::Pattern},
-        {37, HelpBox::Par1, HelpToolKind::Pattern},
-        {16, HelpBox::Par1, HelpToolKind::EventPattern},
-        {38, HelpBox::Par1, HelpToolKind::Level}, // "Set Level"
-        // then the two without a tool:
-        {102, HelpBox::Par1, HelpToolKind::None},
-        {13, HelpBox::Par2, HelpToolKind::None}};
+        {102, B::Time, K::Time},   {120, B::Par3, K::Time},        {13, B::Par1, K::Pattern},
+        {37, B::Par1, K::Pattern}, {16, B::Par1, K::EventPattern}, {102, B::Par1, K::None},
+        {13, B::Par2, K::None},    {38, B::Par1, K::None},         {96, B::Par1, K::None},
+        {97, B::Par1, K::None},    {18, B::Par2, K::None}};
     test::RecordingDialogs dialogs;
     for (const auto& [instruction, box, kind] : help)
         EXPECT_EQ(helpToolFor({static_cast<std::uint8_t>(instruction), 0, 0, 0, 0, 0}, box, dialogs), kind)
             << instruction;
     EXPECT_EQ(dialogs.texts(),
-              std::vector<std::string>(2, "Help tool not available for this box with the selected command"));
+              std::vector<std::string>(6, "Help tool not available for this box with the selected command"));
 }

@@ -94,5 +94,7 @@ TEST(StepDisplay, StepTime)
               std::tuple("10:45.12", "00:00.00", "00:08.48", "00:00.00"));
     EXPECT_EQ(std::tuple(durationText(1325), durationText(50), durationText(3049)),
               std::tuple("00:26.50", "00:01.00", "01:00.98"));
-    EXPECT_THROW(stepTimeText({102, 0, 0, 0, 255, 4}), ProgramFault);
+    EXPECT_EQ(std::tuple(stepTimeText({102, 0, 0, 0, 100, 3}), stepTimeText({102, 0, 0, 0, 255, 4})),
+              std::tuple("OVFLOW", "OVFLOW")); // above 32767 ticks
+    EXPECT_THROW(durationTicks(255, 4), ProgramFault);
 }
