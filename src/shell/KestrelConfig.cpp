@@ -799,6 +799,9 @@ void KestrelConfig::buildMenus()
     }
     actionRestoreBackup = add(menuFile, "&Restore from backup...", [this] { restoreFromBackup(); });
     menuFile->addSeparator();
+    add(menuFile, "Reload &Device Definitions...", [this] { aspectsPage->reloadDeviceDefinitions(false); });
+    add(menuFile, "A&ppend Device Definitions...", [this] { aspectsPage->reloadDeviceDefinitions(true); });
+    menuFile->addSeparator();
     actionForgetSettings = add(menuFile, "&Forget Remembered Settings", [this] {
         forgetSettings = true;
         QSettings("Kestrel", "Kestrel Config").clear();
@@ -823,6 +826,11 @@ void KestrelConfig::buildMenus()
     }
     // The menu names the step a typed but unfinished entry makes.
     connect(menuEdit, &QMenu::aboutToShow, this, &KestrelConfig::commitAll);
+    // The copy, paste, clear, insert and delete tools of the Aspects page, from the keyboard.
+    menuEdit->addSeparator();
+    for (QAction* tool :
+         {aspectsPage->actionPinTool, aspectsPage->actionAspectTool, aspectsPage->actionStepTool})
+        menuEdit->addAction(tool);
 
     menuModule = menuBar()->addMenu("&Module");
     auto press = [](QAbstractButton* b) { return [b] { b->click(); }; };

@@ -44,5 +44,6 @@ TEST(WorkState, OnlyALoadOrASaveOfAllThatIsShownMakesTheWorkSaved)
     GeneralSettings other = g;
     EXPECT_FALSE(work.readFromModule(g)); // the file's own module
     other.TextGenIDString = "Other";
-    EXPECT_EQ(std::tuple(work.readFromModule(other), work.file(), work.unsaved(c, g)), std::tuple(true, "", true));
+    EXPECT_EQ(std::tuple(work.readFromModule(other), work.file(), work.unsaved(c, g)),
+              std::tuple(true, "", true));
 }
