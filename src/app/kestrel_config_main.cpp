@@ -40,7 +40,7 @@ void takeScreenshots(kestrel::KestrelConfig& window, const QString& folder)
             return;
         poll->stop();
         AspectsPage& page = *window.aspectsPage;
-        page.TextPAspOutput->setText("3"); // a signal with a two-step program
+        page.TextPAspOutput->setText("8"); // a turnout servo with a three-step program
         emit page.TextPAspOutput->editingFinished();
         for (int t = 0; t < window.tabs->count(); ++t) {
             window.tabs->setCurrentIndex(t);
@@ -88,7 +88,7 @@ void takeScreenshots(kestrel::KestrelConfig& window, const QString& folder)
             compared->stop();
             QApplication::processEvents();
             window.frmCompare->grab().save(folder + "/" + window.frmCompare->objectName() + ".png");
-            QApplication::quit();
+            QApplication::exit(0); // without asking about the configuration read
         });
         compared->start(100);
     });
@@ -129,7 +129,7 @@ int main(int argc, char** argv)
         const QString file = args[at + 1];
         QTimer::singleShot(500, &window, [&window, file] {
             window.grab().save(file);
-            QApplication::quit();
+            QApplication::exit(0); // without asking about the configuration read
         });
     }
     const int all = args.indexOf("--screenshots");

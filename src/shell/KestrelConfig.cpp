@@ -51,6 +51,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QSettings>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QStatusBar>
@@ -220,10 +221,14 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     CommandSave->installEventFilter(this);
     // From the keyboard (Space, Return, Alt+S) the keys held decide as a mouse press's do:
     // with Shift the compact file. A mouse press has saved at the press already.
+    CommandSave->setAutoDefault(true); // Return presses it as Space does
     connect(CommandSave, &QPushButton::clicked, this, [this] {
         const bool shift = QApplication::keyboardModifiers() & Qt::ShiftModifier;
         CommandSave_MouseDown(1, shift ? 1 : 0);
     });
+    // Alt+Shift+S is not the button's own letter: it saves compact as Shift+click does.
+    connect(new QShortcut(QKeySequence(Qt::ALT | Qt::SHIFT | Qt::Key_S), this), &QShortcut::activated, this,
+            [this] { CommandSave_MouseDown(1, 1); });
     CommandLoad = named(new QPushButton("L&oad File"), "CommandLoad");
     CommandReadAllPins = named(new QPushButton("Read All &Pins"), "CommandReadAllPins");
     CommandReadAllPins->setToolTip(
@@ -298,9 +303,15 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     LabelStatusPort = named(new QLabel, "LabelStatusPort");
     LabelStatusModule = named(new QLabel, "LabelStatusModule");
     LabelStatusJob = named(new QLabel, "LabelStatusJob");
-    statusBar()->addWidget(LabelStatusPort);
-    statusBar()->addWidget(LabelStatusModule);
-    statusBar()->addWidget(LabelStatusJob, 1);
+    for (QLabel* field : {LabelStatusPort, LabelStatusModule, LabelStatusJob}) {
+        if (field != LabelStatusPort) { // a line between the fields
+            auto* line = new QFrame;
+            line->setFrameStyle(QFrame::VLine | QFrame::Sunken);
+            statusBar()->addWidget(line);
+        }
+        field->setContentsMargins(4, 0, 4, 0);
+        statusBar()->addWidget(field, field == LabelStatusJob ? 1 : 0);
+    }
     guard->after = [this] { updateWindowState(); };
     guard->afterFault = [this] { refreshAll(); };
 

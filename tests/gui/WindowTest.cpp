@@ -126,11 +126,14 @@ TEST(Window, UnsavedChangesAreAskedAboutBeforeTheyAreLost)
     // and a compact file that leaves pins out does not either.
     QTemporaryDir dir;
     m.dialogs.fileNames = {dir.filePath("a.dat").toStdString(), dir.filePath("b.dat").toStdString()};
-    m.w.saveFile(QString(), false);
+    m.activate();
+    m.w.CommandSave->setFocus();
+    QTest::keyClick(m.w.CommandSave, Qt::Key_Return); // Save File from the keyboard
     type(m.w.aspectsPage->TextPAspDesc, "Kept in the file only");
     for (QPushButton* write : {m.w.CommandWriteAll, m.w.CommandWriteChanges})
         m.job(write);
-    m.w.saveFile(QString(), true);
+    m.activate();
+    QTest::keyClick(&m.w, Qt::Key_S, Qt::AltModifier | Qt::ShiftModifier); // compact
     m.dialogs.clear();
     EXPECT_EQ(std::tuple(m.w.windowTitle(), m.w.LabelStatusModule->text()),
               std::tuple("b.dat* - Kestrel Config", "The module holds what is shown"));
