@@ -199,6 +199,7 @@ TEST(Window, PseudoTerminalsOpenAgainAtAnyRateAndAfterAnother)
         EXPECT_EQ(version(), shown);
     }
     EXPECT_TRUE(m.dialogs.messages.empty()) << m.dialogs.messages[0].text;
+    EXPECT_GE(m.w.ComboPort->findText(QString::fromStdString(second.pty())), 0); // typed paths join the list
 
     // The other end goes away: told, the port is closed; another one opens at once.
     first.stop();
@@ -212,10 +213,13 @@ TEST(Window, PseudoTerminalsOpenAgainAtAnyRateAndAfterAnother)
     test::SimProcess refusing({"--refuse", "112,1:length"});
     m.openPort(QString::fromStdString(refusing.pty()));
     m.dialogs.defaultAnswer = Answer::Discard;
+    QDir(backupRoot()).removeRecursively();
     m.job(m.w.CommandReadAll);
     EXPECT_TRUE(
         m.status().startsWith("Read All incomplete: 1 problem reported, the first: No valid response size"))
         << m.status().toStdString();
+    const auto kept = listBackups(backupRoot().toStdString()); // only as an incomplete backup
+    EXPECT_TRUE(kept.size() == 1 && kept[0].incomplete);
 }
 
 TEST(Window, AMessageDuringAJobIsAboveItsProgressDialog)
