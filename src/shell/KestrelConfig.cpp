@@ -597,10 +597,15 @@ bool KestrelConfig::blocksInput(QObject* target, QEvent* event) const
     default:
         return false;
     }
-    // The progress dialog and the boxes a job raises take their input.
+    // The progress dialog and the boxes a job raises take their input, and so do the
+    // windows that only watch (the traffic, the report, the Corvid log).
     const auto* widget = qobject_cast<QWidget*>(target);
-    const QWidget* modal = QApplication::activeModalWidget();
-    return !(widget && modal && widget->window() == modal);
+    if (!widget)
+        return true;
+    const QWidget* window = widget->window();
+    if (window == QApplication::activeModalWidget())
+        return false;
+    return window != frmTrafficMonitor && window != frmKestrelVerification && window != frmCorvidComm;
 }
 
 bool KestrelConfig::confirmKeyboardWrite(QAbstractButton* button)
