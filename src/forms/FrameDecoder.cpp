@@ -1,4 +1,5 @@
 #include "forms/FrameDecoder.h"
+#include "base/Wire.h"
 
 #include <algorithm>
 #include <iterator>
@@ -18,70 +19,46 @@ struct CommandEntry {
 };
 constexpr CommandEntry kCommands[] = {
     {0, -1, "live output", false},
-    {65, -1, "set pin config", false},
-    {81, -1, "get pin config", false},
-    {96, -1, "write general item", true},
-    {97, -1, "write pin config", false},
-    {98, -1, "write aspect layout", false},
-    {99, -1, "write step", false},
-    {100, 3, "write initial aspect", false},
-    {100, 6, "write Event-On", false},
-    {100, -1, "write initial aspect or Event-On", false},
-    {101, -1, "write Event-Off", false},
-    {102, -1, "write pin address config", false},
-    {112, -1, "read general item", true},
-    {113, -1, "read pin config", false},
-    {114, -1, "read aspect layout", false},
-    {115, -1, "read step", false},
-    {116, -1, "read Event-On", false},
-    {117, -1, "read Event-Off", false},
-    {118, -1, "read pin address config", false},
+    {kSendActiveConfig, -1, "set pin config", false},
+    {kReadActiveConfig, -1, "get pin config", false},
+    {kGeneralWrite, -1, "write general item", true},
+    {kSendFlashConfig, -1, "write pin config", false},
+    {kWriteLayout, -1, "write aspect layout", false},
+    {kWriteStep, -1, "write step", false},
+    {kWriteInitOrEventOn, 3, "write initial aspect", false},
+    {kWriteInitOrEventOn, 6, "write Event-On", false},
+    {kWriteInitOrEventOn, -1, "write initial aspect or Event-On", false},
+    {kWriteEventOff, -1, "write Event-Off", false},
+    {kWriteAddrConfig, -1, "write pin address config", false},
+    {kGeneralRead, -1, "read general item", true},
+    {kReadFlashConfig, -1, "read pin config", false},
+    {kReadLayout, -1, "read aspect layout", false},
+    {kReadStep, -1, "read step", false},
+    {kReadEventOn, -1, "read Event-On", false},
+    {kReadEventOff, -1, "read Event-Off", false},
+    {kReadAddrConfig, -1, "read pin address config", false},
 };
 
 const char* itemName(int command, int item)
 {
-    switch (item) {
-    case 0:
-        return command == 96 ? "erase configuration memory" : "version";
-    case 1:
-        return "hardware configuration";
-    case 2:
-        return "eXtended address";
-    case 3:
-        return "eXtended group mask";
-    case 4:
-        return "DCC address";
-    case 5:
-        return "DCC options";
-    case 6:
-        return "green LED";
-    case 7:
-        return "orange LED";
-    case 8:
-        return "serial addressing";
-    case 10:
-        return "ID string";
-    case 11:
-        return "event enable maps";
-    case 12:
-        return "eXtended DCC address";
-    case 13:
-        return "module serial port";
-    default:
-        return nullptr;
-    }
+    if (command == kGeneralWrite && item == kItemVersionErase)
+        return "erase configuration memory";
+    for (const auto& [code, name] : kGeneralItemNames)
+        if (code == item)
+            return name;
+    return nullptr;
 }
 
 const char* liveName(int sub)
 {
     switch (sub) {
-    case 38:
+    case kPwmDirect:
         return "PWM level";
-    case 54:
+    case kPwmSlow:
         return "PWM level slow";
-    case 39:
+    case kServoDirect:
         return "servo position";
-    case 55:
+    case kServoDynamic:
         return "servo position dynamic";
     default:
         return nullptr;
@@ -131,7 +108,7 @@ DecodedFrame kestrel(bool reply, const std::vector<int>& d)
         ++rest;
     }
     if (rest != d.end()) {
-        if (reply && e->code == 112 && d[1] == 10) // the ID string's characters
+        if (reply && e->code == kGeneralRead && d[1] == kItemIdString) // the ID string's characters
             text += ", text \"" + std::string(rest, d.end()) + "\"";
         else
             text += ", data" + numbers(rest, d.end());

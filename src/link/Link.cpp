@@ -1,4 +1,5 @@
 #include "link/Link.h"
+#include "base/Wire.h"
 
 #include <algorithm>
 
@@ -636,7 +637,7 @@ bool Link::GetVersion()
 {
     VersionText = "Unknown";
     setBidirectional(true);
-    SendKestrelMessage(true, 2, {112, 0});
+    SendKestrelMessage(true, 2, {kGeneralRead, kItemVersionErase});
     bool ok = false;
     if (state.ReplyValid) {
         const auto& r = state.ReplyBuffer;

@@ -135,13 +135,6 @@ bool WriteAll(Session& session, bool withPinConfig)
 
 namespace {
 
-constexpr int kWriteStep = 99;
-constexpr int kWriteLayout = 98;
-constexpr int kWriteInitOrEventOn = 100; // length 3: the initial aspect; 6: Event-On slots
-constexpr int kWriteFlashConfig = 97;
-constexpr int kGeneralWriteCommand = 96;
-constexpr int kPacingMs = 100;
-
 // What a frame sets in the module: the command and item (pin), the slot of a step, and the
 // length where it tells two settings apart.
 std::vector<int> frameItem(const std::vector<int>& frame)
@@ -219,7 +212,7 @@ std::vector<std::vector<int>> changedWrites(Session& session, const ModuleImage&
         const int pin = frame.size() > 1 ? frame[1] : 0;
         const auto found = held.find(frameItem(frame));
         bool differs = found == held.end() || found->second != frame;
-        if (command == kWriteFlashConfig && pin < kPinCount && !image.pinConfigKnown[pin])
+        if (command == kSendFlashConfig && pin < kPinCount && !image.pinConfigKnown[pin])
             differs = true;
         if (command == kWriteLayout && differs && pin < kPinRecords)
             relaid[pin] = true;
@@ -269,7 +262,7 @@ bool WriteChanges(Session& session, bool withPinConfig)
                     if (!s.link.send(frames[i]))
                         return false;
                     // Pin and event writes are paced when no reply paces the sender, as in Write All.
-                    if (frames[i][0] != kGeneralWriteCommand && !s.link.settings.CheckKestrelBD)
+                    if (frames[i][0] != kGeneralWrite && !s.link.settings.CheckKestrelBD)
                         s.link.clock().sleepMs(kPacingMs);
                 }
                 s.reportStep(total, total, "Done");

@@ -1,4 +1,5 @@
 #include "ops/Estimate.h"
+#include "base/Wire.h"
 
 #include "model/WireLimits.h"
 #include "pins/PinConfig.h"
@@ -17,7 +18,7 @@ namespace {
 // of Read All, Write All and Verify All of the fully populated configuration.
 constexpr double kTurnaroundSeconds = 0.00025;
 // The pause after each write of a one-way link (PinTransfer, EventControl).
-constexpr double kPacingSeconds = 0.1;
+constexpr double kPacingSeconds = kPacingMs / 1000.0;
 constexpr double kBitsPerByte = 11;
 // The measured pace is trusted after this many exchanges.
 constexpr long kPaceExchanges = 20;

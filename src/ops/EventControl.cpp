@@ -13,7 +13,6 @@ namespace kestrel {
 namespace {
 
 constexpr int kNoAction = 15;
-constexpr int kWritePacingMs = 100;
 
 struct SideInfo {
     int readCommand;
@@ -26,8 +25,8 @@ struct SideInfo {
 // The Event-On reply carries one byte more (the initial aspect) before its slots.
 const SideInfo& info(EventSide side)
 {
-    static const SideInfo on{kEventOnRead, kEventOnWrite, 7, 5, "Event-On"};
-    static const SideInfo off{kEventOffRead, kEventOffWrite, 6, 4, "Event-Off"};
+    static const SideInfo on{kReadEventOn, kWriteInitOrEventOn, 7, 5, "Event-On"};
+    static const SideInfo off{kReadEventOff, kWriteEventOff, 6, 4, "Event-Off"};
     return side == EventSide::On ? on : off;
 }
 
@@ -119,7 +118,7 @@ bool verifySide(Session& s, EventSide side, bool& ended)
 void pace(Session& s)
 {
     if (!s.link.settings.CheckKestrelBD)
-        s.link.clock().sleepMs(kWritePacingMs);
+        s.link.clock().sleepMs(kPacingMs);
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #pragma once
+#include "base/Wire.h"
 #include "session/Session.h"
 
 #include <array>
@@ -8,10 +9,6 @@ namespace kestrel {
 // Event control: for each pin and input slot 0..3 an Event-On and an Event-Off action
 // (-1 = none, the editor allows -1..11), and the two enable maps of the module.
 
-constexpr int kEventOnRead = 116;  // "t"
-constexpr int kEventOffRead = 117; // "u"
-constexpr int kEventOnWrite = 100;
-constexpr int kEventOffWrite = 101;
 constexpr int kEventSlots = 4;
 constexpr int kEventActionMin = -1;
 constexpr int kEventActionMax = 11;

@@ -12,7 +12,7 @@ int data(Session& s, int i) { return s.link.lastReply().data(i); }
 int replyLength(Session& s) { return s.link.lastReply().length(); }
 bool echoes(Session& s, int command, int item) { return s.link.lastReply().echoes(command, item); }
 
-// One read request (True, 2, 112, item); True when a valid reply came back.
+// One read request (True, 2, kGeneralRead, item); True when a valid reply came back.
 bool requestItem(Session& s, int item) { return s.link.request({kGeneralRead, item}).valid; }
 
 void say(Session& s, const std::string& text) { s.dialogs().message(text, Icon::None); }
@@ -26,7 +26,7 @@ std::string msgMessage(Session& s, int item)
 {
     const KestrelReply& r = s.link.lastReply();
     return "No valid response, msg = " + std::to_string(r.command()) + "," + std::to_string(r.item()) +
-           " expected = 112," + std::to_string(item);
+           " expected = " + std::to_string(kGeneralRead) + "," + std::to_string(item);
 }
 
 int bit(int value, int k) { return (value >> k) & 1; }

@@ -1,4 +1,5 @@
 #pragma once
+#include "base/Wire.h"
 #include "model/WireLimits.h"
 #include "session/GeneralCodec.h"
 #include "session/Session.h"
@@ -15,24 +16,6 @@ namespace kestrel {
 // session's dialogs; readers stay silent when no valid reply came back (the link has
 // already said so).
 
-// Command bytes and item numbers of the general settings.
-constexpr int kGeneralRead = 112; // "p"
-constexpr int kGeneralWrite = 96;
-enum GeneralItem : int {
-    kItemVersionErase = 0,
-    kItemHardwareConfig = 1,
-    kItemExtendedAddress = 2,
-    kItemGroupMask = 3,
-    kItemDccAddress = 4,
-    kItemDccOptions = 5,
-    kItemGreenLed = 6,
-    kItemOrangeLed = 7,
-    kItemSerialAddressing = 8,
-    kItemIdString = 10,
-    kItemEventEnable = 11,
-    kItemXDccAddress = 12,
-    kItemSerialPort = 13,
-};
 // The module's fixed confirmation sequence of an erase.
 constexpr std::array<int, 8> kEraseSequence = {61, 17, 92, 8, 33, 70, 15, 44};
 

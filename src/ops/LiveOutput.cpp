@@ -1,4 +1,5 @@
 #include "ops/LiveOutput.h"
+#include "base/Wire.h"
 
 #include "session/Session.h"
 
@@ -7,11 +8,6 @@
 namespace kestrel {
 
 namespace {
-
-constexpr int kServoDirect = 39;
-constexpr int kServoDynamic = 55;
-constexpr int kPwmDirect = 38;
-constexpr int kPwmSlow = 54;
 
 bool sendLive(Session& session, int subCommand, int value)
 {

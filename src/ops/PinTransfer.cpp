@@ -14,20 +14,10 @@ namespace kestrel {
 
 namespace {
 
-constexpr int kReadLayout = 114;     // "r"
-constexpr int kReadStep = 115;       // "s"
-constexpr int kReadEventOn = 116;    // "t", carries the initial aspect entry
-constexpr int kReadAddrConfig = 118; // "v"
-constexpr int kWriteLayout = 98;
-constexpr int kWriteStep = 99;
-constexpr int kWriteInit = 100; // with length 3; length 6 writes the Event-On slots
-constexpr int kWriteAddrConfig = 102;
-constexpr int kPacingMs = 100;
-
 const char* const kNoValidResponse = "No valid response";
 const char* const kAddrConfigInvalid = "Read Pin Address Configuration: Invalid Response";
 
-// The five step bytes of a 115 reply, after the echoed aspect and step.
+// The five step bytes of a kReadStep reply, after the echoed aspect and step.
 std::array<int, 5> stepBytes(const KestrelReply& r)
 {
     return {r.data(2), r.data(3), r.data(4), r.data(5), r.data(6)};
@@ -59,7 +49,7 @@ std::string shownPin(const Session& session, int pin)
     return std::to_string(pin + session.config.NumberingBase);
 }
 
-// Sends 118 for the pin; the device pointer's head, or no value when the reply is
+// Sends kReadAddrConfig for the pin; the device pointer's head, or no value when the reply is
 // missing, wrong, or carries no valid device byte. `answered` tells whether a valid
 // reply arrived at all.
 std::optional<int> readDeviceHead(Session& session, int pin, bool& answered)
@@ -142,7 +132,7 @@ bool readPinAspects(Session& session, int pin)
     return ok;
 }
 
-// Steps 0 .. steps-1 of one aspect (99), in order.
+// Steps 0 .. steps-1 of one aspect (kWriteStep), in order.
 bool writeSteps(Session& session, int pin, int aspect, int steps)
 {
     for (int s = 0; s < steps; ++s) {
@@ -177,7 +167,7 @@ bool writePin(Session& session, int pin, bool withPinConfig)
         return false;
     if (!paced(session, link.send({kWriteLayout, pin, rec.AspectLayout})))
         return false;
-    if (!paced(session, link.send({kWriteInit, pin, initEntry(rec)})))
+    if (!paced(session, link.send({kWriteInitOrEventOn, pin, initEntry(rec)})))
         return false;
     const int counts = 8 * rec.XDccCount + rec.DccCount;
     if (!paced(session,
@@ -364,8 +354,9 @@ bool verifyPin(Session& session, int pin, bool& stopped)
     if (!r.valid)
         return stop();
     if (!r.is(5, kReadAddrConfig, pin)) {
-        report.line("Pin Address Configuration: Invalid Response, expected 5,118," + std::to_string(pin) +
-                    ", received " + std::to_string(r.length()) + "," + std::to_string(r.command()) + "," +
+        report.line("Pin Address Configuration: Invalid Response, expected 5," +
+                    std::to_string(kReadAddrConfig) + "," + std::to_string(pin) + ", received " +
+                    std::to_string(r.length()) + "," + std::to_string(r.command()) + "," +
                     std::to_string(r.item()));
         same = false;
     } else {

@@ -31,7 +31,8 @@ public:
     std::string msgLine(const std::string& what, int item) const
     {
         return what + ": No valid response, msg = " + std::to_string(data(2)) + "," +
-               std::to_string(data(3)) + " expected = 112," + std::to_string(item);
+               std::to_string(data(3)) + " expected = " + std::to_string(kGeneralRead) + "," +
+               std::to_string(item);
     }
 
 private:

@@ -1,4 +1,5 @@
 #pragma once
+#include "base/Wire.h"
 #include "model/Configuration.h"
 
 #include <vector>
@@ -8,12 +9,8 @@ namespace kestrel {
 // Configuration modes (ConfigMode).
 constexpr int kModeNone = 0;
 constexpr int kModeServo = 1;
-constexpr int kModePwm = 2;           // 3 = inverted
-constexpr int kModeInput = 4;         // 5 = inverted
-constexpr int kReadActiveConfig = 81; // "Q"
-constexpr int kReadFlashConfig = 113; // "q"
-constexpr int kSendActiveConfig = 65; // "A"
-constexpr int kSendFlashConfig = 97;  // "a"
+constexpr int kModePwm = 2;   // 3 = inverted
+constexpr int kModeInput = 4; // 5 = inverted
 
 // The Pin Configuration page that shows a mode (0 none, 1 servo, 2 PWM, 3 input; the
 // inverted modes share their page); -1 for an unknown mode.

@@ -1,13 +1,9 @@
 #include "session/ModuleImage.h"
+#include "base/Wire.h"
 
 namespace kestrel {
 
 namespace {
-
-constexpr int kGeneralWrite = 96;
-constexpr int kFlashConfig = 97; // "a"; "A" (65) sets the active parameters only
-constexpr int kFirstPinWrite = 98;
-constexpr int kLastPinWrite = 102;
 
 void takeConfiguration(PinRecord& to, const PinRecord& from)
 {
@@ -46,7 +42,7 @@ bool changesModule(const std::vector<int>& frame)
     if (frame.empty())
         return false;
     const int c = frame[0];
-    return c == kGeneralWrite || c == kFlashConfig || (c >= kFirstPinWrite && c <= kLastPinWrite);
+    return c == kGeneralWrite || c == kSendFlashConfig || (c >= kWriteLayout && c <= kWriteAddrConfig);
 }
 
 } // namespace kestrel

@@ -1,0 +1,74 @@
+#pragma once
+#include <array>
+
+namespace kestrel {
+
+// The module's command codes: the first data byte of every request the program sends.
+// The simulated module keeps its own copy on purpose, so that the two sides are checked
+// against each other.
+enum Command : int {
+    kPwmDirect = 38,         // a PWM pin's level at once
+    kServoDirect = 39,       // a servo's position at once
+    kPwmSlow = 54,           // a PWM pin's level through its acceleration
+    kServoDynamic = 55,      // a servo's position through its dynamics
+    kSendActiveConfig = 65,  // "A": a pin's configuration, active until power-down
+    kReadActiveConfig = 81,  // "Q"
+    kGeneralWrite = 96,      // a general item; item 0 with the erase sequence erases
+    kSendFlashConfig = 97,   // "a": a pin's configuration, kept in flash
+    kWriteLayout = 98,       // a pin's aspect layout (the first of the pin writes)
+    kWriteStep = 99,         // one step of an aspect
+    kWriteInitOrEventOn = 100, // length 3: the initial aspect; length 6: the Event-On slots
+    kWriteEventOff = 101,    // the Event-Off slots
+    kWriteAddrConfig = 102,  // a pin's address counts and device (the last of the pin writes)
+    kGeneralRead = 112,      // "p": a general item; item 0 is the version
+    kReadFlashConfig = 113,  // "q"
+    kReadLayout = 114,       // "r"
+    kReadStep = 115,         // "s"
+    kReadEventOn = 116,      // "t": the Event-On slots with the initial aspect entry
+    kReadEventOff = 117,     // "u"
+    kReadAddrConfig = 118,   // "v"
+};
+
+// The general items of commands 96 and 112.
+enum GeneralItem : int {
+    kItemVersionErase = 0,
+    kItemHardwareConfig = 1,
+    kItemExtendedAddress = 2,
+    kItemGroupMask = 3,
+    kItemDccAddress = 4,
+    kItemDccOptions = 5,
+    kItemGreenLed = 6,
+    kItemOrangeLed = 7,
+    kItemSerialAddressing = 8,
+    kItemIdString = 10,
+    kItemEventEnable = 11,
+    kItemXDccAddress = 12,
+    kItemSerialPort = 13,
+};
+
+// What each general item holds, as the traffic shows it. Item 0 reads the version and,
+// written with the erase sequence, erases the configuration memory.
+struct GeneralItemName {
+    GeneralItem item;
+    const char* name;
+};
+inline constexpr std::array<GeneralItemName, 13> kGeneralItemNames = {{
+    {kItemVersionErase, "version"},
+    {kItemHardwareConfig, "hardware configuration"},
+    {kItemExtendedAddress, "eXtended address"},
+    {kItemGroupMask, "eXtended group mask"},
+    {kItemDccAddress, "DCC address"},
+    {kItemDccOptions, "DCC options"},
+    {kItemGreenLed, "green LED"},
+    {kItemOrangeLed, "orange LED"},
+    {kItemSerialAddressing, "serial addressing"},
+    {kItemIdString, "ID string"},
+    {kItemEventEnable, "event enable maps"},
+    {kItemXDccAddress, "eXtended DCC address"},
+    {kItemSerialPort, "module serial port"},
+}};
+
+// A write that no reply paces is followed by this pause, so that the module keeps up.
+inline constexpr int kPacingMs = 100;
+
+} // namespace kestrel
