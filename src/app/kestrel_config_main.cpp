@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QCommandLineParser>
 #include <QDir>
 #include <QIcon>
 #include <QLabel>
@@ -20,7 +21,6 @@
 #include <QTimer>
 
 #include <cstdio>
-#include <cstring>
 
 namespace {
 
@@ -95,46 +95,83 @@ void takeScreenshots(kestrel::KestrelConfig& window, const QString& folder)
     poll->start(100);
 }
 
+// Whether a window can be shown: on X11 and Wayland systems a display must be named, or
+// a platform chosen (QT_QPA_PLATFORM or -platform); elsewhere there always is one.
+bool displayNamed(bool platformOption)
+{
+    if (!KESTREL_DISPLAY_FROM_ENVIRONMENT || platformOption)
+        return true;
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        if (!qEnvironmentVariableIsEmpty(name))
+            return true;
+    return false;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
-    // --version: the program's version, without a window (and without a display).
-    for (int i = 1; i < argc; ++i)
-        if (std::strcmp(argv[i], "--version") == 0) {
-            std::printf("kestrel-config %s\n", KESTREL_VERSION);
-            return 0;
-        }
+    QCommandLineParser parser;
+    parser.setApplicationDescription("Reads, edits, writes back and verifies the configuration of\n"
+                                     "Kestrel accessory controller modules in a window.");
+    // Qt's own options come with one dash (-platform offscreen).
+    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    const QCommandLineOption help(QStringList{"h", "help"}, "Show this help and exit.");
+    const QCommandLineOption version("version", "Show the program's version and exit.");
+    const QCommandLineOption fresh("fresh", "Start as on a first start: forget the remembered port, "
+                                            "addresses, window and files.");
+    const QCommandLineOption size("size", "The window's size, e.g. 1280x690.", "WxH");
+    const QCommandLineOption screenshot("screenshot", "Save a picture of the window once shown, then quit.",
+                                        "FILE");
+    const QCommandLineOption screenshots(
+        "screenshots",
+        "Read All from the simulated module, save a picture of every page and tool, then quit.", "FOLDER");
+    QCommandLineOption platform("platform", "Qt's platform plugin.", "NAME");
+    platform.setFlags(QCommandLineOption::HiddenFromHelp);
+    parser.addOptions({help, version, fresh, size, screenshot, screenshots, platform});
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    // Answered before the application exists (so without a display), which the help
+    // text shows as <executable_name>.
+    if (!parser.parse(arguments) || !parser.positionalArguments().isEmpty()) {
+        const QString error = parser.positionalArguments().isEmpty()
+                                  ? parser.errorText()
+                                  : "Unexpected argument '" + parser.positionalArguments().first() + "'.";
+        std::fprintf(stderr, "kestrel-config: %s\nTry 'kestrel-config --help'.\n", qPrintable(error));
+        return 2;
+    }
+    if (parser.isSet(help)) {
+        std::printf("%s", qPrintable(parser.helpText().replace("<executable_name>", "kestrel-config")));
+        return 0;
+    }
+    if (parser.isSet(version)) {
+        std::printf("kestrel-config %s\n", KESTREL_VERSION);
+        return 0;
+    }
+    if (!displayNamed(parser.isSet(platform))) {
+        std::fprintf(stderr, "kestrel-config: no display to show the window on (neither DISPLAY nor "
+                             "WAYLAND_DISPLAY is set); kestrel-cli works without one\n");
+        return 1;
+    }
     QApplication app(argc, argv);
     QApplication::setApplicationName("Kestrel Config");
     QApplication::setApplicationDisplayName("Kestrel Config");
     QApplication::setWindowIcon(QIcon(":/kestrel-config.svg"));
-    // --fresh: start as on a first start, forgetting the remembered port, addresses,
-    // window and files.
-    if (QApplication::arguments().contains("--fresh"))
+    if (parser.isSet(fresh))
         QSettings("Kestrel", "Kestrel Config").clear();
     kestrel::KestrelConfig window;
-    const QStringList args = QApplication::arguments();
-    // --size WxH: the window's size (for pictures of a small screen).
-    if (const int size = args.indexOf("--size"); size > 0 && size + 1 < args.size()) {
-        const QStringList wh = args[size + 1].split('x');
-        if (wh.size() == 2)
-            window.resize(wh[0].toInt(), wh[1].toInt());
-    }
+    if (const QStringList wh = parser.value(size).split('x'); wh.size() == 2)
+        window.resize(wh[0].toInt(), wh[1].toInt());
     window.show();
 
-    // --screenshot FILE: save a picture of the window once it is drawn, then quit.
-    const int at = args.indexOf("--screenshot");
-    if (at > 0 && at + 1 < args.size()) {
-        const QString file = args[at + 1];
-        QTimer::singleShot(500, &window, [&window, file] {
+    if (parser.isSet(screenshot))
+        QTimer::singleShot(500, &window, [&window, file = parser.value(screenshot)] {
             window.grab().save(file);
             QApplication::exit(0); // without asking about the configuration read
         });
-    }
-    const int all = args.indexOf("--screenshots");
-    if (all > 0 && all + 1 < args.size())
-        QTimer::singleShot(500, &window,
-                           [&window, folder = args[all + 1]] { takeScreenshots(window, folder); });
+    if (parser.isSet(screenshots))
+        QTimer::singleShot(
+            500, &window, [&window, folder = parser.value(screenshots)] { takeScreenshots(window, folder); });
     return app.exec();
 }

@@ -294,3 +294,17 @@ TEST(CliPortLost, ReadAndWriteEndWithOneMessageAndThePortServesAgain)
     const CommandResult again = runProgram(cli, {"--port", sim.pty(), "read", lost});
     EXPECT_EQ(std::tuple(again.status, again.err, exists(lost)), std::tuple(0, "", true));
 }
+
+TEST(KestrelConfigWithoutADisplay, AnswersHelpAndVersionAndOtherwiseSaysSoInOneLine)
+{
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        unsetenv(name);
+    const std::string config = binPath("kestrel-config");
+    auto help = runProgram(config, {"--help"}), version = runProgram(config, {"--version"});
+    EXPECT_EQ(std::tuple(help.status, version.status, version.out.rfind("kestrel-config ", 0)),
+              std::tuple(0, 0, 0u));
+    EXPECT_NE(help.out.find("--screenshots <FOLDER>"), std::string::npos);
+    auto r = runProgram(config, {});
+    EXPECT_EQ(std::tuple(r.status, r.out, std::count(r.err.begin(), r.err.end(), '\n')), std::tuple(1, "", 1))
+        << r.err;
+}
