@@ -7,26 +7,26 @@ namespace kestrel {
 // The simulated module keeps its own copy on purpose, so that the two sides are checked
 // against each other.
 enum Command : int {
-    kPwmDirect = 38,         // a PWM pin's level at once
-    kServoDirect = 39,       // a servo's position at once
-    kPwmSlow = 54,           // a PWM pin's level through its acceleration
-    kServoDynamic = 55,      // a servo's position through its dynamics
-    kSendActiveConfig = 65,  // "A": a pin's configuration, active until power-down
-    kReadActiveConfig = 81,  // "Q"
-    kGeneralWrite = 96,      // a general item; item 0 with the erase sequence erases
-    kSendFlashConfig = 97,   // "a": a pin's configuration, kept in flash
-    kWriteLayout = 98,       // a pin's aspect layout (the first of the pin writes)
-    kWriteStep = 99,         // one step of an aspect
+    kPwmDirect = 38,           // a PWM pin's level at once
+    kServoDirect = 39,         // a servo's position at once
+    kPwmSlow = 54,             // a PWM pin's level through its acceleration
+    kServoDynamic = 55,        // a servo's position through its dynamics
+    kSendActiveConfig = 65,    // "A": a pin's configuration, active until power-down
+    kReadActiveConfig = 81,    // "Q"
+    kGeneralWrite = 96,        // a general item; item 0 with the erase sequence erases
+    kSendFlashConfig = 97,     // "a": a pin's configuration, kept in flash
+    kWriteLayout = 98,         // a pin's aspect layout (the first of the pin writes)
+    kWriteStep = 99,           // one step of an aspect
     kWriteInitOrEventOn = 100, // length 3: the initial aspect; length 6: the Event-On slots
-    kWriteEventOff = 101,    // the Event-Off slots
-    kWriteAddrConfig = 102,  // a pin's address counts and device (the last of the pin writes)
-    kGeneralRead = 112,      // "p": a general item; item 0 is the version
-    kReadFlashConfig = 113,  // "q"
-    kReadLayout = 114,       // "r"
-    kReadStep = 115,         // "s"
-    kReadEventOn = 116,      // "t": the Event-On slots with the initial aspect entry
-    kReadEventOff = 117,     // "u"
-    kReadAddrConfig = 118,   // "v"
+    kWriteEventOff = 101,      // the Event-Off slots
+    kWriteAddrConfig = 102,    // a pin's address counts and device (the last of the pin writes)
+    kGeneralRead = 112,        // "p": a general item; item 0 is the version
+    kReadFlashConfig = 113,    // "q"
+    kReadLayout = 114,         // "r"
+    kReadStep = 115,           // "s"
+    kReadEventOn = 116,        // "t": the Event-On slots with the initial aspect entry
+    kReadEventOff = 117,       // "u"
+    kReadAddrConfig = 118,     // "v"
 };
 
 // The general items of commands 96 and 112.

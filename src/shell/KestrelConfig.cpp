@@ -943,12 +943,12 @@ void KestrelConfig::about()
     box.setText(QString("<b>Kestrel Config %1</b>").arg(KESTREL_VERSION));
     box.setInformativeText(
         QString("Reads, edits, writes back and verifies what a Kestrel accessory module stores.<br><br>"
-                "Build: %1, Qt %2, %3<br><br>"
+                "Build: %1, Qt %2<br><br>"
                 "The README (how to start, the command-line tool, the data-file format and the "
                 "Aspects page) lies in the program's source folder, README.md; the data-file "
                 "keywords are described in its section \"kestrel-cli\".")
             .arg(QString(KESTREL_BUILD_TYPE).isEmpty() ? QString("default") : QString(KESTREL_BUILD_TYPE),
-                 qVersion(), __DATE__));
+                 qVersion()));
     box.exec();
 }
 
