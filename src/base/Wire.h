@@ -46,27 +46,38 @@ enum GeneralItem : int {
     kItemSerialPort = 13,
 };
 
-// What each general item holds, as the traffic shows it. Item 0 reads the version and,
-// written with the erase sequence, erases the configuration memory.
-struct GeneralItemName {
+// What each general item holds, as the traffic shows it, and the length of the module's
+// answer to its read (the length field: echoed command and item and the data; 0 where it
+// varies). Item 0 reads the version and, written with the erase sequence, erases the
+// configuration memory.
+struct GeneralItemInfo {
     GeneralItem item;
     const char* name;
+    int replyLength;
 };
-inline constexpr std::array<GeneralItemName, 13> kGeneralItemNames = {{
-    {kItemVersionErase, "version"},
-    {kItemHardwareConfig, "hardware configuration"},
-    {kItemExtendedAddress, "eXtended address"},
-    {kItemGroupMask, "eXtended group mask"},
-    {kItemDccAddress, "DCC address"},
-    {kItemDccOptions, "DCC options"},
-    {kItemGreenLed, "green LED"},
-    {kItemOrangeLed, "orange LED"},
-    {kItemSerialAddressing, "serial addressing"},
-    {kItemIdString, "ID string"},
-    {kItemEventEnable, "event enable maps"},
-    {kItemXDccAddress, "eXtended DCC address"},
-    {kItemSerialPort, "module serial port"},
+inline constexpr std::array<GeneralItemInfo, 13> kGeneralItems = {{
+    {kItemVersionErase, "version", 0},
+    {kItemHardwareConfig, "hardware configuration", 6},
+    {kItemExtendedAddress, "eXtended address", 3},
+    {kItemGroupMask, "eXtended group mask", 6},
+    {kItemDccAddress, "DCC address", 4},
+    {kItemDccOptions, "DCC options", 3},
+    {kItemGreenLed, "green LED", 3},
+    {kItemOrangeLed, "orange LED", 3},
+    {kItemSerialAddressing, "serial addressing", 4},
+    {kItemIdString, "ID string", 0},
+    {kItemEventEnable, "event enable maps", 4},
+    {kItemXDccAddress, "eXtended DCC address", 4},
+    {kItemSerialPort, "module serial port", 4},
 }};
+
+constexpr int generalReplyLength(GeneralItem item)
+{
+    for (const GeneralItemInfo& info : kGeneralItems)
+        if (info.item == item)
+            return info.replyLength;
+    return 0;
+}
 
 // A write that no reply paces is followed by this pause, so that the module keeps up.
 inline constexpr int kPacingMs = 100;

@@ -43,9 +43,9 @@ const char* itemName(int command, int item)
 {
     if (command == kGeneralWrite && item == kItemVersionErase)
         return "erase configuration memory";
-    for (const auto& [code, name] : kGeneralItemNames)
-        if (code == item)
-            return name;
+    for (const GeneralItemInfo& info : kGeneralItems)
+        if (info.item == item)
+            return info.name;
     return nullptr;
 }
 

@@ -67,8 +67,10 @@ int configLength(const PinRecord& rec) { return static_cast<int>(pinConfigBytes(
 void readGeneral(Counter& c, const GeneralSettings& g)
 {
     c.read(2, 2 + idLength(g));
-    for (int length : {3, 4, 4, 4, 3, 6, 3, 3, 6, 4})
-        c.read(2, length);
+    for (GeneralItem item :
+         {kItemDccOptions, kItemDccAddress, kItemXDccAddress, kItemSerialAddressing, kItemExtendedAddress,
+          kItemGroupMask, kItemGreenLed, kItemOrangeLed, kItemHardwareConfig, kItemSerialPort})
+        c.read(2, generalReplyLength(item));
 }
 
 // Every pin read whole: layout, its steps, initial aspect, address configuration and the
@@ -91,7 +93,7 @@ void readEvents(Counter& c)
 {
     c.read(2, 7, kPinCount);
     c.read(2, 6, kPinCount);
-    c.read(2, 4);
+    c.read(2, generalReplyLength(kItemEventEnable));
 }
 
 void writePins(Counter& c, const Configuration& config, bool withPinConfig)

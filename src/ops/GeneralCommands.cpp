@@ -17,21 +17,22 @@ bool requestItem(Session& s, int item) { return s.link.request({kGeneralRead, it
 
 void say(Session& s, const std::string& text) { s.dialogs().message(text, Icon::None); }
 
-std::string sizeMessage(int n, int expected)
-{
-    return "No valid response, size = " + std::to_string(n) + " expected = " + std::to_string(expected);
-}
-
-std::string msgMessage(Session& s, int item)
-{
-    const KestrelReply& r = s.link.lastReply();
-    return "No valid response, msg = " + std::to_string(r.command()) + "," + std::to_string(r.item()) +
-           " expected = " + std::to_string(kGeneralRead) + "," + std::to_string(item);
-}
-
 int bit(int value, int k) { return (value >> k) & 1; }
 
 } // namespace
+
+std::string badGeneralReply(const KestrelReply& reply, GeneralItem item)
+{
+    const int expected = generalReplyLength(item);
+    if (reply.length() != expected)
+        return "No valid response, size = " + std::to_string(reply.length()) +
+               " expected = " + std::to_string(expected);
+    if (!reply.echoes(kGeneralRead, item))
+        return "No valid response, msg = " + std::to_string(reply.command()) + "," +
+               std::to_string(reply.item()) + " expected = " + std::to_string(kGeneralRead) + "," +
+               std::to_string(item);
+    return {};
+}
 
 bool RequestVersion(Session& session)
 {
@@ -155,10 +156,9 @@ bool ReadSerialAddressing(Session& session)
 
     if (!requestItem(session, kItemSerialAddressing))
         return false;
-    if (replyLength(session) != 4)
-        say(session, sizeMessage(replyLength(session), 4));
-    else if (!echoes(session, kGeneralRead, kItemSerialAddressing))
-        say(session, msgMessage(session, kItemSerialAddressing));
+    if (const std::string bad = badGeneralReply(session.link.lastReply(), kItemSerialAddressing);
+        !bad.empty())
+        say(session, bad);
     else {
         if (data(session, 0) != 0) {
             g.CheckGenLynxaddr = 1;
@@ -176,10 +176,8 @@ bool ReadSerialAddressing(Session& session)
 
     if (!requestItem(session, kItemExtendedAddress))
         return false;
-    if (replyLength(session) != 3)
-        say(session, sizeMessage(replyLength(session), 3));
-    else if (!echoes(session, kGeneralRead, kItemExtendedAddress))
-        say(session, msgMessage(session, kItemExtendedAddress));
+    if (const std::string bad = badGeneralReply(session.link.lastReply(), kItemExtendedAddress); !bad.empty())
+        say(session, bad);
     else {
         g.ExtendedAddress = data(session, 0);
         g.TextGenXaddr = std::to_string(g.ExtendedAddress + base);
@@ -187,10 +185,8 @@ bool ReadSerialAddressing(Session& session)
 
     if (!requestItem(session, kItemGroupMask))
         return false;
-    if (replyLength(session) != 6)
-        say(session, sizeMessage(replyLength(session), 6));
-    else if (!echoes(session, kGeneralRead, kItemGroupMask))
-        say(session, msgMessage(session, kItemGroupMask));
+    if (const std::string bad = badGeneralReply(session.link.lastReply(), kItemGroupMask); !bad.empty())
+        say(session, bad);
     else {
         for (int grp = 0; grp < 4; ++grp)
             for (int k = 0; k < 4; ++k)
@@ -293,12 +289,8 @@ bool ReadSerialPortSettings(Session& session)
     session.link.setBidirectional(true);
     if (!requestItem(session, kItemSerialPort))
         return false;
-    if (replyLength(session) != 4) {
-        say(session, sizeMessage(replyLength(session), 4));
-        return false;
-    }
-    if (!echoes(session, kGeneralRead, kItemSerialPort)) {
-        say(session, msgMessage(session, kItemSerialPort));
+    if (const std::string bad = badGeneralReply(session.link.lastReply(), kItemSerialPort); !bad.empty()) {
+        say(session, bad);
         return false;
     }
     g.CheckGenSerialEnable = data(session, 0) != 0 ? 1 : 0;

@@ -19,6 +19,12 @@ namespace kestrel {
 // The module's fixed confirmation sequence of an erase.
 constexpr std::array<int, 8> kEraseSequence = {61, 17, 92, 8, 33, 70, 15, 44};
 
+// What is wrong with the reply to the read of a general item: "No valid response, size =
+// 5 expected = 4" for a length other than the item's, else "No valid response, msg =
+// 112,3 expected = 112,2" for another command or item; "" when it is right. The readers
+// show it, the verification writes it after the item's name.
+std::string badGeneralReply(const KestrelReply& reply, GeneralItem item);
+
 // "Request Version": the link's version request; LabelGenVersionString shows the result.
 bool RequestVersion(Session& session);
 

@@ -23,16 +23,11 @@ public:
     bool echoes(int item) const { return reply.echoes(kGeneralRead, item); }
     int data(int i) const { return reply.bytes[static_cast<std::size_t>(i)]; }
 
-    std::string sizeLine(const std::string& what, int expected) const
+    // What is wrong with the reply, after the item's name; "" when it is right.
+    std::string bad(const std::string& what, GeneralItem item) const
     {
-        return what + ": No valid response, size = " + std::to_string(length()) +
-               " expected = " + std::to_string(expected);
-    }
-    std::string msgLine(const std::string& what, int item) const
-    {
-        return what + ": No valid response, msg = " + std::to_string(data(2)) + "," +
-               std::to_string(data(3)) + " expected = " + std::to_string(kGeneralRead) + "," +
-               std::to_string(item);
+        const std::string text = badGeneralReply(reply, item);
+        return text.empty() ? text : what + ": " + text;
     }
 
 private:
@@ -137,10 +132,8 @@ bool VerifyGeneralSettings(Session& session)
     step(5, "Verifying serial addressing");
     if (!c.request(kItemSerialAddressing))
         return false;
-    if (c.length() != 4)
-        return stop(c.sizeLine("Serial Address Settings", 4));
-    if (!c.echoes(kItemSerialAddressing))
-        return stop(c.msgLine("Serial Address Settings", kItemSerialAddressing));
+    if (const std::string bad = c.bad("Serial Address Settings", kItemSerialAddressing); !bad.empty())
+        return stop(bad);
     if (c.data(4) != (g.CheckGenLynxaddr == 1 ? 1 : 0) || c.data(5) != serialAddressModeByte(g))
         mismatch("Serial Address Settings do not compare");
 
@@ -148,10 +141,8 @@ bool VerifyGeneralSettings(Session& session)
     step(6, "Verifying eXtended address");
     if (!c.request(kItemExtendedAddress))
         return false;
-    if (c.length() != 3)
-        return stop(c.sizeLine("eXtended Address", 3));
-    if (!c.echoes(kItemExtendedAddress))
-        return stop(c.msgLine("eXtended Address", kItemExtendedAddress));
+    if (const std::string bad = c.bad("eXtended Address", kItemExtendedAddress); !bad.empty())
+        return stop(bad);
     if (c.data(4) != g.ExtendedAddress)
         mismatch("eXtended Address does not compare");
 
@@ -159,10 +150,8 @@ bool VerifyGeneralSettings(Session& session)
     step(7, "Verifying eXtended group mask");
     if (!c.request(kItemGroupMask))
         return false;
-    if (c.length() != 6)
-        return stop(c.sizeLine("eXtended Group Mask", 6));
-    if (!c.echoes(kItemGroupMask))
-        return stop(c.msgLine("eXtended Group Mask", kItemGroupMask));
+    if (const std::string bad = c.bad("eXtended Group Mask", kItemGroupMask); !bad.empty())
+        return stop(bad);
     {
         const auto want = groupMaskBytes(g);
         for (int grp = 0; grp < 4; ++grp)
@@ -191,10 +180,8 @@ bool VerifyGeneralSettings(Session& session)
     step(9, "Verifying serial port");
     if (!c.request(kItemSerialPort))
         return false;
-    if (c.length() != 4)
-        return stop(c.sizeLine("Serial Port Config", 4));
-    if (!c.echoes(kItemSerialPort))
-        return stop(c.msgLine("Serial Port Config", kItemSerialPort));
+    if (const std::string bad = c.bad("Serial Port Config", kItemSerialPort); !bad.empty())
+        return stop(bad);
     if (c.data(4) != g.CheckGenSerialEnable || c.data(5) != serialPortByte(g))
         mismatch("Serial Port Configuration does not compare");
 
