@@ -15,6 +15,7 @@
 #include "shell/Bindings.h"
 #include "shell/BuiltInSim.h"
 #include "shell/CompareDialog.h"
+#include "shell/EditHistory.h"
 #include "shell/EventPage.h"
 #include "shell/GeneralPage.h"
 #include "shell/PinConfigPage.h"
@@ -90,27 +91,6 @@ QString whereStopped(const std::string& step)
     return "while " + what.left(1).toLower() + what.mid(1);
 }
 
-// What is kept in a data file, without what only shows (labels, the warning flag, and the
-// address texts, which follow the numbering base; the file keeps their values).
-GeneralSettings filed(GeneralSettings g)
-{
-    g.LabelGenVersionString.clear();
-    g.SuppressAddrWarning = false;
-    g.TextGenXaddr.clear();
-    g.TextGenLynxaddr.clear();
-    return g;
-}
-
-// Whether what is kept differs: the selection, the numbering and what only shows do not count.
-bool configurationDiffers(const Configuration& x, const GeneralSettings& g, const Configuration& y,
-                          const GeneralSettings& h)
-{
-    return x.Pins != y.Pins || x.EventMap != y.EventMap || x.DccFirstIndex != y.DccFirstIndex ||
-           x.XDccFirstIndex != y.XDccFirstIndex || x.LynxFirstIndex != y.LynxFirstIndex ||
-           x.DccTotal != y.DccTotal || x.XDccTotal != y.XDccTotal || x.LynxTotal != y.LynxTotal ||
-           filed(g) != filed(h);
-}
-
 // Hands every event of the program to a test of the window's before it is delivered.
 class EventGate : public QObject {
 public:
@@ -145,44 +125,6 @@ bool inBackups(const QString& path)
     return !root.isEmpty() && !folder.isEmpty() && (folder == root || folder.startsWith(root + '/'));
 }
 
-// One undo step: the states before and after what the user did. Typing on in the same box
-// (same control, the focus not moved, nothing else changed between) joins the step.
-class ConfigurationStep : public QUndoCommand {
-public:
-    using State = std::shared_ptr<const EditState>;
-    ConfigurationStep(const QString& name, State before, State after, const void* control, int run,
-                      std::function<void(const State&)> restore)
-        : QUndoCommand(name), before(std::move(before)), after(std::move(after)), control(control), run(run),
-          restore(std::move(restore))
-    {
-    }
-    void undo() override { restore(before); }
-    void redo() override
-    {
-        if (pushed) // the first redo is the push: the change is made already
-            restore(after);
-        pushed = true;
-    }
-    int id() const override { return control ? 1 : -1; }
-    bool mergeWith(const QUndoCommand* other) override
-    {
-        const auto* next = static_cast<const ConfigurationStep*>(other);
-        if (next->control != control || next->run != run || *next->before != *after)
-            return false;
-        after = next->after;
-        setObsolete(!configurationDiffers(before->config, before->general, after->config, after->general));
-        return true;
-    }
-
-private:
-    State before;
-    State after;
-    const void* control;
-    int run;
-    std::function<void(const State&)> restore;
-    bool pushed = false;
-};
-
 } // namespace
 
 KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindow(parent), boxes(this)
@@ -193,10 +135,11 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     core = program->session.get();
     corvid = program->corvid.get();
     guard = std::make_unique<Guard>(*core);
-    undoStack = new QUndoStack(this);
-    undoStack->setUndoLimit(100);
+    history = new EditHistory(
+        *core, [this] { commitAll(); }, [this] { refreshAll(); }, this);
+    undoStack = history->stack();
     guard->done = [this](const EditState& before, const std::string& name, const void* control) {
-        record(before, name, control);
+        history->record(before, name, control);
     };
 
     auto* central = new QWidget;
@@ -431,7 +374,7 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     // Ctrl+Z in a box undoes the configuration, not only the box's own typing.
     for (QLineEdit* box : findChildren<QLineEdit*>())
         box->installEventFilter(this);
-    connect(qApp, &QApplication::focusChanged, this, [this] { ++editRun; });
+    connect(qApp, &QApplication::focusChanged, this, [this] { history->newRun(); });
 }
 
 void KestrelConfig::addJobs()
@@ -830,16 +773,10 @@ void KestrelConfig::buildMenus()
         menuFile, "E&xit", [this] { close(); }, QKeySequence::Quit);
 
     menuEdit = menuBar()->addMenu("&Edit");
-    actionUndo = undoStack->createUndoAction(this, "Undo");
-    actionRedo = undoStack->createRedoAction(this, "Redo");
-    actionUndo->setShortcuts(QKeySequence::Undo);
-    actionRedo->setShortcuts({QKeySequence("Ctrl+Shift+Z"), QKeySequence("Ctrl+Y")});
-    for (auto [action, step] :
-         {std::pair{actionUndo, &KestrelConfig::undo}, std::pair{actionRedo, &KestrelConfig::redo}}) {
-        disconnect(action, &QAction::triggered, undoStack, nullptr); // the window takes pending typing first
-        connect(action, &QAction::triggered, this, step);
-        menuEdit->addAction(action);
-    }
+    actionUndo = history->undoAction();
+    actionRedo = history->redoAction();
+    menuEdit->addAction(actionUndo);
+    menuEdit->addAction(actionRedo);
     // The menu names the step a typed but unfinished entry makes.
     connect(menuEdit, &QMenu::aboutToShow, this, &KestrelConfig::commitAll);
     // The copy, paste, clear, insert and delete tools of the Aspects page, from the keyboard.
@@ -891,47 +828,6 @@ void KestrelConfig::buildMenus()
     menuHelp = menuBar()->addMenu("&Help");
     add(
         menuHelp, "&About Kestrel Config", [this] { about(); }, QKeySequence::HelpContents);
-}
-
-void KestrelConfig::undo()
-{
-    commitAll();
-    undoStack->undo();
-}
-
-void KestrelConfig::redo()
-{
-    commitAll();
-    undoStack->redo();
-}
-
-void KestrelConfig::record(const EditState& before, const std::string& name, const void* control)
-{
-    if (restoring || !configurationDiffers(before.config, before.general, core->config, core->general))
-        return;
-    auto was = latest && *latest == before ? latest : std::make_shared<const EditState>(before);
-    latest = std::make_shared<const EditState>(EditState{core->config, core->general, core->eventControl});
-    undoStack->push(new ConfigurationStep(QString::fromStdString(name.empty() ? "Edit" : name),
-                                          std::move(was), latest, control, editRun,
-                                          [this](const ConfigurationStep::State& s) { restore(s); }));
-}
-
-void KestrelConfig::restore(const std::shared_ptr<const EditState>& state)
-{
-    restoring = true;
-    const int base = core->config.NumberingBase;
-    const std::string version = core->general.LabelGenVersionString;
-    const bool warned = core->general.SuppressAddrWarning;
-    core->config = state->config; // with the selection it had: the change is shown where it was made
-    core->config.NumberingBase = base;
-    core->general = state->general;
-    core->general.LabelGenVersionString = version;
-    core->general.SuppressAddrWarning = warned;
-    core->eventControl = state->eventControl;
-    refreshAll();
-    restoring = false;
-    latest = state;
-    ++editRun;
 }
 
 void KestrelConfig::about()
@@ -1405,9 +1301,9 @@ bool KestrelConfig::eventFilter(QObject* watched, QEvent* event)
             if (event->type() == QEvent::ShortcutOverride)
                 event->accept(); // the key comes to the box, and so here
             else if (back)
-                undo();
+                history->undo();
             else
-                redo();
+                history->redo();
             return true;
         }
     }

@@ -40,6 +40,7 @@ class AspectsPage;
 class PinOverviewPage;
 class TrafficMonitor;
 class CompareDialog;
+class EditHistory;
 } // namespace kestrel
 
 namespace kestrel {
@@ -182,10 +183,6 @@ public slots:
     void CommandVerifyAll_Click();
     void Timer1_Timer();
     void about();
-    // Takes what is typed but unfinished (a step of its own), then goes one step back or
-    // forth. Nothing is sent to the module.
-    void undo();
-    void redo();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -230,10 +227,6 @@ private:
     void saveSettings();
     void remember(const QString& path); // a file loaded or saved joins the recent files
     void showRecent();
-    // The guard's report of a handler that ended: a step when it changed the configuration.
-    void record(const EditState& before, const std::string& name, const void* control);
-    // Puts a step's state back and shows it (the numbering and what the module reported stay).
-    void restore(const std::shared_ptr<const EditState>& state);
 
     QtDialogs boxes;
     std::unique_ptr<ProgramSession> program;
@@ -244,18 +237,16 @@ private:
     WorkState work;                 // which file, and whether it holds what is shown
     QStringList recent;
     bool forgetSettings = false;
-    bool corvidLogDismissed = false;         // closed by the user: new lines do not force it open
-    bool jobAsked = false;                   // a job's button was pressed: input waits for its end
-    QList<QAbstractButton*> jobButtons;      // the buttons that start jobs
-    QList<QAbstractButton*> writers;         // the buttons that write to the module
-    bool pinConfigWritten = true;            // the last write sent the pins' configurations too
-    std::vector<std::string> jobReport;      // the report's lines written since the job began
-    QPointer<QWidget> focusBeforeJob;        // where the keyboard goes back to when the job ends
-    QStringList typedPorts;                  // port paths typed by the user, kept in the port list
-    QObject* gate = nullptr;                 // sees every event of the program first
-    std::shared_ptr<const EditState> latest; // the state the last step left, shared with the next
-    bool restoring = false;                  // undo or redo is showing a state: no step of it
-    int editRun = 0;                         // moves on with the focus: typing after it is a new step
+    bool corvidLogDismissed = false;    // closed by the user: new lines do not force it open
+    bool jobAsked = false;              // a job's button was pressed: input waits for its end
+    QList<QAbstractButton*> jobButtons; // the buttons that start jobs
+    QList<QAbstractButton*> writers;    // the buttons that write to the module
+    bool pinConfigWritten = true;       // the last write sent the pins' configurations too
+    std::vector<std::string> jobReport; // the report's lines written since the job began
+    QPointer<QWidget> focusBeforeJob;   // where the keyboard goes back to when the job ends
+    QStringList typedPorts;             // port paths typed by the user, kept in the port list
+    QObject* gate = nullptr;            // sees every event of the program first
+    EditHistory* history = nullptr;     // the undo steps
 };
 
 } // namespace kestrel
