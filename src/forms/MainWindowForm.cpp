@@ -1,5 +1,8 @@
 #include "forms/MainWindowForm.h"
 
+#include <cctype>
+#include <cstdio>
+
 #include "base/UserDialogs.h"
 #include "session/Session.h"
 
@@ -43,6 +46,67 @@ LoadOutcome loadConfigurationFrom(Session& session, const std::string& path)
     else if (result != LoadResult::InvalidHeader && session.onConfigurationChanged)
         session.onConfigurationChanged();
     return {path, result};
+}
+
+namespace {
+// Where a job stopped, from its last step: "at pin 12 of 32" or "while reading DCC settings".
+std::string whereStopped(const std::string& step)
+{
+    if (step.empty())
+        return "before its first step";
+    if (step.rfind("Request", 0) == 0)
+        return "at the version request";
+    // "<Verb> pin <n>"
+    const std::size_t space = step.find(' ');
+    if (space != std::string::npos && step.compare(space, 5, " pin ") == 0) {
+        const std::string number = step.substr(space + 5);
+        if (!number.empty() && number.find_first_not_of("0123456789") == std::string::npos)
+            return "at pin " + number + " of " + std::to_string(kPinCount);
+    }
+    return "while " + std::string(1, static_cast<char>(std::tolower(static_cast<unsigned char>(step[0])))) +
+           step.substr(1);
+}
+} // namespace
+
+std::string jobOutcomeText(const JobEnd& e)
+{
+    const std::string partial = e.reads ? ": the pages show a partial read" : "";
+    std::string outcome;
+    if (e.fault)
+        return e.title + " stopped by a program error; the configuration is as it was before";
+    if (e.cancelled)
+        outcome = e.title + " cancelled " + whereStopped(e.lastStep) + partial;
+    else if (e.verifies && e.summary.empty())
+        outcome = e.ok ? (e.title == "Verify All" ? std::string("Verify OK")
+                                                  : e.title + ": the module holds the configuration")
+                       : e.title + ": the module differs, see the verification report";
+    else if (!e.ok && e.lastStep.empty() && !e.summary.empty())
+        outcome = e.summary; // stopped before its first step
+    else if (!e.ok)
+        outcome = e.title + " stopped " + whereStopped(e.lastStep) + partial;
+    else if (!e.summary.empty())
+        outcome = e.summary + partial;
+    else {
+        char seconds[32];
+        std::snprintf(seconds, sizeof seconds, "%.1f", e.seconds);
+        outcome = e.title + " done in " + seconds + " s";
+    }
+    // A write that went wrong on the way leaves the module's content unknown.
+    if (!e.verifies && !e.reads && !e.summary.empty() && !e.imageKnown)
+        outcome += "; the module may hold only part of it";
+    return outcome;
+}
+
+bool onlyPinConfigurationsDiffer(const std::vector<std::string>& reportLines)
+{
+    bool any = false;
+    for (const std::string& line : reportLines)
+        if (line.find("does not compare") != std::string::npos) {
+            if (line.find("Pinconfig") == std::string::npos)
+                return false;
+            any = true;
+        }
+    return any;
 }
 
 } // namespace kestrel

@@ -1,6 +1,9 @@
 #pragma once
 #include "files/ConfigurationFile.h"
 
+#include <string>
+#include <vector>
+
 namespace kestrel {
 
 class Session;
@@ -26,5 +29,30 @@ struct LoadOutcome {
 LoadOutcome CommandLoad_Click(Session& session);
 // The same for a file already chosen (a recent file).
 LoadOutcome loadConfigurationFrom(Session& session, const std::string& path);
+
+// How a window job ended, for the status bar.
+struct JobEnd {
+    std::string title;  // "Read All", "Verify All Pins", ...
+    bool fault = false; // stopped by a program error
+    bool cancelled = false;
+    bool ok = false;        // the operation returned True
+    bool reads = false;     // it fills the pages
+    bool verifies = false;  // it compares the module with the configuration in the report
+    bool imageKnown = true; // the session still knows what the module holds
+    std::string summary;    // the session's job summary ("" when nothing was left undone)
+    std::string lastStep;   // the last step reported ("Reading pin 12")
+    double seconds = 0;
+};
+// "Read All done in 7.4 s", "Verify OK", "Verify All Pins: the module differs, see the
+// verification report", "Write All stopped at pin 12 of 32", "Read All cancelled while
+// reading DCC settings: the pages show a partial read", "Write Changes incomplete: ...;
+// the module may hold only part of it".
+std::string jobOutcomeText(const JobEnd& end);
+
+// Whether every difference a verification reported is a pin's configuration (and there is
+// one): then the report's last line says how to write them.
+bool onlyPinConfigurationsDiffer(const std::vector<std::string>& reportLines);
+inline constexpr const char* kWritePinConfigurationsHint =
+    "The pins' configurations were not written: check \"Write pin configurations too\" and write again.";
 
 } // namespace kestrel

@@ -19,7 +19,8 @@ GeneralSettings filed(GeneralSettings g)
 }
 
 // Whether what is kept differs: the selection, the numbering and what only shows do not count.
-bool differs(const Configuration& a, const GeneralSettings& g, const Configuration& b, const GeneralSettings& h)
+bool differs(const Configuration& a, const GeneralSettings& g, const Configuration& b,
+             const GeneralSettings& h)
 {
     return a.Pins != b.Pins || a.EventMap != b.EventMap || a.DccFirstIndex != b.DccFirstIndex ||
            a.XDccFirstIndex != b.XDccFirstIndex || a.LynxFirstIndex != b.LynxFirstIndex ||
@@ -99,7 +100,8 @@ void EditHistory::record(const EditState& before, const std::string& name, const
     if (restoring || !differs(before.config, before.general, session.config, session.general))
         return;
     auto was = latest && *latest == before ? latest : std::make_shared<const EditState>(before);
-    latest = std::make_shared<const EditState>(EditState{session.config, session.general, session.eventControl});
+    latest =
+        std::make_shared<const EditState>(EditState{session.config, session.general, session.eventControl});
     steps->push(new ConfigurationStep(QString::fromStdString(name.empty() ? "Edit" : name), std::move(was),
                                       latest, control, editRun,
                                       [this](const ConfigurationStep::State& s) { restore(s); }));

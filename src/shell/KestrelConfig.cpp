@@ -48,7 +48,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QRegularExpression>
 #include <QScreen>
 #include <QScrollArea>
 #include <QSettings>
@@ -77,20 +76,6 @@ public:
     std::string last;
 };
 
-// Where a job stopped, from its last step: "at pin 12 of 32" or "while reading DCC settings".
-QString whereStopped(const std::string& step)
-{
-    const QString what = QString::fromLatin1(step.c_str());
-    const auto pin = QRegularExpression(R"(^\w+ pin (\d+)$)").match(what);
-    if (pin.hasMatch())
-        return QString("at pin %1 of %2").arg(pin.captured(1)).arg(kPinCount);
-    if (what.startsWith("Request"))
-        return "at the version request";
-    if (what.isEmpty())
-        return "before its first step";
-    return "while " + what.left(1).toLower() + what.mid(1);
-}
-
 // Hands every event of the program to a test of the window's before it is delivered.
 class EventGate : public QObject {
 public:
@@ -103,19 +88,6 @@ public:
 private:
     std::function<bool(QObject*, QEvent*)> test;
 };
-
-// Whether every difference a verification reported is a pin's configuration (and there is one).
-bool onlyPinConfigurationsDiffer(const std::vector<std::string>& lines)
-{
-    bool any = false;
-    for (const std::string& line : lines)
-        if (line.find("does not compare") != std::string::npos) {
-            if (line.find("Pinconfig") == std::string::npos)
-                return false;
-            any = true;
-        }
-    return any;
-}
 
 // Whether a path lies in the program's backups folder, which is never the user's file.
 bool inBackups(const QString& path)
@@ -582,32 +554,20 @@ void KestrelConfig::runJob(const QString& title, const std::function<bool()>& op
 
     // What the job left undone, as the core noted it ("... incomplete: 1 problem reported,
     // the first: ...", "... stopped: DCC address 9000 cannot be sent: 0..8191").
-    const QString summary = latin1(core->jobSummary());
-    const QString partial = reads ? ": the pages show a partial read" : QString();
-    QString outcome;
-    if (!noFault)
-        outcome = title + " stopped by a program error; the configuration is as it was before";
-    else if (progress.cancelled())
-        outcome = title + " cancelled " + whereStopped(progress.last) + partial;
-    else if (verifies && summary.isEmpty())
-        outcome = ok ? (title == "Verify All" ? QString("Verify OK")
-                                              : title + ": the module holds the configuration")
-                     : title + ": the module differs, see the verification report";
-    else if (!ok && progress.last.empty() && !summary.isEmpty())
-        outcome = summary; // stopped before its first step
-    else if (!ok)
-        outcome = title + " stopped " + whereStopped(progress.last) + partial;
-    else if (!summary.isEmpty())
-        outcome = summary + partial;
-    else
-        outcome = QString("%1 done in %2 s").arg(title).arg(clock.elapsed() / 1000.0, 0, 'f', 1);
-    // A write that went wrong on the way leaves the module's content unknown.
-    if (!verifies && !reads && !summary.isEmpty() && !core->moduleImage())
-        outcome += "; the module may hold only part of it";
-    LabelStatusJob->setText(outcome);
+    JobEnd end;
+    end.title = title.toStdString();
+    end.fault = !noFault;
+    end.cancelled = progress.cancelled();
+    end.ok = ok;
+    end.reads = reads;
+    end.verifies = verifies;
+    end.imageKnown = core->moduleImage() != nullptr;
+    end.summary = core->jobSummary();
+    end.lastStep = progress.last;
+    end.seconds = clock.elapsed() / 1000.0;
+    LabelStatusJob->setText(latin1(jobOutcomeText(end)));
     if (verifies && !ok && !pinConfigWritten && onlyPinConfigurationsDiffer(jobReport))
-        core->report.line("The pins' configurations were not written: check \"Write pin configurations "
-                          "too\" and write again.");
+        core->report.line(kWritePinConfigurationsHint);
     refreshAll();
 }
 

@@ -1,5 +1,6 @@
 // Which file holds the configuration, whether it is saved, and whether the module holds it.
 #include "forms/WorkState.h"
+#include "forms/MainWindowForm.h"
 
 #include "files/ConfigurationFile.h"
 #include "files/DemoConfiguration.h"
@@ -46,4 +47,38 @@ TEST(WorkState, OnlyALoadOrASaveOfAllThatIsShownMakesTheWorkSaved)
     other.TextGenIDString = "Other";
     EXPECT_EQ(std::tuple(work.readFromModule(other), work.file(), work.unsaved(c, g)),
               std::tuple(true, "", true));
+}
+
+TEST(WorkState, TheStatusBarSaysWhatAJobDid)
+{
+    const auto end = [](std::string title, bool ok, std::string step, std::string summary = "") {
+        JobEnd e;
+        e.title = std::move(title);
+        e.ok = ok;
+        e.lastStep = std::move(step);
+        e.summary = std::move(summary);
+        e.seconds = 7.44;
+        e.reads = e.title.rfind("Read", 0) == 0;
+        e.verifies = e.title.rfind("Verify", 0) == 0;
+        return e;
+    };
+    JobEnd cancelled = end("Read All", false, "Reading DCC settings");
+    cancelled.cancelled = true;
+    JobEnd lost =
+        end("Write Changes", true, "Done", "Write Changes incomplete: 1 problem reported, the first: X");
+    lost.imageKnown = false;
+    const std::pair<JobEnd, std::string> cases[] = {
+        {end("Read All", true, "Pins read"), "Read All done in 7.4 s"},
+        {end("Verify All", true, "Pins verified"), "Verify OK"},
+        {end("Verify All Pins", false, "Pins verified"),
+         "Verify All Pins: the module differs, see the verification report"},
+        {end("Write All", false, "Writing pin 12"), "Write All stopped at pin 12 of 32"},
+        {end("Write All", false, "", "Write All stopped: DCC address 9000 cannot be sent"),
+         "Write All stopped: DCC address 9000 cannot be sent"},
+        {cancelled, "Read All cancelled while reading DCC settings: the pages show a partial read"},
+        {lost,
+         "Write Changes incomplete: 1 problem reported, the first: X; the module may hold only part of it"},
+    };
+    for (const auto& [e, text] : cases)
+        EXPECT_EQ(jobOutcomeText(e), text);
 }
