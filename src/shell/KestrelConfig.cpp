@@ -23,6 +23,7 @@
 #include "shell/ProgramSession.h"
 #include "shell/QtProgress.h"
 #include "shell/QtSerialPort.h"
+#include "shell/RememberedSettings.h"
 #include "shell/TrafficMonitor.h"
 #include "shell/Widgets.h"
 
@@ -50,7 +51,6 @@
 #include <QRadioButton>
 #include <QScreen>
 #include <QScrollArea>
-#include <QSettings>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QSpinBox>
@@ -711,8 +711,8 @@ void KestrelConfig::buildMenus()
     menuFile->addSeparator();
     for (int i = 0; i < 5; ++i) {
         actionRecent[i] = menuFile->addAction(QString(), this, [this, i] {
-            if (i < recent.size())
-                loadFile(recent[i]);
+            if (i < kept.recent.size())
+                loadFile(kept.recent[i]);
         });
         actionRecent[i]->setVisible(false);
     }
@@ -723,8 +723,8 @@ void KestrelConfig::buildMenus()
     menuFile->addSeparator();
     actionForgetSettings = add(menuFile, "&Forget Remembered Settings", [this] {
         forgetSettings = true;
-        QSettings("Kestrel", "Kestrel Config").clear();
-        recent.clear();
+        RememberedSettings::forget();
+        kept.recent.clear();
         showRecent();
         LabelStatusJob->setText("The program starts afresh next time: port, addresses, window and files "
                                 "are forgotten");
@@ -812,54 +812,45 @@ void KestrelConfig::remember(const QString& path)
 {
     if (inBackups(path))
         return;
-    const QString full = QFileInfo(path).absoluteFilePath();
-    recent.removeAll(full);
-    recent.prepend(full);
-    while (recent.size() > 5)
-        recent.removeLast();
+    kept.remember(path);
     showRecent();
 }
 
 void KestrelConfig::showRecent()
 {
     for (int i = 0; i < 5; ++i) {
-        const bool used = i < recent.size();
+        const bool used = i < kept.recent.size();
         actionRecent[i]->setVisible(used);
         if (used)
-            actionRecent[i]->setText(QString("&%1 %2").arg(i + 1).arg(QFileInfo(recent[i]).fileName()));
+            actionRecent[i]->setText(QString("&%1 %2").arg(i + 1).arg(QFileInfo(kept.recent[i]).fileName()));
     }
 }
 
 void KestrelConfig::loadSettings()
 {
-    QSettings store("Kestrel", "Kestrel Config");
-    if (!restoreGeometry(store.value("window/geometry").toByteArray()))
-        firstSize();
     auto& lc = core->linkControl;
     auto& link = core->link.settings;
-    const int rate = std::clamp(store.value("link/bitRate", lc.OptionBitRate).toInt(), 0, 2);
-    (*guard)([&] { lc.OptionBitRate_Click(rate); });
-    OptionBitRate[rate]->setChecked(true);
-    if (store.value("link/numbering", 0).toInt() == 1) {
+    kept = RememberedSettings::load(lc.OptionBitRate);
+    if (!restoreGeometry(kept.geometry))
+        firstSize();
+    (*guard)([&] { lc.OptionBitRate_Click(kept.bitRate); });
+    OptionBitRate[kept.bitRate]->setChecked(true);
+    if (kept.numbering == 1) {
         CheckKLnumber->setChecked(true);
         CheckKLnumber_Click();
     }
-    link.TargetAddress = std::clamp(store.value("link/address", 0).toInt(), 0, 15);
-    link.TargetXAddress = std::clamp(store.value("link/extendedAddress", 0).toInt(), 0, 95);
-    if (store.value("link/extended", false).toBool()) // asked about again, as when it was set
+    link.TargetAddress = kept.address;
+    link.TargetXAddress = kept.extendedAddress;
+    if (kept.extended) // asked about again, as when it was set
         (*guard)([&] { lc.CheckXaddress_Click(true); });
-    CheckWritePinConfig->setChecked(store.value("jobs/writePinConfigurations", true).toBool());
-    boxes.setFolder(store.value("files/folder").toString());
-    recent.clear();
-    for (const QString& file : store.value("files/recent").toStringList())
-        if (!inBackups(file) && recent.size() < 5)
-            recent << file;
-    typedPorts = store.value("link/typedPorts").toStringList();
+    CheckWritePinConfig->setChecked(kept.writePinConfigurations);
+    boxes.setFolder(kept.folder);
+    kept.recent.erase(std::remove_if(kept.recent.begin(), kept.recent.end(), inBackups), kept.recent.end());
     fillPortList();
     showRecent();
     refreshLinkDisplays();
     // The last port (or, on a first start, the simulated module), shown but not yet opened.
-    ComboPort->setEditText(store.value("link/port", "sim").toString());
+    ComboPort->setEditText(kept.port);
     ComboPort->setToolTip("The serial port; \"sim\" is a simulated module built into the program. "
                           "Return or a choice from the list opens it.");
 }
@@ -886,22 +877,19 @@ void KestrelConfig::saveSettings()
 {
     if (forgetSettings)
         return;
-    QSettings store("Kestrel", "Kestrel Config");
-    store.setValue("window/geometry", saveGeometry());
     const auto& lc = core->linkControl;
     const auto& link = core->link.settings;
-    store.setValue("link/port",
-                   QString::fromStdString(lc.ComboPortText.empty() ? ComboPort->currentText().toStdString()
-                                                                   : lc.ComboPortText));
-    store.setValue("link/bitRate", lc.OptionBitRate);
-    store.setValue("link/numbering", core->config.NumberingBase);
-    store.setValue("link/address", link.TargetAddress);
-    store.setValue("link/extended", link.CheckXaddress);
-    store.setValue("link/extendedAddress", link.TargetXAddress);
-    store.setValue("jobs/writePinConfigurations", CheckWritePinConfig->isChecked());
-    store.setValue("link/typedPorts", typedPorts);
-    store.setValue("files/folder", boxes.folder());
-    store.setValue("files/recent", recent);
+    kept.geometry = saveGeometry();
+    kept.port =
+        lc.ComboPortText.empty() ? ComboPort->currentText() : QString::fromStdString(lc.ComboPortText);
+    kept.bitRate = lc.OptionBitRate;
+    kept.numbering = core->config.NumberingBase;
+    kept.address = link.TargetAddress;
+    kept.extended = link.CheckXaddress;
+    kept.extendedAddress = link.TargetXAddress;
+    kept.writePinConfigurations = CheckWritePinConfig->isChecked();
+    kept.folder = boxes.folder();
+    kept.save();
 }
 
 void KestrelConfig::ensureVerificationWindow()
@@ -1140,7 +1128,7 @@ void KestrelConfig::fillPortList()
     ComboPort->clear();
     for (const auto& p : core->linkControl.ComboPort)
         ComboPort->addItem(QString::fromStdString(p));
-    for (const QString& typed : typedPorts)
+    for (const QString& typed : kept.typedPorts)
         if (ComboPort->findText(typed) < 0)
             ComboPort->addItem(typed);
     // The port in use stays chosen; with none, the box is empty.
@@ -1182,10 +1170,7 @@ void KestrelConfig::ComboPort_Click()
     (*guard)([&] { core->linkControl.ComboPort_Click(chosen); });
     // A path typed by hand that opened joins the list, this time and next.
     if (core->link.port().isOpen() && ComboPort->findText(typed) < 0 && !typed.isEmpty()) {
-        typedPorts.removeAll(typed);
-        typedPorts.prepend(typed);
-        while (typedPorts.size() > 8)
-            typedPorts.removeLast();
+        kept.rememberPort(typed);
         const QSignalBlocker block(ComboPort);
         ComboPort->addItem(typed);
         ComboPort->setCurrentIndex(ComboPort->findText(typed));

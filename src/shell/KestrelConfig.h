@@ -8,6 +8,7 @@
 #include "shell/Guard.h"
 #include "shell/PortRouter.h"
 #include "shell/QtDialogs.h"
+#include "shell/RememberedSettings.h"
 
 #include <QMainWindow>
 #include <QPointer>
@@ -149,7 +150,7 @@ public:
     QAction* actionRestoreBackup; // File > Restore from backup...
 
     // The last files, newest first (at most five).
-    QStringList recentFiles() const { return recent; }
+    QStringList recentFiles() const { return kept.recent; }
     // Loads a file already chosen, as Load File does after its dialog. A backup loads as an
     // untitled configuration: Save asks for a name, and it joins no recent files.
     void loadFile(const QString& path, bool backup = false);
@@ -235,7 +236,7 @@ private:
     std::unique_ptr<Guard> guard;
     QGroupBox* linkFrame = nullptr; // the frame LabelPort's double-click shows and hides
     WorkState work;                 // which file, and whether it holds what is shown
-    QStringList recent;
+    RememberedSettings kept;        // what the program remembers between runs
     bool forgetSettings = false;
     bool corvidLogDismissed = false;    // closed by the user: new lines do not force it open
     bool jobAsked = false;              // a job's button was pressed: input waits for its end
@@ -244,7 +245,6 @@ private:
     bool pinConfigWritten = true;       // the last write sent the pins' configurations too
     std::vector<std::string> jobReport; // the report's lines written since the job began
     QPointer<QWidget> focusBeforeJob;   // where the keyboard goes back to when the job ends
-    QStringList typedPorts;             // port paths typed by the user, kept in the port list
     QObject* gate = nullptr;            // sees every event of the program first
     EditHistory* history = nullptr;     // the undo steps
 };
