@@ -18,6 +18,7 @@
 #include "shell/EditHistory.h"
 #include "shell/EventPage.h"
 #include "shell/GeneralPage.h"
+#include "shell/LinkArea.h"
 #include "shell/PinConfigPage.h"
 #include "shell/PinOverview.h"
 #include "shell/ProgramSession.h"
@@ -116,8 +117,27 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
 
     auto* central = new QWidget;
     auto* layout = new QVBoxLayout(central);
-    buildLinkArea(central);
-    layout->addWidget(linkFrame);
+    linkArea = new LinkArea(*core, *corvid, *guard, kept);
+    linkArea->onChanged = [this] { updateWindowState(); };
+    linkArea->onNumbering = [this](bool) { CheckKLnumber_Click(); };
+    LabelPort = linkArea->LabelPort;
+    ComboPort = linkArea->ComboPort;
+    cmdRefreshComm = linkArea->cmdRefreshComm;
+    FrameBitrate = linkArea->FrameBitrate;
+    std::copy(std::begin(linkArea->OptionBitRate), std::end(linkArea->OptionBitRate), OptionBitRate);
+    LabelAddress = linkArea->LabelAddress;
+    TextAddress = linkArea->TextAddress;
+    UpDownAddress = linkArea->UpDownAddress;
+    CheckXaddress = linkArea->CheckXaddress;
+    LabelXaddress = linkArea->LabelXaddress;
+    txtXaddr = linkArea->txtXaddr;
+    UpDownXaddr = linkArea->UpDownXaddr;
+    CheckKestrelBD = linkArea->CheckKestrelBD;
+    CheckCorvid = linkArea->CheckCorvid;
+    CheckKLnumber = linkArea->CheckKLnumber;
+    TextResponse = linkArea->TextResponse;
+    cmdSetTM = linkArea->cmdSetTM;
+    layout->addWidget(linkArea);
 
     auto* bulk = new QHBoxLayout;
     CommandReadAll = named(new QPushButton("Read A&ll"), "CommandReadAll");
@@ -267,7 +287,7 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     connect(Timer1, &QTimer::timeout, this, &KestrelConfig::Timer1_Timer);
     Timer1->start();
 
-    fillPortList();
+    linkArea->fillPortList();
     refreshLinkDisplays();
 
     // The standard device definitions beside the program.
@@ -846,7 +866,7 @@ void KestrelConfig::loadSettings()
     CheckWritePinConfig->setChecked(kept.writePinConfigurations);
     boxes.setFolder(kept.folder);
     kept.recent.erase(std::remove_if(kept.recent.begin(), kept.recent.end(), inBackups), kept.recent.end());
-    fillPortList();
+    linkArea->fillPortList();
     showRecent();
     refreshLinkDisplays();
     // The last port (or, on a first start, the simulated module), shown but not yet opened.
@@ -928,11 +948,13 @@ void KestrelConfig::ensureCorvidWindow()
     connect(frmCorvidComm, &QDialog::finished, this, [this] { corvidLogDismissed = true; });
 }
 
-void KestrelConfig::CheckCorvid_Click()
-{
-    (*guard)([this] { corvid->CheckCorvid_Click(CheckCorvid->isChecked()); });
-    refreshLinkDisplays();
-}
+void KestrelConfig::refreshLinkDisplays() { linkArea->refresh(); }
+
+void KestrelConfig::ComboPort_Click() { linkArea->ComboPort_Click(); }
+
+void KestrelConfig::TextAddress_Click() { linkArea->TextAddress_Click(); }
+
+void KestrelConfig::txtXaddr_Click() { linkArea->txtXaddr_Click(); }
 
 void KestrelConfig::CheckKLnumber_Click()
 {
@@ -940,12 +962,6 @@ void KestrelConfig::CheckKLnumber_Click()
     commitAll(); // a typed number is taken with the base it was typed for
     core->config.NumberingBase = CheckKLnumber->isChecked() ? 1 : 0;
     refreshAll();
-}
-
-void KestrelConfig::cmdSetTM_Click()
-{
-    (*guard)([this] { corvid->cmdSetTM_Click(); });
-    refreshLinkDisplays();
 }
 
 void KestrelConfig::CommandLoad_Click() { loadFile(QString()); }
@@ -1020,97 +1036,15 @@ KestrelConfig::~KestrelConfig()
 {
     // The window is no longer here to answer its widgets' signals while they go (a log
     // window that is still open reports itself closed).
-    for (QObject* child : findChildren<QObject*>())
+    for (QObject* child : findChildren<QObject*>()) {
         QObject::disconnect(child, nullptr, this, nullptr);
+        QObject::disconnect(child, nullptr, linkArea, nullptr); // its handlers use the guard
+    }
     QObject::disconnect(qApp, nullptr, this, nullptr);
     qApp->removeEventFilter(gate);
     // The session refers to the dialogs of the window: it goes first.
     guard.reset();
     program.reset();
-}
-
-void KestrelConfig::buildLinkArea(QWidget* host)
-{
-    linkFrame = named(new QGroupBox("Communication", host), "FrameComm");
-    auto* grid = new QGridLayout(linkFrame);
-
-    LabelPort = named(new QLabel("Port:"), "LabelPort");
-    LabelPort->installEventFilter(this);
-    ComboPort = named(new QComboBox, "ComboPort");
-    ComboPort->setEditable(true); // a typed device path is accepted too
-    ComboPort->setMinimumWidth(160);
-    ComboPort->setInsertPolicy(QComboBox::NoInsert);
-    cmdRefreshComm = named(new QPushButton("&Refresh"), "cmdRefreshComm");
-    nameAfter(LabelPort, ComboPort);
-    ComboPort->lineEdit()->setAccessibleName("Port");
-    grid->addWidget(LabelPort, 0, 0);
-    grid->addWidget(ComboPort, 0, 1);
-    grid->addWidget(cmdRefreshComm, 0, 2);
-
-    FrameBitrate = named(new QGroupBox("Bitrate"), "FrameBitrate");
-    auto* rates = new QHBoxLayout(FrameBitrate);
-    const char* captions[3] = {"9k6", "19k2", "38k4"};
-    for (int i = 0; i < 3; ++i) {
-        OptionBitRate[i] = named(new QRadioButton(captions[i]), QString("OptionBitRate_%1").arg(i));
-        rates->addWidget(OptionBitRate[i]);
-        connect(OptionBitRate[i], &QRadioButton::clicked, this, [this, i] { OptionBitRate_Click(i); });
-    }
-    OptionBitRate[core->linkControl.OptionBitRate]->setChecked(true);
-    grid->addWidget(FrameBitrate, 1, 0, 1, 3);
-
-    LabelAddress = named(new QLabel("Module Address"), "LabelAddress");
-    auto* address = new NumberEntry("TextAddress", "UpDownAddress");
-    TextAddress = address->text;
-    UpDownAddress = address->upDown;
-    numericInput(TextAddress, 3);
-    nameAfter(LabelAddress, TextAddress);
-    grid->addWidget(LabelAddress, 0, 3);
-    grid->addWidget(address, 0, 4, Qt::AlignLeft);
-
-    CheckXaddress = named(new QCheckBox("Use eXtended Addr"), "CheckXaddress");
-    LabelXaddress = named(new QLabel("eXtended address"), "LabelXaddress");
-    auto* xAddress = new NumberEntry("txtXaddr", "UpDownXaddr");
-    txtXaddr = xAddress->text;
-    UpDownXaddr = xAddress->upDown;
-    numericInput(txtXaddr, 3);
-    nameAfter(LabelXaddress, txtXaddr);
-    UpDownXaddr->setAccessibleName(txtXaddr->accessibleName());
-    grid->addWidget(CheckXaddress, 1, 3);
-    grid->addWidget(LabelXaddress, 2, 3);
-    grid->addWidget(xAddress, 2, 4, Qt::AlignLeft);
-    grid->setColumnStretch(4, 1); // room to spare goes beside the addresses
-
-    CheckKestrelBD = named(new QCheckBox("Bidirectional Comm."), "CheckKestrelBD");
-    CheckCorvid = named(new QCheckBox("Use Corvid Tunneling"), "CheckCorvid");
-    cmdSetTM = named(new QPushButton("A&ctivate Transparent Mode"), "cmdSetTM");
-    cmdSetTM->setToolTip("Switch Hub-A or Linkbox in Transparant Mode for Kestrel Configuration");
-    grid->addWidget(cmdSetTM, 3, 5);
-    CheckKLnumber = named(new QCheckBox("Start numbering at 1"), "CheckKLnumber");
-    grid->addWidget(CheckKestrelBD, 0, 5);
-    grid->addWidget(CheckCorvid, 1, 5);
-    grid->addWidget(CheckKLnumber, 2, 5);
-
-    TextResponse = named(new QLineEdit, "TextResponse");
-    TextResponse->setReadOnly(true);
-    grid->addWidget(captionFor("Response:", TextResponse), 3, 0);
-    grid->addWidget(TextResponse, 3, 1, 1, 4);
-
-    // Tab reads the grid row by row.
-    tabOrder({ComboPort, cmdRefreshComm, TextAddress, CheckKestrelBD, OptionBitRate[0], OptionBitRate[1],
-              OptionBitRate[2], CheckXaddress, CheckCorvid, txtXaddr, CheckKLnumber, TextResponse, cmdSetTM});
-
-    connect(ComboPort, &QComboBox::activated, this, [this](int) { ComboPort_Click(); });
-    connect(ComboPort->lineEdit(), &QLineEdit::returnPressed, this, &KestrelConfig::ComboPort_Click);
-    connect(cmdRefreshComm, &QPushButton::clicked, this, &KestrelConfig::cmdRefreshComm_Click);
-    connect(TextAddress, &QLineEdit::editingFinished, this, &KestrelConfig::TextAddress_Click);
-    connect(UpDownAddress, &QSpinBox::valueChanged, this, &KestrelConfig::UpDownAddress_Change);
-    connect(txtXaddr, &QLineEdit::editingFinished, this, &KestrelConfig::txtXaddr_Click);
-    connect(UpDownXaddr, &QSpinBox::valueChanged, this, &KestrelConfig::UpDownXaddr_Change);
-    connect(CheckXaddress, &QCheckBox::clicked, this, &KestrelConfig::CheckXaddress_Click);
-    connect(CheckKestrelBD, &QCheckBox::clicked, this, &KestrelConfig::CheckKestrelBD_Click);
-    connect(CheckCorvid, &QCheckBox::clicked, this, &KestrelConfig::CheckCorvid_Click);
-    connect(CheckKLnumber, &QCheckBox::clicked, this, &KestrelConfig::CheckKLnumber_Click);
-    connect(cmdSetTM, &QPushButton::clicked, this, &KestrelConfig::cmdSetTM_Click);
 }
 
 QWidget* KestrelConfig::buildGeneralPage()
@@ -1120,113 +1054,6 @@ QWidget* KestrelConfig::buildGeneralPage()
     LabelGenVersionString = generalPage->LabelGenVersionString;
     return generalPage;
 }
-
-void KestrelConfig::fillPortList()
-{
-    core->linkControl.ScanPorts();
-    const QSignalBlocker block(ComboPort);
-    ComboPort->clear();
-    for (const auto& p : core->linkControl.ComboPort)
-        ComboPort->addItem(QString::fromStdString(p));
-    for (const QString& typed : kept.typedPorts)
-        if (ComboPort->findText(typed) < 0)
-            ComboPort->addItem(typed);
-    // The port in use stays chosen; with none, the box is empty.
-    ComboPort->setCurrentIndex(-1);
-    ComboPort->setEditText(
-        core->link.port().isOpen() ? QString::fromStdString(core->linkControl.ComboPortText) : QString());
-}
-
-void KestrelConfig::refreshLinkDisplays()
-{
-    auto& lc = core->linkControl;
-    auto& s = core->link.settings;
-    const int base = core->config.NumberingBase;
-    const QSignalBlocker b1(UpDownAddress), b2(TextAddress), b3(UpDownXaddr), b4(txtXaddr), b5(CheckXaddress),
-        b6(CheckKestrelBD), b7(CheckCorvid);
-    UpDownAddress->setRange(base, lc.addressMaximum());
-    UpDownAddress->setValue(s.TargetAddress + base);
-    TextAddress->setText(QString::fromStdString(lc.addressText()));
-    UpDownXaddr->setRange(base, lc.xAddressMaximum());
-    UpDownXaddr->setValue(s.TargetXAddress + base);
-    txtXaddr->setText(QString::fromStdString(lc.xAddressText()));
-    CheckXaddress->setChecked(s.CheckXaddress);
-    LabelAddress->setText(QString::fromStdString(lc.addressLabel()));
-    nameAfter(LabelAddress, TextAddress); // the caption names the address of the route in use
-    UpDownAddress->setAccessibleName(TextAddress->accessibleName());
-    LabelXaddress->setVisible(s.CheckXaddress);
-    txtXaddr->setVisible(s.CheckXaddress);
-    UpDownXaddr->setVisible(s.CheckXaddress);
-    CheckKestrelBD->setChecked(s.CheckKestrelBD);
-    CheckCorvid->setChecked(s.CheckCorvid);
-    cmdSetTM->setVisible(corvid->cmdSetTMVisible);
-    updateWindowState();
-}
-
-void KestrelConfig::ComboPort_Click()
-{
-    const QString typed = ComboPort->currentText().trimmed();
-    const std::string chosen = typed.toStdString();
-    (*guard)([&] { core->linkControl.ComboPort_Click(chosen); });
-    // A path typed by hand that opened joins the list, this time and next.
-    if (core->link.port().isOpen() && ComboPort->findText(typed) < 0 && !typed.isEmpty()) {
-        kept.rememberPort(typed);
-        const QSignalBlocker block(ComboPort);
-        ComboPort->addItem(typed);
-        ComboPort->setCurrentIndex(ComboPort->findText(typed));
-    }
-}
-
-void KestrelConfig::cmdRefreshComm_Click()
-{
-    (*guard)([this] { core->linkControl.cmdRefreshComm_Click(); });
-    fillPortList();
-    updateWindowState();
-}
-
-void KestrelConfig::OptionBitRate_Click(int index)
-{
-    (*guard)([&] { core->linkControl.OptionBitRate_Click(index); });
-}
-
-void KestrelConfig::TextAddress_Click()
-{
-    TextAddress->setModified(false);
-    (*guard)([this] { core->linkControl.TextAddress_Click(fromLatin1(TextAddress->text())); });
-    refreshLinkDisplays();
-}
-
-void KestrelConfig::UpDownAddress_Change(int value)
-{
-    (*guard)([&] { core->linkControl.UpDownAddress_Change(value); });
-    refreshLinkDisplays();
-}
-
-void KestrelConfig::txtXaddr_Click()
-{
-    txtXaddr->setModified(false);
-    (*guard)([this] { core->linkControl.txtXaddr_Click(fromLatin1(txtXaddr->text())); });
-    refreshLinkDisplays();
-}
-
-void KestrelConfig::UpDownXaddr_Change(int value)
-{
-    (*guard)([&] { core->linkControl.UpDownXaddr_Change(value); });
-    refreshLinkDisplays();
-}
-
-void KestrelConfig::CheckXaddress_Click()
-{
-    (*guard)([this] { core->linkControl.CheckXaddress_Click(CheckXaddress->isChecked()); });
-    refreshLinkDisplays();
-}
-
-void KestrelConfig::CheckKestrelBD_Click()
-{
-    core->link.settings.CheckKestrelBD = CheckKestrelBD->isChecked();
-}
-
-void KestrelConfig::LabelPort_DblClick() { FrameBitrate->setVisible(!FrameBitrate->isVisible()); }
 
 void KestrelConfig::CommandGenVersion_Click() { generalPage->CommandGenVersion_Click(); }
 
@@ -1251,10 +1078,6 @@ bool KestrelConfig::eventFilter(QObject* watched, QEvent* event)
                 history->redo();
             return true;
         }
-    }
-    if (watched == LabelPort && event->type() == QEvent::MouseButtonDblClick) {
-        LabelPort_DblClick();
-        return true;
     }
     // Save acts on the press, where the keys held decide: Shift alone saves the compact file.
     if (watched == CommandSave && event->type() == QEvent::MouseButtonPress) {

@@ -42,6 +42,7 @@ class PinOverviewPage;
 class TrafficMonitor;
 class CompareDialog;
 class EditHistory;
+class LinkArea;
 } // namespace kestrel
 
 namespace kestrel {
@@ -64,7 +65,8 @@ public:
     QString currentFile() const { return QString::fromStdString(work.file()); }
     bool unsavedChanges() const;
 
-    // Link area
+    // Link area (shell/LinkArea; these name its controls)
+    LinkArea* linkArea;
     QLabel* LabelPort;
     QComboBox* ComboPort;
     QPushButton* cmdRefreshComm;
@@ -163,19 +165,10 @@ public:
 
 public slots:
     void ComboPort_Click();
-    void cmdRefreshComm_Click();
-    void OptionBitRate_Click(int index);
     void TextAddress_Click();
-    void UpDownAddress_Change(int value);
     void txtXaddr_Click();
-    void UpDownXaddr_Change(int value);
-    void CheckXaddress_Click();
-    void CheckKestrelBD_Click();
-    void LabelPort_DblClick();
     void CommandGenVersion_Click();
-    void CheckCorvid_Click();
     void CheckKLnumber_Click();
-    void cmdSetTM_Click();
     void CommandLoad_Click();
     // Plain click: the full file; Shift: the compact one; other buttons or keys: nothing.
     void CommandSave_MouseDown(int button, int shift);
@@ -190,10 +183,8 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void buildLinkArea(QWidget* host);
     QWidget* buildGeneralPage();
     void refreshLinkDisplays();
-    void fillPortList();
     void addJobs();
     // Runs one job behind the progress dialog, inside the guard, and tells its outcome in
     // the status bar. `reads` jobs fill the pages; `verifies` jobs compare the module with
@@ -234,9 +225,8 @@ private:
     Session* core = nullptr;         // program's session
     CorvidControl* corvid = nullptr; // program's Corvid controls
     std::unique_ptr<Guard> guard;
-    QGroupBox* linkFrame = nullptr; // the frame LabelPort's double-click shows and hides
-    WorkState work;                 // which file, and whether it holds what is shown
-    RememberedSettings kept;        // what the program remembers between runs
+    WorkState work;          // which file, and whether it holds what is shown
+    RememberedSettings kept; // what the program remembers between runs
     bool forgetSettings = false;
     bool corvidLogDismissed = false;    // closed by the user: new lines do not force it open
     bool jobAsked = false;              // a job's button was pressed: input waits for its end
