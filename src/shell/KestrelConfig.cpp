@@ -21,7 +21,6 @@
 #include "shell/PinOverview.h"
 #include "shell/ProgramSession.h"
 #include "shell/QtProgress.h"
-#include "shell/QtSerialPort.h"
 #include "shell/TrafficMonitor.h"
 #include "shell/Widgets.h"
 
