@@ -19,7 +19,8 @@ std::string systemMessage(DWORD code)
     std::string out = n && text ? std::string(text, n) : "system error " + std::to_string(code);
     if (text)
         LocalFree(text);
-    while (!out.empty() && (out.back() == '\r' || out.back() == '\n' || out.back() == ' ' || out.back() == '.'))
+    while (!out.empty() &&
+           (out.back() == '\r' || out.back() == '\n' || out.back() == ' ' || out.back() == '.'))
         out.pop_back();
     return out;
 }
@@ -37,8 +38,8 @@ std::wstring WinSerialPort::devicePath(const std::string& name)
 {
     std::string device = name;
     const bool numeric = !name.empty() && name.find_first_not_of("0123456789") == std::string::npos;
-    const bool com = name.size() > 3 && (name[0] == 'C' || name[0] == 'c') && (name[1] == 'O' || name[1] == 'o') &&
-                     (name[2] == 'M' || name[2] == 'm') &&
+    const bool com = name.size() > 3 && (name[0] == 'C' || name[0] == 'c') &&
+                     (name[1] == 'O' || name[1] == 'o') && (name[2] == 'M' || name[2] == 'm') &&
                      name.find_first_not_of("0123456789", 3) == std::string::npos;
     if (numeric)
         device = "\\\\.\\COM" + name;
@@ -107,8 +108,8 @@ bool WinSerialPort::open()
         error = "no port chosen";
         return false;
     }
-    handle = CreateFileW(devicePath(chosen).c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0,
-                         nullptr);
+    handle = CreateFileW(devicePath(chosen).c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
+                         0, nullptr);
     if (handle == INVALID_HANDLE_VALUE)
         return fail("");
     DCB dcb{};
@@ -116,7 +117,7 @@ bool WinSerialPort::open()
     if (!GetCommState(handle, &dcb))
         return fail("");
     lineSettings(dcb, baud);
-    if (!SetCommState(handle, &dcb)) {
+    if (!SetCommState(handle, &dcb) && !setAfterClearingParity(dcb)) {
         const std::string what = "cannot set " + settingsText + ": ";
         return fail(what.c_str());
     }
@@ -128,6 +129,16 @@ bool WinSerialPort::open()
     inPos = 0;
     out.clear();
     return true;
+}
+
+bool WinSerialPort::setAfterClearingParity(DCB& dcb)
+{
+    // A terminal left with odd parity by the program before (a pseudo-terminal under Wine)
+    // refuses odd parity once more: no parity first, then the line as it must be.
+    DCB plain = dcb;
+    plain.Parity = NOPARITY;
+    plain.fParity = FALSE;
+    return SetCommState(handle, &plain) && SetCommState(handle, &dcb);
 }
 
 void WinSerialPort::close()
@@ -151,7 +162,8 @@ void WinSerialPort::setSettings(const std::string& s)
     dcb.DCBlength = sizeof(DCB);
     if (isOpen() && GetCommState(handle, &dcb)) {
         lineSettings(dcb, baud);
-        SetCommState(handle, &dcb);
+        if (!SetCommState(handle, &dcb))
+            setAfterClearingParity(dcb);
     }
 }
 

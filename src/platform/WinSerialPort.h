@@ -51,6 +51,7 @@ public:
 private:
     bool fail(const char* what);
     bool setWait(unsigned long waitMs);
+    bool setAfterClearingParity(DCB& dcb);
     // Reads up to `most` bytes under the current read time-outs; false when the port failed.
     bool take(DWORD most = 512);
     HANDLE handle = INVALID_HANDLE_VALUE;
