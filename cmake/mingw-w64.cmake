@@ -12,8 +12,12 @@ set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 # MinGW-w64's thread-safe POSIX time functions (localtime_r).
 set(CMAKE_CXX_FLAGS_INIT "-D_POSIX_THREAD_SAFE_FUNCTIONS=200112L")
-# Self-contained programs: no MinGW runtime DLLs needed beside them.
-set(CMAKE_EXE_LINKER_FLAGS_INIT "-static")
+# Self-contained programs: no MinGW runtime DLLs needed beside them. Qt and the
+# programs linked against Qt's DLLs share one MinGW runtime instead (its DLLs go
+# beside them): scripts/build-windows sets KESTREL_MINGW_SHARED_RUNTIME for those.
+if(NOT "$ENV{KESTREL_MINGW_SHARED_RUNTIME}")
+  set(CMAKE_EXE_LINKER_FLAGS_INIT "-static")
+endif()
 find_program(KESTREL_WINE NAMES wine64 wine)
 if(KESTREL_WINE)
   set(CMAKE_CROSSCOMPILING_EMULATOR ${KESTREL_WINE})

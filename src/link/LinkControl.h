@@ -19,13 +19,10 @@ public:
     // `numberingBase` is the session's NumberingBase (0 or 1), read at every call.
     LinkControl(Link& link, const int& numberingBase);
 
-    // Windows numbers its serial ports (COM1..COM16): the list is the numbers 1..16 that
-    // open. Elsewhere it is what systemPorts reports.
-#ifdef _WIN32
-    bool numberedPorts = true;
-#else
+    // Numbered serial ports (COM1..COM16, as on Windows): the list is the numbers 1..16
+    // that open. Otherwise it is what systemPorts reports. The program sets both for the
+    // system it runs on.
     bool numberedPorts = false;
-#endif
     std::function<std::vector<std::string>()> systemPorts;
 
     std::vector<std::string> ComboPort; // the port list

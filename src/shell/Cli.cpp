@@ -16,7 +16,6 @@
 #include "shell/ConsoleProgress.h"
 #include "shell/PortRouter.h"
 #include "shell/ProgramSession.h"
-#include "shell/QtSerialPort.h"
 
 #include <algorithm>
 #include <charconv>

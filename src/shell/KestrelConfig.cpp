@@ -23,7 +23,6 @@
 #include "shell/PinOverview.h"
 #include "shell/ProgramSession.h"
 #include "shell/QtProgress.h"
-#include "shell/QtSerialPort.h"
 #include "shell/RememberedSettings.h"
 #include "shell/TrafficMonitor.h"
 #include "shell/Widgets.h"

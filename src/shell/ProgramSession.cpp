@@ -1,15 +1,15 @@
 #include "shell/ProgramSession.h"
 
+#include "platform/SystemPort.h"
 #include "shell/BuiltInSim.h"
-#include "shell/QtSerialPort.h"
 
 namespace kestrel {
 
 ProgramSession::ProgramSession(UserDialogs& dialogs)
-    : port(std::make_unique<QtSerialPort>(), makeBuiltInSimPort()),
-      session(std::make_unique<Session>(port, clock, dialogs))
+    : port(makeSystemPort(), makeBuiltInSimPort()), session(std::make_unique<Session>(port, clock, dialogs))
 {
-    session->linkControl.systemPorts = &QtSerialPort::systemPorts;
+    session->linkControl.numberedPorts = kNumberedPorts;
+    session->linkControl.systemPorts = &systemPortNames;
     corvid = std::make_unique<CorvidControl>(session->link, session->linkControl);
 }
 

@@ -1,5 +1,7 @@
 #include "shell/QtSerialPort.h"
 
+#include "platform/SystemPort.h"
+
 #include <QSerialPortInfo>
 
 #include <algorithm>
@@ -214,5 +216,10 @@ std::vector<std::string> QtSerialPort::systemPorts()
         out.push_back(info.systemLocation().toStdString());
     return out;
 }
+
+// Qt's serial port is the system port wherever the program is built with it.
+std::unique_ptr<SerialPort> makeSystemPort() { return std::make_unique<QtSerialPort>(); }
+
+std::vector<std::string> systemPortNames() { return QtSerialPort::systemPorts(); }
 
 } // namespace kestrel
