@@ -18,6 +18,7 @@
 #include "shell/EditHistory.h"
 #include "shell/EventPage.h"
 #include "shell/GeneralPage.h"
+#include "shell/JobRunner.h"
 #include "shell/LinkArea.h"
 #include "shell/PinConfigPage.h"
 #include "shell/PinOverview.h"
@@ -64,31 +65,6 @@
 namespace kestrel {
 
 namespace {
-// Progress that remembers the last step reported, so the outcome can say where a job stopped.
-class JobProgress : public QtProgress {
-public:
-    using QtProgress::QtProgress;
-    void step(int done, int total, const std::string& what) override
-    {
-        last = what;
-        QtProgress::step(done, total, what);
-    }
-    std::string last;
-};
-
-// Hands every event of the program to a test of the window's before it is delivered.
-class EventGate : public QObject {
-public:
-    EventGate(std::function<bool(QObject*, QEvent*)> test, QObject* parent)
-        : QObject(parent), test(std::move(test))
-    {
-    }
-    bool eventFilter(QObject* watched, QEvent* event) override { return test(watched, event); }
-
-private:
-    std::function<bool(QObject*, QEvent*)> test;
-};
-
 // Whether a path lies in the program's backups folder, which is never the user's file.
 bool inBackups(const QString& path)
 {
@@ -267,7 +243,7 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     core->report.onLine = [this](const std::string& line) {
         ensureVerificationWindow();
         txtVerification->appendPlainText(latin1(line));
-        jobReport.push_back(line);
+        runner->reportLine(line);
     };
     core->onShowVerification = [this] {
         ensureVerificationWindow();
@@ -279,6 +255,13 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
         refreshAll();
     };
 
+    runner =
+        new JobRunner(*core, *guard, jobs,
+                      {this, LabelAction, LabelStatusJob, CheckWritePinConfig, [this] { commitAll(); },
+                       [this] { refreshAll(); },
+                       [this](const QWidget* w) {
+                           return w == frmTrafficMonitor || w == frmKestrelVerification || w == frmCorvidComm;
+                       }});
     addJobs();
     Timer1 = new QTimer(this);
     Timer1->setObjectName("Timer1");
@@ -300,54 +283,23 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     refreshAll();
     undoStack->clear(); // what the start-up did is not the user's
 
-    jobButtons = {CommandReadAll,
-                  CommandWriteAll,
-                  CommandVerifyAll,
-                  CommandWriteChanges,
-                  CommandCompare,
-                  CommandReadAllPins,
-                  CommandWriteAllPins,
-                  CommandVerifyAllPins,
-                  aspectsPage->CommandReadPin,
-                  aspectsPage->CommandWritePin,
-                  aspectsPage->CommandReadDevice,
-                  aspectsPage->CommandWriteDevice,
-                  aspectsPage->CommandPAspReadPin,
-                  aspectsPage->CommandPAspWritePin,
-                  aspectsPage->CommandPAspWriteAspect,
-                  eventPage->CommandECRead,
-                  eventPage->CommandECWrite,
-                  eventPage->CommandECVerify};
-    writers = {CommandWriteAll,
-               CommandWriteChanges,
-               CommandWriteAllPins,
-               aspectsPage->CommandWritePin,
-               aspectsPage->CommandWriteDevice,
-               aspectsPage->CommandPAspWritePin,
-               aspectsPage->CommandPAspWriteAspect,
-               eventPage->CommandECWrite,
-               eventPage->CommandECWriteSingle,
-               eventPage->CommandECInitWrite,
-               generalPage->CommandGenIDWrite,
-               generalPage->CommandGenDCCWrite,
-               generalPage->CommandGenAddrWrite,
-               generalPage->CommandGenHWCWrite,
-               generalPage->CommandLCWrite,
-               generalPage->CommandGenSerialWrite,
-               generalPage->CommandGenEraseFlash,
-               pinConfigPage->CommandPCFGSetParam[1]};
-    // Every event of the program passes here first: input waits while a job is asked for or
-    // runs, and a mnemonic (Alt+letter, one key) on a button that writes asks first.
-    gate = new EventGate(
-        [this](QObject* watched, QEvent* event) {
-            if (blocksInput(watched, event))
-                return true;
-            auto* button = qobject_cast<QAbstractButton*>(watched);
-            return event->type() == QEvent::Shortcut && button && writers.contains(button) &&
-                   !confirmKeyboardWrite(button);
-        },
-        this);
-    qApp->installEventFilter(gate);
+    runner->setButtons(
+        {CommandReadAll, CommandWriteAll, CommandVerifyAll, CommandWriteChanges, CommandCompare,
+         CommandReadAllPins, CommandWriteAllPins, CommandVerifyAllPins, aspectsPage->CommandReadPin,
+         aspectsPage->CommandWritePin, aspectsPage->CommandReadDevice, aspectsPage->CommandWriteDevice,
+         aspectsPage->CommandPAspReadPin, aspectsPage->CommandPAspWritePin,
+         aspectsPage->CommandPAspWriteAspect, eventPage->CommandECRead, eventPage->CommandECWrite,
+         eventPage->CommandECVerify},
+        {CommandWriteAll, CommandWriteChanges, CommandWriteAllPins, aspectsPage->CommandWritePin,
+         aspectsPage->CommandWriteDevice, aspectsPage->CommandPAspWritePin,
+         aspectsPage->CommandPAspWriteAspect, eventPage->CommandECWrite, eventPage->CommandECWriteSingle,
+         eventPage->CommandECInitWrite, generalPage->CommandGenIDWrite, generalPage->CommandGenDCCWrite,
+         generalPage->CommandGenAddrWrite, generalPage->CommandGenHWCWrite, generalPage->CommandLCWrite,
+         generalPage->CommandGenSerialWrite, generalPage->CommandGenEraseFlash,
+         pinConfigPage->CommandPCFGSetParam[1]});
+    // Every event of the program passes the job runner first: input waits while a job is
+    // asked for or runs, and a mnemonic on a button that writes asks first.
+    qApp->installEventFilter(runner);
 
     // A push button names the change its handler makes ("Read Pin", "Copy to All"; a lone
     // word with its frame: "Read (DCC)"); a press that ends without a click names nothing.
@@ -383,7 +335,7 @@ void KestrelConfig::addJobs()
     };
     jobs.add(Jobs::ReadAll, [this, &s] {
         bool completed = false;
-        runJob(
+        runner->run(
             "Read All", [&s, &completed] { return completed = ReadAll(s); }, true, false, LongJob::ReadAll);
         if (!completed)
             return;
@@ -395,70 +347,76 @@ void KestrelConfig::addJobs()
         }
     });
     jobs.add(Jobs::WriteAll, [this, &s, pinConfigToo] {
-        const bool withConfig = pinConfigWritten = pinConfigToo();
-        runJob(
+        const bool withConfig = pinConfigToo();
+        runner->writes(withConfig);
+        runner->run(
             "Write All", [&s, withConfig] { return WriteAll(s, withConfig); }, false, false,
             LongJob::WriteAll);
     });
     jobs.add(Jobs::VerifyAll, [this, &s] {
-        runJob(
+        runner->run(
             "Verify All", [&s] { return VerifyAll(s); }, false, true, LongJob::VerifyAll);
     });
     jobs.add(Jobs::ReadPin, [this, &s] {
-        runJob(
+        runner->run(
             "Read Pin", [&s] { return ReadPin(s, s.config.CurrentPin); }, true);
     });
     jobs.add(Jobs::WritePin, [this, &s, pinConfigToo] {
-        const bool withConfig = pinConfigWritten = pinConfigToo();
-        runJob("Write Pin", [&s, withConfig] { return WritePin(s, s.config.CurrentPin, withConfig); });
+        const bool withConfig = pinConfigToo();
+        runner->writes(withConfig);
+        runner->run("Write Pin", [&s, withConfig] { return WritePin(s, s.config.CurrentPin, withConfig); });
     });
     jobs.add(Jobs::ReadDevice, [this, &s] {
-        runJob(
+        runner->run(
             "Read Device", [&s] { return ReadDevice(s); }, true);
     });
-    jobs.add(Jobs::WriteDevice, [this, &s] { runJob("Write Device", [&s] { return WriteDevice(s); }); });
+    jobs.add(Jobs::WriteDevice, [this, &s] { runner->run("Write Device", [&s] { return WriteDevice(s); }); });
     jobs.add(Jobs::ReadAllPins, [this, &s] {
-        runJob(
+        runner->run(
             "Read All Pins", [&s] { return ReadAllPins(s); }, true, false, LongJob::ReadAllPins);
     });
     jobs.add(Jobs::WriteAllPins, [this, &s, pinConfigToo] {
-        const bool withConfig = pinConfigWritten = pinConfigToo();
-        runJob(
+        const bool withConfig = pinConfigToo();
+        runner->writes(withConfig);
+        runner->run(
             "Write All Pins", [&s, withConfig] { return WriteAllPins(s, withConfig); }, false, false,
             LongJob::WriteAllPins);
     });
     jobs.add(Jobs::PAspReadPin, [this, &s] {
-        runJob(
+        runner->run(
             "Read Pin", [&s] { return PAspReadPin(s, s.config.CurrentPin); }, true);
     });
     jobs.add(Jobs::PAspWritePin,
-             [this, &s] { runJob("Write Pin", [&s] { return WritePin(s, s.config.CurrentPin); }); });
+             [this, &s] { runner->run("Write Pin", [&s] { return WritePin(s, s.config.CurrentPin); }); });
     jobs.add(Jobs::VerifyAllPins, [this, verify] {
-        runJob("Verify All Pins", verify(&VerifyAllPins), false, true, LongJob::VerifyAllPins);
+        runner->run("Verify All Pins", verify(&VerifyAllPins), false, true, LongJob::VerifyAllPins);
     });
     jobs.add(Jobs::ECWriteAll,
-             [this, &s] { runJob("Write All Events", [&s] { return WriteAllEvents(s); }); });
+             [this, &s] { runner->run("Write All Events", [&s] { return WriteAllEvents(s); }); });
     jobs.add(Jobs::ECReadAll, [this, &s] {
-        runJob(
+        runner->run(
             "Read All Events", [&s] { return ReadAllEvents(s); }, true);
     });
-    jobs.add(Jobs::ECVerify,
-             [this, verify] { runJob("Verify Event Control", verify(&VerifyEventControl), false, true); });
+    jobs.add(Jobs::ECVerify, [this, verify] {
+        runner->run("Verify Event Control", verify(&VerifyEventControl), false, true);
+    });
     jobs.add(Jobs::WriteChanges, [this, &s, pinConfigToo] {
-        const bool withConfig = pinConfigWritten = pinConfigToo();
-        runJob("Write Changes", [&s, withConfig] { return WriteChanges(s, withConfig); });
+        const bool withConfig = pinConfigToo();
+        runner->writes(withConfig);
+        runner->run("Write Changes", [&s, withConfig] { return WriteChanges(s, withConfig); });
     });
     jobs.add(Jobs::CompareModule, [this, &s] {
         Configuration module;
         GeneralSettings gmodule;
         bool read = false;
-        runJob("Compare with Module", [&] { return read = ReadAllInto(s, module, gmodule); });
+        runner->run("Compare with Module", [&] { return read = ReadAllInto(s, module, gmodule); });
         if (!read)
             return;
         (*guard)([&] { showComparison(module, gmodule); });
     });
     jobs.add(Jobs::PAspWriteAspect, [this, &s] {
-        runJob("Write Aspect", [&s] { return WriteAspect(s, s.config.CurrentPin, s.config.CurrentAspect); });
+        runner->run("Write Aspect",
+                    [&s] { return WriteAspect(s, s.config.CurrentPin, s.config.CurrentAspect); });
     });
 }
 
@@ -485,110 +443,9 @@ void KestrelConfig::showComparison(const Configuration& module, const GeneralSet
     frmCompare->raise();
 }
 
-void KestrelConfig::startJob(JobName name)
-{
-    commitAll();
-    if (!jobAsked)
-        focusBeforeJob = QApplication::focusWidget();
-    jobAsked = true; // from now until the job ends the window waits
-    LabelAction->setVisible(true);
-    jobs.request(name);
-}
+void KestrelConfig::startJob(JobName name) { runner->ask(name); }
 
-void KestrelConfig::Timer1_Timer()
-{
-    if (jobs.running())
-        return;
-    jobs.Timer1_Timer();
-    if (!jobAsked)
-        return;
-    jobAsked = false;
-    LabelAction->setVisible(false);
-    // The keyboard goes back where it was, whatever boxes the job raised.
-    activateWindow();
-    if (focusBeforeJob && focusBeforeJob->isVisible() && focusBeforeJob->isEnabled())
-        focusBeforeJob->setFocus(Qt::OtherFocusReason);
-}
-
-bool KestrelConfig::blocksInput(QObject* target, QEvent* event) const
-{
-    if (!jobAsked && !jobs.running())
-        return false;
-    switch (event->type()) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick:
-        // Before the job begins, another job's button replaces the job asked for.
-        if (!jobs.running() && jobButtons.contains(qobject_cast<QAbstractButton*>(target)))
-            return false;
-        break;
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
-    case QEvent::Wheel:
-    case QEvent::Shortcut:
-    case QEvent::ContextMenu:
-        break;
-    default:
-        return false;
-    }
-    // The progress dialog and the boxes a job raises take their input, and so do the
-    // windows that only watch (the traffic, the report, the Corvid log).
-    const auto* widget = qobject_cast<QWidget*>(target);
-    if (!widget)
-        return true;
-    const QWidget* window = widget->window();
-    if (window == QApplication::activeModalWidget())
-        return false;
-    return window != frmTrafficMonitor && window != frmKestrelVerification && window != frmCorvidComm;
-}
-
-bool KestrelConfig::confirmKeyboardWrite(QAbstractButton* button)
-{
-    return core->dialogs().ask("\"" + spoken(button->text()).toStdString() +
-                                   "\" writes to the module. Write now?",
-                               Buttons::YesNo, Icon::Question) == Answer::Yes;
-}
-
-void KestrelConfig::runJob(const QString& title, const std::function<bool()>& operation, bool reads,
-                           bool verifies, std::optional<LongJob> estimate)
-{
-    commitAll();
-    jobReport.clear();
-    JobProgress progress(this, title);
-    // The estimate counts the direct route's frames; a tunnelled job goes without one.
-    if (estimate && !core->link.settings.CheckCorvid)
-        progress.setEstimate(jobTraffic(*estimate, core->config, core->general, core->link.settings,
-                                        CheckWritePinConfig->isChecked()),
-                             9600 << core->linkControl.OptionBitRate);
-    core->link.setProgress(&progress);
-    QElapsedTimer clock;
-    clock.start();
-    bool ok = false;
-    core->beginJob(title.toStdString()); // the whole-module jobs within count as part of it
-    const bool noFault = (*guard)(title.toStdString(), [&] { ok = operation(); });
-    // A verification that ran to its end has done its job, whatever it found.
-    core->endJob(noFault && (ok || verifies));
-    core->link.setProgress(nullptr);
-    LabelAction->setVisible(false);
-
-    // What the job left undone, as the core noted it ("... incomplete: 1 problem reported,
-    // the first: ...", "... stopped: DCC address 9000 cannot be sent: 0..8191").
-    JobEnd end;
-    end.title = title.toStdString();
-    end.fault = !noFault;
-    end.cancelled = progress.cancelled();
-    end.ok = ok;
-    end.reads = reads;
-    end.verifies = verifies;
-    end.imageKnown = core->moduleImage() != nullptr;
-    end.summary = core->jobSummary();
-    end.lastStep = progress.last;
-    end.seconds = clock.elapsed() / 1000.0;
-    LabelStatusJob->setText(latin1(jobOutcomeText(end)));
-    if (verifies && !ok && !pinConfigWritten && onlyPinConfigurationsDiffer(jobReport))
-        core->report.line(kWritePinConfigurationsHint);
-    refreshAll();
-}
+void KestrelConfig::Timer1_Timer() { runner->tick(); }
 
 void KestrelConfig::commitAll()
 {
@@ -656,7 +513,7 @@ bool KestrelConfig::keepChangesSafe(const char* doing)
 
 void KestrelConfig::closeEvent(QCloseEvent* event)
 {
-    if (jobAsked || jobs.running()) { // the job ends first
+    if (runner->busy()) { // the job ends first
         event->ignore();
         return;
     }
@@ -1040,7 +897,7 @@ KestrelConfig::~KestrelConfig()
         QObject::disconnect(child, nullptr, linkArea, nullptr); // its handlers use the guard
     }
     QObject::disconnect(qApp, nullptr, this, nullptr);
-    qApp->removeEventFilter(gate);
+    qApp->removeEventFilter(runner);
     // The session refers to the dialogs of the window: it goes first.
     guard.reset();
     program.reset();

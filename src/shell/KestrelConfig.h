@@ -43,6 +43,7 @@ class TrafficMonitor;
 class CompareDialog;
 class EditHistory;
 class LinkArea;
+class JobRunner;
 } // namespace kestrel
 
 namespace kestrel {
@@ -186,24 +187,12 @@ private:
     QWidget* buildGeneralPage();
     void refreshLinkDisplays();
     void addJobs();
-    // Runs one job behind the progress dialog, inside the guard, and tells its outcome in
-    // the status bar. `reads` jobs fill the pages; `verifies` jobs compare the module with
-    // the configuration in the report. A long job's progress shows its `estimate`.
-    void runJob(const QString& title, const std::function<bool()>& operation, bool reads = false,
-                bool verifies = false, std::optional<LongJob> estimate = std::nullopt);
     // Takes every typed entry of every page that editing has not yet finished.
     void commitAll();
     // Shows the model on every page.
     void refreshAll();
-    // The title (file name, "*" for unsaved changes) and the port's state.
+    // The title (file name, "*" for unsaved changes), the port's and the module's state.
     void updateWindowState();
-    // Whether the module's job buttons are pressed from the keyboard (a mnemonic) and
-    // the button writes to the module: a question first. True when it may go on.
-    bool confirmKeyboardWrite(QAbstractButton* button);
-    // From a job's button press to the job's end the window takes no input but the
-    // progress dialog's (and its boxes'); a job button pressed before the job began
-    // replaces the job asked for.
-    bool blocksInput(QObject* target, QEvent* event) const;
     // Over unsaved changes: Save / Discard / Cancel. True when the caller may go on.
     bool keepChangesSafe(const char* doing);
     void startJob(JobName name);
@@ -228,15 +217,9 @@ private:
     WorkState work;          // which file, and whether it holds what is shown
     RememberedSettings kept; // what the program remembers between runs
     bool forgetSettings = false;
-    bool corvidLogDismissed = false;    // closed by the user: new lines do not force it open
-    bool jobAsked = false;              // a job's button was pressed: input waits for its end
-    QList<QAbstractButton*> jobButtons; // the buttons that start jobs
-    QList<QAbstractButton*> writers;    // the buttons that write to the module
-    bool pinConfigWritten = true;       // the last write sent the pins' configurations too
-    std::vector<std::string> jobReport; // the report's lines written since the job began
-    QPointer<QWidget> focusBeforeJob;   // where the keyboard goes back to when the job ends
-    QObject* gate = nullptr;            // sees every event of the program first
-    EditHistory* history = nullptr;     // the undo steps
+    bool corvidLogDismissed = false; // closed by the user: new lines do not force it open
+    JobRunner* runner = nullptr;     // runs the jobs; sees every event of the program first
+    EditHistory* history = nullptr;  // the undo steps
 };
 
 } // namespace kestrel
