@@ -117,9 +117,9 @@ void JobRunner::run(const QString& title, const std::function<bool()>& operation
     JobProgress progress(window.main, title);
     // The estimate counts the direct route's frames; a tunnelled job goes without one.
     if (estimate && !s.link.settings.CheckCorvid)
-        progress.setEstimate(jobTraffic(*estimate, s.config, s.general, s.link.settings,
-                                        window.writePinConfig->isChecked()),
-                             9600 << s.linkControl.OptionBitRate);
+        progress.setEstimate(
+            jobTraffic(*estimate, s.config, s.general, s.link.settings, window.writePinConfig->isChecked()),
+            9600 << s.linkControl.OptionBitRate);
     s.link.setProgress(&progress);
     QElapsedTimer clock;
     clock.start();
