@@ -8,13 +8,14 @@
 
 namespace kestrel {
 
-std::string CommandSave_MouseDown(Session& session, int button, int shift)
+std::string CommandSave_MouseDown(Session& session, int button, int shift,
+                                  const std::function<bool(const std::string&)>& refused)
 {
     if (button != 1 || (shift != 0 && shift != 1))
         return {};
     const SaveForm form = shift == 1 ? SaveForm::Compact : SaveForm::Full;
     const std::string path = session.dialogs().saveFileName("Save Configuration", kConfigFileFilter, "");
-    if (path.empty() || !saveConfigurationTo(session, path, form))
+    if (path.empty() || (refused && refused(path)) || !saveConfigurationTo(session, path, form))
         return {};
     return path;
 }

@@ -1,6 +1,7 @@
 #pragma once
 #include "files/ConfigurationFile.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -13,7 +14,10 @@ class Session;
 // The save button: left button (1) alone saves the full file, with Shift (1) the compact
 // file; anything else does nothing. Asks for the file name through the save dialog
 // (filter "Kestrel Config Data|*.dat", no name proposed); no name ends silently.
-std::string CommandSave_MouseDown(Session& session, int button, int shift); // the path written, "" for none
+// `refused`, when given, turns down a chosen path (having said why): nothing is saved.
+std::string CommandSave_MouseDown(
+    Session& session, int button, int shift,
+    const std::function<bool(const std::string&)>& refused = {}); // the path written, "" for none
 
 // Saves to a file already chosen (the window's Save to the current file, a recent file);
 // a failure says why. True when the file was written.

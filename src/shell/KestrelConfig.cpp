@@ -537,23 +537,26 @@ void KestrelConfig::saveFile(const QString& path, bool compact)
     commitAll();
     (*guard)([&] {
         std::string written = path.toStdString();
-        const SaveForm form = compact ? SaveForm::Compact : SaveForm::Full;
         if (!written.empty() && written == work.file() && work.changedOnDisk() &&
             core->dialogs().ask(QFileInfo(path).fileName().toStdString() +
                                     " has changed on disk since it was loaded or saved here.\r\n"
                                     "Replace it with the configuration shown?",
                                 Buttons::YesNo, Icon::Warning) != Answer::Yes)
             return;
-        if (written.empty()) {
-            written = core->dialogs().saveFileName("Save Configuration", kConfigFileFilter, "");
-            if (!written.empty() && inBackups(QString::fromStdString(written))) {
-                core->dialogs().message("The backups folder is the program's own: choose another folder "
-                                        "for the file.",
-                                        Icon::Warning);
-                return;
-            }
-        }
-        if (written.empty() || !saveConfigurationTo(*core, written, form))
+        // The backups folder is never the user's file.
+        const auto backups = [this](const std::string& chosen) {
+            if (!inBackups(QString::fromStdString(chosen)))
+                return false;
+            core->dialogs().message(
+                "The backups folder is the program's own: choose another folder for the file.",
+                Icon::Warning);
+            return true;
+        };
+        if (written.empty())
+            written = kestrel::CommandSave_MouseDown(*core, 1, compact ? 1 : 0, backups);
+        else if (!saveConfigurationTo(*core, written, compact ? SaveForm::Compact : SaveForm::Full))
+            written.clear();
+        if (written.empty())
             return;
         const QString name = QString::fromStdString(written);
         if (compact)

@@ -11,7 +11,6 @@
 #include "shell/RememberedSettings.h"
 
 #include <QMainWindow>
-#include <QPointer>
 #include <memory>
 
 class QCheckBox;
@@ -28,7 +27,6 @@ class QTabWidget;
 class QTimer;
 class QCloseEvent;
 class QAction;
-class QAbstractButton;
 class QMenu;
 class QUndoStack;
 
