@@ -1,12 +1,13 @@
 #include "files/TextFile.h"
 
+#include "platform/FileSync.h"
+
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <system_error>
-#include <unistd.h> // fsync (MinGW-w64: _commit)
 
 namespace kestrel {
 
@@ -15,18 +16,6 @@ namespace fs = std::filesystem;
 namespace {
 
 std::string because(int error) { return std::strerror(error); }
-
-// Hands what was written to the disk before the file is renamed over the old one.
-bool syncToDisk(std::FILE* file)
-{
-    if (std::fflush(file) != 0)
-        return false;
-#ifdef _WIN32
-    return _commit(_fileno(file)) == 0;
-#else
-    return ::fsync(fileno(file)) == 0;
-#endif
-}
 
 // The file that a save to path really replaces: the final target of a symbolic link
 // (relative links resolved from the link's folder), or path itself.
