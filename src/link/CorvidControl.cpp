@@ -86,33 +86,29 @@ bool CorvidControl::cmdSetTM_Click()
         link.dialogs().message(kNotSupported, Icon::Warning);
         return false;
     }
-    const int w = versionFrom(r[4], r[5]);
-    std::string result;
-    switch (r[3]) {
-    case 2:
-        result = "Your Hub-A has been put in Transparent Mode";
-        if (w < 1020) {
-            poll();
-            link.dialogs().message("Your Hub-A does not support this function", Icon::Warning);
-            return false;
-        }
-        break;
-    case 3:
-        result = "Your Hub-B has been put in Transparent Mode";
-        break;
-    case 10:
-        result = "Your Linkbox has been put in Transparent Mode";
-        if (w < 1030) {
-            poll();
-            link.dialogs().message("Your Linkbox does not support this function", Icon::Warning);
-            return false;
-        }
-        break;
-    default:
+    // The units that can pass bytes straight through, and the firmware each needs for it.
+    struct Unit {
+        int type;
+        const char* name;
+        int firmware;
+    };
+    static constexpr Unit kUnits[] = {{2, "Hub-A", 1020}, {3, "Hub-B", 0}, {10, "Linkbox", 1030}};
+    const Unit* unit = nullptr;
+    for (const Unit& u : kUnits)
+        if (u.type == r[3])
+            unit = &u;
+    if (unit == nullptr) {
         poll();
         link.dialogs().message(kNotSupported, Icon::Warning);
         return false;
     }
+    if (versionFrom(r[4], r[5]) < unit->firmware) {
+        poll();
+        link.dialogs().message(std::string("Your ") + unit->name + " does not support this function",
+                               Icon::Warning);
+        return false;
+    }
+    const std::string result = std::string("Your ") + unit->name + " has been put in Transparent Mode";
     if (!link.CorvidExchange(3, {1, 5, 16}))
         return false;
     link.dialogs().message(result, Icon::Information);

@@ -12,6 +12,15 @@ namespace kestrel {
 
 namespace {
 constexpr double kReplyTimeout = 2.0; // seconds
+
+// The port's hint of how many bytes are awaited is cleared when a reply wait ends.
+struct ExpectNothingAfter {
+    SerialPort& port;
+    explicit ExpectNothingAfter(SerialPort& p) : port(p) {}
+    ExpectNothingAfter(const ExpectNothingAfter&) = delete;
+    ExpectNothingAfter& operator=(const ExpectNothingAfter&) = delete;
+    ~ExpectNothingAfter() { port.expectBytes(0); }
+};
 constexpr int kWakeUp[] = {0, 0, 0, 255, 255, 255, 170, 170, 170};
 constexpr int kStalePolls = 8;          // polls at most to clear what a cut-short tunnel exchange left
 constexpr int kLongestCorvidReply = 18; // data bytes; the checksum then sits at ReplyBuffer[19]
@@ -290,10 +299,7 @@ bool Link::receiveDirect()
     const double start = time.secondsSinceMidnight();
     int p = 0, r = 0, s = 0;
     auto& buf = state.ReplyBuffer;
-    struct HintReset {
-        SerialPort& port;
-        ~HintReset() { port.expectBytes(0); }
-    } hintReset{serial};
+    const ExpectNothingAfter hintReset{serial};
     // Before the reply can start, the request itself has to leave on the wire.
     int outgoing = takeUnsent();
     for (;;) {
@@ -512,10 +518,7 @@ std::string Link::CorvidReceive()
     int length = 0;
     bool flagA = false, flagB = false;
     const double start = time.secondsSinceMidnight();
-    struct HintReset {
-        SerialPort& port;
-        ~HintReset() { port.expectBytes(0); }
-    } hintReset{serial};
+    const ExpectNothingAfter hintReset{serial};
     int outgoing = takeUnsent();
     for (;;) {
         serial.expectBytes(position == 0 ? outgoing + 2 : length + 2 - position);

@@ -35,15 +35,7 @@ void SimBus::write(std::uint8_t b)
     countExchanges();
 }
 
-int SimBus::read()
-{
-    if (out_.empty())
-        return -1;
-    const int b = out_.front();
-    out_.pop_front();
-    ++stats_.bytesOut;
-    return b;
-}
+int SimBus::read() { return takeReplyByte(out_, stats_); }
 
 std::optional<KestrelReply> SimBus::deliver(int busAddress, const KestrelRequest& request)
 {

@@ -50,15 +50,7 @@ void SimCorvid::write(std::uint8_t b)
     frameComplete();
 }
 
-int SimCorvid::read()
-{
-    if (out_.empty())
-        return -1;
-    const int b = out_.front();
-    out_.pop_front();
-    ++stats_.bytesOut;
-    return b;
-}
+int SimCorvid::read() { return takeReplyByte(out_, stats_); }
 
 void SimCorvid::frameComplete()
 {

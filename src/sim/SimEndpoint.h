@@ -1,6 +1,7 @@
 #pragma once
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 
 namespace kestrel::sim {
 
@@ -14,6 +15,17 @@ struct WireStats {
     // (start, 8 data, parity, stop).
     double wireSeconds(int baud) const { return baud > 0 ? (bytesIn + bytesOut) * 11.0 / baud : 0.0; }
 };
+
+// The next byte waiting to be sent back to the client, counted; -1 when none is waiting.
+inline int takeReplyByte(std::deque<std::uint8_t>& out, WireStats& stats)
+{
+    if (out.empty())
+        return -1;
+    const int b = out.front();
+    out.pop_front();
+    ++stats.bytesOut;
+    return b;
+}
 
 // What a serial port is connected to: the module bus itself, or a Corvid system in
 // front of it. Bytes written go in one at a time; answers become readable as soon as
