@@ -1,7 +1,8 @@
-#include "forms/PinEdits.h"
+#include "pins/PinEdits.h"
 
 #include "base/ProgramFault.h"
 #include "base/Text.h"
+#include "pins/PinConfig.h"
 
 #include <algorithm>
 #include <vector>
@@ -51,20 +52,43 @@ PinFieldRule pinFieldRule(PinField field)
     throw ProgramFault("Unknown pin configuration field");
 }
 
-CommittedField commitPinField(PinRecord& pin, PinField field, const std::string& typed)
+ModePage pageOfField(PinField field)
+{
+    if (field <= PinField::TextBounceUpFactor)
+        return ModePage::Servo;
+    if (field <= PinField::TextPWMOnLevel)
+        return ModePage::Pwm;
+    return ModePage::Input;
+}
+
+ClampedField clampPinField(PinField field, const std::string& typed)
 {
     const PinFieldRule rule = pinFieldRule(field);
     const long typedValue = valInt(typed);
     const long value = std::clamp<long>(typedValue, rule.min, rule.max);
-    const auto stored = static_cast<std::uint8_t>(value + rule.shift);
+    return {value == typedValue ? typed : std::to_string(value), static_cast<int>(value)};
+}
+
+CommittedField commitPinField(PinRecord& pin, PinField field, const std::string& typed)
+{
+    const PinFieldRule rule = pinFieldRule(field);
+    const ClampedField clamped = clampPinField(field, typed);
+    const auto stored = static_cast<std::uint8_t>(clamped.value + rule.shift);
     if (rule.byte == 0)
         pin.OutputValue = stored;
     else
         pin.P(rule.byte) = stored;
-    return {value == typedValue ? typed : std::to_string(value), stored};
+    return {clamped.text, stored};
 }
 
-const std::vector<PinField>& pinEditOrder(int page)
+std::string takePinField(PinRecord& pin, PinField field, const std::string& typed)
+{
+    if (pageOfMode(pin.ConfigMode) != pageOfField(field))
+        return clampPinField(field, typed).text;
+    return commitPinField(pin, field, typed).text;
+}
+
+const std::vector<PinField>& pinEditOrder(ModePage page)
 {
     static const std::vector<PinField> none;
     static const std::vector<PinField> servo{
@@ -74,39 +98,54 @@ const std::vector<PinField>& pinEditOrder(int page)
     static const std::vector<PinField> pwm{PinField::TextPWMAccel};
     static const std::vector<PinField> input{PinField::TextInputDelay0, PinField::TextInputDelay1};
     switch (page) {
-    case 1:
+    case ModePage::Servo:
         return servo;
-    case 2:
+    case ModePage::Pwm:
         return pwm;
-    case 3:
+    case ModePage::Input:
         return input;
     default:
         return none;
     }
 }
 
-void CommitPinEdits(PinRecord& pin, int page, std::map<PinField, std::string>& boxes)
+bool CommitPinEdits(PinRecord& pin, ModePage shown, std::map<PinField, std::string>& boxes)
 {
-    for (PinField field : pinEditOrder(page)) {
+    if (pageOfMode(pin.ConfigMode) != shown)
+        return false;
+    for (PinField field : pinEditOrder(shown)) {
         auto box = boxes.find(field);
         if (box != boxes.end())
             box->second = commitPinField(pin, field, box->second).text;
     }
+    return true;
 }
 
-std::uint8_t servoModeByte(int rangeOption, bool autoSuspend, bool suspended, bool initialised)
+void setServoFlags(PinRecord& pin, int rangeOption, bool autoSuspend, bool suspended, bool initialised)
 {
+    if (!hasMode(pin, PinMode::Servo))
+        return;
     const int range = rangeOption >= 0 && rangeOption <= 4 ? rangeOption : 0;
-    return static_cast<std::uint8_t>(range | 8 | (autoSuspend ? 16 : 0) | (suspended ? 32 : 0) |
-                                     (initialised ? 64 : 0));
+    pin.P(2) = static_cast<std::uint8_t>(range | 8 | (autoSuspend ? 16 : 0) | (suspended ? 32 : 0) |
+                                         (initialised ? 64 : 0));
 }
 
-std::uint8_t pwmModeByte(int driveMode, int accelMode)
+void setPwmModes(PinRecord& pin, int driveMode, int accelMode)
 {
-    return static_cast<std::uint8_t>((driveMode & 1) | ((accelMode & 1) << 1));
+    if (pageOfMode(pin.ConfigMode) == ModePage::Pwm)
+        pin.P(2) = static_cast<std::uint8_t>((driveMode & 1) | ((accelMode & 1) << 1));
 }
 
-int pwmConfigMode(bool inverted) { return inverted ? 3 : 2; }
-int inputConfigMode(bool inverted) { return inverted ? 5 : 4; }
+void setInverted(PinRecord& pin, ModePage page, bool inverted)
+{
+    if (pageOfMode(pin.ConfigMode) == page)
+        pin.ConfigMode = modeByte(modeOfPage(page, inverted));
+}
+
+void choosePage(PinRecord& pin, ModePage page)
+{
+    // The mode alone, as a reply from flash without parameters would bring it.
+    storePinConfigReply(pin, 1, {modeByte(modeOfPage(page))}, 3);
+}
 
 } // namespace kestrel
