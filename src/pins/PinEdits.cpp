@@ -148,4 +148,10 @@ void choosePage(PinRecord& pin, ModePage page)
     storePinConfigReply(pin, 1, {modeByte(modeOfPage(page))}, 3);
 }
 
+bool choosingClearsParameters(const PinRecord& pin)
+{
+    const ModePage page = pageOfMode(pin.ConfigMode);
+    return page != ModePage::None && page != ModePage::Unknown;
+}
+
 } // namespace kestrel

@@ -89,6 +89,8 @@ void setInverted(PinRecord& pin, ModePage page, bool inverted);
 
 // A page chosen by hand gives the pin that page's mode; a pin whose mode changes so starts
 // with cleared parameters, as when the module reports a new mode (a servo at position 0).
+// A servo, PWM or input pin loses parameters so, which the page asks about first.
 void choosePage(PinRecord& pin, ModePage page);
+bool choosingClearsParameters(const PinRecord& pin);
 
 } // namespace kestrel

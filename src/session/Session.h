@@ -95,8 +95,9 @@ public:
     // A job's progress: noted for the summary and passed to the front end's Progress.
     void reportStep(int done, int total, const std::string& what);
 
-    // Verify All has written its report: the window shows the verification window (optional).
-    // What a job or a load changed the window shows when it ends, on every page at once.
+    // Verify All has written its report: the window shows its verification window
+    // (optional). What a job or a load changes the session does not announce: the window
+    // shows it on every page when the job or the load has ended.
     std::function<void()> onShowVerification;
 
     // The image of each module (by port and addresses) as last read, written or verified,

@@ -517,9 +517,9 @@ void PinConfigPage::SSTabPCFG_Click(int page)
     const auto shownPage = static_cast<int>(pageOfMode(pin().ConfigMode));
     if (page < 0 || page == shownPage)
         return;
-    // The page chosen by hand gives the pin its mode (choosePage). A configured pin loses
-    // its parameters so, which is asked first; Cancel goes back to the pin's own page.
-    if (shownPage > static_cast<int>(ModePage::None)) {
+    // The page chosen by hand gives the pin its mode (choosePage); Cancel of the question
+    // goes back to the pin's own page.
+    if (choosingClearsParameters(pin())) {
         const std::string question =
             "Pin " + std::to_string(session.config.CurrentPin + session.config.NumberingBase) + " becomes " +
             SSTabPCFG->tabText(page).toStdString() + ": its " + SSTabPCFG->tabText(shownPage).toStdString() +
