@@ -168,7 +168,7 @@ struct Parameter {
 };
 
 std::string plain(int v) { return number(v); }
-std::string signedValue(int v) { return number(v - 64); }
+std::string signedValue(int v) { return number(shownSigned(v)); }
 std::string servoRange(int v) { return number(v & 7); }
 std::string bit4(int v) { return box((v >> 4) & 1); }
 std::string bit5(int v) { return box((v >> 5) & 1); }

@@ -10,8 +10,8 @@ void storePinConfigReply(PinRecord& rec, int source, const std::vector<int>& byt
     if (rec.ConfigMode != mode) {
         rec.ConfigParams.fill(0);
         if (mode == modeByte(PinMode::Servo)) {
-            rec.OutputValue = 64;
-            rec.P(1) = 64;
+            rec.OutputValue = storedSigned(0);
+            rec.P(1) = storedSigned(0);
         }
     }
     // At most the mode and P1..P12 can arrive.

@@ -17,7 +17,7 @@ PinConfigView ShowPinConfig(const Configuration& config, const GeneralSettings& 
     const bool warn = hardwareMismatch(general, config.CurrentPin);
     view.LabelSrvHWCWarn = warn;
     view.LabelInpHWCWarn = warn;
-    auto signedValue = [](int stored) { return stored - 64; };
+    auto signedValue = [](int stored) { return shownSigned(stored); };
 
     view.SSTabPCFG = pageOfMode(rec.ConfigMode);
     switch (view.SSTabPCFG) {

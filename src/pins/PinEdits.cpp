@@ -13,11 +13,11 @@ PinFieldRule pinFieldRule(PinField field)
 {
     switch (field) {
     case PinField::TextPosition:
-        return {0, -64, 63, 64};
+        return {0, -64, 63, kSignedOffset};
     case PinField::TextSrvInitPos:
-        return {1, -64, 63, 64};
+        return {1, -64, 63, kSignedOffset};
     case PinField::TextMidpoint:
-        return {3, -64, 63, 64};
+        return {3, -64, 63, kSignedOffset};
     case PinField::TextSrvAntiMass:
         return {4, 0, 127, 0};
     case PinField::TextSrvFriction:
@@ -27,11 +27,11 @@ PinFieldRule pinFieldRule(PinField field)
     case PinField::TextSrvMaxAccel:
         return {7, 1, 127, 0};
     case PinField::TextBounceDown:
-        return {8, 0, 63, 64};
+        return {8, 0, 63, kSignedOffset};
     case PinField::TextBounceDownFactor:
         return {9, 0, 127, 0};
     case PinField::TextBounceUp:
-        return {10, -63, 0, 64};
+        return {10, -63, 0, kSignedOffset};
     case PinField::TextBounceUpFactor:
         return {11, 0, 127, 0};
     case PinField::TextPWMLevel:

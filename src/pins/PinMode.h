@@ -49,6 +49,11 @@ int configParameterCount(int configMode);
 // saved.
 std::uint8_t currentServoMode(std::uint8_t p2);
 constexpr std::uint8_t servoModeToStore(std::uint8_t p2) { return p2 & 63; }
+// A servo's signed values (its position, initial position, midpoint and bounces) are
+// stored with 64 added.
+constexpr int kSignedOffset = 64;
+constexpr std::uint8_t storedSigned(int shown) { return static_cast<std::uint8_t>(shown + kSignedOffset); }
+constexpr int shownSigned(int stored) { return stored - kSignedOffset; }
 // PWM parameters 4 and 5 of a module or data file of the older three-parameter form, which
 // carries neither: 0 and 31.
 void setOlderPwmLimits(PinRecord& pin);
