@@ -12,6 +12,7 @@
 #include "model/PinTools.h"
 #include "model/StepCodec.h"
 #include "model/WireLimits.h"
+#include "pins/PinMode.h"
 #include "session/Session.h"
 
 #include <array>
@@ -103,7 +104,7 @@ void writeCfgRecord(ItemWriter& w, int indent, PinRecord& pin)
 {
     w.line(indent).text("Cfg").number(pin.ConfigMode);
     const int count = configParameterCount(pin.ConfigMode);
-    if (pin.ConfigMode == 1)
+    if (hasMode(pin, PinMode::Servo))
         pin.P(2) = servoModeToStore(pin.P(2));
     for (int n = 1; n <= count; ++n)
         w.number(pin.P(n));
@@ -390,18 +391,18 @@ private:
         const int mode = in.nextByte();
         std::array<int, 12> p{}; // p[n] = parameter n
         PinRecord& r = config.pin(pin);
-        switch (mode) {
-        case 1:
+        switch (pinMode(mode).value_or(PinMode::None)) {
+        case PinMode::Servo:
             // Parameter 2 loses its top bits before it is sent; the others go as they are.
             for (int n = 1; n <= 11; ++n)
                 p[n] = n == 2 ? in.nextByte() : nextParameter(n);
-            r.ConfigMode = 1;
+            r.ConfigMode = modeByte(PinMode::Servo);
             for (int n = 1; n <= 11; ++n)
                 r.P(n) = static_cast<std::uint8_t>(p[n]);
             r.P(2) = currentServoMode(r.P(2));
             break;
-        case 2:
-        case 3:
+        case PinMode::Pwm:
+        case PinMode::PwmInverted:
             for (int n = 1; n <= 3; ++n)
                 p[n] = nextParameter(n);
             if (version >= 20) {
@@ -414,16 +415,16 @@ private:
             if (version < 20)
                 setOlderPwmLimits(r);
             break;
-        case 4:
-        case 5:
+        case PinMode::Input:
+        case PinMode::InputInverted:
             for (int n = 1; n <= 4; ++n)
                 p[n] = nextParameter(n);
             r.ConfigMode = static_cast<std::uint8_t>(mode);
             for (int n = 1; n <= 4; ++n)
                 r.P(n) = static_cast<std::uint8_t>(p[n]);
             break;
-        default:
-            r.ConfigMode = 0;
+        case PinMode::None: // and every mode the program does not know
+            r.ConfigMode = modeByte(PinMode::None);
             for (int n = 1; n <= 11; ++n)
                 r.P(n) = 0;
             break;

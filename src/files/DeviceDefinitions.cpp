@@ -7,6 +7,7 @@
 #include "model/AddressIndex.h"
 #include "model/PinTools.h"
 #include "model/WireLimits.h"
+#include "pins/PinMode.h"
 
 #include <array>
 #include <filesystem>
@@ -181,10 +182,10 @@ private:
         auto parameter = [&](int n) {
             return static_cast<std::uint8_t>(in.nextSendable(0, kDataByteMax, kConfigParameterNames[n]));
         };
-        if (r.ConfigMode == 1) {
+        if (hasMode(r, PinMode::Servo)) {
             for (int n = 1; n <= 11; ++n)
                 r.P(n) = n == 2 ? static_cast<std::uint8_t>(in.nextByte()) : parameter(n);
-        } else if (r.ConfigMode == 2) {
+        } else if (hasMode(r, PinMode::Pwm)) {
             for (int n = 1; n <= 3; ++n)
                 r.P(n) = parameter(n);
             std::string item = in.next();

@@ -155,7 +155,7 @@ void addressingFields(Fields& out, const GeneralSettings& g, int base)
 // Modes whose parameters mean the same: not configured, servo, PWM, input, each unknown mode.
 int modeKind(int mode)
 {
-    const int page = pageOfMode(mode);
+    const auto page = static_cast<int>(pageOfMode(mode));
     return page >= 0 ? page : 10 + mode;
 }
 
@@ -168,7 +168,7 @@ struct Parameter {
 };
 
 std::string plain(int v) { return number(v); }
-std::string signedValue(int v) { return number(v - 64); }
+std::string signedValue(int v) { return number(shownSigned(v)); }
 std::string servoRange(int v) { return number(v & 7); }
 std::string bit4(int v) { return box((v >> 4) & 1); }
 std::string bit5(int v) { return box((v >> 5) & 1); }
@@ -369,7 +369,7 @@ Fields writeOrder(const Configuration& config, const GeneralSettings& general, i
 
 bool unused(const PinRecord& pin)
 {
-    return pin.ConfigMode == kModeNone && pin.Description.empty() && optionOfLayout(pin.AspectLayout) == 0 &&
+    return hasMode(pin, PinMode::None) && pin.Description.empty() && optionOfLayout(pin.AspectLayout) == 0 &&
            pin.DeviceOffset == 0 && pin.DeviceDescription.empty() && pin.InitAspect == 0 &&
            pin.DccCount == 0 && pin.XDccCount == 0 && pin.LynxCount == 0;
 }

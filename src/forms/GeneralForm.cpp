@@ -1,6 +1,9 @@
 #include "forms/GeneralForm.h"
 
+#include "base/Text.h"
 #include "session/Session.h"
+
+#include <algorithm>
 
 namespace kestrel {
 
@@ -16,16 +19,30 @@ void CheckGenLynxaddr_Click(Session& session)
             g.CheckGenLynxaddr = 0;
     }
     applyAddressingVisibility(g);
-    session.pinAddressDisplayChanged();
 }
 
 void CheckGenKestrelNative_Click(Session& session)
 {
     auto& g = session.general;
     g.CheckGenLynxaddrVisible = g.CheckGenKestrelNative != 1;
-    session.pinAddressDisplayChanged();
 }
 
-void ChkGenDCCAllow0_Click(Session& session) { session.dccAddressChanged(); }
+std::string clampedDccAddress(const std::string& typed)
+{
+    return std::to_string(std::clamp<long>(valInt(typed), 0, kDccAddressMaximum));
+}
+
+void takeFlexAddress(GeneralSettings& g, const std::string& typed, int base)
+{
+    const long shown = valInt(typed) - base;
+    g.LynxFlexAddress = static_cast<int>(std::clamp<long>(shown < 0 ? 0 : shown / 4, 0, kFlexAddressMaximum));
+    g.TextGenLynxaddr = std::to_string(g.LynxFlexAddress * 4 + base);
+}
+
+void takeExtendedAddress(GeneralSettings& g, const std::string& typed, int base)
+{
+    g.ExtendedAddress = static_cast<int>(std::clamp<long>(valInt(typed) - base, 0, kExtendedAddressMaximum));
+    g.TextGenXaddr = std::to_string(g.ExtendedAddress + base);
+}
 
 } // namespace kestrel

@@ -11,7 +11,16 @@ void CheckGenLynxaddr_Click(Session& session);
 // CheckGenKestrelNative was clicked (its new value is already in the field).
 void CheckGenKestrelNative_Click(Session& session);
 
-// ChkGenDCCAllow0 was clicked: the address boxes show ranges that depend on it.
-void ChkGenDCCAllow0_Click(Session& session);
+// The numbers typed in the page's address boxes, clamped to what the module takes and
+// kept in the settings as the page shows them again (with the numbering base `base`).
+constexpr long kDccAddressMaximum = 127 * 64 + 63; // high part one data byte, low part 6 bits
+constexpr int kFlexAddressMaximum = 127;           // the mode byte is one data byte
+constexpr int kExtendedAddressMaximum = 95;
+// TextGenDCCAddress and TextGenXDCCAddress: 0..8191, without the numbering base.
+std::string clampedDccAddress(const std::string& typed);
+// TextGenLynxaddr: the flex-address shown times 4 (LynxFlexAddress 0..127).
+void takeFlexAddress(GeneralSettings& general, const std::string& typed, int base);
+// TextGenXaddr: the eXtended address 0..95.
+void takeExtendedAddress(GeneralSettings& general, const std::string& typed, int base);
 
 } // namespace kestrel

@@ -44,8 +44,6 @@ LoadOutcome loadConfigurationFrom(Session& session, const std::string& path)
         loadConfigurationFile(path, session.config, session.general, session.dialogs(), &why);
     if (result == LoadResult::CannotOpen)
         session.dialogs().message("Can not open " + path + ": " + why, Icon::Warning);
-    else if (result != LoadResult::InvalidHeader && session.onConfigurationChanged)
-        session.onConfigurationChanged();
     return {path, result};
 }
 

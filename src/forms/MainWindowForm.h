@@ -24,7 +24,7 @@ std::string CommandSave_MouseDown(
 bool saveConfigurationTo(Session& session, const std::string& path, SaveForm form);
 
 // The load button: asks for the file name through the open dialog, loads it into the
-// session and then calls session.onConfigurationChanged so that every display follows.
+// session (the window then shows it on every page).
 // Returns the path and how far it was read; a cancelled dialog gives an empty path.
 struct LoadOutcome {
     std::string path;

@@ -4,7 +4,6 @@
 #include "forms/AspectEditor.h"
 #include "model/PinTools.h"
 #include "model/WireLimits.h"
-#include "pins/PinConfig.h"
 
 #include <algorithm>
 
@@ -75,26 +74,6 @@ std::string addressText(const Configuration& config, const GeneralSettings& gene
     if (count == 1)
         return std::to_string(first + shown);
     return std::to_string(first + shown) + " .. " + std::to_string(last + shown);
-}
-
-std::string modeName(int configMode)
-{
-    switch (configMode) {
-    case kModeNone:
-        return "Not configured";
-    case kModeServo:
-        return "Servo";
-    case kModePwm:
-        return "PWM";
-    case kModePwm + 1:
-        return "PWM, Inverted";
-    case kModeInput:
-        return "Input";
-    case kModeInput + 1:
-        return "Input, Inverted";
-    default:
-        return "Unknown configuration: " + std::to_string(configMode);
-    }
 }
 
 std::array<PinOverviewRow, kPinCount> pinOverview(const Configuration& config, const GeneralSettings& general)

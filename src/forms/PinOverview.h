@@ -1,6 +1,7 @@
 #pragma once
 #include "model/AddressIndex.h"
 #include "model/Configuration.h"
+#include "pins/PinMode.h"
 #include "session/GeneralSettings.h"
 
 #include <array>
@@ -12,7 +13,7 @@ namespace kestrel {
 struct PinOverviewRow {
     std::string pin;         // pin number + NumberingBase
     std::string description; // the pin's Description
-    std::string mode;        // modeName(ConfigMode)
+    std::string mode;        // modeName(ConfigMode), pins/PinMode
     std::string layout;      // the aspect page's layout option: "0", "4" or "12"
     std::string device;      // head + NumberingBase and the head's device description; "" alone
     std::string dcc, xdcc, serial;
@@ -43,11 +44,6 @@ std::string addressText(const Configuration& config, const GeneralSettings& gene
 // module's first address of the kind as the overview counts it (before NumberingBase).
 long largestAddress(AddressKind kind);
 long baseAddress(const GeneralSettings& general, AddressKind kind);
-
-// The name of a configuration mode as the pin-configuration page calls its page:
-// "Not configured", "Servo", "PWM", "Input", the inverted ones with ", Inverted" (the
-// page's "Inverted" box), any other as "Unknown configuration: " and the mode.
-std::string modeName(int configMode);
 
 // The 32 pins, read-only: the model is not changed (stale running sums are shown as they
 // stand; whoever changes a count runs RecalcAddressIndex).

@@ -4,33 +4,6 @@
 
 namespace kestrel {
 
-std::uint8_t currentServoMode(std::uint8_t p2)
-{
-    return p2 >= 16 && (p2 & 8) == 0 ? static_cast<std::uint8_t>(p2 / 16 + 40) : p2;
-}
-
-int configParameterCount(int mode)
-{
-    switch (mode) {
-    case 1:
-        return 11;
-    case 2:
-    case 3:
-        return 5;
-    case 4:
-    case 5:
-        return 4;
-    default:
-        return 0;
-    }
-}
-
-void setOlderPwmLimits(PinRecord& pin)
-{
-    pin.P(4) = 0;
-    pin.P(5) = 31;
-}
-
 std::uint8_t& PinRecord::P(int n)
 {
     checkIndex(n - 1, 12, "configuration parameter");

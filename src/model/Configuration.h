@@ -33,7 +33,7 @@ struct PinRecord {
     std::string Description;
     std::string DeviceDescription;
     std::int16_t DeviceOffset = 0;
-    std::uint8_t ConfigMode = 0;
+    std::uint8_t ConfigMode = 0; // 0 not configured; the modes and their meaning are pins/'s
     // P1..P11 are ConfigParams[0..10]; ConfigParams[11] is the twelfth byte (P12)
     // that a long configuration reply can fill but no page shows.
     std::array<std::uint8_t, 12> ConfigParams{};
@@ -53,21 +53,6 @@ struct PinRecord {
     std::uint8_t& P(int n);
     std::uint8_t P(int n) const;
 };
-
-// A servo's parameter 2 (its mode byte) as the module and the files hold it: one of the
-// older layout (range index in the high nibble, bit 3 clear) becomes today's (index + 40);
-// today's is kept. Bits 6 and 7 are status the module sets itself: they are never sent or
-// saved.
-std::uint8_t currentServoMode(std::uint8_t p2);
-constexpr std::uint8_t servoModeToStore(std::uint8_t p2) { return p2 & 63; }
-
-// The configuration parameters a pin mode carries, after the mode byte, on the wire and in
-// the data and definitions files alike: a servo (1) P1..P11, PWM (2, 3) P1..P5, an input
-// (4, 5) P1..P4, any other mode none.
-int configParameterCount(int mode);
-// PWM parameters 4 and 5 of a module or data file of the older three-parameter form, which
-// carries neither: 0 and 31.
-void setOlderPwmLimits(PinRecord& pin);
 
 // Event-On and Event-Off actions of one pin: entries for input slots 0..3 (a fifth is
 // never used); -1 = no action. All entries start at 0.

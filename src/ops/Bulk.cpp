@@ -72,8 +72,6 @@ bool ReadAll(Session& session)
     // A read that ran through without a word shows what the module holds.
     if (ok && s.lastJob().problems.empty())
         s.imageHolds(s.config, s.general);
-    if (s.onConfigurationChanged)
-        s.onConfigurationChanged();
     return ok;
 }
 
@@ -85,18 +83,12 @@ bool ReadAllInto(Session& session, Configuration& module, GeneralSettings& gmodu
         Configuration config = s.config;
         GeneralSettings general = s.general;
         EventControlPage eventControl = s.eventControl;
-        std::function<void()> changed = std::exchange(s.onConfigurationChanged, nullptr);
-        std::function<void()> dcc = std::exchange(s.onDccAddressChanged, nullptr);
-        std::function<void()> display = std::exchange(s.onPinAddressDisplayChanged, nullptr);
         ~Shown()
         {
             general.LabelGenVersionString = s.general.LabelGenVersionString;
             s.config = std::move(config);
             s.general = std::move(general);
             s.eventControl = std::move(eventControl);
-            s.onConfigurationChanged = std::move(changed);
-            s.onDccAddressChanged = std::move(dcc);
-            s.onPinAddressDisplayChanged = std::move(display);
         }
     } shown{s};
     const bool ok = ReadAll(s);

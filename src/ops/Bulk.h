@@ -12,8 +12,8 @@ namespace kestrel {
 
 // Version, ID string, DCC settings, serial addressing (flex-addressing warning
 // suppressed), LED control, hardware configuration, serial port, all pins, all events,
-// enable maps. Whatever happened, session.onConfigurationChanged is then called so that
-// every display shows the model again.
+// enable maps. Whatever happened, what was read stays (the front end shows it when the
+// job ends).
 bool ReadAll(Session& session);
 
 // Read All into module and gmodule, with what is shown (configuration, general settings,

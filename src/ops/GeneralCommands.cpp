@@ -109,7 +109,6 @@ bool ReadDCCSettings(Session& session)
         say(session, "Get DCC Address: No valid response");
     else {
         g.TextGenDCCAddress = std::to_string(data(session, 1) * 64 + data(session, 0));
-        session.dccAddressChanged();
     }
 
     if (!requestItem(session, kItemXDccAddress))
@@ -118,7 +117,6 @@ bool ReadDCCSettings(Session& session)
         say(session, "No valid response");
     else {
         g.TextGenXDCCAddress = std::to_string(data(session, 1) * 64 + data(session, 0));
-        session.dccAddressChanged();
     }
     return true;
 }
@@ -171,7 +169,6 @@ bool ReadSerialAddressing(Session& session)
         }
         g.TextGenLynxaddr = std::to_string(g.LynxFlexAddress * 4 + base);
         applyAddressingVisibility(g);
-        session.pinAddressDisplayChanged();
     }
 
     if (!requestItem(session, kItemExtendedAddress))

@@ -1,6 +1,7 @@
 #include "ops/LiveOutput.h"
 #include "base/Wire.h"
 
+#include "pins/PinMode.h"
 #include "session/Session.h"
 
 #include <cstdint>
@@ -18,11 +19,14 @@ bool sendLive(Session& session, int subCommand, int value)
 
 bool sendServoLevel(Session& session, int position, bool dynamic)
 {
-    session.config.pin(session.config.CurrentPin).OutputValue = static_cast<std::uint8_t>(position + 64);
-    return sendLive(session, dynamic ? kServoDynamic : kServoDirect, position + 64);
+    session.config.pin(session.config.CurrentPin).OutputValue = storedSigned(position);
+    return sendLive(session, dynamic ? kServoDynamic : kServoDirect, position + kSignedOffset);
 }
 
-bool sendServoJump(Session& session, int position) { return sendLive(session, kServoDirect, position + 64); }
+bool sendServoJump(Session& session, int position)
+{
+    return sendLive(session, kServoDirect, position + kSignedOffset);
+}
 
 bool sendPwmLevel(Session& session, int level, bool slow)
 {

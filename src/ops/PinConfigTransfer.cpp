@@ -31,7 +31,7 @@ bool SendPinConfig(Session& session, int target, int pin)
     if (!sendable(session, unsendablePinConfig(session.config, pin, target)))
         return false;
     PinRecord& rec = session.config.pin(pin);
-    if (rec.ConfigMode == kModeServo)
+    if (hasMode(rec, PinMode::Servo))
         rec.P(2) = servoModeToStore(rec.P(2));
     const std::vector<int> data = pinConfigBytes(rec, target);
     std::vector<int> message{kSendActiveConfig + 32 * target, pin};

@@ -9,9 +9,9 @@ void storePinConfigReply(PinRecord& rec, int source, const std::vector<int>& byt
     const int mode = bytes[0];
     if (rec.ConfigMode != mode) {
         rec.ConfigParams.fill(0);
-        if (mode == kModeServo) {
-            rec.OutputValue = 64;
-            rec.P(1) = 64;
+        if (mode == modeByte(PinMode::Servo)) {
+            rec.OutputValue = storedSigned(0);
+            rec.P(1) = storedSigned(0);
         }
     }
     // At most the mode and P1..P12 can arrive.
@@ -25,9 +25,9 @@ void storePinConfigReply(PinRecord& rec, int source, const std::vector<int>& byt
         else
             rec.P(i) = b;
     }
-    if ((rec.ConfigMode == kModePwm || rec.ConfigMode == kModePwm + 1) && lengthField < 8)
+    if (pageOfMode(rec.ConfigMode) == ModePage::Pwm && lengthField < 8)
         setOlderPwmLimits(rec);
-    if (rec.ConfigMode == kModeServo)
+    if (hasMode(rec, PinMode::Servo))
         rec.P(2) = currentServoMode(rec.P(2));
 }
 
@@ -37,29 +37,11 @@ std::vector<int> pinConfigBytes(const PinRecord& rec, int target)
     // level for the active set and a servo's mode byte goes without its status bits.
     const int count = configParameterCount(rec.ConfigMode);
     if (count == 0)
-        return {kModeNone};
+        return {modeByte(PinMode::None)};
     std::vector<int> out{rec.ConfigMode, target == 0 ? rec.OutputValue : rec.P(1)};
     for (int n = 2; n <= count; ++n)
-        out.push_back(n == 2 && rec.ConfigMode == kModeServo ? servoModeToStore(rec.P(2)) : rec.P(n));
+        out.push_back(n == 2 && hasMode(rec, PinMode::Servo) ? servoModeToStore(rec.P(2)) : rec.P(n));
     return out;
-}
-
-int pageOfMode(int mode)
-{
-    switch (mode) {
-    case kModeNone:
-        return 0;
-    case kModeServo:
-        return 1;
-    case kModePwm:
-    case kModePwm + 1:
-        return 2;
-    case kModeInput:
-    case kModeInput + 1:
-        return 3;
-    default:
-        return -1;
-    }
 }
 
 } // namespace kestrel

@@ -1,20 +1,11 @@
 #pragma once
 #include "base/Wire.h"
 #include "model/Configuration.h"
+#include "pins/PinMode.h"
 
 #include <vector>
 
 namespace kestrel {
-
-// Configuration modes (ConfigMode).
-constexpr int kModeNone = 0;
-constexpr int kModeServo = 1;
-constexpr int kModePwm = 2;   // 3 = inverted
-constexpr int kModeInput = 4; // 5 = inverted
-
-// The Pin Configuration page that shows a mode (0 none, 1 servo, 2 PWM, 3 input; the
-// inverted modes share their page); -1 for an unknown mode.
-int pageOfMode(int mode);
 
 // Stores the n configuration bytes of a "Q"/"q" reply (mode first) into a pin record as
 // ReadPinConfig does: a change of mode clears P1..P12 (a new servo gets both positions at

@@ -95,27 +95,9 @@ public:
     // A job's progress: noted for the summary and passed to the front end's Progress.
     void reportStep(int done, int total, const std::string& what);
 
-    // Observers for the window. Each is optional.
-    // Read All has finished: refresh every display that shows the configuration
-    // (general settings labels, address displays, aspect view, current pin).
-    std::function<void()> onConfigurationChanged;
-    // TextGenDCCAddress or TextGenXDCCAddress was set by a reader (their click
-    // handlers refresh the address labels).
-    std::function<void()> onDccAddressChanged;
-    // The serial addressing mode changed: refresh the address display of the pin list.
-    std::function<void()> onPinAddressDisplayChanged;
-    // Tell the observers above, when there are any.
-    void dccAddressChanged()
-    {
-        if (onDccAddressChanged)
-            onDccAddressChanged();
-    }
-    void pinAddressDisplayChanged()
-    {
-        if (onPinAddressDisplayChanged)
-            onPinAddressDisplayChanged();
-    }
-    // Verify All has written its report: show the verification window.
+    // Verify All has written its report: the window shows its verification window
+    // (optional). What a job or a load changes the session does not announce: the window
+    // shows it on every page when the job or the load has ended.
     std::function<void()> onShowVerification;
 
     // The image of each module (by port and addresses) as last read, written or verified,

@@ -49,9 +49,6 @@ QString pinLegend(int base)
     return legends[base == 1 ? 1 : 0];
 }
 
-constexpr int kFlexAddressMaximum = 127; // the mode byte is one data byte
-constexpr int kExtendedAddressMaximum = 95;
-constexpr long kDccAddressMaximum = 127 * 64 + 63; // high part one data byte, low part 6 bits
 constexpr std::size_t kIDStringMaximum = 12;
 
 QPushButton* button(const char* caption, const char* name) { return named(new QPushButton(caption), name); }
@@ -393,22 +390,17 @@ void GeneralPage::bind()
         guard(("typing in " + controlName(TextGenIDString)).toStdString(), [this] { cutIDString(); });
     });
 
-    const auto dccEntry = [this, &b](QLineEdit* box, std::string& field) {
+    const auto dccEntry = [&b](QLineEdit* box, std::string& field) {
         numericInput(box, 5);
         b.entry(
             box, [&field] { return field; },
-            [this, &field](const std::string& typed) {
-                // The module takes 13 bits (low 6, high 7): clamped and written back.
-                field = std::to_string(std::clamp<long>(valInt(typed), 0, kDccAddressMaximum));
-                if (session.onDccAddressChanged)
-                    session.onDccAddressChanged();
-            });
+            [&field](const std::string& typed) { field = clampedDccAddress(typed); });
     };
     dccEntry(TextGenDCCAddress, g.TextGenDCCAddress);
     dccEntry(TextGenXDCCAddress, g.TextGenXDCCAddress);
     b.option(prpGroup, g.OptGenDCC_PRP);
     b.check(ChkGenDCC_BPSI, g.ChkGenDCC_BPSI);
-    b.check(ChkGenDCCAllow0, g.ChkGenDCCAllow0, [this] { kestrel::ChkGenDCCAllow0_Click(session); });
+    b.check(ChkGenDCCAllow0, g.ChkGenDCCAllow0);
 
     b.check(CheckGenKestrelNative, g.CheckGenKestrelNative,
             [this] { kestrel::CheckGenKestrelNative_Click(session); });
@@ -422,14 +414,7 @@ void GeneralPage::bind()
             g.TextGenLynxaddr = std::to_string(g.LynxFlexAddress * 4 + base());
             return g.TextGenLynxaddr;
         },
-        [this, &g, base](const std::string& typed) {
-            const long shown = valInt(typed) - base();
-            g.LynxFlexAddress =
-                static_cast<int>(std::clamp<long>(shown < 0 ? 0 : shown / 4, 0, kFlexAddressMaximum));
-            g.TextGenLynxaddr = std::to_string(g.LynxFlexAddress * 4 + base());
-            if (session.onPinAddressDisplayChanged)
-                session.onPinAddressDisplayChanged();
-        });
+        [&g, base](const std::string& typed) { takeFlexAddress(g, typed, base()); });
     b.display([this, base] { UpDownGenLynxaddr->setRange(base(), base() + 4 * kFlexAddressMaximum); });
     b.spinner(UpDownGenLynxaddr, TextGenLynxaddr, [&g, base] { return g.LynxFlexAddress * 4 + base(); });
     numericInput(TextGenXaddr, 4);
@@ -439,11 +424,7 @@ void GeneralPage::bind()
             g.TextGenXaddr = std::to_string(g.ExtendedAddress + base());
             return g.TextGenXaddr;
         },
-        [&g, base](const std::string& typed) {
-            g.ExtendedAddress =
-                static_cast<int>(std::clamp<long>(valInt(typed) - base(), 0, kExtendedAddressMaximum));
-            g.TextGenXaddr = std::to_string(g.ExtendedAddress + base());
-        });
+        [&g, base](const std::string& typed) { takeExtendedAddress(g, typed, base()); });
     for (int i = 0; i < 16; ++i)
         b.check(CheckGenXGM[i], g.CheckGenXGM[i]);
     b.display([this, &g] {

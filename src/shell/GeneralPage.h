@@ -25,9 +25,7 @@ namespace kestrel {
 // name as its objectName (control arrays: Name_index).
 //
 // The page does not hook the session's observers: the window calls refresh() when
-// something else changed session.general (Read All, Load File, the numbering base).
-// When the user edits a DCC address box or the addressing mode, the page calls
-// session.onDccAddressChanged / onPinAddressDisplayChanged itself, as the readers do.
+// something else changed session.general (a job, Load File, the numbering base).
 class GeneralPage : public QWidget {
     Q_OBJECT
 public:

@@ -145,7 +145,9 @@ void JobRunner::run(const QString& title, const std::function<bool()>& operation
     window.status->setText(latin1(jobOutcomeText(end)));
     if (verifies && !ok && !pinConfigWritten && onlyPinConfigurationsDiffer(jobReport))
         s.report.line(kWritePinConfigurationsHint);
-    window.show();
+    // The one refresh of the pages after a job; after a fault the guard has done it.
+    if (noFault)
+        window.show();
 }
 
 } // namespace kestrel

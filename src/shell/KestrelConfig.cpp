@@ -250,10 +250,6 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
         frmKestrelVerification->show();
         frmKestrelVerification->raise();
     };
-    core->onConfigurationChanged = [this] {
-        LabelGenVersionString->setText(latin1(core->link.VersionText));
-        refreshAll();
-    };
 
     runner =
         new JobRunner(*core, *guard, jobs,

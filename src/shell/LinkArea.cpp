@@ -206,7 +206,7 @@ void LinkArea::CheckXaddress_Click()
     refresh();
 }
 
-void LinkArea::CheckKestrelBD_Click() { session.link.settings.CheckKestrelBD = CheckKestrelBD->isChecked(); }
+void LinkArea::CheckKestrelBD_Click() { session.link.setBidirectional(CheckKestrelBD->isChecked()); }
 
 void LinkArea::CheckCorvid_Click()
 {

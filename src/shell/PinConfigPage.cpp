@@ -2,9 +2,9 @@
 
 #include "base/Text.h"
 #include "forms/AspectEditor.h"
-#include "forms/PinConfigView.h"
 #include "ops/LiveOutput.h"
 #include "ops/PinConfigTransfer.h"
+#include "pins/PinConfigView.h"
 #include "shell/Widgets.h"
 
 #include <QButtonGroup>
@@ -24,22 +24,10 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 namespace kestrel {
 
 namespace {
 const char* const kDynamicTip = "If checked, use active dynamic parameters, else go directly to position";
-
-// The page that a box belongs to.
-int pageOfField(PinField field)
-{
-    if (field <= PinField::TextBounceUpFactor)
-        return 1;
-    if (field <= PinField::TextPWMOnLevel)
-        return 2;
-    return 3;
-}
 
 // A caption and its box in the next row of a two-column grid.
 void addField(QGridLayout* grid, int row, int column, const char* caption, QLineEdit* box)
@@ -75,6 +63,13 @@ QGroupBox* liveFrame(const char* title, const QString& frameName, const char* ca
     grid->setColumnStretch(2, 1);
     return frame;
 }
+
+// A slider moves over the range of its box.
+void sliderFor(QSlider* slider, PinField field)
+{
+    const PinFieldRule rule = pinFieldRule(field);
+    slider->setRange(rule.min, rule.max);
+}
 } // namespace
 
 PinConfigPage::PinConfigPage(Session& s, Guard* sharedGuard, QWidget* parent)
@@ -102,6 +97,7 @@ PinConfigPage::PinConfigPage(Session& s, Guard* sharedGuard, QWidget* parent)
     LabelPCFGClear = named(new QLabel("Pin is not configured"), "LabelPCFGClear");
     clearLayout->addWidget(LabelPCFGClear);
     clearLayout->addStretch();
+    // The pages in the order of ModePage.
     SSTabPCFG->addTab(clearPage, "Not configured");
     SSTabPCFG->addTab(buildServoPage(), "Servo");
     SSTabPCFG->addTab(buildPwmPage(), "PWM");
@@ -173,7 +169,7 @@ QWidget* PinConfigPage::buildServoPage()
     TextPosition->setFixedWidth(48);
     TextPosition->setAlignment(Qt::AlignRight);
     SliderServo = named(new QSlider(Qt::Horizontal), "SliderServo");
-    SliderServo->setRange(-64, 63);
+    sliderFor(SliderServo, PinField::TextPosition);
     SliderServo->setTracking(false); // sends when let go, not for every step of a drag
     CommandSrvLevel = named(new QPushButton("Set Position"), "CommandSrvLevel");
     CheckSrvDynamic = named(new QCheckBox("Dynamic"), "CheckSrvDynamic");
@@ -266,17 +262,15 @@ QWidget* PinConfigPage::buildPwmPage()
 
     CheckPWMInverted = named(new QCheckBox("Inverted"), "CheckPWMInverted");
     connect(CheckPWMInverted, &QCheckBox::clicked, this, [this](bool checked) {
-        guard((checked ? "checking " : "unchecking ") + controlName(CheckPWMInverted).toStdString(), [&] {
-            if (pageOfMode(pin().ConfigMode) == 2)
-                pin().ConfigMode = static_cast<std::uint8_t>(pwmConfigMode(checked));
-        });
+        guard((checked ? "checking " : "unchecking ") + controlName(CheckPWMInverted).toStdString(),
+              [&] { setInverted(pin(), ModePage::Pwm, checked); });
     });
 
     TextPWMLevel = named(new QLineEdit("0"), "TextPWMLevel");
     TextPWMLevel->setFixedWidth(48);
     TextPWMLevel->setAlignment(Qt::AlignRight);
     SliderPWM = named(new QSlider(Qt::Horizontal), "SliderPWM");
-    SliderPWM->setRange(0, 31);
+    sliderFor(SliderPWM, PinField::TextPWMLevel);
     SliderPWM->setTracking(false);
     CommandPWMLevel = named(new QPushButton("Set Level"), "CommandPWMLevel");
     CheckPWMSlow = named(new QCheckBox("Slow"), "CheckPWMSlow");
@@ -353,10 +347,8 @@ QWidget* PinConfigPage::buildInputPage()
     auto* layout = new QVBoxLayout(page);
     CheckInputInvert = named(new QCheckBox("Inverted"), "CheckInputInvert");
     connect(CheckInputInvert, &QCheckBox::clicked, this, [this](bool checked) {
-        guard((checked ? "checking " : "unchecking ") + controlName(CheckInputInvert).toStdString(), [&] {
-            if (pageOfMode(pin().ConfigMode) == 3)
-                pin().ConfigMode = static_cast<std::uint8_t>(inputConfigMode(checked));
-        });
+        guard((checked ? "checking " : "unchecking ") + controlName(CheckInputInvert).toStdString(),
+              [&] { setInverted(pin(), ModePage::Input, checked); });
     });
     layout->addWidget(CheckInputInvert);
 
@@ -390,10 +382,10 @@ void PinConfigPage::refresh()
 
     const PinConfigView v = ShowPinConfig(session.config, session.general);
     auto setNumber = [](QLineEdit* box, int value) { box->setText(QString::number(value)); };
-    if (v.SSTabPCFG) {
-        SSTabPCFG->setCurrentIndex(*v.SSTabPCFG);
-        switch (*v.SSTabPCFG) {
-        case 1:
+    if (v.SSTabPCFG != ModePage::Unknown) {
+        SSTabPCFG->setCurrentIndex(static_cast<int>(v.SSTabPCFG));
+        switch (v.SSTabPCFG) {
+        case ModePage::Servo:
             setNumber(TextPosition, v.TextPosition);
             SliderServo->setValue(v.TextPosition);
             setNumber(TextSrvInitPos, v.TextSrvInitPos);
@@ -411,7 +403,7 @@ void PinConfigPage::refresh()
             setNumber(TextBounceUp, v.TextBounceUp);
             setNumber(TextBounceUpFactor, v.TextBounceUpFactor);
             break;
-        case 2:
+        case ModePage::Pwm:
             CheckPWMInverted->setChecked(v.CheckPWMInverted);
             setNumber(TextPWMLevel, v.TextPWMLevel);
             SliderPWM->setValue(v.TextPWMLevel);
@@ -422,7 +414,7 @@ void PinConfigPage::refresh()
             setNumber(TextPWMOffLevel, v.TextPWMOffLevel);
             setNumber(TextPWMOnLevel, v.TextPWMOnLevel);
             break;
-        case 3:
+        case ModePage::Input:
             CheckInputInvert->setChecked(v.CheckInputInvert);
             setNumber(TextInputDelay[0], v.TextInputDelay[0]);
             setNumber(TextInputDelay[1], v.TextInputDelay[1]);
@@ -476,51 +468,38 @@ void PinConfigPage::commitField(PinField field)
     const std::string typed = box->text().toLatin1().toStdString();
     box->setModified(false);
     const QSignalBlocker block(box);
-    guard(("typing in " + controlName(box)).toStdString(), [&] {
-        if (pageOfMode(pin().ConfigMode) != pageOfField(field)) {
-            // The pin is not in this page's mode (an unknown mode leaves the page as it was):
-            // the box is clamped, the record keeps its bytes.
-            PinRecord scratch;
-            box->setText(latin1(commitPinField(scratch, field, typed).text));
-        } else {
-            box->setText(latin1(commitPinField(pin(), field, typed).text));
-        }
-    });
+    guard(("typing in " + controlName(box)).toStdString(),
+          [&] { box->setText(latin1(takePinField(pin(), field, typed))); });
     shown[box] = box->text();
 }
 
 int PinConfigPage::liveValue(PinField field)
 {
     QLineEdit* box = field == PinField::TextPosition ? TextPosition : TextPWMLevel;
-    const PinFieldRule rule = pinFieldRule(field);
-    const long typed = valInt(box->text().toLatin1().toStdString());
-    const long value = std::clamp<long>(typed, rule.min, rule.max);
-    if (value != typed)
-        box->setText(QString::number(value));
-    return static_cast<int>(value);
+    const std::string typed = box->text().toLatin1().toStdString();
+    const ClampedField clamped = clampPinField(field, typed);
+    if (clamped.text != typed)
+        box->setText(latin1(clamped.text));
+    return clamped.value;
 }
 
 void PinConfigPage::servoFlagsChanged(const QString& name)
 {
-    guard(name.toStdString(), [this] {
-        if (pin().ConfigMode != kModeServo)
-            return;
-        int range = 0;
-        for (int i = 0; i < 5; ++i)
-            if (OptionServoRange[i]->isChecked())
-                range = i;
-        pin().P(2) = servoModeByte(range, ChkSrvAutoSuspend->isChecked(), ChkSrvSuspended->isChecked(),
-                                   ChkSrvInitialized->isChecked());
+    int range = 0;
+    for (int i = 0; i < 5; ++i)
+        if (OptionServoRange[i]->isChecked())
+            range = i;
+    guard(name.toStdString(), [&] {
+        setServoFlags(pin(), range, ChkSrvAutoSuspend->isChecked(), ChkSrvSuspended->isChecked(),
+                      ChkSrvInitialized->isChecked());
     });
 }
 
 void PinConfigPage::pwmModesChanged(const QString& name)
 {
     guard(name.toStdString(), [this] {
-        if (pageOfMode(pin().ConfigMode) != 2)
-            return;
-        pin().P(2) = pwmModeByte(OptionPWMDriveMode[1]->isChecked() ? 1 : 0,
-                                 OptionPWMAccelMode[1]->isChecked() ? 1 : 0);
+        setPwmModes(pin(), OptionPWMDriveMode[1]->isChecked() ? 1 : 0,
+                    OptionPWMAccelMode[1]->isChecked() ? 1 : 0);
     });
 }
 
@@ -535,13 +514,12 @@ void PinConfigPage::TextPCFGPin_Click()
 
 void PinConfigPage::SSTabPCFG_Click(int page)
 {
-    const int shownPage = pageOfMode(pin().ConfigMode);
+    const auto shownPage = static_cast<int>(pageOfMode(pin().ConfigMode));
     if (page < 0 || page == shownPage)
         return;
-    // The page chosen by hand gives the pin its mode; the parameters start afresh, as
-    // when the module reports a new mode without parameters. A configured pin loses its
-    // parameters so, which is asked first; Cancel goes back to the pin's own page.
-    if (shownPage > 0) {
+    // The page chosen by hand gives the pin its mode (choosePage); Cancel of the question
+    // goes back to the pin's own page.
+    if (choosingClearsParameters(pin())) {
         const std::string question =
             "Pin " + std::to_string(session.config.CurrentPin + session.config.NumberingBase) + " becomes " +
             SSTabPCFG->tabText(page).toStdString() + ": its " + SSTabPCFG->tabText(shownPage).toStdString() +
@@ -552,9 +530,8 @@ void PinConfigPage::SSTabPCFG_Click(int page)
             return;
         }
     }
-    static const int modeOfPage[4] = {kModeNone, kModeServo, kModePwm, kModeInput};
     guard("choosing " + SSTabPCFG->tabText(page).remove(QChar('&')).toStdString(),
-          [&] { storePinConfigReply(pin(), 1, {modeOfPage[page]}, 3); });
+          [&] { choosePage(pin(), static_cast<ModePage>(page)); });
     refresh();
 }
 
@@ -568,18 +545,16 @@ void PinConfigPage::CommandPCFGGetParam_Click(int index)
 
 void PinConfigPage::CommandPCFGSetParam_Click(int index)
 {
-    const int page = SSTabPCFG->currentIndex();
+    const auto page = static_cast<ModePage>(SSTabPCFG->currentIndex());
     std::map<PinField, std::string> boxes;
     for (PinField field : pinEditOrder(page))
         boxes[field] = fields.at(field)->text().toLatin1().toStdString();
     guard([&] {
-        if (pageOfMode(pin().ConfigMode) == page) {
-            CommitPinEdits(pin(), page, boxes);
+        if (CommitPinEdits(pin(), page, boxes))
             for (const auto& [field, text] : boxes) {
                 fields.at(field)->setText(latin1(text));
                 shown[fields.at(field)] = latin1(text);
             }
-        }
         SendPinConfig(session, index, session.config.CurrentPin);
     });
     refresh(); // a servo's P2 has lost its status bits

@@ -1,5 +1,5 @@
 #pragma once
-#include "forms/PinEdits.h"
+#include "pins/PinEdits.h"
 #include "session/Session.h"
 #include "shell/Bindings.h"
 #include "shell/Guard.h"

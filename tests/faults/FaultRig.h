@@ -27,14 +27,12 @@ struct FaultRig {
     const Configuration source = fullConfiguration();
     const GeneralSettings sourceGeneral = fullGeneralSettings();
     sim::ModuleMemory seeded;
-    int configurationShown = 0; // calls of onConfigurationChanged
 
     // Seeds the module, then switches to the tunnel when asked. Check `ready` after.
     explicit FaultRig(bool tunnel)
     {
         wire.port = &port;
         port.setWaitHook([this](int ms) { clock.advance(ms / 1000.0); });
-        session.onConfigurationChanged = [this] { ++configurationShown; };
         if (!session.linkControl.ComboPort_Click("sim"))
             return;
         session.config = source;

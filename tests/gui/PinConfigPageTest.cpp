@@ -21,7 +21,7 @@ TEST(PinConfigPage, TheServoIsReadClampedWrittenToFlashReadBackAndMovedLive)
     EXPECT_EQ(std::tuple(rig.session->config.CurrentPin, pg.SSTabPCFG->currentIndex()), std::tuple(8, 0));
     QTest::mouseClick(rig.page->CommandPCFGGetParam[1], Qt::LeftButton);
     EXPECT_TRUE(rig.dialogs.messages.empty()) << rig.dialogs.messages[0].text;
-    EXPECT_EQ(rig.pin(8).ConfigMode, kModeServo);
+    EXPECT_TRUE(hasMode(rig.pin(8), PinMode::Servo));
     // The demonstration servo; its group 1 has no driver set: no warning.
     EXPECT_EQ(std::tuple(pg.SSTabPCFG->currentIndex(), pg.TextSrvInitPos->isVisible(),
                          pg.TextSrvInitPos->text(), pg.OptionServoRange[1]->isChecked(),
@@ -99,7 +99,7 @@ TEST(PinConfigPage, PwmAndInputPagesWithTheHardwareWarning)
               "ones.\r\nChange the pin's mode?");
     QTest::mouseClick(modes, Qt::LeftButton, {}, modes->tabRect(1).center());
     EXPECT_EQ(std::tuple(int(rig.pin(12).ConfigMode), rig.page->SSTabPCFG->currentIndex()),
-              std::tuple(kModeServo, 1));
+              std::tuple(int(PinMode::Servo), 1));
 
     // Pin 5 is not configured; choosing the input page makes it an input.
     rig.session->general.ChkGenHWCSource[0] = 1;
@@ -110,13 +110,13 @@ TEST(PinConfigPage, PwmAndInputPagesWithTheHardwareWarning)
     enter(rig.page->TextInputDelay[1], "40");
     EXPECT_EQ(std::tuple(int(rig.pin(5).ConfigMode), pg.LabelInpHWCWarn->isHidden(),
                          pg.LabelInpHWCWarn->text(), pg.TextInputDelay[1]->text(), rig.pin(5).P(4)),
-              std::tuple(kModeInput, false, "Warning: Hardware Configuration Mismatch", "31", 31));
+              std::tuple(int(PinMode::Input), false, "Warning: Hardware Configuration Mismatch", "31", 31));
 }
 
 TEST(PinConfigPage, AnUnknownModeIsReportedAndLeavesThePage)
 {
     PinConfigRig rig;
-    rig.pin(20).ConfigMode = kModeServo;
+    rig.pin(20).ConfigMode = modeByte(PinMode::Servo);
     rig.session->config.CurrentPin = 20;
     rig.page->refresh();
     ASSERT_EQ(rig.page->SSTabPCFG->currentIndex(), 1);

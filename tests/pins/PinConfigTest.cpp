@@ -1,8 +1,8 @@
 #include "pins/PinConfig.h"
-#include "forms/PinConfigView.h"
-#include "forms/PinEdits.h"
 #include "ops/LiveOutput.h"
 #include "ops/PinConfigTransfer.h"
+#include "pins/PinConfigView.h"
+#include "pins/PinEdits.h"
 #include "support/ScriptedModule.h"
 
 #include <gtest/gtest.h>
@@ -122,7 +122,9 @@ TEST(PinEdits, BoxesClampToTheirRangesAndStoreTheirEncoding)
 
     PinRecord pin;
     std::map<PinField, std::string> boxes{{PinField::TextPWMAccel, "300"}, {PinField::TextPWMOnLevel, "99"}};
-    CommitPinEdits(pin, 2, boxes); // the PWM page commits only its acceleration box
+    EXPECT_FALSE(CommitPinEdits(pin, ModePage::Pwm, boxes)); // not a PWM pin: nothing taken
+    pin.ConfigMode = modeByte(PinMode::PwmInverted);
+    CommitPinEdits(pin, ModePage::Pwm, boxes); // the PWM page commits only its acceleration box
     EXPECT_EQ(std::tuple(boxes[PinField::TextPWMAccel], boxes[PinField::TextPWMOnLevel], pin.P(3), pin.P(5)),
               std::tuple("127", "99", 127, 0));
 }
@@ -141,7 +143,7 @@ TEST(ShowPinConfig, PagesControlsAndHardwareWarning)
     EXPECT_EQ(std::tuple(v.SSTabPCFG, v.TextPosition, v.OptionServoRange, v.ChkSrvAutoSuspend,
                          v.ChkSrvSuspended, v.ChkSrvInitialized, v.TextMidpoint, v.TextBounceUp,
                          v.LabelSrvHWCWarn),
-              std::tuple(1, -4, 0, true, false, true, 6, -14, false));
+              std::tuple(ModePage::Servo, -4, 0, true, false, true, 6, -14, false));
     general.ChkGenHWCSource[1] = 1; // pins 8..15
     EXPECT_TRUE(ShowPinConfig(config, general).LabelSrvHWCWarn);
 
@@ -149,14 +151,14 @@ TEST(ShowPinConfig, PagesControlsAndHardwareWarning)
     pin.P(2) = 2;
     v = ShowPinConfig(config, general);
     EXPECT_EQ(std::tuple(v.SSTabPCFG, v.CheckPWMInverted, v.OptionPWMDriveMode, v.OptionPWMAccelMode),
-              std::tuple(2, true, 0, 1));
+              std::tuple(ModePage::Pwm, true, 0, 1));
 
     pin.ConfigMode = 4;
     v = ShowPinConfig(config, general);
     EXPECT_EQ(std::tuple(v.SSTabPCFG, v.CheckInputInvert, v.TextInputDelay),
-              std::tuple(3, false, std::array<int, 2>{70, 0}));
+              std::tuple(ModePage::Input, false, std::array<int, 2>{70, 0}));
 
     pin.ConfigMode = 9;
     v = ShowPinConfig(config, general);
-    EXPECT_EQ(std::tuple(v.SSTabPCFG.has_value(), v.message), std::tuple(false, "Unknown configuration: 9"));
+    EXPECT_EQ(std::tuple(v.SSTabPCFG, v.message), std::tuple(ModePage::Unknown, "Unknown configuration: 9"));
 }

@@ -1,9 +1,9 @@
 #pragma once
 #include "model/Configuration.h"
+#include "pins/PinMode.h"
 #include "session/GeneralSettings.h"
 
 #include <array>
-#include <optional>
 #include <string>
 
 namespace kestrel {
@@ -12,9 +12,9 @@ namespace kestrel {
 // controls of the selected page are filled; the others keep their defaults and the page
 // leaves those controls as they are. Signed values are shown (stored byte - 64).
 struct PinConfigView {
-    // Page of SSTabPCFG: 0 not configured, 1 servo, 2 PWM, 3 input; no value for an
-    // unknown mode, whose page stays as it was and `message` is shown instead.
-    std::optional<int> SSTabPCFG;
+    // Page of SSTabPCFG; Unknown for an unknown mode, whose page stays as it was and
+    // `message` is shown instead.
+    ModePage SSTabPCFG = ModePage::Unknown;
     std::string message; // "Unknown configuration: " and the mode, or empty
 
     // servo page

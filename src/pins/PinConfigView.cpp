@@ -1,6 +1,4 @@
-#include "forms/PinConfigView.h"
-
-#include "pins/PinConfig.h"
+#include "pins/PinConfigView.h"
 
 namespace kestrel {
 
@@ -19,14 +17,13 @@ PinConfigView ShowPinConfig(const Configuration& config, const GeneralSettings& 
     const bool warn = hardwareMismatch(general, config.CurrentPin);
     view.LabelSrvHWCWarn = warn;
     view.LabelInpHWCWarn = warn;
-    auto signedValue = [](int stored) { return stored - 64; };
+    auto signedValue = [](int stored) { return shownSigned(stored); };
 
-    switch (rec.ConfigMode) {
-    case kModeNone:
-        view.SSTabPCFG = 0;
+    view.SSTabPCFG = pageOfMode(rec.ConfigMode);
+    switch (view.SSTabPCFG) {
+    case ModePage::None:
         break;
-    case kModeServo: {
-        view.SSTabPCFG = 1;
+    case ModePage::Servo: {
         const int p2 = rec.P(2);
         view.TextPosition = signedValue(rec.OutputValue);
         view.TextSrvInitPos = signedValue(rec.P(1));
@@ -45,10 +42,8 @@ PinConfigView ShowPinConfig(const Configuration& config, const GeneralSettings& 
         view.TextBounceUpFactor = rec.P(11);
         break;
     }
-    case kModePwm:
-    case kModePwm + 1:
-        view.SSTabPCFG = 2;
-        view.CheckPWMInverted = rec.ConfigMode == kModePwm + 1;
+    case ModePage::Pwm:
+        view.CheckPWMInverted = hasMode(rec, PinMode::PwmInverted);
         view.TextPWMLevel = rec.OutputValue;
         view.TextPWMInitLevel = rec.P(1);
         view.OptionPWMDriveMode = rec.P(2) & 1;
@@ -57,14 +52,12 @@ PinConfigView ShowPinConfig(const Configuration& config, const GeneralSettings& 
         view.TextPWMOffLevel = rec.P(4);
         view.TextPWMOnLevel = rec.P(5);
         break;
-    case kModeInput:
-    case kModeInput + 1:
-        view.SSTabPCFG = 3;
-        view.CheckInputInvert = rec.ConfigMode == kModeInput + 1;
+    case ModePage::Input:
+        view.CheckInputInvert = hasMode(rec, PinMode::InputInverted);
         view.TextInputDelay = {rec.P(3), rec.P(4)};
         break;
-    default:
-        view.message = "Unknown configuration: " + std::to_string(rec.ConfigMode);
+    case ModePage::Unknown:
+        view.message = modeName(rec.ConfigMode); // "Unknown configuration: " and the number
         break;
     }
     return view;
