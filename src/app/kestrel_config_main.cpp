@@ -1,9 +1,9 @@
-#include "shell/AspectsPage.h"
-#include "shell/CompareDialog.h"
-#include "shell/EditTools.h"
-#include "shell/HelpToolDialogs.h"
-#include "shell/KestrelConfig.h"
-#include "shell/TrafficMonitor.h"
+#include "window/AspectsPage.h"
+#include "window/CompareDialog.h"
+#include "window/EditTools.h"
+#include "window/HelpToolDialogs.h"
+#include "window/KestrelConfig.h"
+#include "window/TrafficMonitor.h"
 
 #include <QAction>
 #include <QMenu>
