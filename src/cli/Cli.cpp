@@ -13,6 +13,7 @@
 #include "ops/GeneralCommands.h"
 #include "platform/BackupFolder.h"
 #include "platform/BuiltInSim.h"
+#include "platform/CommandLine.h"
 #include "platform/PortRouter.h"
 #include "platform/ProgramSession.h"
 #include "session/Session.h"
@@ -276,62 +277,50 @@ bool checkAddress(const char* option, const std::string& text, int highest, int 
 
 bool parse(const std::vector<std::string>& args, CliOptions& o, std::string& error)
 {
-    for (std::size_t i = 0; i < args.size(); ++i) {
-        const std::string& a = args[i];
-        auto value = [&](std::string& out) {
-            if (i + 1 >= args.size()) {
-                error = a + " needs a value";
-                return false;
-            }
-            out = args[++i];
-            return true;
-        };
-        std::string v;
+    static const std::vector<CommandLineOption> known = {
+        {{"port"}, true}, {{"baud"}, true}, {{"address"}, true},      {{"xaddress"}, true},
+        {{"corvid"}},     {{"one-way"}},    {{"number-from-1"}},      {{"yes"}},
+        {{"compact"}},    {{"backup"}},     {{"changes-from"}, true}, {{"with-pin-config"}},
+        {{"h", "help"}},
+    };
+    const CommandLine line = readCommandLine(args, known);
+    // In the order given: the first fault ends the reading.
+    for (const auto& [a, v] : line.options) {
         if (a == "--port") {
-            if (!value(o.port))
-                return false;
+            o.port = v;
         } else if (a == "--baud") {
-            if (!value(v))
-                return false;
             o.baud = static_cast<int>(valInt(v));
             if (o.baud != 9600 && o.baud != 19200 && o.baud != 38400) {
                 error = "--baud must be 9600, 19200 or 38400";
                 return false;
             }
         } else if (a == "--address") {
-            if (!value(o.address.emplace()))
-                return false;
+            o.address = v;
         } else if (a == "--xaddress") {
-            if (!value(o.xaddress.emplace()))
-                return false;
-        } else if (a == "--corvid") {
-            o.corvid = true;
-        } else if (a == "--one-way") {
-            o.oneWay = true;
-        } else if (a == "--number-from-1") {
-            o.numberFrom1 = true;
-        } else if (a == "--yes") {
-            o.yes = true;
-        } else if (a == "--compact") {
-            o.compact = true;
+            o.xaddress = v;
         } else if (a == "--changes-from") {
-            if (!value(o.changesFrom.emplace()))
-                return false;
-        } else if (a == "--backup") {
-            o.backup = true;
-        } else if (a == "--with-pin-config") {
-            o.withPinConfig = true;
+            o.changesFrom = v;
         } else if (a == "-h" || a == "--help") {
             error = "";
             return false;
-        } else if (!a.empty() && a[0] == '-' && a.size() > 1) {
-            error = "unknown option " + a;
-            return false;
-        } else if (o.command.empty()) {
-            o.command = a;
         } else {
-            o.operands.push_back(a);
+            bool CliOptions::*flag = a == "--corvid"          ? &CliOptions::corvid
+                                     : a == "--one-way"       ? &CliOptions::oneWay
+                                     : a == "--number-from-1" ? &CliOptions::numberFrom1
+                                     : a == "--yes"           ? &CliOptions::yes
+                                     : a == "--compact"       ? &CliOptions::compact
+                                     : a == "--backup"        ? &CliOptions::backup
+                                                              : &CliOptions::withPinConfig;
+            o.*flag = true;
         }
+    }
+    if (!line.error.empty()) {
+        error = line.error;
+        return false;
+    }
+    if (!line.operands.empty()) {
+        o.command = line.operands.front();
+        o.operands.assign(line.operands.begin() + 1, line.operands.end());
     }
     if (o.command.empty()) {
         error = "no command given";

@@ -1,7 +1,13 @@
 #include "window/EditHistory.h"
+#include "window/Bindings.h"
 
 #include <QAction>
+#include <QGroupBox>
+#include <QKeyEvent>
 #include <QKeySequence>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTimer>
 #include <QUndoStack>
 
 namespace kestrel {
@@ -124,6 +130,50 @@ void EditHistory::restore(const std::shared_ptr<const EditState>& state)
     restoring = false;
     latest = state;
     ++editRun;
+}
+
+void EditHistory::takeUndoKeysOfBoxes(QWidget* window)
+{
+    for (QLineEdit* box : window->findChildren<QLineEdit*>())
+        box->installEventFilter(this);
+}
+
+bool EditHistory::eventFilter(QObject* watched, QEvent* event)
+{
+    if ((event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress) &&
+        qobject_cast<QLineEdit*>(watched)) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        const QKeyCombination keys = key->keyCombination();
+        const bool back = key->matches(QKeySequence::Undo);
+        const bool forth = key->matches(QKeySequence::Redo) ||
+                           keys == QKeyCombination(Qt::CTRL | Qt::SHIFT, Qt::Key_Z) ||
+                           keys == QKeyCombination(Qt::CTRL, Qt::Key_Y);
+        if (back || forth) {
+            if (event->type() == QEvent::ShortcutOverride)
+                event->accept(); // the key comes to the box, and so here
+            else if (back)
+                undo();
+            else
+                redo();
+            return true;
+        }
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void EditHistory::nameStepsAfterButtons(QWidget* window, Guard& guard)
+{
+    for (QPushButton* b : window->findChildren<QPushButton*>()) {
+        QString name = spoken(b->text());
+        for (QWidget* p = b->parentWidget(); p && !name.contains(' '); p = p->parentWidget())
+            if (auto* frame = qobject_cast<QGroupBox*>(p)) {
+                name += " (" + spoken(frame->title()) + ")";
+                break;
+            }
+        connect(b, &QAbstractButton::pressed, this, [&guard, name] { guard.nextName = name.toStdString(); });
+        connect(b, &QAbstractButton::released, this,
+                [this, &guard] { QTimer::singleShot(0, this, [&guard] { guard.nextName.clear(); }); });
+    }
 }
 
 } // namespace kestrel

@@ -9,6 +9,7 @@
 
 class QAction;
 class QUndoStack;
+class QWidget;
 
 namespace kestrel {
 
@@ -34,6 +35,17 @@ public:
     void redo();
     // The focus moved: typing after it is a new step.
     void newRun() { ++editRun; }
+
+    // Ctrl+Z and Ctrl+Shift+Z (Ctrl+Y) in every entry box of `window` are these undo and
+    // redo, not the box's own (which would only take back its typing).
+    void takeUndoKeysOfBoxes(QWidget* window);
+    // Every push button of `window` names the change its handler makes ("Read Pin", "Copy
+    // to All"; a lone word with its frame: "Read (DCC)"); a press that ends without a click
+    // names nothing.
+    void nameStepsAfterButtons(QWidget* window, Guard& guard);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void restore(const std::shared_ptr<const EditState>& state);

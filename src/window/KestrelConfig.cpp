@@ -1,79 +1,45 @@
 #include "window/KestrelConfig.h"
-#include "forms/DevicesForm.h"
-#include "forms/MainWindowForm.h"
 
-#include "files/Backups.h"
-#include "files/ConfigurationFile.h"
-#include "forms/AspectEditor.h"
-#include "model/AddressIndex.h"
-#include "model/PinTools.h"
-#include "ops/Bulk.h"
-#include "ops/EventControl.h"
-#include "ops/PinTransfer.h"
-#include "platform/BuiltInSim.h"
+#include "forms/DevicesForm.h"
 #include "platform/ProgramSession.h"
 #include "window/AspectsPage.h"
-#include "window/BackupDialog.h"
 #include "window/Bindings.h"
-#include "window/CompareDialog.h"
+#include "window/BulkRows.h"
 #include "window/EditHistory.h"
 #include "window/EventPage.h"
+#include "window/FileActions.h"
 #include "window/GeneralPage.h"
 #include "window/JobRunner.h"
 #include "window/LinkArea.h"
+#include "window/LogWindows.h"
+#include "window/MainMenus.h"
+#include "window/ModuleJobs.h"
 #include "window/PinConfigPage.h"
 #include "window/PinOverview.h"
-#include "window/QtProgress.h"
-#include "window/RememberedSettings.h"
 #include "window/TrafficMonitor.h"
 #include "window/Widgets.h"
+#include "window/WindowSettings.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
-#include <QDialog>
-#include <QDir>
-#include <QElapsedTimer>
-#include <QEvent>
 #include <QFileInfo>
-#include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
-#include <QMenuBar>
-#include <QMessageBox>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QRadioButton>
-#include <QScreen>
-#include <QScrollArea>
 #include <QShortcut>
-#include <QSignalBlocker>
-#include <QSpinBox>
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTimer>
 #include <QUndoStack>
 #include <QVBoxLayout>
-#include <chrono>
 
 namespace kestrel {
-
-namespace {
-// Whether a path lies in the program's backups folder, which is never the user's file.
-bool inBackups(const QString& path)
-{
-    const QString root = QDir(backupRoot()).canonicalPath();
-    const QString folder = QFileInfo(QFileInfo(path).absolutePath()).canonicalFilePath();
-    return !root.isEmpty() && !folder.isEmpty() && (folder == root || folder.startsWith(root + '/'));
-}
-
-} // namespace
 
 KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindow(parent), boxes(this)
 {
@@ -114,20 +80,20 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     cmdSetTM = linkArea->cmdSetTM;
     layout->addWidget(linkArea);
 
-    auto* bulk = new QHBoxLayout;
-    CommandReadAll = named(new QPushButton("Read A&ll"), "CommandReadAll");
-    CommandWriteAll = named(new QPushButton("&Write All"), "CommandWriteAll");
-    CommandVerifyAll = named(new QPushButton("Verif&y All"), "CommandVerifyAll");
-    CommandWriteChanges = named(new QPushButton("Write Chan&ges"), "CommandWriteChanges");
-    CommandWriteChanges->setToolTip(
-        "Writes only what differs from the module as it was last read, written or verified");
-    CommandCompare = named(new QPushButton("Compare wi&th Module"), "CommandCompare");
-    CommandCompare->setToolTip("Reads the module beside the configuration and lists every difference");
-    CheckWritePinConfig = named(new QCheckBox("Write pin configurations too"), "CheckWritePinConfig");
-    CheckWritePinConfig->setToolTip("Also writes each pin's servo, PWM or input parameters to flash");
-    CheckWritePinConfig->setChecked(true); // so that what is written verifies
-    CommandSave = named(new QPushButton("&Save File"), "CommandSave");
-    CommandSave->setToolTip("Shift+Save File to save compact");
+    const BulkRows rows;
+    CommandReadAll = rows.CommandReadAll;
+    CommandWriteAll = rows.CommandWriteAll;
+    CommandVerifyAll = rows.CommandVerifyAll;
+    CommandWriteChanges = rows.CommandWriteChanges;
+    CommandCompare = rows.CommandCompare;
+    CommandSave = rows.CommandSave;
+    CommandLoad = rows.CommandLoad;
+    CommandReadAllPins = rows.CommandReadAllPins;
+    CommandWriteAllPins = rows.CommandWriteAllPins;
+    CommandVerifyAllPins = rows.CommandVerifyAllPins;
+    CheckWritePinConfig = rows.CheckWritePinConfig;
+    layout->addLayout(rows.module);
+    layout->addLayout(rows.pins);
     CommandSave->installEventFilter(this);
     // From the keyboard (Space, Return, Alt+S) the keys held decide as a mouse press's do:
     // with Shift the compact file. A mouse press has saved at the press already.
@@ -139,36 +105,13 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     // Alt+Shift+S is not the button's own letter: it saves compact as Shift+click does.
     connect(new QShortcut(QKeySequence(Qt::ALT | Qt::SHIFT | Qt::Key_S), this), &QShortcut::activated, this,
             [this] { CommandSave_MouseDown(1, 1); });
-    CommandLoad = named(new QPushButton("L&oad File"), "CommandLoad");
-    CommandReadAllPins = named(new QPushButton("Read All &Pins"), "CommandReadAllPins");
-    CommandReadAllPins->setToolTip(
-        "Reads the 32 pins from the module, without the general settings and events");
-    CommandWriteAllPins = named(new QPushButton("Write All Pi&ns"), "CommandWriteAllPins");
-    CommandWriteAllPins->setToolTip(
-        "Writes the 32 pins to the module, without the general settings and events");
-    CommandVerifyAllPins = named(new QPushButton("Ver&ify All Pins"), "CommandVerifyAllPins");
-    CommandVerifyAllPins->setToolTip("Compares the 32 pins of the module with the configuration");
-    // Two rows, so that the window still fits a small screen: the whole module and its file,
-    // then the pins.
-    for (QWidget* w :
-         std::initializer_list<QWidget*>{CommandReadAll, CommandWriteAll, CommandWriteChanges,
-                                         CommandVerifyAll, CommandCompare, CommandSave, CommandLoad})
-        bulk->addWidget(w);
-    auto* pinsRow = new QHBoxLayout;
-    for (QWidget* w : std::initializer_list<QWidget*>{CommandReadAllPins, CommandWriteAllPins,
-                                                      CommandVerifyAllPins, CheckWritePinConfig})
-        pinsRow->addWidget(w);
-    pinsRow->addStretch();
-    connect(CommandReadAllPins, &QPushButton::clicked, this, [this] { startJob(Jobs::ReadAllPins); });
-    connect(CommandWriteAllPins, &QPushButton::clicked, this, [this] { startJob(Jobs::WriteAllPins); });
-    connect(CommandVerifyAllPins, &QPushButton::clicked, this, [this] { startJob(Jobs::VerifyAllPins); });
-    connect(CommandWriteChanges, &QPushButton::clicked, this, [this] { startJob(Jobs::WriteChanges); });
-    connect(CommandCompare, &QPushButton::clicked, this, [this] { startJob(Jobs::CompareModule); });
-    connect(CommandLoad, &QPushButton::clicked, this,
-            [this] { guard->operator()([this] { CommandLoad_Click(); }); });
-    bulk->addStretch();
-    layout->addLayout(bulk);
-    layout->addLayout(pinsRow);
+    for (auto [button, job] : {std::pair{CommandReadAllPins, Jobs::ReadAllPins},
+                               {CommandWriteAllPins, Jobs::WriteAllPins},
+                               {CommandVerifyAllPins, Jobs::VerifyAllPins},
+                               {CommandWriteChanges, Jobs::WriteChanges},
+                               {CommandCompare, Jobs::CompareModule}})
+        connect(button, &QPushButton::clicked, this, [this, job] { startJob(job); });
+    connect(CommandLoad, &QPushButton::clicked, this, [this] { (*guard)([this] { CommandLoad_Click(); }); });
     connect(CommandReadAll, &QPushButton::clicked, this, &KestrelConfig::CommandReadAll_Click);
     connect(CommandWriteAll, &QPushButton::clicked, this, &KestrelConfig::CommandWriteAll_Click);
     connect(CommandVerifyAll, &QPushButton::clicked, this, &KestrelConfig::CommandVerifyAll_Click);
@@ -210,18 +153,12 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     layout->addWidget(LabelAction);
     setCentralWidget(central);
 
-    LabelStatusPort = named(new QLabel, "LabelStatusPort");
-    LabelStatusModule = named(new QLabel, "LabelStatusModule");
-    LabelStatusJob = named(new QLabel, "LabelStatusJob");
-    for (QLabel* field : {LabelStatusPort, LabelStatusModule, LabelStatusJob}) {
-        if (field != LabelStatusPort) { // a line between the fields
-            auto* line = new QFrame;
-            line->setFrameStyle(QFrame::VLine | QFrame::Sunken);
-            statusBar()->addWidget(line);
-        }
-        field->setContentsMargins(4, 0, 4, 0);
-        statusBar()->addWidget(field, field == LabelStatusJob ? 1 : 0);
-    }
+    addStatusFields(statusBar(), {&LabelStatusPort, &LabelStatusModule, &LabelStatusJob},
+                    {"LabelStatusPort", "LabelStatusModule", "LabelStatusJob"});
+    files = std::make_unique<FileActions>(*core, *guard, work, kept,
+                                          FileActions::Window{this, LabelStatusJob, [this] { commitAll(); },
+                                                              [this] { refreshAll(); },
+                                                              [this] { updateWindowState(); }});
     guard->after = [this] { updateWindowState(); };
     guard->afterFault = [this] { refreshAll(); };
 
@@ -262,7 +199,7 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
                        [this](const QWidget* w) {
                            return w == frmTrafficMonitor || w == frmKestrelVerification || w == frmCorvidComm;
                        }});
-    addJobs();
+    ModuleJobs::add(*this);
     Timer1 = new QTimer(this);
     Timer1->setObjectName("Timer1");
     Timer1->setInterval(200);
@@ -277,170 +214,20 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     (*guard)([this] {
         loadStandardDeviceList(devices, QApplication::applicationDirPath().toStdString(), core->dialogs());
     });
-    buildMenus();
-    loadSettings();
+    MainMenus::build(*this);
+    WindowSettings::load(*this);
     work.untitled(&core->config, &core->general); // nothing of the user's yet
     refreshAll();
     undoStack->clear(); // what the start-up did is not the user's
 
-    runner->setButtons(
-        {CommandReadAll, CommandWriteAll, CommandVerifyAll, CommandWriteChanges, CommandCompare,
-         CommandReadAllPins, CommandWriteAllPins, CommandVerifyAllPins, aspectsPage->CommandReadPin,
-         aspectsPage->CommandWritePin, aspectsPage->CommandReadDevice, aspectsPage->CommandWriteDevice,
-         aspectsPage->CommandPAspReadPin, aspectsPage->CommandPAspWritePin,
-         aspectsPage->CommandPAspWriteAspect, eventPage->CommandECRead, eventPage->CommandECWrite,
-         eventPage->CommandECVerify},
-        {CommandWriteAll, CommandWriteChanges, CommandWriteAllPins, aspectsPage->CommandWritePin,
-         aspectsPage->CommandWriteDevice, aspectsPage->CommandPAspWritePin,
-         aspectsPage->CommandPAspWriteAspect, eventPage->CommandECWrite, eventPage->CommandECWriteSingle,
-         eventPage->CommandECInitWrite, generalPage->CommandGenIDWrite, generalPage->CommandGenDCCWrite,
-         generalPage->CommandGenAddrWrite, generalPage->CommandGenHWCWrite, generalPage->CommandLCWrite,
-         generalPage->CommandGenSerialWrite, generalPage->CommandGenEraseFlash,
-         pinConfigPage->CommandPCFGSetParam[1]});
+    ModuleJobs::setButtons(*this);
     // Every event of the program passes the job runner first: input waits while a job is
     // asked for or runs, and a mnemonic on a button that writes asks first.
     qApp->installEventFilter(runner);
 
-    // A push button names the change its handler makes ("Read Pin", "Copy to All"; a lone
-    // word with its frame: "Read (DCC)"); a press that ends without a click names nothing.
-    for (QPushButton* b : findChildren<QPushButton*>()) {
-        QString name = spoken(b->text());
-        for (QWidget* p = b->parentWidget(); p && !name.contains(' '); p = p->parentWidget())
-            if (auto* frame = qobject_cast<QGroupBox*>(p)) {
-                name += " (" + spoken(frame->title()) + ")";
-                break;
-            }
-        connect(b, &QAbstractButton::pressed, this, [this, name] { guard->nextName = name.toStdString(); });
-        connect(b, &QAbstractButton::released, this,
-                [this] { QTimer::singleShot(0, this, [this] { guard->nextName.clear(); }); });
-    }
-    // Ctrl+Z in a box undoes the configuration, not only the box's own typing.
-    for (QLineEdit* box : findChildren<QLineEdit*>())
-        box->installEventFilter(this);
+    history->nameStepsAfterButtons(this, *guard);
+    history->takeUndoKeysOfBoxes(this); // Ctrl+Z in a box undoes the configuration
     connect(qApp, &QApplication::focusChanged, this, [this] { history->newRun(); });
-}
-
-void KestrelConfig::addJobs()
-{
-    Session& s = *core;
-    auto pinConfigToo = [this] { return CheckWritePinConfig->isChecked(); };
-    // A verification of a part adds its lines to the report; only Verify All starts it afresh.
-    auto verify = [&s](bool (*run)(Session&)) {
-        return [&s, run] {
-            const bool ok = run(s);
-            if (s.onShowVerification)
-                s.onShowVerification();
-            return ok;
-        };
-    };
-    jobs.add(Jobs::ReadAll, [this, &s] {
-        bool completed = false;
-        runner->run(
-            "Read All", [&s, &completed] { return completed = ReadAll(s); }, true, false, LongJob::ReadAll);
-        if (!completed)
-            return;
-        saveReadBackup();
-        if (work.readFromModule(s.general)) {
-            LabelStatusJob->setText(LabelStatusJob->text() + "; the file held another module, so the "
-                                                             "configuration is now untitled");
-            updateWindowState();
-        }
-    });
-    jobs.add(Jobs::WriteAll, [this, &s, pinConfigToo] {
-        const bool withConfig = pinConfigToo();
-        runner->writes(withConfig);
-        runner->run(
-            "Write All", [&s, withConfig] { return WriteAll(s, withConfig); }, false, false,
-            LongJob::WriteAll);
-    });
-    jobs.add(Jobs::VerifyAll, [this, &s] {
-        runner->run(
-            "Verify All", [&s] { return VerifyAll(s); }, false, true, LongJob::VerifyAll);
-    });
-    jobs.add(Jobs::ReadPin, [this, &s] {
-        runner->run(
-            "Read Pin", [&s] { return ReadPin(s, s.config.CurrentPin); }, true);
-    });
-    jobs.add(Jobs::WritePin, [this, &s, pinConfigToo] {
-        const bool withConfig = pinConfigToo();
-        runner->writes(withConfig);
-        runner->run("Write Pin", [&s, withConfig] { return WritePin(s, s.config.CurrentPin, withConfig); });
-    });
-    jobs.add(Jobs::ReadDevice, [this, &s] {
-        runner->run(
-            "Read Device", [&s] { return ReadDevice(s); }, true);
-    });
-    jobs.add(Jobs::WriteDevice, [this, &s] { runner->run("Write Device", [&s] { return WriteDevice(s); }); });
-    jobs.add(Jobs::ReadAllPins, [this, &s] {
-        runner->run(
-            "Read All Pins", [&s] { return ReadAllPins(s); }, true, false, LongJob::ReadAllPins);
-    });
-    jobs.add(Jobs::WriteAllPins, [this, &s, pinConfigToo] {
-        const bool withConfig = pinConfigToo();
-        runner->writes(withConfig);
-        runner->run(
-            "Write All Pins", [&s, withConfig] { return WriteAllPins(s, withConfig); }, false, false,
-            LongJob::WriteAllPins);
-    });
-    jobs.add(Jobs::PAspReadPin, [this, &s] {
-        runner->run(
-            "Read Pin", [&s] { return PAspReadPin(s, s.config.CurrentPin); }, true);
-    });
-    jobs.add(Jobs::PAspWritePin,
-             [this, &s] { runner->run("Write Pin", [&s] { return WritePin(s, s.config.CurrentPin); }); });
-    jobs.add(Jobs::VerifyAllPins, [this, verify] {
-        runner->run("Verify All Pins", verify(&VerifyAllPins), false, true, LongJob::VerifyAllPins);
-    });
-    jobs.add(Jobs::ECWriteAll,
-             [this, &s] { runner->run("Write All Events", [&s] { return WriteAllEvents(s); }); });
-    jobs.add(Jobs::ECReadAll, [this, &s] {
-        runner->run(
-            "Read All Events", [&s] { return ReadAllEvents(s); }, true);
-    });
-    jobs.add(Jobs::ECVerify, [this, verify] {
-        runner->run("Verify Event Control", verify(&VerifyEventControl), false, true);
-    });
-    jobs.add(Jobs::WriteChanges, [this, &s, pinConfigToo] {
-        const bool withConfig = pinConfigToo();
-        runner->writes(withConfig);
-        runner->run("Write Changes", [&s, withConfig] { return WriteChanges(s, withConfig); });
-    });
-    jobs.add(Jobs::CompareModule, [this, &s] {
-        Configuration module;
-        GeneralSettings gmodule;
-        bool read = false;
-        runner->run("Compare with Module", [&] { return read = ReadAllInto(s, module, gmodule); });
-        if (!read)
-            return;
-        (*guard)([&] { showComparison(module, gmodule); });
-    });
-    jobs.add(Jobs::PAspWriteAspect, [this, &s] {
-        runner->run("Write Aspect",
-                    [&s] { return WriteAspect(s, s.config.CurrentPin, s.config.CurrentAspect); });
-    });
-}
-
-void KestrelConfig::showComparison(const Configuration& module, const GeneralSettings& gmodule)
-{
-    if (!frmCompare) {
-        frmCompare = new CompareDialog(this);
-        connect(frmCompare, &CompareDialog::applyChosen, this, [this](bool thenWrite) {
-            if (frmCompare->chosenCount() > 0)
-                (*guard)("Take from Module", [this] {
-                    frmCompare->takeChosen(core->config, core->general);
-                    RecalcAddressIndex(core->config);
-                });
-            frmCompare->accept();
-            refreshAll();
-            if (thenWrite)
-                startJob(Jobs::WriteChanges);
-        });
-    }
-    const int base = core->config.NumberingBase;
-    frmCompare->showDifferences(differences(module, gmodule, core->config, core->general, base), module,
-                                gmodule, base);
-    frmCompare->show();
-    frmCompare->raise();
 }
 
 void KestrelConfig::startJob(JobName name) { runner->ask(name); }
@@ -470,7 +257,7 @@ void KestrelConfig::refreshAll()
     updateWindowState();
 }
 
-bool KestrelConfig::unsavedChanges() const { return work.unsaved(core->config, core->general); }
+bool KestrelConfig::unsavedChanges() const { return files->unsaved(); }
 
 void KestrelConfig::updateWindowState()
 {
@@ -494,22 +281,7 @@ void KestrelConfig::updateWindowState()
                                            : QString("Port closed"));
 }
 
-bool KestrelConfig::keepChangesSafe(const char* doing)
-{
-    commitAll();
-    if (!unsavedChanges())
-        return true;
-    const Answer a =
-        core->dialogs().ask(std::string("The configuration has changes that are not saved.\r\n") + doing +
-                                " would lose them. Save them first?",
-                            Buttons::SaveDiscardCancel, Icon::Warning);
-    if (a == Answer::Discard)
-        return true;
-    if (a != Answer::Save)
-        return false;
-    CommandSave_MouseDown(1, 0);
-    return !unsavedChanges(); // a cancelled or failed save keeps the changes and stops here
-}
+bool KestrelConfig::keepChangesSafe(const char* doing) { return files->keepChangesSafe(doing); }
 
 void KestrelConfig::closeEvent(QCloseEvent* event)
 {
@@ -520,7 +292,7 @@ void KestrelConfig::closeEvent(QCloseEvent* event)
     bool leave = false;
     (*guard)([&] { leave = keepChangesSafe("Closing the window"); });
     if (leave) {
-        saveSettings();
+        WindowSettings::save(*this);
         event->accept();
     } else
         event->ignore();
@@ -532,278 +304,25 @@ void KestrelConfig::CommandSave_MouseDown(int button, int shift)
         saveFile(QString(), shift == 1);
 }
 
-void KestrelConfig::saveFile(const QString& path, bool compact)
-{
-    commitAll();
-    (*guard)([&] {
-        std::string written = path.toStdString();
-        if (!written.empty() && written == work.file() && work.changedOnDisk() &&
-            core->dialogs().ask(QFileInfo(path).fileName().toStdString() +
-                                    " has changed on disk since it was loaded or saved here.\r\n"
-                                    "Replace it with the configuration shown?",
-                                Buttons::YesNo, Icon::Warning) != Answer::Yes)
-            return;
-        // The backups folder is never the user's file.
-        const auto backups = [this](const std::string& chosen) {
-            if (!inBackups(QString::fromStdString(chosen)))
-                return false;
-            core->dialogs().message(
-                "The backups folder is the program's own: choose another folder for the file.",
-                Icon::Warning);
-            return true;
-        };
-        if (written.empty())
-            written = kestrel::CommandSave_MouseDown(*core, 1, compact ? 1 : 0, backups);
-        else if (!saveConfigurationTo(*core, written, compact ? SaveForm::Compact : SaveForm::Full))
-            written.clear();
-        if (written.empty())
-            return;
-        const QString name = QString::fromStdString(written);
-        if (compact)
-            work.compactSaved(written); // saved only when it loads back to all that is shown
-        else
-            work.fileHolds(written, core->config, core->general);
-        remember(name);
-        LabelStatusJob->setText(QString("Saved %1%2").arg(name, compact ? " (compact)" : ""));
-        if (compact && unsavedChanges())
-            LabelStatusJob->setText(LabelStatusJob->text() +
-                                    "; it does not hold everything shown, so the work is still unsaved");
-    });
-    updateWindowState();
-}
+void KestrelConfig::saveFile(const QString& path, bool compact) { files->save(path, compact); }
 
-void KestrelConfig::buildMenus()
-{
-    menuFile = menuBar()->addMenu("&File");
-    auto add = [this](QMenu* menu, const QString& text, auto handler, QKeySequence keys = {}) {
-        QAction* action = menu->addAction(text, this, handler);
-        action->setShortcut(keys);
-        return action;
-    };
-    add(
-        menuFile, "&Load File...", [this] { loadFile(QString()); }, QKeySequence::Open);
-    actionSave = add(
-        menuFile, "&Save", [this] { saveFile(currentFile(), false); }, QKeySequence::Save);
-    add(menuFile, "Save &Compact...", [this] { saveFile(QString(), true); });
-    add(
-        menuFile, "Save &As...", [this] { saveFile(QString(), false); }, QKeySequence::SaveAs);
-    menuFile->addSeparator();
-    for (int i = 0; i < 5; ++i) {
-        actionRecent[i] = menuFile->addAction(QString(), this, [this, i] {
-            if (i < kept.recent.size())
-                loadFile(kept.recent[i]);
-        });
-        actionRecent[i]->setVisible(false);
-    }
-    actionRestoreBackup = add(menuFile, "&Restore from backup...", [this] { restoreFromBackup(); });
-    menuFile->addSeparator();
-    add(menuFile, "Reload &Device Definitions...", [this] { aspectsPage->reloadDeviceDefinitions(false); });
-    add(menuFile, "A&ppend Device Definitions...", [this] { aspectsPage->reloadDeviceDefinitions(true); });
-    menuFile->addSeparator();
-    actionForgetSettings = add(menuFile, "&Forget Remembered Settings", [this] {
-        forgetSettings = true;
-        RememberedSettings::forget();
-        kept.recent.clear();
-        showRecent();
-        LabelStatusJob->setText("The program starts afresh next time: port, addresses, window and files "
-                                "are forgotten");
-    });
-    add(
-        menuFile, "E&xit", [this] { close(); }, QKeySequence::Quit);
-
-    menuEdit = menuBar()->addMenu("&Edit");
-    actionUndo = history->undoAction();
-    actionRedo = history->redoAction();
-    menuEdit->addAction(actionUndo);
-    menuEdit->addAction(actionRedo);
-    // The menu names the step a typed but unfinished entry makes.
-    connect(menuEdit, &QMenu::aboutToShow, this, &KestrelConfig::commitAll);
-    // The copy, paste, clear, insert and delete tools of the Aspects page, from the keyboard.
-    menuEdit->addSeparator();
-    for (QAction* tool :
-         {aspectsPage->actionPinTool, aspectsPage->actionAspectTool, aspectsPage->actionStepTool})
-        menuEdit->addAction(tool);
-
-    menuModule = menuBar()->addMenu("&Module");
-    auto press = [](QAbstractButton* b) { return [b] { b->click(); }; };
-    add(menuModule, "Request &Version", press(CommandGenVersion));
-    add(menuModule, "&Read All", press(CommandReadAll), QKeySequence("Ctrl+R"));
-    add(menuModule, "&Write All", press(CommandWriteAll)); // no key: a write starts only from a choice
-    add(menuModule, "Write Chan&ges", press(CommandWriteChanges));
-    add(menuModule, "Verify &All", press(CommandVerifyAll));
-    add(menuModule, "Compare wi&th Module...", press(CommandCompare));
-    add(menuModule, "&Erase Flash...", press(generalPage->CommandGenEraseFlash));
-    menuModule->addSeparator();
-    add(menuModule, "Read &Pin", press(aspectsPage->CommandReadPin));
-    add(menuModule, "Write P&in", press(aspectsPage->CommandWritePin));
-    add(menuModule, "Read &Device", press(aspectsPage->CommandReadDevice));
-    add(menuModule, "Write Devi&ce", press(aspectsPage->CommandWriteDevice));
-    add(menuModule, "Read Aspe&cts of the Pin", press(aspectsPage->CommandPAspReadPin));
-    add(menuModule, "Write Aspects o&f the Pin", press(aspectsPage->CommandPAspWritePin));
-    add(menuModule, "Write the Selected Asp&ect", press(aspectsPage->CommandPAspWriteAspect));
-    add(menuModule, "Read All Pi&ns", press(CommandReadAllPins));
-    add(menuModule, "Write All Pin&s", press(CommandWriteAllPins));
-    add(menuModule, "Verify All Pins", press(CommandVerifyAllPins));
-    menuModule->addSeparator();
-    add(menuModule, "Read Event Control", press(eventPage->CommandECRead));
-    add(menuModule, "Write Event Control", press(eventPage->CommandECWrite));
-    add(menuModule, "Verify Event Control", press(eventPage->CommandECVerify));
-
-    menuView = menuBar()->addMenu("&View");
-    add(menuView, "&Corvid Log", [this] {
-        ensureCorvidWindow();
-        corvidLogDismissed = false;
-        frmCorvidComm->show();
-        frmCorvidComm->raise();
-    });
-    add(menuView, "&Traffic Monitor", [this] {
-        if (!frmTrafficMonitor)
-            frmTrafficMonitor = new TrafficMonitor(core->link, this);
-        frmTrafficMonitor->show();
-        frmTrafficMonitor->raise();
-    });
-    add(menuView, "&Pin Overview", [this] { tabs->setCurrentWidget(pinOverviewPage); });
-
-    menuHelp = menuBar()->addMenu("&Help");
-    add(
-        menuHelp, "&About Kestrel Config", [this] { about(); }, QKeySequence::HelpContents);
-}
-
-void KestrelConfig::about()
-{
-    QMessageBox box(this);
-    box.setObjectName("dlgAbout");
-    box.setWindowTitle("About Kestrel Config");
-    box.setIconPixmap(windowIcon().pixmap(64, 64));
-    box.setText(QString("<b>Kestrel Config %1</b>").arg(KESTREL_VERSION));
-    box.setInformativeText(
-        QString("Reads, edits, writes back and verifies what a Kestrel accessory module stores.<br><br>"
-                "Build: %1, Qt %2<br><br>"
-                "The README (how to start, the command-line tool, the data-file format and the "
-                "Aspects page) lies in the program's source folder, README.md; the data-file "
-                "keywords are described in its section \"kestrel-cli\".")
-            .arg(QString(KESTREL_BUILD_TYPE).isEmpty() ? QString("default") : QString(KESTREL_BUILD_TYPE),
-                 qVersion()));
-    box.exec();
-}
-
-void KestrelConfig::remember(const QString& path)
-{
-    if (inBackups(path))
-        return;
-    kept.remember(path);
-    showRecent();
-}
-
-void KestrelConfig::showRecent()
-{
-    for (int i = 0; i < 5; ++i) {
-        const bool used = i < kept.recent.size();
-        actionRecent[i]->setVisible(used);
-        if (used)
-            actionRecent[i]->setText(QString("&%1 %2").arg(i + 1).arg(QFileInfo(kept.recent[i]).fileName()));
-    }
-}
-
-void KestrelConfig::loadSettings()
-{
-    auto& lc = core->linkControl;
-    auto& link = core->link.settings;
-    kept = RememberedSettings::load(lc.OptionBitRate);
-    if (!restoreGeometry(kept.geometry))
-        firstSize();
-    (*guard)([&] { lc.OptionBitRate_Click(kept.bitRate); });
-    OptionBitRate[kept.bitRate]->setChecked(true);
-    if (kept.numbering == 1) {
-        CheckKLnumber->setChecked(true);
-        CheckKLnumber_Click();
-    }
-    link.TargetAddress = kept.address;
-    link.TargetXAddress = kept.extendedAddress;
-    if (kept.extended) // asked about again, as when it was set
-        (*guard)([&] { lc.CheckXaddress_Click(true); });
-    CheckWritePinConfig->setChecked(kept.writePinConfigurations);
-    boxes.setFolder(kept.folder);
-    kept.recent.erase(std::remove_if(kept.recent.begin(), kept.recent.end(), inBackups), kept.recent.end());
-    linkArea->fillPortList();
-    showRecent();
-    refreshLinkDisplays();
-    // The last port (or, on a first start, the simulated module), shown but not yet opened.
-    ComboPort->setEditText(kept.port);
-    ComboPort->setToolTip("The serial port; \"sim\" is a simulated module built into the program. "
-                          "Return or a choice from the list opens it.");
-}
-
-void KestrelConfig::firstSize()
-{
-    // Each page scrolls inside its own area; the whole layout is the window with the
-    // largest page's content shown without scrolling.
-    QSize content;
-    for (const QScrollArea* area : tabs->findChildren<QScrollArea*>())
-        if (area->widget())
-            content = content.expandedTo(area->widget()->sizeHint());
-    QSize whole = sizeHint();
-    const QSize page = tabs->currentWidget() ? tabs->currentWidget()->sizeHint() : QSize();
-    whole.rwidth() = std::max(whole.width(), content.width() + whole.width() - page.width() + 40);
-    whole.rheight() += std::max(0, content.height() - page.height()) + 40;
-    const QScreen* screen = QApplication::primaryScreen();
-    const QSize room =
-        screen ? screen->availableSize() - (frameGeometry().size() - geometry().size()) : whole;
-    resize(whole.boundedTo(room));
-}
-
-void KestrelConfig::saveSettings()
-{
-    if (forgetSettings)
-        return;
-    const auto& lc = core->linkControl;
-    const auto& link = core->link.settings;
-    kept.geometry = saveGeometry();
-    kept.port =
-        lc.ComboPortText.empty() ? ComboPort->currentText() : QString::fromStdString(lc.ComboPortText);
-    kept.bitRate = lc.OptionBitRate;
-    kept.numbering = core->config.NumberingBase;
-    kept.address = link.TargetAddress;
-    kept.extended = link.CheckXaddress;
-    kept.extendedAddress = link.TargetXAddress;
-    kept.writePinConfigurations = CheckWritePinConfig->isChecked();
-    kept.folder = boxes.folder();
-    kept.save();
-}
+void KestrelConfig::about() { MainMenus::about(this); }
 
 void KestrelConfig::ensureVerificationWindow()
 {
-    if (frmKestrelVerification)
-        return;
-    frmKestrelVerification = named(new QDialog(this), "frmKestrelVerification");
-    frmKestrelVerification->setWindowTitle("Kestrel Verification");
-    auto* l = new QVBoxLayout(frmKestrelVerification);
-    txtVerification = named(new QPlainTextEdit, "txtVerification");
-    txtVerification->setReadOnly(true);
-    txtVerification->setAccessibleName("Verification report");
-    l->addWidget(txtVerification);
-    frmKestrelVerification->resize(560, 420);
+    if (!frmKestrelVerification)
+        frmKestrelVerification = makeVerificationWindow(this, txtVerification);
 }
 
 void KestrelConfig::ensureCorvidWindow()
 {
     if (frmCorvidComm)
         return;
-    frmCorvidComm = named(new QDialog(this), "frmCorvidComm");
-    frmCorvidComm->setWindowTitle("Corvid Communication");
-    auto* l = new QVBoxLayout(frmCorvidComm);
-    txtCorvidCommunication = named(new QPlainTextEdit, "txtCorvidCommunication");
-    txtCorvidCommunication->setReadOnly(true);
-    txtCorvidCommunication->setAccessibleName("Corvid communication");
-    txtCorvidCommunication->setFont(QFont("monospace"));
-    cmdClear = named(new QPushButton("&Clear"), "cmdClear");
-    l->addWidget(txtCorvidCommunication);
-    l->addWidget(cmdClear);
+    frmCorvidComm = makeCorvidWindow(this, txtCorvidCommunication, cmdClear);
     connect(cmdClear, &QPushButton::clicked, this, [this] {
         txtCorvidCommunication->clear();
         core->link.txtCorvidCommunication.clear();
     });
-    frmCorvidComm->resize(480, 360);
     connect(frmCorvidComm, &QDialog::finished, this, [this] { corvidLogDismissed = true; });
 }
 
@@ -825,61 +344,11 @@ void KestrelConfig::CheckKLnumber_Click()
 
 void KestrelConfig::CommandLoad_Click() { loadFile(QString()); }
 
-void KestrelConfig::loadFile(const QString& path, bool backup)
-{
-    if (!keepChangesSafe(backup ? "Restoring a backup" : "Loading a file"))
-        return;
-    (*guard)(backup ? "Restore from Backup" : "Load File", [this, &path, backup] {
-        const LoadOutcome loaded = path.isEmpty() ? kestrel::CommandLoad_Click(*core)
-                                                  : loadConfigurationFrom(*core, path.toStdString());
-        if (loaded.path.empty())
-            return;
-        const QString name = QString::fromStdString(loaded.path);
-        switch (loaded.result) {
-        case LoadResult::Loaded:
-            // A backup stays the program's: the configuration from it is untitled.
-            if (backup || inBackups(name)) {
-                work.untitled(&core->config, &core->general);
-                LabelStatusJob->setText("Restored the backup " + name + " as an untitled configuration");
-                break;
-            }
-            work.fileHolds(loaded.path, core->config, core->general);
-            remember(name);
-            LabelStatusJob->setText("Loaded " + name);
-            break;
-        case LoadResult::FormatError:
-            work.untitled(); // what was read is not what the file holds
-            LabelStatusJob->setText("Load stopped at a fault in " + name +
-                                    ": the pages show what was read before it");
-            break;
-        default:
-            LabelStatusJob->setText("Nothing was loaded from " + name);
-            break;
-        }
-    });
-    refreshAll();
-}
+void KestrelConfig::loadFile(const QString& path, bool backup) { files->load(path, backup); }
 
-void KestrelConfig::saveReadBackup()
-{
-    std::string error;
-    std::string saved;
-    (*guard)([&] {
-        saved = saveBackup(backupRoot().toStdString(), core->config, core->general,
-                           std::chrono::system_clock::now(), error,
-                           core->lastJob().incomplete() ? BackupKind::Incomplete : BackupKind::Complete);
-    });
-    if (saved.empty())
-        LabelStatusJob->setText(LabelStatusJob->text() +
-                                "; the backup was not saved: " + QString::fromStdString(error));
-}
+void KestrelConfig::saveReadBackup() { files->saveReadBackup(); }
 
-void KestrelConfig::restoreFromBackup()
-{
-    BackupDialog dialog(listBackups(backupRoot().toStdString()), this);
-    if (dialog.exec() == QDialog::Accepted && !dialog.chosenPath().isEmpty())
-        loadFile(dialog.chosenPath(), true);
-}
+void KestrelConfig::restoreFromBackup() { files->restoreFromBackup(); }
 
 void KestrelConfig::CommandReadAll_Click()
 {
@@ -898,6 +367,7 @@ KestrelConfig::~KestrelConfig()
     for (QObject* child : findChildren<QObject*>()) {
         QObject::disconnect(child, nullptr, this, nullptr);
         QObject::disconnect(child, nullptr, linkArea, nullptr); // its handlers use the guard
+        QObject::disconnect(child, nullptr, history, nullptr);
     }
     QObject::disconnect(qApp, nullptr, this, nullptr);
     qApp->removeEventFilter(runner);
@@ -918,26 +388,6 @@ void KestrelConfig::CommandGenVersion_Click() { generalPage->CommandGenVersion_C
 
 bool KestrelConfig::eventFilter(QObject* watched, QEvent* event)
 {
-    // A box's own undo would only take back its typing: Ctrl+Z and Ctrl+Shift+Z (Ctrl+Y)
-    // there are the window's undo and redo.
-    if ((event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress) &&
-        qobject_cast<QLineEdit*>(watched)) {
-        const auto* key = static_cast<QKeyEvent*>(event);
-        const QKeyCombination keys = key->keyCombination();
-        const bool back = key->matches(QKeySequence::Undo);
-        const bool forth = key->matches(QKeySequence::Redo) ||
-                           keys == QKeyCombination(Qt::CTRL | Qt::SHIFT, Qt::Key_Z) ||
-                           keys == QKeyCombination(Qt::CTRL, Qt::Key_Y);
-        if (back || forth) {
-            if (event->type() == QEvent::ShortcutOverride)
-                event->accept(); // the key comes to the box, and so here
-            else if (back)
-                history->undo();
-            else
-                history->redo();
-            return true;
-        }
-    }
     // Save acts on the press, where the keys held decide: Shift alone saves the compact file.
     if (watched == CommandSave && event->type() == QEvent::MouseButtonPress) {
         const auto [button, shift] = pressOf(static_cast<QMouseEvent*>(event));

@@ -42,6 +42,7 @@ class CompareDialog;
 class EditHistory;
 class LinkArea;
 class JobRunner;
+class FileActions;
 } // namespace kestrel
 
 namespace kestrel {
@@ -182,9 +183,13 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    // The parts that build on the window's controls.
+    friend class MainMenus;
+    friend class ModuleJobs;
+    friend class WindowSettings;
+
     QWidget* buildGeneralPage();
     void refreshLinkDisplays();
-    void addJobs();
     // Takes every typed entry of every page that editing has not yet finished.
     void commitAll();
     // Shows the model on every page.
@@ -194,18 +199,8 @@ private:
     // Over unsaved changes: Save / Discard / Cancel. True when the caller may go on.
     bool keepChangesSafe(const char* doing);
     void startJob(JobName name);
-    void showComparison(const Configuration& module, const GeneralSettings& gmodule);
     void ensureVerificationWindow();
     void ensureCorvidWindow();
-    void buildMenus();
-    // What the program remembers between runs (QSettings): the port, bit rate, module and
-    // eXtended address, numbering, window geometry, the last folder and the last files.
-    void loadSettings();
-    // A first start: as large as the screen allows, up to what shows every page whole.
-    void firstSize();
-    void saveSettings();
-    void remember(const QString& path); // a file loaded or saved joins the recent files
-    void showRecent();
 
     QtDialogs boxes;
     std::unique_ptr<ProgramSession> program;
@@ -215,9 +210,10 @@ private:
     WorkState work;          // which file, and whether it holds what is shown
     RememberedSettings kept; // what the program remembers between runs
     bool forgetSettings = false;
-    bool corvidLogDismissed = false; // closed by the user: new lines do not force it open
-    JobRunner* runner = nullptr;     // runs the jobs; sees every event of the program first
-    EditHistory* history = nullptr;  // the undo steps
+    bool corvidLogDismissed = false;    // closed by the user: new lines do not force it open
+    JobRunner* runner = nullptr;        // runs the jobs; sees every event of the program first
+    EditHistory* history = nullptr;     // the undo steps
+    std::unique_ptr<FileActions> files; // load, save, the recent files and the backups
 };
 
 } // namespace kestrel

@@ -3,9 +3,11 @@
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QSignalBlocker>
+#include <QStatusBar>
 #include <QStyle>
 #include <QStyleOptionFrame>
 #include <QStyleOptionSpinBox>
@@ -90,6 +92,22 @@ bool NumberEntry::eventFilter(QObject* watched, QEvent* event)
         }
     }
     return QWidget::eventFilter(watched, event);
+}
+
+void addStatusFields(QStatusBar* bar, std::initializer_list<QLabel**> fields,
+                     std::initializer_list<const char*> names)
+{
+    const char* const* name = names.begin();
+    for (QLabel** field : fields) {
+        if (field != *fields.begin()) { // a line between the fields
+            auto* line = new QFrame;
+            line->setFrameStyle(QFrame::VLine | QFrame::Sunken);
+            bar->addWidget(line);
+        }
+        *field = named(new QLabel, *name++);
+        (*field)->setContentsMargins(4, 0, 4, 0);
+        bar->addWidget(*field, field == *(fields.end() - 1) ? 1 : 0);
+    }
 }
 
 } // namespace kestrel

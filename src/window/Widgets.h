@@ -2,8 +2,11 @@
 // Small building blocks the pages share.
 #include <QSpinBox>
 #include <QWidget>
+#include <initializer_list>
 
+class QLabel;
 class QLineEdit;
+class QStatusBar;
 
 namespace kestrel {
 
@@ -21,6 +24,10 @@ inline QString indexed(const char* name, int i) { return QString("%1_%2").arg(na
 // own layout: the page can be made smaller than its controls, which are then reached by
 // scrolling (and the window's minimum size stays small).
 QWidget* scrolledContent(QWidget* page);
+
+// A status bar's fields, named, with a line between each two; the last takes the room left.
+void addStatusFields(QStatusBar* bar, std::initializer_list<QLabel**> fields,
+                     std::initializer_list<const char*> names);
 
 // A spinner that shows only its arrows, at the width the style gives them; its number is
 // shown by the entry box beside it. It takes no focus: the box does, and its Up and Down
