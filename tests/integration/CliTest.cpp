@@ -303,7 +303,7 @@ TEST(KestrelConfigWithoutADisplay, AnswersHelpAndVersionAndOtherwiseSaysSoInOneL
     auto help = runProgram(config, {"--help"}), version = runProgram(config, {"--version"});
     EXPECT_EQ(std::tuple(help.status, version.status, version.out.rfind("kestrel-config ", 0)),
               std::tuple(0, 0, 0u));
-    EXPECT_NE(help.out.find("--screenshots <FOLDER>"), std::string::npos);
+    EXPECT_NE(help.out.find("--size <WxH>"), std::string::npos);
     auto r = runProgram(config, {});
     EXPECT_EQ(std::tuple(r.status, r.out, std::count(r.err.begin(), r.err.end(), '\n')), std::tuple(1, "", 1))
         << r.err;
