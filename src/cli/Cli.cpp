@@ -318,10 +318,11 @@ bool parse(const std::vector<std::string>& args, CliOptions& o, std::string& err
         error = line.error;
         return false;
     }
-    if (!line.operands.empty()) {
-        o.command = line.operands.front();
-        o.operands.assign(line.operands.begin() + 1, line.operands.end());
-    }
+    for (const std::string& a : line.operands) // an empty word before the command is no command
+        if (o.command.empty())
+            o.command = a;
+        else
+            o.operands.push_back(a);
     if (o.command.empty()) {
         error = "no command given";
         return false;
