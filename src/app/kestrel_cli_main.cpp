@@ -1,5 +1,5 @@
+#include "cli/Cli.h"
 #include "platform/Console.h"
-#include "shell/Cli.h"
 
 #include <QCoreApplication>
 

@@ -9,7 +9,7 @@ namespace kestrel {
 
 // The serial port of the system the program runs on. The build picks the adapter that
 // defines these: platform/WinSerialPort.cpp (the Win32 communications calls) on Windows,
-// shell/QtSerialPort.cpp (Qt's serial port) elsewhere.
+// platform/QtSerialPort.cpp (Qt's serial port) elsewhere.
 std::unique_ptr<SerialPort> makeSystemPort();
 // The ports the system reports by name; empty where the ports are numbered.
 std::vector<std::string> systemPortNames();

@@ -1,8 +1,8 @@
 // What a screen reader and a small screen get: named inputs, mnemonics, a window that fits.
 #include "gui/GuiRig.h"
-#include "shell/AspectsPage.h"
-#include "shell/EditTools.h"
-#include "shell/HelpToolDialogs.h"
+#include "window/AspectsPage.h"
+#include "window/EditTools.h"
+#include "window/HelpToolDialogs.h"
 
 #include <QAbstractSpinBox>
 #include <QAccessible>

@@ -1,8 +1,8 @@
 // The aspect page as a user drives it, against the built-in simulated module.
-#include "shell/AspectsPage.h"
+#include "window/AspectsPage.h"
 #include "gui/GuiRig.h"
 #include "model/PinTools.h"
-#include "shell/EventPage.h"
+#include "window/EventPage.h"
 
 #include <QAbstractItemView>
 #include <QCheckBox>

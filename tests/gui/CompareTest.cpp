@@ -1,8 +1,8 @@
 // Write Changes and Compare with Module in the window, against the built-in module.
 #include "gui/GuiRig.h"
-#include "shell/AspectsPage.h"
-#include "shell/CompareDialog.h"
-#include "shell/GeneralPage.h"
+#include "window/AspectsPage.h"
+#include "window/CompareDialog.h"
+#include "window/GeneralPage.h"
 
 #include <QTreeWidget>
 

@@ -1,5 +1,5 @@
 // The Event Control page on the built-in simulated module.
-#include "shell/EventPage.h"
+#include "window/EventPage.h"
 #include "forms/EventControlForm.h"
 #include "gui/GuiRig.h"
 

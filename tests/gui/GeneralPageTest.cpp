@@ -1,5 +1,5 @@
 // The General page on the built-in simulated module, driven by control names.
-#include "shell/GeneralPage.h"
+#include "window/GeneralPage.h"
 #include "files/DemoConfiguration.h"
 #include "gui/GuiRig.h"
 

@@ -1,10 +1,10 @@
 #pragma once
 // Rigs of the window tests: a session on the built-in simulated module (the demonstration
 // configuration at bus address 0) for one page, and the whole window on it.
+#include "platform/ProgramSession.h"
 #include "session/Session.h"
-#include "shell/KestrelConfig.h"
-#include "shell/ProgramSession.h"
 #include "support/RecordingDialogs.h"
+#include "window/KestrelConfig.h"
 
 #include <QAbstractButton>
 #include <QApplication>

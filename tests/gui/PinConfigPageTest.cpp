@@ -1,5 +1,5 @@
 // The pin-configuration page on the built-in simulated module.
-#include "shell/PinConfigPage.h"
+#include "window/PinConfigPage.h"
 #include "gui/GuiRig.h"
 #include "ops/PinConfigTransfer.h"
 #include "pins/PinConfig.h"

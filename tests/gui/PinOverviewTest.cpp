@@ -1,5 +1,5 @@
 // The pin overview page on a session of its own: it follows the counts and chooses a pin.
-#include "shell/PinOverview.h"
+#include "window/PinOverview.h"
 #include "gui/GuiRig.h"
 #include "model/AddressIndex.h"
 

@@ -1,8 +1,8 @@
 // The aspect page's modal tools, driven as a user drives them while their modal loop runs.
 #include "base/ProgramFault.h"
 #include "gui/GuiRig.h"
-#include "shell/EditTools.h"
-#include "shell/HelpToolDialogs.h"
+#include "window/EditTools.h"
+#include "window/HelpToolDialogs.h"
 
 #include <QApplication>
 #include <QCheckBox>

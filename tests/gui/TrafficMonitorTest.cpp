@@ -1,7 +1,7 @@
 // The traffic monitor on the built-in simulated module, beside the General page.
-#include "shell/TrafficMonitor.h"
+#include "window/TrafficMonitor.h"
 #include "gui/GuiRig.h"
-#include "shell/GeneralPage.h"
+#include "window/GeneralPage.h"
 
 #include <QCheckBox>
 #include <QFile>

@@ -1,7 +1,7 @@
 // Undo and redo: every change is one named step, put back without a word to the module.
 #include "gui/GuiRig.h"
-#include "shell/AspectsPage.h"
-#include "shell/GeneralPage.h"
+#include "window/AspectsPage.h"
+#include "window/GeneralPage.h"
 
 #include <QRadioButton>
 #include <QTemporaryDir>

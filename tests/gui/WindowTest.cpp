@@ -4,13 +4,13 @@
 #include "files/ConfigurationFile.h"
 #include "gui/GuiRig.h"
 #include "session/ModuleImage.h"
-#include "shell/AspectsPage.h"
-#include "shell/BackupDialog.h"
-#include "shell/EventPage.h"
-#include "shell/GeneralPage.h"
-#include "shell/Guard.h"
-#include "shell/QtDialogs.h"
 #include "support/Process.h"
+#include "window/AspectsPage.h"
+#include "window/BackupDialog.h"
+#include "window/EventPage.h"
+#include "window/GeneralPage.h"
+#include "window/Guard.h"
+#include "window/QtDialogs.h"
 
 #include <QCheckBox>
 #include <QDir>

@@ -295,6 +295,45 @@ TEST(CliPortLost, ReadAndWriteEndWithOneMessageAndThePortServesAgain)
     EXPECT_EQ(std::tuple(again.status, again.err, exists(lost)), std::tuple(0, "", true));
 }
 
+// Both programs read their command lines alike: options and operands in any order, a value
+// the next word whatever it looks like, the first fault in the order given told in the
+// program's words, and no other spelling of an option taken.
+TEST(CommandLines, TheFirstFaultInTheOrderGivenIsToldAndNoOtherSpellingIsTaken)
+{
+    const std::string sim = binPath("kestrel-sim");
+    const struct {
+        std::string program;
+        std::vector<std::string> args;
+        std::string firstLine;
+    } cases[] = {
+        {cli, {"--baud", "5", "--bogus"}, "kestrel-cli: --baud must be 9600, 19200 or 38400"},
+        {cli, {"--bogus", "--baud", "5"}, "kestrel-cli: unknown option --bogus"},
+        {cli, {"--port=sim", "version"}, "kestrel-cli: unknown option --port=sim"},
+        {cli, {"--", "ports"}, "kestrel-cli: unknown option --"},
+        {cli, {"-port", "sim", "version"}, "kestrel-cli: unknown option -port"},
+        {cli, {"ports", "--port"}, "kestrel-cli: --port needs a value"},
+        {cli,
+         {"--port", "--corvid", "version"},
+         "Warning: Cannot open port --corvid: No such file or directory"},
+        {sim,
+         {"--garbage", "65", "--bogus"},
+         "kestrel-sim: --garbage must be a number from 0 to 64, not \"65\""},
+        {sim, {"--bogus", "--garbage", "65"}, "kestrel-sim: unknown option --bogus"},
+        {sim, {"--address=3"}, "kestrel-sim: unknown option --address=3"},
+        {sim, {"3"}, "kestrel-sim: unknown option 3"},
+        {sim, {"--load"}, "kestrel-sim: --load needs a value"},
+    };
+    for (const auto& c : cases) {
+        const auto r = runProgram(c.program, c.args);
+        EXPECT_EQ(std::tuple(r.status, r.out, r.err.substr(0, r.err.find('\n'))),
+                  std::tuple(2, "", c.firstLine))
+            << r.err;
+    }
+    // An empty word before the command is passed over, as it always was.
+    const auto r = runProgram(cli, {"", "ports"});
+    EXPECT_EQ(std::tuple(r.status, r.out.rfind("sim\n")), std::tuple(0, r.out.size() - 4)) << r.err;
+}
+
 TEST(KestrelConfigWithoutADisplay, AnswersHelpAndVersionAndOtherwiseSaysSoInOneLine)
 {
     for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
@@ -303,7 +342,7 @@ TEST(KestrelConfigWithoutADisplay, AnswersHelpAndVersionAndOtherwiseSaysSoInOneL
     auto help = runProgram(config, {"--help"}), version = runProgram(config, {"--version"});
     EXPECT_EQ(std::tuple(help.status, version.status, version.out.rfind("kestrel-config ", 0)),
               std::tuple(0, 0, 0u));
-    EXPECT_NE(help.out.find("--screenshots <FOLDER>"), std::string::npos);
+    EXPECT_NE(help.out.find("--size <WxH>"), std::string::npos);
     auto r = runProgram(config, {});
     EXPECT_EQ(std::tuple(r.status, r.out, std::count(r.err.begin(), r.err.end(), '\n')), std::tuple(1, "", 1))
         << r.err;

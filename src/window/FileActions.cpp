@@ -1,0 +1,159 @@
+#include "window/FileActions.h"
+#include "forms/MainWindowForm.h"
+
+#include "files/Backups.h"
+#include "files/ConfigurationFile.h"
+#include "window/BackupDialog.h"
+
+#include <QAction>
+#include <QDir>
+#include <QFileInfo>
+#include <QLabel>
+#include <chrono>
+
+namespace kestrel {
+
+FileActions::FileActions(Session& session, Guard& guard, WorkState& work, RememberedSettings& kept,
+                         Window window)
+    : core(session), guard(guard), work(work), kept(kept), window(std::move(window))
+{
+}
+
+bool FileActions::inBackups(const QString& path)
+{
+    const QString root = QDir(backupRoot()).canonicalPath();
+    const QString folder = QFileInfo(QFileInfo(path).absolutePath()).canonicalFilePath();
+    return !root.isEmpty() && !folder.isEmpty() && (folder == root || folder.startsWith(root + '/'));
+}
+
+bool FileActions::keepChangesSafe(const char* doing)
+{
+    window.commitAll();
+    if (!unsaved())
+        return true;
+    const Answer a = core.dialogs().ask(std::string("The configuration has changes that are not saved.\r\n") +
+                                            doing + " would lose them. Save them first?",
+                                        Buttons::SaveDiscardCancel, Icon::Warning);
+    if (a == Answer::Discard)
+        return true;
+    if (a != Answer::Save)
+        return false;
+    save(QString(), false);
+    return !unsaved(); // a cancelled or failed save keeps the changes and stops here
+}
+
+void FileActions::save(const QString& path, bool compact)
+{
+    window.commitAll();
+    guard([&] {
+        std::string written = path.toStdString();
+        if (!written.empty() && written == work.file() && work.changedOnDisk() &&
+            core.dialogs().ask(QFileInfo(path).fileName().toStdString() +
+                                   " has changed on disk since it was loaded or saved here.\r\n"
+                                   "Replace it with the configuration shown?",
+                               Buttons::YesNo, Icon::Warning) != Answer::Yes)
+            return;
+        // The backups folder is never the user's file.
+        const auto backups = [this](const std::string& chosen) {
+            if (!inBackups(QString::fromStdString(chosen)))
+                return false;
+            core.dialogs().message(
+                "The backups folder is the program's own: choose another folder for the file.",
+                Icon::Warning);
+            return true;
+        };
+        if (written.empty())
+            written = CommandSave_MouseDown(core, 1, compact ? 1 : 0, backups);
+        else if (!saveConfigurationTo(core, written, compact ? SaveForm::Compact : SaveForm::Full))
+            written.clear();
+        if (written.empty())
+            return;
+        const QString name = QString::fromStdString(written);
+        if (compact)
+            work.compactSaved(written); // saved only when it loads back to all that is shown
+        else
+            work.fileHolds(written, core.config, core.general);
+        remember(name);
+        window.status->setText(QString("Saved %1%2").arg(name, compact ? " (compact)" : ""));
+        if (compact && unsaved())
+            window.status->setText(window.status->text() +
+                                   "; it does not hold everything shown, so the work is still unsaved");
+    });
+    window.updateState();
+}
+
+void FileActions::load(const QString& path, bool backup)
+{
+    if (!keepChangesSafe(backup ? "Restoring a backup" : "Loading a file"))
+        return;
+    guard(backup ? "Restore from Backup" : "Load File", [this, &path, backup] {
+        const LoadOutcome loaded =
+            path.isEmpty() ? CommandLoad_Click(core) : loadConfigurationFrom(core, path.toStdString());
+        if (loaded.path.empty())
+            return;
+        const QString name = QString::fromStdString(loaded.path);
+        switch (loaded.result) {
+        case LoadResult::Loaded:
+            // A backup stays the program's: the configuration from it is untitled.
+            if (backup || inBackups(name)) {
+                work.untitled(&core.config, &core.general);
+                window.status->setText("Restored the backup " + name + " as an untitled configuration");
+                break;
+            }
+            work.fileHolds(loaded.path, core.config, core.general);
+            remember(name);
+            window.status->setText("Loaded " + name);
+            break;
+        case LoadResult::FormatError:
+            work.untitled(); // what was read is not what the file holds
+            window.status->setText("Load stopped at a fault in " + name +
+                                   ": the pages show what was read before it");
+            break;
+        default:
+            window.status->setText("Nothing was loaded from " + name);
+            break;
+        }
+    });
+    window.refreshAll();
+}
+
+void FileActions::saveReadBackup()
+{
+    std::string error;
+    std::string saved;
+    guard([&] {
+        saved = saveBackup(backupRoot().toStdString(), core.config, core.general,
+                           std::chrono::system_clock::now(), error,
+                           core.lastJob().incomplete() ? BackupKind::Incomplete : BackupKind::Complete);
+    });
+    if (saved.empty())
+        window.status->setText(window.status->text() +
+                               "; the backup was not saved: " + QString::fromStdString(error));
+}
+
+void FileActions::restoreFromBackup()
+{
+    BackupDialog dialog(listBackups(backupRoot().toStdString()), window.parent);
+    if (dialog.exec() == QDialog::Accepted && !dialog.chosenPath().isEmpty())
+        load(dialog.chosenPath(), true);
+}
+
+void FileActions::remember(const QString& path)
+{
+    if (inBackups(path))
+        return;
+    kept.remember(path);
+    showRecent();
+}
+
+void FileActions::showRecent()
+{
+    for (int i = 0; i < RememberedSettings::kRecentFiles; ++i) {
+        const bool used = i < kept.recent.size();
+        recentActions[i]->setVisible(used);
+        if (used)
+            recentActions[i]->setText(QString("&%1 %2").arg(i + 1).arg(QFileInfo(kept.recent[i]).fileName()));
+    }
+}
+
+} // namespace kestrel

@@ -1,0 +1,394 @@
+#include "window/KestrelConfig.h"
+
+#include "forms/DevicesForm.h"
+#include "platform/ProgramSession.h"
+#include "window/AspectsPage.h"
+#include "window/Bindings.h"
+#include "window/BulkRows.h"
+#include "window/EditHistory.h"
+#include "window/EventPage.h"
+#include "window/FileActions.h"
+#include "window/GeneralPage.h"
+#include "window/JobRunner.h"
+#include "window/LinkArea.h"
+#include "window/LogWindows.h"
+#include "window/MainMenus.h"
+#include "window/ModuleJobs.h"
+#include "window/PinConfigPage.h"
+#include "window/PinOverview.h"
+#include "window/TrafficMonitor.h"
+#include "window/Widgets.h"
+#include "window/WindowSettings.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QShortcut>
+#include <QStatusBar>
+#include <QTabWidget>
+#include <QTimer>
+#include <QUndoStack>
+#include <QVBoxLayout>
+
+namespace kestrel {
+
+KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindow(parent), boxes(this)
+{
+    setObjectName("KestrelConfig");
+    setWindowTitle("Kestrel Config");
+    program = std::make_unique<ProgramSession>(dialogs ? *dialogs : static_cast<UserDialogs&>(boxes));
+    core = program->session.get();
+    corvid = program->corvid.get();
+    guard = std::make_unique<Guard>(*core);
+    history = new EditHistory(
+        *core, [this] { commitAll(); }, [this] { refreshAll(); }, this);
+    undoStack = history->stack();
+    guard->done = [this](const EditState& before, const std::string& name, const void* control) {
+        history->record(before, name, control);
+    };
+
+    auto* central = new QWidget;
+    auto* layout = new QVBoxLayout(central);
+    linkArea = new LinkArea(*core, *corvid, *guard, kept);
+    linkArea->onChanged = [this] { updateWindowState(); };
+    linkArea->onNumbering = [this](bool) { CheckKLnumber_Click(); };
+    LabelPort = linkArea->LabelPort;
+    ComboPort = linkArea->ComboPort;
+    cmdRefreshComm = linkArea->cmdRefreshComm;
+    FrameBitrate = linkArea->FrameBitrate;
+    std::copy(std::begin(linkArea->OptionBitRate), std::end(linkArea->OptionBitRate), OptionBitRate);
+    LabelAddress = linkArea->LabelAddress;
+    TextAddress = linkArea->TextAddress;
+    UpDownAddress = linkArea->UpDownAddress;
+    CheckXaddress = linkArea->CheckXaddress;
+    LabelXaddress = linkArea->LabelXaddress;
+    txtXaddr = linkArea->txtXaddr;
+    UpDownXaddr = linkArea->UpDownXaddr;
+    CheckKestrelBD = linkArea->CheckKestrelBD;
+    CheckCorvid = linkArea->CheckCorvid;
+    CheckKLnumber = linkArea->CheckKLnumber;
+    TextResponse = linkArea->TextResponse;
+    cmdSetTM = linkArea->cmdSetTM;
+    layout->addWidget(linkArea);
+
+    const BulkRows rows;
+    CommandReadAll = rows.CommandReadAll;
+    CommandWriteAll = rows.CommandWriteAll;
+    CommandVerifyAll = rows.CommandVerifyAll;
+    CommandWriteChanges = rows.CommandWriteChanges;
+    CommandCompare = rows.CommandCompare;
+    CommandSave = rows.CommandSave;
+    CommandLoad = rows.CommandLoad;
+    CommandReadAllPins = rows.CommandReadAllPins;
+    CommandWriteAllPins = rows.CommandWriteAllPins;
+    CommandVerifyAllPins = rows.CommandVerifyAllPins;
+    CheckWritePinConfig = rows.CheckWritePinConfig;
+    layout->addLayout(rows.module);
+    layout->addLayout(rows.pins);
+    CommandSave->installEventFilter(this);
+    // From the keyboard (Space, Return, Alt+S) the keys held decide as a mouse press's do:
+    // with Shift the compact file. A mouse press has saved at the press already.
+    CommandSave->setAutoDefault(true); // Return presses it as Space does
+    connect(CommandSave, &QPushButton::clicked, this, [this] {
+        const bool shift = QApplication::keyboardModifiers() & Qt::ShiftModifier;
+        CommandSave_MouseDown(1, shift ? 1 : 0);
+    });
+    // Alt+Shift+S is not the button's own letter: it saves compact as Shift+click does.
+    connect(new QShortcut(QKeySequence(Qt::ALT | Qt::SHIFT | Qt::Key_S), this), &QShortcut::activated, this,
+            [this] { CommandSave_MouseDown(1, 1); });
+    for (auto [button, job] : {std::pair{CommandReadAllPins, Jobs::ReadAllPins},
+                               {CommandWriteAllPins, Jobs::WriteAllPins},
+                               {CommandVerifyAllPins, Jobs::VerifyAllPins},
+                               {CommandWriteChanges, Jobs::WriteChanges},
+                               {CommandCompare, Jobs::CompareModule}})
+        connect(button, &QPushButton::clicked, this, [this, job] { startJob(job); });
+    connect(CommandLoad, &QPushButton::clicked, this, [this] { (*guard)([this] { CommandLoad_Click(); }); });
+    connect(CommandReadAll, &QPushButton::clicked, this, &KestrelConfig::CommandReadAll_Click);
+    connect(CommandWriteAll, &QPushButton::clicked, this, &KestrelConfig::CommandWriteAll_Click);
+    connect(CommandVerifyAll, &QPushButton::clicked, this, &KestrelConfig::CommandVerifyAll_Click);
+
+    tabs = named(new QTabWidget, "SSTab1");
+    tabs->addTab(buildGeneralPage(), "General");
+    eventPage = new EventPage(
+        *core, [this](JobName job) { startJob(job); }, guard.get());
+    tabs->addTab(eventPage, "Event Control");
+    pinConfigPage = new PinConfigPage(*core, guard.get());
+    tabs->addTab(pinConfigPage, "Pin Configuration");
+    aspectsPage = new AspectsPage(
+        *core, devices, [this](JobName job) { startJob(job); }, guard.get());
+    tabs->addTab(aspectsPage, "Aspects");
+    pinOverviewPage = new PinOverviewPage(*core);
+    tabs->addTab(pinOverviewPage, "Pin Overview");
+    layout->addWidget(tabs, 1);
+    // One pin selection for the whole window: a pin chosen on one page is shown on all.
+    eventPage->onPinChosen = [this] { refreshAll(); };
+    pinConfigPage->onPinChosen = [this] { refreshAll(); };
+    aspectsPage->onPinChosen = [this] { refreshAll(); };
+    pinOverviewPage->onPinChosen = [this] {
+        refreshAll();
+        tabs->setCurrentWidget(aspectsPage); // a pin picked from the overview is shown with its aspects
+    };
+    aspectsPage->onDetailsChanged = [this](bool shown) {
+        for (QPushButton* b : {pinConfigPage->CommandPCFGGetParam[0], pinConfigPage->CommandPCFGGetParam[1],
+                               pinConfigPage->CommandPCFGSetParam[0], pinConfigPage->CommandPCFGSetParam[1]})
+            b->setVisible(shown);
+    };
+    connect(tabs, &QTabWidget::currentChanged, this, [this] { refreshAll(); });
+
+    LabelAction = named(new QLabel("Working ... Please WAIT"), "LabelAction");
+    LabelAction->setStyleSheet("color: #b00000; font-weight: bold;");
+    QSizePolicy keepRoom = LabelAction->sizePolicy();
+    keepRoom.setRetainSizeWhenHidden(true); // the notice does not resize the window
+    LabelAction->setSizePolicy(keepRoom);
+    LabelAction->hide();
+    layout->addWidget(LabelAction);
+    setCentralWidget(central);
+
+    addStatusFields(statusBar(), {&LabelStatusPort, &LabelStatusModule, &LabelStatusJob},
+                    {"LabelStatusPort", "LabelStatusModule", "LabelStatusJob"});
+    files = std::make_unique<FileActions>(*core, *guard, work, kept,
+                                          FileActions::Window{this, LabelStatusJob, [this] { commitAll(); },
+                                                              [this] { refreshAll(); },
+                                                              [this] { updateWindowState(); }});
+    guard->after = [this] { updateWindowState(); };
+    guard->afterFault = [this] { refreshAll(); };
+
+    core->link.onTextResponse = [this](const std::string& t) { TextResponse->setText(latin1(t)); };
+    core->link.onSettingsChanged = [this] { refreshLinkDisplays(); };
+    core->link.onCorvidLog = [this](const std::string& line) {
+        ensureCorvidWindow();
+        txtCorvidCommunication->appendPlainText(latin1(line));
+        // Shown when first written to; once the user has closed it, it stays closed
+        // until View > Corvid Log opens it again.
+        if (!frmCorvidComm->isVisible() && !corvidLogDismissed)
+            frmCorvidComm->show();
+    };
+
+    core->report.onClear = [this] {
+        ensureVerificationWindow();
+        txtVerification->clear();
+    };
+    core->report.onLine = [this](const std::string& line) {
+        ensureVerificationWindow();
+        txtVerification->appendPlainText(latin1(line));
+        runner->reportLine(line);
+    };
+    core->onShowVerification = [this] {
+        ensureVerificationWindow();
+        frmKestrelVerification->show();
+        frmKestrelVerification->raise();
+    };
+
+    runner =
+        new JobRunner(*core, *guard, jobs,
+                      {this, LabelAction, LabelStatusJob, CheckWritePinConfig, [this] { commitAll(); },
+                       [this] { refreshAll(); },
+                       [this](const QWidget* w) {
+                           return w == frmTrafficMonitor || w == frmKestrelVerification || w == frmCorvidComm;
+                       }});
+    ModuleJobs::add(*this);
+    Timer1 = new QTimer(this);
+    Timer1->setObjectName("Timer1");
+    Timer1->setInterval(200);
+    connect(Timer1, &QTimer::timeout, this, &KestrelConfig::Timer1_Timer);
+    Timer1->start();
+
+    linkArea->fillPortList();
+    refreshLinkDisplays();
+
+    // The standard device definitions beside the program.
+    boxes.definitionsFolder = QApplication::applicationDirPath();
+    (*guard)([this] {
+        loadStandardDeviceList(devices, QApplication::applicationDirPath().toStdString(), core->dialogs());
+    });
+    MainMenus::build(*this);
+    WindowSettings::load(*this);
+    work.untitled(&core->config, &core->general); // nothing of the user's yet
+    refreshAll();
+    undoStack->clear(); // what the start-up did is not the user's
+
+    ModuleJobs::setButtons(*this);
+    // Every event of the program passes the job runner first: input waits while a job is
+    // asked for or runs, and a mnemonic on a button that writes asks first.
+    qApp->installEventFilter(runner);
+
+    history->nameStepsAfterButtons(this, *guard);
+    history->takeUndoKeysOfBoxes(this); // Ctrl+Z in a box undoes the configuration
+    connect(qApp, &QApplication::focusChanged, this, [this] { history->newRun(); });
+}
+
+void KestrelConfig::startJob(JobName name) { runner->ask(name); }
+
+void KestrelConfig::Timer1_Timer() { runner->tick(); }
+
+void KestrelConfig::commitAll()
+{
+    generalPage->commit();
+    eventPage->commitPending();
+    pinConfigPage->commitPending();
+    aspectsPage->commitPending();
+    for (QLineEdit* box : {TextAddress, txtXaddr})
+        if (box->isModified())
+            emit box->editingFinished();
+}
+
+void KestrelConfig::refreshAll()
+{
+    commitAll();
+    refreshLinkDisplays();
+    generalPage->refresh();
+    eventPage->refresh();
+    pinConfigPage->refresh();
+    aspectsPage->refresh();
+    (*guard)([this] { pinOverviewPage->refresh(); });
+    updateWindowState();
+}
+
+bool KestrelConfig::unsavedChanges() const { return files->unsaved(); }
+
+void KestrelConfig::updateWindowState()
+{
+    const QString name = currentFile().isEmpty() ? QString() : QFileInfo(currentFile()).fileName();
+    const bool changed = unsavedChanges();
+    LabelStatusModule->setText(
+        QString::fromStdString(work.moduleState(core->moduleImage(), core->config, core->general)));
+    // "Kestrel Config" while nothing is changed; "mylayout.dat* - Kestrel Config" (or
+    // "untitled*") while the configuration differs from its file or was never saved.
+    if (name.isEmpty() && !changed)
+        setWindowTitle("Kestrel Config");
+    else
+        setWindowTitle((name.isEmpty() ? QString("untitled") : name) + (changed ? "*" : "") +
+                       " - Kestrel Config");
+    SerialPort& port = core->link.port();
+    const int rate = core->linkControl.OptionBitRate;
+    static const char* rates[3] = {"9600", "19200", "38400"};
+    LabelStatusPort->setText(port.isOpen() ? QString("Port %1 open at %2 bit/s")
+                                                 .arg(QString::fromStdString(core->linkControl.ComboPortText))
+                                                 .arg(rates[std::clamp(rate, 0, 2)])
+                                           : QString("Port closed"));
+}
+
+bool KestrelConfig::keepChangesSafe(const char* doing) { return files->keepChangesSafe(doing); }
+
+void KestrelConfig::closeEvent(QCloseEvent* event)
+{
+    if (runner->busy()) { // the job ends first
+        event->ignore();
+        return;
+    }
+    bool leave = false;
+    (*guard)([&] { leave = keepChangesSafe("Closing the window"); });
+    if (leave) {
+        WindowSettings::save(*this);
+        event->accept();
+    } else
+        event->ignore();
+}
+
+void KestrelConfig::CommandSave_MouseDown(int button, int shift)
+{
+    if (button == 1 && (shift == 0 || shift == 1))
+        saveFile(QString(), shift == 1);
+}
+
+void KestrelConfig::saveFile(const QString& path, bool compact) { files->save(path, compact); }
+
+void KestrelConfig::about() { MainMenus::about(this); }
+
+void KestrelConfig::ensureVerificationWindow()
+{
+    if (!frmKestrelVerification)
+        frmKestrelVerification = makeVerificationWindow(this, txtVerification);
+}
+
+void KestrelConfig::ensureCorvidWindow()
+{
+    if (frmCorvidComm)
+        return;
+    frmCorvidComm = makeCorvidWindow(this, txtCorvidCommunication, cmdClear);
+    connect(cmdClear, &QPushButton::clicked, this, [this] {
+        txtCorvidCommunication->clear();
+        core->link.txtCorvidCommunication.clear();
+    });
+    connect(frmCorvidComm, &QDialog::finished, this, [this] { corvidLogDismissed = true; });
+}
+
+void KestrelConfig::refreshLinkDisplays() { linkArea->refresh(); }
+
+void KestrelConfig::ComboPort_Click() { linkArea->ComboPort_Click(); }
+
+void KestrelConfig::TextAddress_Click() { linkArea->TextAddress_Click(); }
+
+void KestrelConfig::txtXaddr_Click() { linkArea->txtXaddr_Click(); }
+
+void KestrelConfig::CheckKLnumber_Click()
+{
+    // Shown numbers move with the base; what is stored stays numbered from 0.
+    commitAll(); // a typed number is taken with the base it was typed for
+    core->config.NumberingBase = CheckKLnumber->isChecked() ? 1 : 0;
+    refreshAll();
+}
+
+void KestrelConfig::CommandLoad_Click() { loadFile(QString()); }
+
+void KestrelConfig::loadFile(const QString& path, bool backup) { files->load(path, backup); }
+
+void KestrelConfig::saveReadBackup() { files->saveReadBackup(); }
+
+void KestrelConfig::restoreFromBackup() { files->restoreFromBackup(); }
+
+void KestrelConfig::CommandReadAll_Click()
+{
+    if (keepChangesSafe("Reading the module"))
+        startJob(Jobs::ReadAll);
+}
+
+void KestrelConfig::CommandWriteAll_Click() { startJob(Jobs::WriteAll); }
+
+void KestrelConfig::CommandVerifyAll_Click() { startJob(Jobs::VerifyAll); }
+
+KestrelConfig::~KestrelConfig()
+{
+    // The window is no longer here to answer its widgets' signals while they go (a log
+    // window that is still open reports itself closed).
+    for (QObject* child : findChildren<QObject*>()) {
+        QObject::disconnect(child, nullptr, this, nullptr);
+        QObject::disconnect(child, nullptr, linkArea, nullptr); // its handlers use the guard
+        QObject::disconnect(child, nullptr, history, nullptr);
+    }
+    QObject::disconnect(qApp, nullptr, this, nullptr);
+    qApp->removeEventFilter(runner);
+    // The session refers to the dialogs of the window: it goes first.
+    guard.reset();
+    program.reset();
+}
+
+QWidget* KestrelConfig::buildGeneralPage()
+{
+    generalPage = new GeneralPage(*core, guard.get());
+    CommandGenVersion = generalPage->CommandGenVersion;
+    LabelGenVersionString = generalPage->LabelGenVersionString;
+    return generalPage;
+}
+
+void KestrelConfig::CommandGenVersion_Click() { generalPage->CommandGenVersion_Click(); }
+
+bool KestrelConfig::eventFilter(QObject* watched, QEvent* event)
+{
+    // Save acts on the press, where the keys held decide: Shift alone saves the compact file.
+    if (watched == CommandSave && event->type() == QEvent::MouseButtonPress) {
+        const auto [button, shift] = pressOf(static_cast<QMouseEvent*>(event));
+        CommandSave_MouseDown(button, shift);
+        return true; // done: no click follows
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+} // namespace kestrel

@@ -1,0 +1,168 @@
+#include "window/ModuleJobs.h"
+
+#include "forms/ConfigDiff.h"
+#include "model/AddressIndex.h"
+#include "ops/Bulk.h"
+#include "ops/EventControl.h"
+#include "ops/PinTransfer.h"
+#include "window/AspectsPage.h"
+#include "window/CompareDialog.h"
+#include "window/EventPage.h"
+#include "window/FileActions.h"
+#include "window/GeneralPage.h"
+#include "window/JobRunner.h"
+#include "window/KestrelConfig.h"
+#include "window/PinConfigPage.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+
+namespace kestrel {
+
+void ModuleJobs::add(KestrelConfig& w)
+{
+    Session& s = *w.core;
+    JobRunner& runner = *w.runner;
+    JobDispatcher& jobs = w.jobs;
+    auto pinConfigToo = [&w] { return w.CheckWritePinConfig->isChecked(); };
+    // A verification of a part adds its lines to the report; only Verify All starts it afresh.
+    auto verify = [&s](bool (*run)(Session&)) {
+        return [&s, run] {
+            const bool ok = run(s);
+            if (s.onShowVerification)
+                s.onShowVerification();
+            return ok;
+        };
+    };
+    jobs.add(Jobs::ReadAll, [&w, &runner, &s] {
+        bool completed = false;
+        runner.run(
+            "Read All", [&s, &completed] { return completed = ReadAll(s); }, true, false, LongJob::ReadAll);
+        if (!completed)
+            return;
+        w.files->saveReadBackup();
+        if (w.work.readFromModule(s.general)) {
+            w.LabelStatusJob->setText(w.LabelStatusJob->text() + "; the file held another module, so the "
+                                                                 "configuration is now untitled");
+            w.updateWindowState();
+        }
+    });
+    jobs.add(Jobs::WriteAll, [&runner, &s, pinConfigToo] {
+        const bool withConfig = pinConfigToo();
+        runner.writes(withConfig);
+        runner.run(
+            "Write All", [&s, withConfig] { return WriteAll(s, withConfig); }, false, false,
+            LongJob::WriteAll);
+    });
+    jobs.add(Jobs::VerifyAll, [&runner, &s] {
+        runner.run(
+            "Verify All", [&s] { return VerifyAll(s); }, false, true, LongJob::VerifyAll);
+    });
+    jobs.add(Jobs::ReadPin, [&runner, &s] {
+        runner.run(
+            "Read Pin", [&s] { return ReadPin(s, s.config.CurrentPin); }, true);
+    });
+    jobs.add(Jobs::WritePin, [&runner, &s, pinConfigToo] {
+        const bool withConfig = pinConfigToo();
+        runner.writes(withConfig);
+        runner.run("Write Pin", [&s, withConfig] { return WritePin(s, s.config.CurrentPin, withConfig); });
+    });
+    jobs.add(Jobs::ReadDevice, [&runner, &s] {
+        runner.run(
+            "Read Device", [&s] { return ReadDevice(s); }, true);
+    });
+    jobs.add(Jobs::WriteDevice,
+             [&runner, &s] { runner.run("Write Device", [&s] { return WriteDevice(s); }); });
+    jobs.add(Jobs::ReadAllPins, [&runner, &s] {
+        runner.run(
+            "Read All Pins", [&s] { return ReadAllPins(s); }, true, false, LongJob::ReadAllPins);
+    });
+    jobs.add(Jobs::WriteAllPins, [&runner, &s, pinConfigToo] {
+        const bool withConfig = pinConfigToo();
+        runner.writes(withConfig);
+        runner.run(
+            "Write All Pins", [&s, withConfig] { return WriteAllPins(s, withConfig); }, false, false,
+            LongJob::WriteAllPins);
+    });
+    jobs.add(Jobs::PAspReadPin, [&runner, &s] {
+        runner.run(
+            "Read Pin", [&s] { return PAspReadPin(s, s.config.CurrentPin); }, true);
+    });
+    jobs.add(Jobs::PAspWritePin,
+             [&runner, &s] { runner.run("Write Pin", [&s] { return WritePin(s, s.config.CurrentPin); }); });
+    jobs.add(Jobs::VerifyAllPins, [&runner, verify] {
+        runner.run("Verify All Pins", verify(&VerifyAllPins), false, true, LongJob::VerifyAllPins);
+    });
+    jobs.add(Jobs::ECWriteAll,
+             [&runner, &s] { runner.run("Write All Events", [&s] { return WriteAllEvents(s); }); });
+    jobs.add(Jobs::ECReadAll, [&runner, &s] {
+        runner.run(
+            "Read All Events", [&s] { return ReadAllEvents(s); }, true);
+    });
+    jobs.add(Jobs::ECVerify, [&runner, verify] {
+        runner.run("Verify Event Control", verify(&VerifyEventControl), false, true);
+    });
+    jobs.add(Jobs::WriteChanges, [&runner, &s, pinConfigToo] {
+        const bool withConfig = pinConfigToo();
+        runner.writes(withConfig);
+        runner.run("Write Changes", [&s, withConfig] { return WriteChanges(s, withConfig); });
+    });
+    jobs.add(Jobs::CompareModule, [&w, &runner, &s] {
+        Configuration module;
+        GeneralSettings gmodule;
+        bool read = false;
+        runner.run("Compare with Module", [&] { return read = ReadAllInto(s, module, gmodule); });
+        if (!read)
+            return;
+        (*w.guard)([&] { showComparison(w, module, gmodule); });
+    });
+    jobs.add(Jobs::PAspWriteAspect, [&runner, &s] {
+        runner.run("Write Aspect",
+                   [&s] { return WriteAspect(s, s.config.CurrentPin, s.config.CurrentAspect); });
+    });
+}
+
+void ModuleJobs::setButtons(KestrelConfig& w)
+{
+    const AspectsPage& a = *w.aspectsPage;
+    const EventPage& e = *w.eventPage;
+    const GeneralPage& g = *w.generalPage;
+    w.runner->setButtons({w.CommandReadAll, w.CommandWriteAll, w.CommandVerifyAll, w.CommandWriteChanges,
+                          w.CommandCompare, w.CommandReadAllPins, w.CommandWriteAllPins,
+                          w.CommandVerifyAllPins, a.CommandReadPin, a.CommandWritePin, a.CommandReadDevice,
+                          a.CommandWriteDevice, a.CommandPAspReadPin, a.CommandPAspWritePin,
+                          a.CommandPAspWriteAspect, e.CommandECRead, e.CommandECWrite, e.CommandECVerify},
+                         {w.CommandWriteAll, w.CommandWriteChanges, w.CommandWriteAllPins, a.CommandWritePin,
+                          a.CommandWriteDevice, a.CommandPAspWritePin, a.CommandPAspWriteAspect,
+                          e.CommandECWrite, e.CommandECWriteSingle, e.CommandECInitWrite, g.CommandGenIDWrite,
+                          g.CommandGenDCCWrite, g.CommandGenAddrWrite, g.CommandGenHWCWrite, g.CommandLCWrite,
+                          g.CommandGenSerialWrite, g.CommandGenEraseFlash,
+                          w.pinConfigPage->CommandPCFGSetParam[1]});
+}
+
+void ModuleJobs::showComparison(KestrelConfig& w, const Configuration& module, const GeneralSettings& gmodule)
+{
+    Session& s = *w.core;
+    if (!w.frmCompare) {
+        w.frmCompare = new CompareDialog(&w);
+        QObject::connect(w.frmCompare, &CompareDialog::applyChosen, &w, [&w, &s](bool thenWrite) {
+            if (w.frmCompare->chosenCount() > 0)
+                (*w.guard)("Take from Module", [&w, &s] {
+                    w.frmCompare->takeChosen(s.config, s.general);
+                    RecalcAddressIndex(s.config);
+                });
+            w.frmCompare->accept();
+            w.refreshAll();
+            if (thenWrite)
+                w.startJob(Jobs::WriteChanges);
+        });
+    }
+    const int base = s.config.NumberingBase;
+    w.frmCompare->showDifferences(differences(module, gmodule, s.config, s.general, base), module, gmodule,
+                                  base);
+    w.frmCompare->show();
+    w.frmCompare->raise();
+}
+
+} // namespace kestrel

@@ -1,0 +1,172 @@
+#include "window/QtDialogs.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPointer>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QRegularExpression>
+
+namespace kestrel {
+
+namespace {
+QMessageBox::Icon qtIcon(Icon icon)
+{
+    switch (icon) {
+    case Icon::Warning:
+        return QMessageBox::Warning;
+    case Icon::Information:
+        return QMessageBox::Information;
+    case Icon::Question:
+        return QMessageBox::Question;
+    case Icon::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+// "Kestrel Config Data|*.dat" -> "Kestrel Config Data (*.dat)"
+QString qtFilter(const std::string& filter)
+{
+    const QStringList parts = QString::fromLatin1(filter.c_str()).split('|');
+    QStringList out;
+    for (int i = 0; i + 1 < parts.size(); i += 2)
+        out << parts[i] + " (" + parts[i + 1] + ")";
+    return out.join(";;");
+}
+} // namespace
+
+QWidget* QtDialogs::owner() const
+{
+    // A job's progress dialog shows itself after a moment even while a box waits for its
+    // answer, and would then cover and block a box that belongs to the window. The box is
+    // the progress dialog's own instead, which is brought up first.
+    if (parent) {
+        const auto running =
+            parent->findChildren<QProgressDialog*>("dlgProgress", Qt::FindDirectChildrenOnly);
+        if (!running.isEmpty()) {
+            QProgressDialog* progress = running.last();
+            if (!progress->isVisible())
+                progress->show();
+            return progress;
+        }
+    }
+    if (QWidget* modal = QApplication::activeModalWidget())
+        return modal;
+    return parent;
+}
+
+namespace {
+int showBox(QMessageBox& box)
+{
+    // Every answer has its letter (Alt+S, Alt+D, ...).
+    for (auto [which, caption] :
+         {std::pair{QMessageBox::Save, "&Save"}, std::pair{QMessageBox::Discard, "&Discard"},
+          std::pair{QMessageBox::Cancel, "&Cancel"}, std::pair{QMessageBox::Yes, "&Yes"},
+          std::pair{QMessageBox::No, "&No"}, std::pair{QMessageBox::Ok, "&OK"}})
+        if (QAbstractButton* button = box.button(which))
+            button->setText(caption);
+    // The keyboard goes back where it was when the box closes, also after two in a row.
+    // Right after another box the window may not be active yet: its own window then.
+    QPointer<QWidget> active = QApplication::activeWindow();
+    if (!active && box.parentWidget())
+        active = box.parentWidget()->window();
+    const QPointer<QWidget> focus = active ? active->focusWidget() : nullptr;
+    box.setWindowModality(Qt::ApplicationModal);
+    box.show();
+    box.raise();
+    box.activateWindow();
+    const int answer = box.exec();
+    box.hide();
+    if (active) {
+        active->activateWindow();
+        if (focus && focus->isVisible())
+            focus->setFocus(Qt::OtherFocusReason);
+    }
+    return answer;
+}
+} // namespace
+
+void QtDialogs::message(const std::string& text, Icon icon)
+{
+    QMessageBox box(qtIcon(icon), QApplication::applicationDisplayName(), QString::fromLatin1(text.c_str()),
+                    QMessageBox::Ok, owner());
+    box.setObjectName("dlgMessage");
+    showBox(box);
+}
+
+Answer QtDialogs::ask(const std::string& text, Buttons buttons, Icon icon)
+{
+    QMessageBox::StandardButtons set = QMessageBox::Ok;
+    if (buttons == Buttons::OkCancel)
+        set = QMessageBox::Ok | QMessageBox::Cancel;
+    else if (buttons == Buttons::YesNo)
+        set = QMessageBox::Yes | QMessageBox::No;
+    else if (buttons == Buttons::SaveDiscardCancel)
+        set = QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel;
+    QMessageBox box(qtIcon(icon), QApplication::applicationDisplayName(), QString::fromLatin1(text.c_str()),
+                    set, owner());
+    box.setObjectName("dlgQuestion");
+    switch (showBox(box)) {
+    case QMessageBox::Ok:
+        return Answer::Ok;
+    case QMessageBox::Yes:
+        return Answer::Yes;
+    case QMessageBox::No:
+        return Answer::No;
+    case QMessageBox::Save:
+        return Answer::Save;
+    case QMessageBox::Discard:
+        return Answer::Discard;
+    default:
+        return Answer::Cancel;
+    }
+}
+
+QString QtDialogs::withDefaultSuffix(const QString& name, const std::string& filter)
+{
+    if (name.isEmpty() || !QFileInfo(name).suffix().isEmpty())
+        return name;
+    const auto match = QRegularExpression(R"(\*\.(\w+))").match(QString::fromLatin1(filter.c_str()));
+    return match.hasMatch() ? name + "." + match.captured(1) : name;
+}
+
+std::string QtDialogs::openFileName(const std::string& title, const std::string& filter,
+                                    const std::string& defaultName)
+{
+    // Definitions files are looked for beside the standard one, data files where the last
+    // file was chosen.
+    const bool definitions = filter.find("*.def") != std::string::npos;
+    const QString folder = definitions && !definitionsFolder.isEmpty() ? definitionsFolder : lastFolder;
+    QString start = QString::fromStdString(defaultName);
+    if (!folder.isEmpty())
+        start = start.isEmpty() ? folder : folder + "/" + start;
+    const QString chosen =
+        QFileDialog::getOpenFileName(owner(), QString::fromLatin1(title.c_str()), start, qtFilter(filter));
+    if (!chosen.isEmpty() && !definitions)
+        lastFolder = QFileInfo(chosen).absolutePath();
+    return chosen.toStdString();
+}
+
+std::string QtDialogs::saveFileName(const std::string& title, const std::string& filter,
+                                    const std::string& defaultName)
+{
+    QFileDialog dialog(owner(), QString::fromLatin1(title.c_str()), lastFolder, qtFilter(filter));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    // The suffix is added before the dialog asks about replacing an existing file.
+    const QString suffix = QFileInfo(withDefaultSuffix("x", filter)).suffix();
+    dialog.setDefaultSuffix(suffix);
+    if (!defaultName.empty())
+        dialog.selectFile(QString::fromStdString(defaultName));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return {};
+    const QString chosen = withDefaultSuffix(dialog.selectedFiles().first(), filter);
+    if (!chosen.isEmpty())
+        lastFolder = QFileInfo(chosen).absolutePath();
+    return chosen.toStdString();
+}
+
+} // namespace kestrel
