@@ -1,3 +1,4 @@
+#include "platform/WindowStart.h"
 #include "window/KestrelConfig.h"
 
 #include <QApplication>
@@ -25,6 +26,7 @@ bool displayNamed(bool platformOption)
 
 int main(int argc, char** argv)
 {
+    kestrel::useParentConsole();
     QCommandLineParser parser;
     parser.setApplicationDescription("Reads, edits, writes back and verifies the configuration of\n"
                                      "Kestrel accessory controller modules in a window.");
@@ -63,6 +65,7 @@ int main(int argc, char** argv)
                              "WAYLAND_DISPLAY is set); kestrel-cli works without one\n");
         return 1;
     }
+    kestrel::chooseFontEngine();
     QApplication app(argc, argv);
     QApplication::setApplicationName("Kestrel Config");
     QApplication::setApplicationDisplayName("Kestrel Config");
