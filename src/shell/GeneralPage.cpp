@@ -49,10 +49,7 @@ QString pinLegend(int base)
     return legends[base == 1 ? 1 : 0];
 }
 
-constexpr int kFlexAddressMaximum = 127; // the mode byte is one data byte
-constexpr int kExtendedAddressMaximum = 95;
-constexpr long kDccAddressMaximum = 127 * 64 + 63; // high part one data byte, low part 6 bits
-constexpr std::size_t kIDStringMaximum = 12;
+constexpr int kFlexAddressMaximum = kDataByteMax; // the mode byte is one data byte
 
 QPushButton* button(const char* caption, const char* name) { return named(new QPushButton(caption), name); }
 
@@ -399,7 +396,7 @@ void GeneralPage::bind()
             box, [&field] { return field; },
             [this, &field](const std::string& typed) {
                 // The module takes 13 bits (low 6, high 7): clamped and written back.
-                field = std::to_string(std::clamp<long>(valInt(typed), 0, kDccAddressMaximum));
+                field = std::to_string(std::clamp<long>(valInt(typed), 0, kDccAddressMax));
                 if (session.onDccAddressChanged)
                     session.onDccAddressChanged();
             });
@@ -441,7 +438,7 @@ void GeneralPage::bind()
         },
         [&g, base](const std::string& typed) {
             g.ExtendedAddress =
-                static_cast<int>(std::clamp<long>(valInt(typed) - base(), 0, kExtendedAddressMaximum));
+                static_cast<int>(std::clamp<long>(valInt(typed) - base(), 0, kExtendedAddressMax));
             g.TextGenXaddr = std::to_string(g.ExtendedAddress + base());
         });
     for (int i = 0; i < 16; ++i)
@@ -480,9 +477,9 @@ void GeneralPage::bind()
 void GeneralPage::cutIDString()
 {
     std::string& id = session.general.TextGenIDString;
-    if (id.size() <= kIDStringMaximum)
+    if (id.size() <= kIdStringLength)
         return;
-    id.resize(kIDStringMaximum);
+    id.resize(kIdStringLength);
     refresh();
     session.dialogs().message("ID string cut to 12 characters: " + id, Icon::Information);
 }
