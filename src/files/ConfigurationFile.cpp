@@ -327,13 +327,10 @@ private:
             .decode(g, GeneralBytes(masks.begin(), masks.end()), config.NumberingBase);
     }
 
-    // The record of an item that the file carries as its data bytes; nullptr for a
-    // keyword that is none.
+    // The record of an item that the file carries as its data bytes (asked after the
+    // records of their own layout); nullptr for a keyword that is none.
     static const GeneralItemCodec* itemRecord(const std::string& keyword)
     {
-        for (const char* own : {"ID$", "DCC", "XAD", "LED", "SPC"})
-            if (keyword == own)
-                return nullptr;
         for (const GeneralItemCodec& row : kGeneralCodecs)
             if (keyword == row.record)
                 return &row;
