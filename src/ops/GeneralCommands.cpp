@@ -13,8 +13,8 @@ void say(Session& s, const std::string& text) { s.dialogs().message(text, Icon::
 // "type", or in detail (badGeneralReply).
 enum class Words { Plain, SizeType, Detailed };
 
-// The wordings the items had before there was one for all; an item that is not listed
-// here is worded in detail and named after its row of kGeneralItems.
+// The items with words of their own; an item that is not listed here is worded in detail
+// and named after its row of kGeneralItems.
 struct Wording {
     GeneralItem item;
     Words words;
@@ -23,8 +23,8 @@ struct Wording {
     const char* verifier;   // before the verification's line
     const char* step;       // the verification's progress step; "": the step of the item before
     const char* mismatch;   // the verification's line for a difference; "": the text's own line
-    bool failsRead;
-    bool lengthGoesOn;
+    bool failsRead;         // GeneralItemWords
+    bool lengthGoesOn;      // GeneralItemWords
 };
 constexpr Wording kWordings[] = {
     {kItemIdString, Words::Plain, "", nullptr, "ReadIDString", "Verifying ID string", "", true, false},
