@@ -46,38 +46,61 @@ enum GeneralItem : int {
     kItemSerialPort = 13,
 };
 
-// What each general item holds, as the traffic shows it, and the length of the module's
-// answer to its read (the length field: echoed command and item and the data; 0 where it
-// varies). Item 0 reads the version and, written with the erase sequence, erases the
-// configuration memory.
+// What each general item holds, as the traffic shows it, and the length fields of the
+// module's answer to its read and of its write (echoed command and item and the data; 0
+// where it varies with the text). Item 0 reads the version and, written with the erase
+// sequence, erases the configuration memory. The settings behind each item and their
+// bytes are kGeneralCodecs (session/GeneralSettings.h).
 struct GeneralItemInfo {
     GeneralItem item;
     const char* name;
     int replyLength;
+    int writeLength;
 };
 inline constexpr std::array<GeneralItemInfo, 13> kGeneralItems = {{
-    {kItemVersionErase, "version", 0},
-    {kItemHardwareConfig, "hardware configuration", 6},
-    {kItemExtendedAddress, "eXtended address", 3},
-    {kItemGroupMask, "eXtended group mask", 6},
-    {kItemDccAddress, "DCC address", 4},
-    {kItemDccOptions, "DCC options", 3},
-    {kItemGreenLed, "green LED", 3},
-    {kItemOrangeLed, "orange LED", 3},
-    {kItemSerialAddressing, "serial addressing", 4},
-    {kItemIdString, "ID string", 0},
-    {kItemEventEnable, "event enable maps", 4},
-    {kItemXDccAddress, "eXtended DCC address", 4},
-    {kItemSerialPort, "module serial port", 4},
+    {kItemVersionErase, "version", 6, 10},
+    {kItemHardwareConfig, "hardware configuration", 6, 6},
+    {kItemExtendedAddress, "eXtended address", 3, 3},
+    {kItemGroupMask, "eXtended group mask", 6, 6},
+    {kItemDccAddress, "DCC address", 4, 4},
+    {kItemDccOptions, "DCC options", 3, 3},
+    {kItemGreenLed, "green LED", 3, 3},
+    {kItemOrangeLed, "orange LED", 3, 3},
+    {kItemSerialAddressing, "serial addressing", 4, 4},
+    {kItemIdString, "ID string", 0, 0},
+    {kItemEventEnable, "event enable maps", 4, 4},
+    {kItemXDccAddress, "eXtended DCC address", 4, 4},
+    {kItemSerialPort, "module serial port", 4, 4},
 }};
 
-constexpr int generalReplyLength(GeneralItem item)
+// The row of an item; nullptr for a number that is no general item.
+constexpr const GeneralItemInfo* generalItemInfo(int item)
 {
     for (const GeneralItemInfo& info : kGeneralItems)
         if (info.item == item)
-            return info.replyLength;
-    return 0;
+            return &info;
+    return nullptr;
 }
+
+constexpr int generalReplyLength(GeneralItem item)
+{
+    const GeneralItemInfo* info = generalItemInfo(item);
+    return info ? info->replyLength : 0;
+}
+
+constexpr int generalWriteLength(GeneralItem item)
+{
+    const GeneralItemInfo* info = generalItemInfo(item);
+    return info ? info->writeLength : 0;
+}
+
+// The eXtended addresses a module answers at: 0..95 (the header's address byte).
+inline constexpr int kExtendedAddressMax = 95;
+
+// A Kestrel frame tunnelled through the Corvid system: 0, this plus the module's address,
+// then the inner header, this alone or with the flag of a following eXtended address.
+inline constexpr int kTunnelBase = 96;
+inline constexpr int kTunnelExtendedFlag = 16;
 
 // A write that no reply paces is followed by this pause, so that the module keeps up.
 inline constexpr int kPacingMs = 100;

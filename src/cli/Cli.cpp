@@ -2,6 +2,7 @@
 
 #include "base/ProgramFault.h"
 #include "base/Text.h"
+#include "base/Wire.h"
 #include "cli/ConsoleDialogs.h"
 #include "cli/ConsoleProgress.h"
 #include "files/Backups.h"
@@ -357,7 +358,7 @@ bool parse(const std::vector<std::string>& args, CliOptions& o, std::string& err
     const int base = o.numberFrom1 ? 1 : 0;
     if (o.address && !checkAddress("--address", *o.address, o.corvid ? 31 : 15, base, error))
         return false;
-    if (o.xaddress && !checkAddress("--xaddress", *o.xaddress, 95, base, error))
+    if (o.xaddress && !checkAddress("--xaddress", *o.xaddress, kExtendedAddressMax, base, error))
         return false;
     return true;
 }

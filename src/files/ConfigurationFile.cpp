@@ -1,7 +1,5 @@
 #include "files/ConfigurationFile.h"
 
-#include "session/GeneralCodec.h"
-
 #include "base/ProgramFault.h"
 #include "base/Text.h"
 #include "base/UserDialogs.h"
@@ -15,6 +13,7 @@
 #include "pins/PinMode.h"
 #include "session/Session.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstring>
@@ -28,18 +27,20 @@ int checked(int box) { return box == 1 ? 1 : 0; }
 
 // ---- Writing ----
 
-void writeGeneral(ItemWriter& w, const GeneralSettings& g)
+// The records of the general settings that carry several items, or lay them out
+// otherwise than the wire; every other item's record is its keyword and its data bytes.
+void writeDcc(ItemWriter& w, const GeneralSettings& g)
 {
-    w.line().text("ID$").text(g.TextGenIDString).end();
-
-    // The same bytes as the module's requests (one codec), but for the address mode.
     w.line()
         .text("DCC")
         .real(val(g.TextGenDCCAddress))
         .real(val(g.TextGenXDCCAddress))
         .number(dccOptionsByte(g))
         .end();
+}
 
+void writeXad(ItemWriter& w, const GeneralSettings& g)
+{
     w.line()
         .text("XAD")
         .number(fileAddressModeByte(g))
@@ -48,14 +49,15 @@ void writeGeneral(ItemWriter& w, const GeneralSettings& g)
     for (int mask : groupMaskBytes(g))
         w.number(mask);
     w.end();
+}
 
-    w.line().text("HWC");
-    for (int b : hardwareConfigBytes(g))
-        w.number(b);
-    w.end();
-
+void writeLed(ItemWriter& w, const GeneralSettings& g)
+{
     w.line().text("LED").number(ledByte(g.CheckLCGreen)).number(ledByte(g.CheckLCOrange)).end();
+}
 
+void writeSpc(ItemWriter& w, const GeneralSettings& g)
+{
     checkIndex(g.ComboGenBaud, static_cast<long>(kGenBaudList.size()), "baud list entry");
     const int parity = g.OptionGenSerialParity == 2 ? 2 : (g.OptionGenSerialParity == 3 ? 3 : 0);
     w.line()
@@ -66,6 +68,38 @@ void writeGeneral(ItemWriter& w, const GeneralSettings& g)
         .number(parity)
         .number(g.OptionGenSerialStop == 1 ? 2 : 1)
         .end();
+}
+
+using RecordWriter = void (*)(ItemWriter&, const GeneralSettings&);
+const std::pair<std::string_view, RecordWriter> kRecordWriters[] = {
+    {"ID$",
+     [](ItemWriter& w, const GeneralSettings& g) { w.line().text("ID$").text(g.TextGenIDString).end(); }},
+    {"DCC", writeDcc},
+    {"XAD", writeXad},
+    {"LED", writeLed},
+    {"SPC", writeSpc},
+};
+
+// Each record once, in the order of kGeneralCodecs.
+void writeGeneral(ItemWriter& w, const GeneralSettings& g)
+{
+    std::vector<std::string_view> written;
+    for (const GeneralItemCodec& row : kGeneralCodecs) {
+        const std::string_view record = row.record;
+        if (record.empty() || std::find(written.begin(), written.end(), record) != written.end())
+            continue;
+        written.push_back(record);
+        const auto own = std::find_if(std::begin(kRecordWriters), std::end(kRecordWriters),
+                                      [&](const auto& r) { return r.first == record; });
+        if (own != std::end(kRecordWriters)) {
+            own->second(w, g);
+            continue;
+        }
+        w.line().text(std::string(record));
+        for (int b : row.encode(g))
+            w.number(b);
+        w.end();
+    }
 }
 
 void writeEvents(ItemWriter& w, const Configuration& config)
@@ -228,12 +262,12 @@ private:
             readDcc();
         else if (k == "XAD")
             readXad();
-        else if (k == "HWC")
-            readHwc();
         else if (k == "LED")
             readLed();
         else if (k == "SPC")
             readSpc();
+        else if (const GeneralItemCodec* row = itemRecord(k))
+            readItem(*row);
         else if (k == "Eon" || k == "Evt")
             readEvents(true);
         else if (k == "Eof")
@@ -269,10 +303,7 @@ private:
         if (version >= 32)
             g.TextGenXDCCAddress = readDccAddress(in, "eXtended DCC address");
         if (version > 22) {
-            const int flags = in.nextByte();
-            g.OptGenDCC_PRP = flags & 3;
-            g.ChkGenDCC_BPSI = (flags >> 2) & 1;
-            g.ChkGenDCCAllow0 = (flags >> 3) & 1;
+            setDccOptions(g, in.nextByte());
         }
     }
 
@@ -292,23 +323,32 @@ private:
         g.ExtendedAddress = c;
         g.TextGenXaddr = std::to_string(c + config.NumberingBase);
         g.TextGenLynxaddr = std::to_string(g.LynxFlexAddress * 4 + config.NumberingBase);
-        g.TextGenLynxaddrVisible = g.CheckGenLynxaddr == 1;
-        g.CheckGenKestrelNativeVisible = g.CheckGenLynxaddr != 1;
-        g.CheckGenLynxaddrVisible = g.CheckGenKestrelNative != 1;
-        for (int i = 0; i < 4; ++i)
-            for (int j = 0; j < 4; ++j)
-                g.CheckGenXGM[4 * i + j] = (masks[i] >> j) & 1;
+        applyAddressingVisibility(g);
+        generalCodec(kItemGroupMask)
+            .decode(g, GeneralBytes(masks.begin(), masks.end()), config.NumberingBase);
     }
 
-    void readHwc()
+    // The record of an item that the file carries as its data bytes (asked after the
+    // records of their own layout); nullptr for a keyword that is none.
+    static const GeneralItemCodec* itemRecord(const std::string& keyword)
     {
-        std::array<int, 4> h{};
-        for (int& v : h)
-            v = in.nextInt16();
-        for (int i = 0; i < 4; ++i) {
-            g.ChkGenHWCSink[i] = h[i] & 1;
-            g.ChkGenHWCSource[i] = (h[i] >> 1) & 1;
-        }
+        for (const GeneralItemCodec& row : kGeneralCodecs)
+            if (keyword == row.record)
+                return &row;
+        return nullptr;
+    }
+
+    // The data bytes of an item (the hardware configuration's only as far as its two
+    // bits of each group, as the file has always been read).
+    void readItem(const GeneralItemCodec& row)
+    {
+        const bool hardware = row.item == kItemHardwareConfig;
+        const std::string name = generalItemInfo(row.item)->name;
+        GeneralBytes data;
+        for (std::size_t i = 0; i < row.encode(g).size(); ++i)
+            data.push_back(hardware ? in.nextInt16() & 3 : in.nextSendable(0, kDataByteMax, name));
+        if (!row.decode(g, data, config.NumberingBase))
+            in.fail(name + " cannot be held by the module");
     }
 
     void readLed()

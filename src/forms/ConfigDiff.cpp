@@ -56,9 +56,7 @@ Take withAddressingShown(Take take)
 {
     return [take](const Configuration& c, const GeneralSettings& gf, Configuration& t, GeneralSettings& g) {
         take(c, gf, t, g);
-        g.TextGenLynxaddrVisible = g.CheckGenLynxaddr == 1;
-        g.CheckGenKestrelNativeVisible = g.CheckGenLynxaddr != 1;
-        g.CheckGenLynxaddrVisible = g.CheckGenKestrelNative != 1;
+        applyAddressingVisibility(g);
     };
 }
 
@@ -355,11 +353,35 @@ void eventFields(Fields& out, const Configuration& config, int base)
         }
 }
 
+// The items the lines above show control by control; every other item that the data file
+// carries is one line of its own, named after its row of kGeneralItems, with its data bytes.
+constexpr GeneralItem kShownByControl[] = {
+    kItemIdString,         kItemDccAddress,      kItemXDccAddress,    kItemDccOptions,
+    kItemGreenLed,         kItemOrangeLed,       kItemHardwareConfig, kItemSerialPort,
+    kItemSerialAddressing, kItemExtendedAddress, kItemGroupMask,
+};
+
+void itemFields(Fields& out, const GeneralSettings& g)
+{
+    for (const GeneralItemCodec& row : kGeneralCodecs) {
+        if (*row.record == '\0' || std::find(std::begin(kShownByControl), std::end(kShownByControl),
+                                             row.item) != std::end(kShownByControl))
+            continue;
+        std::string value;
+        for (int b : row.encode(g))
+            value += (value.empty() ? "" : " ") + number(b);
+        addGeneral(out, generalItemInfo(row.item)->name, value,
+                   [&row](const Configuration&, const GeneralSettings& from, Configuration& c,
+                          GeneralSettings& to) { row.decode(to, row.encode(from), c.NumberingBase); });
+    }
+}
+
 // Every item in the order Write All sends it.
 Fields writeOrder(const Configuration& config, const GeneralSettings& general, int base)
 {
     Fields fields;
     generalFields(fields, general, base);
+    itemFields(fields, general);
     for (int p = 0; p < kPinCount; ++p)
         pinFields(fields, config, p, base);
     eventFields(fields, config, base);
@@ -421,6 +443,7 @@ std::string configurationText(const Configuration& config, const GeneralSettings
     std::string text = "general\n";
     Fields general0;
     generalFields(general0, general, base);
+    itemFields(general0, general);
     addressingFields(general0, general, base);
     for (const Field& f : general0)
         text += line(1, f.label + ": " + f.value);

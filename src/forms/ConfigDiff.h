@@ -27,7 +27,8 @@ struct Difference {
 };
 
 // Every difference, in the order Write All sends: general settings (ID string, DCC
-// settings, LED control, hardware configuration, serial port), then pins 0..31 (description,
+// settings, LED control, hardware configuration, serial port, then any other item the data
+// file carries, as its data bytes), then pins 0..31 (description,
 // device, mode and its parameters, layout, each aspect's description and steps, initial
 // aspect, address counts), then the events, and serial addressing last.
 //

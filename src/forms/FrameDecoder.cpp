@@ -8,7 +8,7 @@ namespace kestrel {
 
 namespace {
 
-// The commands the program sends. A size of -1 fits any; command 100 writes the initial
+// The commands the program sends. A size of -1 fits any; kWriteInitOrEventOn writes the initial
 // aspect with three bytes and the Event-On slots with six, and its acknowledgement does
 // not tell which.
 struct CommandEntry {
@@ -43,10 +43,8 @@ const char* itemName(int command, int item)
 {
     if (command == kGeneralWrite && item == kItemVersionErase)
         return "erase configuration memory";
-    for (const GeneralItemInfo& info : kGeneralItems)
-        if (info.item == item)
-            return info.name;
-    return nullptr;
+    const GeneralItemInfo* info = generalItemInfo(item);
+    return info ? info->name : nullptr;
 }
 
 const char* liveName(int sub)
@@ -151,7 +149,7 @@ DecodedFrame direct(FrameDirection direction, const std::vector<int>& b)
 }
 
 // Header (bit 3: the short form, length in bits 0..2; else 8 + 8 x bit 4 + bits 0..2),
-// data, checksum. A tunnelled Kestrel frame carries 0, 96 + module address, the inner
+// data, checksum. A tunnelled Kestrel frame carries 0, kTunnelBase + module address, the inner
 // header (bit 4: an eXtended address byte follows; in a reply the low nibble is the size),
 // [eXtended address], the Kestrel data.
 DecodedFrame corvid(FrameDirection direction, const std::vector<int>& b)
@@ -176,13 +174,13 @@ DecodedFrame corvid(FrameDirection direction, const std::vector<int>& b)
                                           : "");
     if (!in && d == std::vector<int>{1, 5, 16})
         return named("transparent mode", "");
-    if (d.size() >= 3 && d[0] == 0 && d[1] >= 96) {
+    if (d.size() >= 3 && d[0] == 0 && d[1] >= kTunnelBase) {
         const std::size_t from = (d[2] & 16) ? 4 : 3;
         const std::size_t to = in ? from + static_cast<std::size_t>(d[2] & 15) : d.size();
         if (from <= d.size() && to <= d.size()) {
             DecodedFrame k = kestrel(
                 in, std::vector<int>(d.begin() + static_cast<long>(from), d.begin() + static_cast<long>(to)));
-            k.text = "tunnel, module " + std::to_string(d[1] - 96) + ": " + k.text;
+            k.text = "tunnel, module " + std::to_string(d[1] - kTunnelBase) + ": " + k.text;
             return k;
         }
     }

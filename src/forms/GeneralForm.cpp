@@ -29,7 +29,7 @@ void CheckGenKestrelNative_Click(Session& session)
 
 std::string clampedDccAddress(const std::string& typed)
 {
-    return std::to_string(std::clamp<long>(valInt(typed), 0, kDccAddressMaximum));
+    return std::to_string(std::clamp<long>(valInt(typed), 0, kDccAddressMax));
 }
 
 void takeFlexAddress(GeneralSettings& g, const std::string& typed, int base)
@@ -41,7 +41,7 @@ void takeFlexAddress(GeneralSettings& g, const std::string& typed, int base)
 
 void takeExtendedAddress(GeneralSettings& g, const std::string& typed, int base)
 {
-    g.ExtendedAddress = static_cast<int>(std::clamp<long>(valInt(typed) - base, 0, kExtendedAddressMaximum));
+    g.ExtendedAddress = static_cast<int>(std::clamp<long>(valInt(typed) - base, 0, kExtendedAddressMax));
     g.TextGenXaddr = std::to_string(g.ExtendedAddress + base);
 }
 

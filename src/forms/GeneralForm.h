@@ -1,4 +1,6 @@
 #pragma once
+#include "base/Wire.h"
+#include "model/WireLimits.h"
 #include "ops/GeneralCommands.h"
 
 namespace kestrel {
@@ -13,9 +15,9 @@ void CheckGenKestrelNative_Click(Session& session);
 
 // The numbers typed in the page's address boxes, clamped to what the module takes and
 // kept in the settings as the page shows them again (with the numbering base `base`).
-constexpr long kDccAddressMaximum = 127 * 64 + 63; // high part one data byte, low part 6 bits
-constexpr int kFlexAddressMaximum = 127;           // the mode byte is one data byte
-constexpr int kExtendedAddressMaximum = 95;
+// The limits are the wire's (kDccAddressMax, kExtendedAddressMax); the flex address is
+// the mode byte, one data byte.
+constexpr int kFlexAddressMaximum = kDataByteMax;
 // TextGenDCCAddress and TextGenXDCCAddress: 0..8191, without the numbering base.
 std::string clampedDccAddress(const std::string& typed);
 // TextGenLynxaddr: the flex-address shown times 4 (LynxFlexAddress 0..127).

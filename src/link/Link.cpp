@@ -364,16 +364,16 @@ bool Link::receiveDirect()
 
 bool Link::sendTunnelled(bool expectReply, int size, const std::array<int, 15>& b)
 {
-    const int t = settings.TargetAddress + 96;
+    const int t = settings.TargetAddress + kTunnelBase;
     std::array<int, 19> data{};
     int n = 0;
     data[n++] = 0;
     data[n++] = t;
     if (settings.CheckXaddress) {
-        data[n++] = 112;
+        data[n++] = kTunnelBase + kTunnelExtendedFlag;
         data[n++] = settings.TargetXAddress;
     } else {
-        data[n++] = 96;
+        data[n++] = kTunnelBase;
     }
     for (int i = 0; i < size; ++i)
         data[n++] = b[i];
@@ -606,7 +606,7 @@ void Link::SendLynxMessage(int first, int d1, int d2, int d3)
     dataByte(d3);
     lostReported = false;
     if (settings.CheckCorvid) {
-        CorvidExchange(5, {0, first / 4 + 96, d1, d2, d3});
+        CorvidExchange(5, {0, first / 4 + kTunnelBase, d1, d2, d3});
         noteExchange();
         return;
     }
@@ -644,9 +644,9 @@ bool Link::GetVersion()
     bool ok = false;
     if (state.ReplyValid) {
         const auto& r = state.ReplyBuffer;
-        if ((r[1] & 15) != 6)
+        if ((r[1] & 15) != generalReplyLength(kItemVersionErase))
             ui.message("GetVersion: No valid response, size <> 6");
-        else if (r[2] != 112 || r[3] != 0)
+        else if (r[2] != kGeneralRead || r[3] != kItemVersionErase)
             ui.message("GetVersion: No valid response");
         else {
             VersionText = std::to_string(r[4]) + "." + std::to_string(r[5]) + "." + std::to_string(r[6]) +

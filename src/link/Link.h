@@ -18,7 +18,7 @@ struct LinkSettings {
     bool CheckCorvid = false;   // "Use Corvid Tunneling"
     bool CheckXaddress = false; // "Use eXtended Addr"
     int TargetAddress = 0;      // 0..15 direct, 0..31 tunnelled
-    int TargetXAddress = 0;     // 0..95
+    int TargetXAddress = 0;     // 0..kExtendedAddressMax
 };
 
 // What the link remembers between calls.

@@ -1,4 +1,5 @@
 #include "link/LinkControl.h"
+#include "base/Wire.h"
 
 #include "base/Text.h"
 
@@ -79,7 +80,7 @@ bool LinkControl::OptionBitRate_Click(int index)
 
 int LinkControl::addressMaximum() const { return (link.settings.CheckCorvid ? 31 : 15) + base; }
 
-int LinkControl::xAddressMaximum() const { return 95 + base; }
+int LinkControl::xAddressMaximum() const { return kExtendedAddressMax + base; }
 
 std::string LinkControl::TextAddress_Click(const std::string& text)
 {
@@ -105,8 +106,9 @@ std::string LinkControl::txtXaddr_Click(const std::string& text)
     long v = valInt(text);
     if (v < base)
         v = base;
-    // The upper test is against 95, the value put in is 15: kept as the module tools always did.
-    if (v > 95 + base)
+    // The upper test is against the highest eXtended address, the value put in is 15: kept
+    // as the module tools always did.
+    if (v > kExtendedAddressMax + base)
         v = 15 + base;
     link.settings.TargetXAddress = static_cast<int>(v - base);
     return std::to_string(v);

@@ -61,16 +61,34 @@ int idLength(const GeneralSettings& g)
 
 int configLength(const PinRecord& rec) { return static_cast<int>(pinConfigBytes(rec, 1).size()); }
 
-// The general items read back, in the readers' order (Read All adds the version first):
-// ID string, DCC options, DCC address, eXtended DCC address, serial addressing,
-// eXtended address, group mask, green and orange LED, hardware configuration, serial port.
+// An item's read and write counted from its row: the length fields, or the ID string's
+// characters where the length varies.
+int replyLength(const GeneralItemCodec& row, const GeneralSettings& g)
+{
+    const int n = generalReplyLength(row.item);
+    return n != 0 ? n : 2 + idLength(g);
+}
+
+int writeLength(const GeneralItemCodec& row, const GeneralSettings& g)
+{
+    const int n = generalWriteLength(row.item);
+    return n != 0 ? n : 2 + idLength(g);
+}
+
+// The general items read back (Read All adds the version first); the enable maps are
+// read with the events.
 void readGeneral(Counter& c, const GeneralSettings& g)
 {
-    c.read(2, 2 + idLength(g));
-    for (GeneralItem item :
-         {kItemDccOptions, kItemDccAddress, kItemXDccAddress, kItemSerialAddressing, kItemExtendedAddress,
-          kItemGroupMask, kItemGreenLed, kItemOrangeLed, kItemHardwareConfig, kItemSerialPort})
-        c.read(2, generalReplyLength(item));
+    for (const GeneralItemCodec& row : kGeneralCodecs)
+        if (row.family != GeneralFamily::EventEnable)
+            c.read(2, replyLength(row, g));
+}
+
+void writeGeneral(Counter& c, const GeneralSettings& g, bool enableMaps)
+{
+    for (const GeneralItemCodec& row : kGeneralCodecs)
+        if ((row.family == GeneralFamily::EventEnable) == enableMaps)
+            c.write(writeLength(row, g));
 }
 
 // Every pin read whole: layout, its steps, initial aspect, address configuration and the
@@ -118,7 +136,7 @@ JobTraffic jobTraffic(LongJob job, const Configuration& config, const GeneralSet
     Counter c(link);
     switch (job) {
     case LongJob::ReadAll:
-        c.read(2, 6); // the version
+        c.read(2, generalReplyLength(kItemVersionErase));
         readGeneral(c, general);
         readPins(c, config);
         readEvents(c);
@@ -129,14 +147,10 @@ JobTraffic jobTraffic(LongJob job, const Configuration& config, const GeneralSet
         readPins(c, config);
         break;
     case LongJob::WriteAll:
-        c.write(2 + idLength(general));
-        for (int length : {3, 4, 4, 3, 3, 6, 4}) // DCC, LEDs, hardware configuration, serial port
-            c.write(length);
+        writeGeneral(c, general, false);
         writePins(c, config, withPinConfig);
-        c.write(6, 2 * kPinCount);   // events
-        c.write(4);                  // enable maps
-        for (int length : {4, 6, 3}) // serial addressing
-            c.write(length);
+        c.write(6, 2 * kPinCount); // events
+        writeGeneral(c, general, true);
         break;
     case LongJob::ReadAllPins:
     case LongJob::VerifyAllPins:

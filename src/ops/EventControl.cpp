@@ -170,49 +170,9 @@ bool WriteAllEvents(Session& session)
     return writeSide(session, EventSide::On, 0) && writeSide(session, EventSide::Off, kPinCount);
 }
 
-int enableMapOn(const GeneralSettings& g)
-{
-    int map = 0;
-    for (int box = 3; box >= 0; --box)
-        map = map * 2 + 1 - g.CheckInitEE[box];
-    return map;
-}
+bool ReadEnableMaps(Session& session) { return readFamily(session, GeneralFamily::EventEnable); }
 
-int enableMapOff(const GeneralSettings& g)
-{
-    int map = 0;
-    for (int box = 7; box >= 4; --box)
-        map = map * 2 + 1 - g.CheckInitEE[box];
-    return map;
-}
-
-bool ReadEnableMaps(Session& session)
-{
-    session.link.setBidirectional(true);
-    const KestrelReply reply = session.link.request({kGeneralRead, kItemEventEnable});
-    if (!reply.valid)
-        return false;
-    const auto& r = reply.bytes;
-    if (reply.length() != 4) {
-        session.dialogs().message("No valid response size", Icon::None);
-        return false;
-    }
-    if (r[2] != kGeneralRead || r[3] != kItemEventEnable) {
-        session.dialogs().message("No valid response type", Icon::None);
-        return false;
-    }
-    for (int i = 0; i < 4; ++i) {
-        session.general.CheckInitEE[i] = 1 - ((r[4] >> i) & 1);
-        session.general.CheckInitEE[4 + i] = 1 - ((r[5] >> i) & 1);
-    }
-    return true;
-}
-
-bool WriteEnableMaps(Session& session)
-{
-    const auto& g = session.general;
-    return session.link.send({kGeneralWrite, kItemEventEnable, enableMapOn(g), enableMapOff(g)});
-}
+bool WriteEnableMaps(Session& session) { return writeFamily(session, GeneralFamily::EventEnable); }
 
 bool VerifyEventControl(Session& session)
 {
@@ -234,15 +194,11 @@ bool VerifyEventControl(Session& session)
     const KestrelReply reply = session.link.request({kGeneralRead, kItemEventEnable});
     if (!reply.valid)
         return false;
+    if (const std::string bad = verifierReplyText(reply, kItemEventEnable); !bad.empty()) {
+        report.line(bad);
+        return false;
+    }
     const auto& r = reply.bytes;
-    if (reply.length() != 4) {
-        report.line("ECInit: No valid response size");
-        return false;
-    }
-    if (r[2] != kGeneralRead || r[3] != kItemEventEnable) {
-        report.line("ECInit: No valid response type");
-        return false;
-    }
     if (r[4] != enableMapOn(session.general)) {
         report.line("ECInit: ON-mask does not compare");
         ok = false;

@@ -34,9 +34,8 @@ bool WritePinEvents(Session& session, EventSide side, int pin);
 bool ReadAllEvents(Session& session);
 bool WriteAllEvents(Session& session);
 
-// Enable maps: bit i set = input i disabled, so each map is the inverse of its boxes.
-int enableMapOn(const GeneralSettings& g);
-int enableMapOff(const GeneralSettings& g);
+// Enable maps (enableMapOn, enableMapOff): bit i set = input i disabled, so each map is
+// the inverse of its boxes.
 bool ReadEnableMaps(Session& session);
 bool WriteEnableMaps(Session& session);
 

@@ -7,31 +7,154 @@ namespace kestrel {
 
 namespace {
 
-// Data byte i of the last reply (after the echoed command and item).
-int data(Session& s, int i) { return s.link.lastReply().data(i); }
-int replyLength(Session& s) { return s.link.lastReply().length(); }
-bool echoes(Session& s, int command, int item) { return s.link.lastReply().echoes(command, item); }
-
-// One read request (True, 2, kGeneralRead, item); True when a valid reply came back.
-bool requestItem(Session& s, int item) { return s.link.request({kGeneralRead, item}).valid; }
-
 void say(Session& s, const std::string& text) { s.dialogs().message(text, Icon::None); }
 
-int bit(int value, int k) { return (value >> k) & 1; }
+// How the bad replies of an item are worded: "No valid response" alone, with "size" or
+// "type", or in detail (badGeneralReply).
+enum class Words { Plain, SizeType, Detailed };
+
+// The items with words of their own; an item that is not listed here is worded in detail
+// and named after its row of kGeneralItems.
+struct Wording {
+    GeneralItem item;
+    Words words;
+    const char* reader;     // before the reader's message ("": nothing)
+    const char* readerSize; // the reader's own message for a wrong length, or nullptr
+    const char* verifier;   // before the verification's line
+    const char* step;       // the verification's progress step; "": the step of the item before
+    const char* mismatch;   // the verification's line for a difference; "": the text's own line
+    bool failsRead;         // GeneralItemWords
+    bool lengthGoesOn;      // GeneralItemWords
+};
+constexpr Wording kWordings[] = {
+    {kItemIdString, Words::Plain, "", nullptr, "ReadIDString", "Verifying ID string", "", true, false},
+    {kItemHardwareConfig, Words::SizeType, "", nullptr, "HWCRead", "Verifying hardware configuration",
+     "Hardware configuration does not compare", false, false},
+    {kItemDccAddress, Words::Plain, "Get DCC Address", "Get DCC Address: No valid response, size <> 4",
+     "DCC Address", "Verifying DCC addresses", "DCC address does not compare", false, true},
+    {kItemXDccAddress, Words::Plain, "", nullptr, "eXtended DCC Address", "Verifying DCC addresses",
+     "eXtended DCC address does not compare", false, true},
+    {kItemDccOptions, Words::Plain, "Received Address", "Received Address, cannot read DCC options",
+     "DCC Options", "Verifying DCC options", "DCC Options do not compare", false, false},
+    {kItemSerialAddressing, Words::Detailed, "", nullptr, "Serial Address Settings",
+     "Verifying serial addressing", "Serial Address Settings do not compare", false, false},
+    {kItemExtendedAddress, Words::Detailed, "", nullptr, "eXtended Address", "Verifying eXtended address",
+     "eXtended Address does not compare", false, false},
+    {kItemGroupMask, Words::Detailed, "", nullptr, "eXtended Group Mask", "Verifying eXtended group mask",
+     "eXtended Group Mask does not compare", false, false},
+    {kItemGreenLed, Words::Plain, "", nullptr, "ReadLEDConfig", "Verifying LED control",
+     "Green LED configuration does not compare", false, false},
+    {kItemOrangeLed, Words::Plain, "", nullptr, "ReadLEDConfig", "",
+     "Orange LED configuration does not compare", false, false},
+    {kItemSerialPort, Words::Detailed, "", nullptr, "Serial Port Config", "Verifying serial port",
+     "Serial Port Configuration does not compare", true, false},
+    {kItemEventEnable, Words::SizeType, "", nullptr, "ECInit", "", "", true, false},
+};
+
+struct ResolvedWording {
+    Words words = Words::Detailed;
+    std::string reader, verifier;
+    const char* readerSize = nullptr;
+    GeneralItemWords more;
+};
+
+ResolvedWording wording(GeneralItem item)
+{
+    for (const Wording& w : kWordings)
+        if (w.item == item)
+            return {w.words,
+                    w.reader,
+                    w.verifier,
+                    w.readerSize,
+                    {w.step, w.mismatch, w.failsRead, w.lengthGoesOn}};
+    const GeneralItemInfo* info = generalItemInfo(item);
+    const std::string name = info ? info->name : "item " + std::to_string(item);
+    return {
+        Words::Detailed, "", name, nullptr, {"Verifying " + name, name + " does not compare", false, false}};
+}
+
+std::string prefixed(const std::string& prefix, const std::string& text)
+{
+    return prefix.empty() ? text : prefix + ": " + text;
+}
+
+// The fault itself, without whose it is.
+std::string faultText(const KestrelReply& reply, GeneralItem item, Words words)
+{
+    const ReplyFault fault = generalReplyFault(reply, item);
+    switch (words) {
+    case Words::Plain:
+        return "No valid response";
+    case Words::SizeType:
+        return fault == ReplyFault::Length ? "No valid response size" : "No valid response type";
+    case Words::Detailed:
+        break;
+    }
+    return badGeneralReply(reply, item);
+}
+
+KestrelReply requestItem(Session& s, GeneralItem item) { return s.link.request({kGeneralRead, item}); }
 
 } // namespace
 
-std::string badGeneralReply(const KestrelReply& reply, GeneralItem item)
+ReplyFault generalReplyFault(const KestrelReply& reply, GeneralItem item)
 {
     const int expected = generalReplyLength(item);
-    if (reply.length() != expected)
-        return "No valid response, size = " + std::to_string(reply.length()) +
-               " expected = " + std::to_string(expected);
+    if (expected == 0 ? reply.length() <= 1 : reply.length() != expected)
+        return ReplyFault::Length;
     if (!reply.echoes(kGeneralRead, item))
-        return "No valid response, msg = " + std::to_string(reply.command()) + "," +
-               std::to_string(reply.item()) + " expected = " + std::to_string(kGeneralRead) + "," +
-               std::to_string(item);
-    return {};
+        return ReplyFault::Echo;
+    return ReplyFault::None;
+}
+
+std::string badGeneralReply(const KestrelReply& reply, GeneralItem item)
+{
+    switch (generalReplyFault(reply, item)) {
+    case ReplyFault::None:
+        return {};
+    case ReplyFault::Length:
+        return "No valid response, size = " + std::to_string(reply.length()) +
+               " expected = " + std::to_string(generalReplyLength(item));
+    case ReplyFault::Echo:
+        break;
+    }
+    return "No valid response, msg = " + std::to_string(reply.command()) + "," +
+           std::to_string(reply.item()) + " expected = " + std::to_string(kGeneralRead) + "," +
+           std::to_string(item);
+}
+
+std::string readerReplyText(const KestrelReply& reply, GeneralItem item)
+{
+    const ReplyFault fault = generalReplyFault(reply, item);
+    if (fault == ReplyFault::None)
+        return {};
+    const ResolvedWording w = wording(item);
+    if (fault == ReplyFault::Length && w.readerSize)
+        return w.readerSize;
+    return prefixed(w.reader, faultText(reply, item, w.words));
+}
+
+std::string readerByteText(GeneralItem item)
+{
+    return prefixed(wording(item).reader, "No valid response byte");
+}
+
+std::string verifierReplyText(const KestrelReply& reply, GeneralItem item)
+{
+    if (generalReplyFault(reply, item) == ReplyFault::None)
+        return {};
+    const ResolvedWording w = wording(item);
+    return prefixed(w.verifier, faultText(reply, item, w.words));
+}
+
+GeneralItemWords generalItemWords(GeneralItem item) { return wording(item).more; }
+
+GeneralBytes replyData(const KestrelReply& reply)
+{
+    GeneralBytes data;
+    for (int i = 0; i < reply.length() - 2; ++i)
+        data.push_back(reply.data(i));
+    return data;
 }
 
 bool RequestVersion(Session& session)
@@ -41,23 +164,61 @@ bool RequestVersion(Session& session)
     return ok;
 }
 
+// ---- Every family ----
+
+bool readFamily(Session& session, GeneralFamily family)
+{
+    session.link.setBidirectional(true);
+    for (const GeneralItemCodec* row : familyReadOrder(family)) {
+        const KestrelReply reply = requestItem(session, row->item);
+        if (!reply.valid)
+            return false;
+        if (const std::string bad = readerReplyText(reply, row->item); !bad.empty()) {
+            say(session, bad);
+            if (generalItemWords(row->item).failsRead)
+                return false;
+            continue;
+        }
+        if (!row->decode(session.general, replyData(reply), session.config.NumberingBase)) {
+            say(session, readerByteText(row->item));
+            return false;
+        }
+    }
+    return true;
+}
+
+bool writeFamily(Session& session, GeneralFamily family)
+{
+    if (!sendable(session, unsendableFamily(session.general, family)))
+        return false;
+    bool ok = true;
+    for (const GeneralItemCodec* row : familyWriteOrder(family)) {
+        std::vector<int> frame{kGeneralWrite, row->item};
+        const GeneralBytes data = row->encode(session.general);
+        frame.insert(frame.end(), data.begin(), data.end());
+        ok = session.link.send(frame) && ok;
+        if (!ok && family == GeneralFamily::Addressing)
+            return false;
+    }
+    return ok;
+}
+
 // ---- ID string ----
 
 std::optional<std::string> requestIDString(Session& session)
 {
     session.link.setBidirectional(true);
-    if (!requestItem(session, kItemIdString))
+    const KestrelReply reply = requestItem(session, kItemIdString);
+    if (!reply.valid)
         return std::nullopt;
-    const int n = replyLength(session);
-    if (n <= 1 || !echoes(session, kGeneralRead, kItemIdString)) {
-        say(session, "No valid response");
+    if (const std::string bad = readerReplyText(reply, kItemIdString); !bad.empty()) {
+        say(session, bad);
         return std::nullopt;
     }
-    std::string text;
-    for (int i = 0; i < n - 2; ++i)
-        text += static_cast<char>(static_cast<unsigned char>(data(session, i)));
-    session.noteModuleId(text);
-    return text;
+    GeneralSettings read;
+    generalCodec(kItemIdString).decode(read, replyData(reply), 0);
+    session.noteModuleId(read.TextGenIDString);
+    return read.TextGenIDString;
 }
 
 bool ReadIDString(Session& session)
@@ -75,137 +236,14 @@ bool WriteIDString(Session& session)
     auto& text = session.general.TextGenIDString;
     if (text.size() > kIdStringLength)
         text = text.substr(0, kIdStringLength);
-    std::vector<int> bytes{kGeneralWrite, kItemIdString};
-    for (char c : text)
-        bytes.push_back(static_cast<unsigned char>(c));
-    return session.link.send(bytes);
+    return writeFamily(session, GeneralFamily::IdString);
 }
 
-// ---- DCC settings ----
+bool ReadDCCSettings(Session& session) { return readFamily(session, GeneralFamily::Dcc); }
+bool WriteDCCSettings(Session& session) { return writeFamily(session, GeneralFamily::Dcc); }
 
-bool ReadDCCSettings(Session& session)
-{
-    auto& g = session.general;
-    session.link.setBidirectional(true);
-
-    if (!requestItem(session, kItemDccOptions))
-        return false;
-    if (replyLength(session) != 3)
-        say(session, "Received Address, cannot read DCC options");
-    else if (!echoes(session, kGeneralRead, kItemDccOptions))
-        say(session, "Received Address: No valid response");
-    else {
-        const int b = data(session, 0);
-        g.OptGenDCC_PRP = b & 3;
-        g.ChkGenDCC_BPSI = bit(b, 2);
-        g.ChkGenDCCAllow0 = bit(b, 3);
-    }
-
-    if (!requestItem(session, kItemDccAddress))
-        return false;
-    if (replyLength(session) != 4)
-        say(session, "Get DCC Address: No valid response, size <> 4");
-    else if (!echoes(session, kGeneralRead, kItemDccAddress))
-        say(session, "Get DCC Address: No valid response");
-    else {
-        g.TextGenDCCAddress = std::to_string(data(session, 1) * 64 + data(session, 0));
-    }
-
-    if (!requestItem(session, kItemXDccAddress))
-        return false;
-    if (replyLength(session) != 4 || !echoes(session, kGeneralRead, kItemXDccAddress))
-        say(session, "No valid response");
-    else {
-        g.TextGenXDCCAddress = std::to_string(data(session, 1) * 64 + data(session, 0));
-    }
-    return true;
-}
-
-bool WriteDCCSettings(Session& session)
-{
-    if (!sendable(session, unsendableDcc(session.general)))
-        return false;
-    const auto& g = session.general;
-    auto& link = session.link;
-    // All three are sent whatever the one before did (unlike the serial addressing
-    // writes); the result is True only when the transport took every one of them.
-    bool ok = link.send({kGeneralWrite, kItemDccOptions, dccOptionsByte(g)});
-    const auto dcc = dccAddressBytes(g.TextGenDCCAddress);
-    ok = link.send({kGeneralWrite, kItemDccAddress, dcc[0], dcc[1]}) && ok;
-    const auto xdcc = dccAddressBytes(g.TextGenXDCCAddress);
-    ok = link.send({kGeneralWrite, kItemXDccAddress, xdcc[0], xdcc[1]}) && ok;
-    return ok;
-}
-
-// ---- Serial addressing ----
-
-void applyAddressingVisibility(GeneralSettings& g)
-{
-    g.TextGenLynxaddrVisible = g.CheckGenLynxaddr == 1;
-    g.CheckGenKestrelNativeVisible = g.CheckGenLynxaddr != 1;
-    g.CheckGenLynxaddrVisible = g.CheckGenKestrelNative != 1;
-}
-
-bool ReadSerialAddressing(Session& session)
-{
-    auto& g = session.general;
-    const int base = session.config.NumberingBase;
-    session.link.setBidirectional(true);
-
-    if (!requestItem(session, kItemSerialAddressing))
-        return false;
-    if (const std::string bad = badGeneralReply(session.link.lastReply(), kItemSerialAddressing);
-        !bad.empty())
-        say(session, bad);
-    else {
-        if (data(session, 0) != 0) {
-            g.CheckGenLynxaddr = 1;
-            g.CheckGenKestrelNative = 0;
-            g.LynxFlexAddress = data(session, 1);
-        } else {
-            g.CheckGenLynxaddr = 0;
-            g.CheckGenKestrelNative = bit(data(session, 1), 6);
-            g.LynxFlexAddress = 0;
-        }
-        g.TextGenLynxaddr = std::to_string(g.LynxFlexAddress * 4 + base);
-        applyAddressingVisibility(g);
-    }
-
-    if (!requestItem(session, kItemExtendedAddress))
-        return false;
-    if (const std::string bad = badGeneralReply(session.link.lastReply(), kItemExtendedAddress); !bad.empty())
-        say(session, bad);
-    else {
-        g.ExtendedAddress = data(session, 0);
-        g.TextGenXaddr = std::to_string(g.ExtendedAddress + base);
-    }
-
-    if (!requestItem(session, kItemGroupMask))
-        return false;
-    if (const std::string bad = badGeneralReply(session.link.lastReply(), kItemGroupMask); !bad.empty())
-        say(session, bad);
-    else {
-        for (int grp = 0; grp < 4; ++grp)
-            for (int k = 0; k < 4; ++k)
-                g.CheckGenXGM[4 * grp + k] = bit(data(session, grp), k);
-    }
-    return true;
-}
-
-bool WriteSerialAddressing(Session& session)
-{
-    if (!sendable(session, unsendableSerialAddressing(session.general)))
-        return false;
-    const auto& g = session.general;
-    auto& link = session.link;
-    if (!link.send({kGeneralWrite, kItemSerialAddressing, g.CheckGenLynxaddr == 1 ? 1 : 0,
-                    serialAddressModeByte(g)}))
-        return false;
-    const auto m = groupMaskBytes(g);
-    if (!link.send({kGeneralWrite, kItemGroupMask, m[0], m[1], m[2], m[3]}))
-        return false;
-    return link.send({kGeneralWrite, kItemExtendedAddress, g.ExtendedAddress});
-}
+bool ReadSerialAddressing(Session& session) { return readFamily(session, GeneralFamily::Addressing); }
+bool WriteSerialAddressing(Session& session) { return writeFamily(session, GeneralFamily::Addressing); }
 
 bool CommandGenAddrRead_Click(Session& session)
 {
@@ -215,95 +253,14 @@ bool CommandGenAddrRead_Click(Session& session)
     return ok;
 }
 
-// ---- Hardware configuration ----
+bool ReadHardwareConfig(Session& session) { return readFamily(session, GeneralFamily::Hardware); }
+bool WriteHardwareConfig(Session& session) { return writeFamily(session, GeneralFamily::Hardware); }
 
-bool ReadHardwareConfig(Session& session)
-{
-    auto& g = session.general;
-    session.link.setBidirectional(true);
-    if (!requestItem(session, kItemHardwareConfig))
-        return false;
-    if (replyLength(session) != 6) {
-        // Deliberately True after a size or type message; only a bad group byte fails.
-        say(session, "No valid response size");
-        return true;
-    }
-    if (!echoes(session, kGeneralRead, kItemHardwareConfig)) {
-        say(session, "No valid response type");
-        return true;
-    }
-    for (int grp = 0; grp < 4; ++grp) {
-        const int v = data(session, grp);
-        if (v < 0 || v > 3) {
-            say(session, "No valid response byte");
-            return false;
-        }
-        g.ChkGenHWCSink[grp] = bit(v, 0);
-        g.ChkGenHWCSource[grp] = bit(v, 1);
-    }
-    return true;
-}
+bool ReadLEDControl(Session& session) { return readFamily(session, GeneralFamily::Led); }
+bool WriteLEDControl(Session& session) { return writeFamily(session, GeneralFamily::Led); }
 
-bool WriteHardwareConfig(Session& session)
-{
-    const auto b = hardwareConfigBytes(session.general);
-    return session.link.send({kGeneralWrite, kItemHardwareConfig, b[0], b[1], b[2], b[3]});
-}
-
-// ---- LED control ----
-
-bool ReadLEDControl(Session& session)
-{
-    session.link.setBidirectional(true);
-    const std::pair<int, std::array<int, 8>*> leds[] = {{kItemGreenLed, &session.general.CheckLCGreen},
-                                                        {kItemOrangeLed, &session.general.CheckLCOrange}};
-    for (const auto& [item, boxes] : leds) {
-        if (!requestItem(session, item))
-            return false;
-        if (replyLength(session) != 3 || !echoes(session, kGeneralRead, item)) {
-            say(session, "No valid response");
-            continue;
-        }
-        setLedBoxes(*boxes, data(session, 0));
-    }
-    return true;
-}
-
-bool WriteLEDControl(Session& session)
-{
-    auto& link = session.link;
-    // Orange is sent also when green was not taken; True only when both were.
-    const bool green = link.send({kGeneralWrite, kItemGreenLed, ledByte(session.general.CheckLCGreen)});
-    const bool orange = link.send({kGeneralWrite, kItemOrangeLed, ledByte(session.general.CheckLCOrange)});
-    return green && orange;
-}
-
-// ---- The module's serial port ----
-
-bool ReadSerialPortSettings(Session& session)
-{
-    auto& g = session.general;
-    session.link.setBidirectional(true);
-    if (!requestItem(session, kItemSerialPort))
-        return false;
-    if (const std::string bad = badGeneralReply(session.link.lastReply(), kItemSerialPort); !bad.empty()) {
-        say(session, bad);
-        return false;
-    }
-    g.CheckGenSerialEnable = data(session, 0) != 0 ? 1 : 0;
-    const int s = data(session, 1);
-    g.ComboGenBaud = s & 7;
-    g.OptionGenSerialDatabits = bit(s, 3);
-    g.OptionGenSerialStop = bit(s, 6);
-    g.OptionGenSerialParity = (s >> 4) & 3;
-    return true;
-}
-
-bool WriteSerialPortSettings(Session& session)
-{
-    const auto& g = session.general;
-    return session.link.send({kGeneralWrite, kItemSerialPort, g.CheckGenSerialEnable, serialPortByte(g)});
-}
+bool ReadSerialPortSettings(Session& session) { return readFamily(session, GeneralFamily::SerialPort); }
+bool WriteSerialPortSettings(Session& session) { return writeFamily(session, GeneralFamily::SerialPort); }
 
 // ---- Erase ----
 

@@ -23,15 +23,24 @@ std::array<int, 5> stepBytes(const KestrelReply& r)
     return {r.data(2), r.data(3), r.data(4), r.data(5), r.data(6)};
 }
 
+// The tag (high nibble) of the initial aspect's entry among the Event-On slots.
+constexpr int kInitEntryTag = 7;
+
 // The initial aspect as stored (0 = none) from the tag-7 entry; 0 for any other tag.
 int decodeInitEntry(int entry)
 {
-    if ((entry >> 4) != 7 || (entry & 15) == 15)
+    if ((entry >> 4) != kInitEntryTag || (entry & 15) == 15)
         return 0;
     return (entry & 15) + 1;
 }
 
-int initEntry(const PinRecord& rec) { return 112 + (rec.InitAspect == 0 ? 15 : rec.InitAspect - 1); }
+int initEntry(const PinRecord& rec)
+{
+    return (kInitEntryTag << 4) + (rec.InitAspect == 0 ? 15 : rec.InitAspect - 1);
+}
+
+// An address configuration byte of tag 2 (bits 5 and 6: 64..95) carries the device pointer.
+bool isDevicePointer(int b) { return (b >> 5) == 2; }
 
 // DeviceOffset from the 5-bit device pointer of pin p: the head lies in 0..31.
 int decodeDeviceOffset(int b, int pin) { return ((b & 31) + pin) % 32 - pin; }
@@ -62,7 +71,7 @@ std::optional<int> readDeviceHead(Session& session, int pin, bool& answered)
         return std::nullopt;
     for (int i = 4; i <= 6; ++i) {
         const int b = r.bytes[i];
-        if (b >= 64 && b < 96)
+        if (isDevicePointer(b))
             return pin + decodeDeviceOffset(b, pin);
     }
     return std::nullopt;
@@ -121,7 +130,7 @@ bool readPinAspects(Session& session, int pin)
             rec.XDccCount = static_cast<std::uint8_t>((b >> 3) & 1);
         } else if (b < 32) {
             rec.LynxCount = static_cast<std::uint8_t>(b & 7);
-        } else if (b >= 64 && b < 96) {
+        } else if (isDevicePointer(b)) {
             rec.DeviceOffset = static_cast<std::int16_t>(decodeDeviceOffset(b, pin));
         } else {
             ui.message(kAddrConfigInvalid);
@@ -367,7 +376,7 @@ bool verifyPin(Session& session, int pin, bool& stopped)
                 dcc = b;
             else if (b < 32)
                 lynx = b & 7;
-            else if (b >= 64 && b < 96)
+            else if (isDevicePointer(b))
                 device = b & 31;
             else {
                 report.line("Pin Address Configuration: Invalid Response " + std::to_string(b));

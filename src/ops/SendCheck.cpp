@@ -4,10 +4,10 @@
 #include "model/StepCodec.h"
 #include "model/WireLimits.h"
 #include "ops/EventControl.h"
-#include "ops/GeneralCommands.h"
 #include "pins/PinConfig.h"
 #include "session/Session.h"
 
+#include <algorithm>
 #include <numeric>
 
 namespace kestrel {
@@ -101,33 +101,80 @@ std::string unsendableIdString(const GeneralSettings& g)
     return id.refused ? id.message : std::string();
 }
 
-std::string unsendableDcc(const GeneralSettings& g)
+namespace {
+
+std::string dccAddress(std::string_view what, const std::string& text)
 {
-    return first({dataByte("DCC options", dccOptionsByte(g)),
-                  outside("DCC address", valInt(g.TextGenDCCAddress), 0, kDccAddressMax),
-                  outside("eXtended DCC address", valInt(g.TextGenXDCCAddress), 0, kDccAddressMax)});
+    return outside(what, valInt(text), 0, kDccAddressMax);
 }
+
+// Items whose values are checked under names of their own, or as a whole; every other
+// item has each data byte checked under its name in kGeneralItems.
+using ItemCheck = std::string (*)(const GeneralSettings&);
+const std::pair<GeneralItem, ItemCheck> kItemChecks[] = {
+    {kItemIdString, unsendableIdString},
+    {kItemDccAddress,
+     [](const GeneralSettings& g) { return dccAddress("DCC address", g.TextGenDCCAddress); }},
+    {kItemXDccAddress,
+     [](const GeneralSettings& g) { return dccAddress("eXtended DCC address", g.TextGenXDCCAddress); }},
+    {kItemSerialAddressing,
+     [](const GeneralSettings& g) { return dataByte("Lynx flex-address", serialAddressModeByte(g)); }},
+    {kItemHardwareConfig,
+     [](const GeneralSettings& g) {
+         const auto h = hardwareConfigBytes(g);
+         return dataByte("hardware configuration", std::max({h[0], h[1], h[2], h[3]}));
+     }},
+    {kItemGreenLed,
+     [](const GeneralSettings& g) { return dataByte("green LED function", ledByte(g.CheckLCGreen)); }},
+    {kItemOrangeLed,
+     [](const GeneralSettings& g) { return dataByte("orange LED function", ledByte(g.CheckLCOrange)); }},
+    {kItemSerialPort,
+     [](const GeneralSettings& g) {
+         return first({dataByte("serial port enable", g.CheckGenSerialEnable),
+                       dataByte("serial port settings", serialPortByte(g))});
+     }},
+    {kItemEventEnable,
+     [](const GeneralSettings& g) {
+         return first(
+             {dataByte("event enable map", enableMapOn(g)), dataByte("event enable map", enableMapOff(g))});
+     }},
+};
+
+std::string unsendableItem(const GeneralSettings& g, const GeneralItemCodec& row)
+{
+    for (const auto& [item, check] : kItemChecks)
+        if (item == row.item)
+            return check(g);
+    const GeneralItemInfo* info = generalItemInfo(row.item);
+    for (int b : row.encode(g))
+        if (std::string problem = dataByte(info ? info->name : "general item", b); !problem.empty())
+            return problem;
+    return {};
+}
+
+} // namespace
+
+std::string unsendableFamily(const GeneralSettings& g, GeneralFamily family)
+{
+    for (const GeneralItemCodec* row : familyWriteOrder(family))
+        if (std::string problem = unsendableItem(g, *row); !problem.empty())
+            return problem;
+    return {};
+}
+
+std::string unsendableDcc(const GeneralSettings& g) { return unsendableFamily(g, GeneralFamily::Dcc); }
 
 std::string unsendableSerialAddressing(const GeneralSettings& g)
 {
-    const auto m = groupMaskBytes(g);
-    return first({dataByte("Lynx flex-address", serialAddressModeByte(g)),
-                  dataByte("eXtended group mask", m[0]), dataByte("eXtended group mask", m[1]),
-                  dataByte("eXtended group mask", m[2]), dataByte("eXtended group mask", m[3]),
-                  dataByte("eXtended address", g.ExtendedAddress)});
+    return unsendableFamily(g, GeneralFamily::Addressing);
 }
 
 std::string unsendableGeneral(const GeneralSettings& g)
 {
-    const auto h = hardwareConfigBytes(g);
-    return first({unsendableIdString(g), unsendableDcc(g), unsendableSerialAddressing(g),
-                  dataByte("hardware configuration", std::max({h[0], h[1], h[2], h[3]})),
-                  dataByte("green LED function", ledByte(g.CheckLCGreen)),
-                  dataByte("orange LED function", ledByte(g.CheckLCOrange)),
-                  dataByte("serial port enable", g.CheckGenSerialEnable),
-                  dataByte("serial port settings", serialPortByte(g)),
-                  dataByte("event enable map", enableMapOn(g)),
-                  dataByte("event enable map", enableMapOff(g))});
+    for (const GeneralItemCodec& row : kGeneralCodecs)
+        if (std::string problem = unsendableItem(g, row); !problem.empty())
+            return problem;
+    return {};
 }
 
 std::string unsendablePins(const Configuration& config, const std::vector<int>& pins, bool withPinConfig)

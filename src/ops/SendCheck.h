@@ -19,8 +19,10 @@ class Session;
 std::string unsendableIdString(const GeneralSettings& g);
 std::string unsendableDcc(const GeneralSettings& g);
 std::string unsendableSerialAddressing(const GeneralSettings& g);
-// Everything Write All sends of the General page (the three above, hardware, LED,
-// serial port, enable maps).
+// The items of one family, in the order its writer sends them.
+std::string unsendableFamily(const GeneralSettings& g, GeneralFamily family);
+// Every general item Write All sends, in the order of kGeneralCodecs (ID string, DCC,
+// serial addressing, hardware, LED, serial port, enable maps).
 std::string unsendableGeneral(const GeneralSettings& g);
 
 // Layout, initial aspect, address configuration and the steps of the layout of each

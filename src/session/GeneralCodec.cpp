@@ -1,6 +1,9 @@
-#include "session/GeneralCodec.h"
+#include "session/GeneralSettings.h"
 
+#include "base/ProgramFault.h"
 #include "base/Text.h"
+
+#include <algorithm>
 
 namespace kestrel {
 
@@ -11,6 +14,13 @@ int bit(int value, int k) { return (value >> k) & 1; }
 int dccOptionsByte(const GeneralSettings& g)
 {
     return g.OptGenDCC_PRP + 4 * g.ChkGenDCC_BPSI + 8 * g.ChkGenDCCAllow0;
+}
+
+void setDccOptions(GeneralSettings& g, int b)
+{
+    g.OptGenDCC_PRP = b & 3;
+    g.ChkGenDCC_BPSI = bit(b, 2);
+    g.ChkGenDCCAllow0 = bit(b, 3);
 }
 
 std::array<int, 2> dccAddressBytes(const std::string& text)
@@ -86,6 +96,55 @@ int serialPortByte(const GeneralSettings& g)
 int fileAddressModeByte(const GeneralSettings& g)
 {
     return g.CheckGenLynxaddr == 1 ? g.LynxFlexAddress : (g.CheckGenKestrelNative == 1 ? 64 : 0);
+}
+
+int enableMapOn(const GeneralSettings& g)
+{
+    int map = 0;
+    for (int box = 3; box >= 0; --box)
+        map = map * 2 + 1 - g.CheckInitEE[box];
+    return map;
+}
+
+int enableMapOff(const GeneralSettings& g)
+{
+    int map = 0;
+    for (int box = 7; box >= 4; --box)
+        map = map * 2 + 1 - g.CheckInitEE[box];
+    return map;
+}
+
+void applyAddressingVisibility(GeneralSettings& g)
+{
+    g.TextGenLynxaddrVisible = g.CheckGenLynxaddr == 1;
+    g.CheckGenKestrelNativeVisible = g.CheckGenLynxaddr != 1;
+    g.CheckGenLynxaddrVisible = g.CheckGenKestrelNative != 1;
+}
+
+const GeneralItemCodec& generalCodec(GeneralItem item)
+{
+    for (const GeneralItemCodec& row : kGeneralCodecs)
+        if (row.item == item)
+            return row;
+    throw ProgramFault("no codec for general item " + std::to_string(item));
+}
+
+std::vector<const GeneralItemCodec*> familyWriteOrder(GeneralFamily family)
+{
+    std::vector<const GeneralItemCodec*> rows;
+    for (const GeneralItemCodec& row : kGeneralCodecs)
+        if (row.family == family)
+            rows.push_back(&row);
+    return rows;
+}
+
+std::vector<const GeneralItemCodec*> familyReadOrder(GeneralFamily family)
+{
+    auto rows = familyWriteOrder(family);
+    std::stable_sort(rows.begin(), rows.end(), [](const GeneralItemCodec* a, const GeneralItemCodec* b) {
+        return a->readAt < b->readAt;
+    });
+    return rows;
 }
 
 } // namespace kestrel

@@ -15,8 +15,18 @@ void ModuleMemory::powerUp()
         pin.activeConfig = pin.flashConfig;
 }
 
+std::map<int, std::vector<std::uint8_t>> ModuleMemory::moreItems()
+{
+    // Item number and the bytes a new module holds; none beyond the fields so far.
+    return {};
+}
+
 bool ModuleMemory::readItem(int item, std::vector<std::uint8_t>& data) const
 {
+    if (const auto more = plainItems.find(item); more != plainItems.end()) {
+        data = more->second;
+        return true;
+    }
     switch (item) {
     case 0:
         data.assign(firmwareVersion.begin(), firmwareVersion.end());
@@ -92,6 +102,12 @@ bool store(std::uint8_t& a, std::uint8_t& b, const std::vector<std::uint8_t>& da
 
 bool ModuleMemory::writeItem(int item, const std::vector<std::uint8_t>& data)
 {
+    if (const auto more = plainItems.find(item); more != plainItems.end()) {
+        if (data.size() != more->second.size())
+            return false;
+        more->second = data;
+        return true;
+    }
     switch (item) {
     case 1:
         return store(hardwareConfig, data);

@@ -1,6 +1,7 @@
 #pragma once
 #include <array>
 #include <cstdint>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -39,6 +40,8 @@ struct PinMemory {
 
 // Everything a module stores, in the form of the general setting items.
 struct ModuleMemory {
+    static std::map<int, std::vector<std::uint8_t>> moreItems();
+
     std::string idString;                         // item 10, at most 12 characters
     std::array<std::uint8_t, 4> hardwareConfig{}; // item 1, one byte per group of 8 pins
     std::uint8_t extendedAddress = 0;             // item 2
@@ -57,6 +60,9 @@ struct ModuleMemory {
     std::uint8_t eventOnEnable = 0; // item 11, bit set = input disabled
     std::uint8_t eventOffEnable = 0;
     std::array<std::uint8_t, 4> firmwareVersion{1, 2, 3, 4}; // item 0 (read only)
+    // The items the module keeps just as they are written, by number, as the factory
+    // leaves them (moreItems in ModuleMemory.cpp lists them); a write must keep the length.
+    std::map<int, std::vector<std::uint8_t>> plainItems = moreItems();
     std::array<PinMemory, kModulePins> pins{};
 
     // What the module does when it starts: every pin takes its flash configuration as

@@ -461,9 +461,9 @@ void GeneralPage::bind()
 void GeneralPage::cutIDString()
 {
     std::string& id = session.general.TextGenIDString;
-    if (id.size() <= kIDStringMaximum)
+    if (id.size() <= kIdStringLength)
         return;
-    id.resize(kIDStringMaximum);
+    id.resize(kIdStringLength);
     refresh();
     session.dialogs().message("ID string cut to 12 characters: " + id, Icon::Information);
 }

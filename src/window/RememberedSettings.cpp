@@ -1,5 +1,7 @@
 #include "window/RememberedSettings.h"
 
+#include "base/Wire.h"
+
 #include <QFileInfo>
 #include <QSettings>
 
@@ -21,7 +23,7 @@ RememberedSettings RememberedSettings::load(int defaultBitRate)
     r.numbering = s.value("link/numbering", 0).toInt() == 1 ? 1 : 0;
     r.address = std::clamp(s.value("link/address", 0).toInt(), 0, 15);
     r.extended = s.value("link/extended", false).toBool();
-    r.extendedAddress = std::clamp(s.value("link/extendedAddress", 0).toInt(), 0, 95);
+    r.extendedAddress = std::clamp(s.value("link/extendedAddress", 0).toInt(), 0, kExtendedAddressMax);
     r.writePinConfigurations = s.value("jobs/writePinConfigurations", true).toBool();
     r.folder = s.value("files/folder").toString();
     r.recent = s.value("files/recent").toStringList().mid(0, kRecentFiles);
