@@ -92,6 +92,21 @@ TEST_F(Layout, ASilentAddressLeavesTheLinkUnsynchronisedWithoutAWord)
     EXPECT_EQ(std::vector<std::uint8_t>(port->written().begin(), port->written().begin() + 9), wakeUp);
 }
 
+TEST_F(Layout, ACancelEndsTheScanWithWhatWasFound)
+{
+    struct CancelAtAddress4 : Progress {
+        std::vector<std::string> steps;
+        void step(int, int, const std::string& what) override { steps.push_back(what); }
+        bool cancelled() override { return steps.size() > 4; }
+    } progress;
+    on(layout.bus, false);
+    session->link.setProgress(&progress);
+    const std::vector<FoundModule> found = findModules(*session);
+    ASSERT_EQ(found.size(), 2u);
+    EXPECT_EQ(found[1].id, "Yard east");
+    EXPECT_EQ(session->jobSummary(), "Find Modules cancelled at Asking address 4");
+}
+
 TEST_F(Layout, BacksUpAndChecksEveryModuleBesideWhatIsShown)
 {
     on(layout.bus, false);
