@@ -6,6 +6,10 @@
 #include "files/DeviceDefinitions.h"
 #include "files/TextFile.h"
 #include "link/Link.h"
+#include "ops/BusScan.h"
+#include "session/Session.h"
+#include "sim/SimBus.h"
+#include "sim/SimPort.h"
 #include "support/FakeClock.h"
 #include "support/Frames.h"
 #include "support/RecordingDialogs.h"
@@ -13,6 +17,7 @@
 #include <benchmark/benchmark.h>
 
 #include <array>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <deque>
@@ -205,6 +210,34 @@ void BM_LargestDefinitionsList(benchmark::State& state)
     reportPeak(state, text.size());
 }
 BENCHMARK(BM_LargestDefinitionsList)->Unit(benchmark::kMillisecond);
+
+// Find Modules on a bus with one module, the 15 silent addresses waited for on the machine's
+// clock as on a real line. The simulator answers at once, so scan_s adds the time the
+// 19200 bit/s wire needs for the bytes both ways: the scan as it takes on that bus.
+// Target: scan_s <= 10.
+void BM_ScanOneModuleAt19200(benchmark::State& state)
+{
+    sim::SimBus bus;
+    bus.addModule(0);
+    sim::SimPort port(bus);
+    port.setRealTimeWaits(true);
+    port.open();
+    SystemClock clock;
+    test::RecordingDialogs dialogs;
+    Session session(port, clock, dialogs);
+    double seconds = 0;
+    for (auto _ : state) {
+        bus.resetStats();
+        const auto start = std::chrono::steady_clock::now();
+        if (findModules(session).size() != 1 || !dialogs.messages.empty())
+            throw std::runtime_error("the scan did not find the one module quietly");
+        seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count() +
+                  bus.stats().wireSeconds(19200);
+    }
+    state.counters["scan_s"] = seconds;
+    state.counters["target_s"] = 10;
+}
+BENCHMARK(BM_ScanOneModuleAt19200)->Iterations(1)->Unit(benchmark::kSecond);
 
 } // namespace
 

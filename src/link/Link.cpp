@@ -11,7 +11,6 @@
 namespace kestrel {
 
 namespace {
-constexpr double kReplyTimeout = 2.0; // seconds
 
 // The port's hint of how many bytes are awaited is cleared when a reply wait ends.
 struct ExpectNothingAfter {
@@ -71,7 +70,7 @@ double Link::remaining(double start)
     const double now = time.secondsSinceMidnight();
     if (now < start) // midnight passed: the wait ends
         return 0;
-    return kReplyTimeout - (now - start);
+    return replyTimeout - (now - start);
 }
 
 bool Link::portLost()
@@ -263,9 +262,14 @@ bool Link::SendKestrelMessage(bool expectReply, int size, const std::array<int, 
             // instead of going on to "Select communications port" at its next request.
             if (!serial.isOpen())
                 return false;
+            replyMissing = true;
+            if (quietMissingReply) {
+                state.LinkToggle = 128;
+                noteExchange();
+                return true;
+            }
             ui.message("No response received, resetting bidirectional communication");
             setBidirectional(false);
-            replyMissing = true;
             if (missingReplyFails) {
                 state.LinkToggle = (state.LinkToggle + 64) % 128;
                 noteExchange();
@@ -437,12 +441,16 @@ bool Link::sendTunnelled(bool expectReply, int size, const std::array<int, 15>& 
     // The Corvid system answered every poll, but the module never did: a time-out that
     // leaves the last poll's frame, which the callers reject by its size, unless a missing
     // reply fails the call.
-    if (state.ReplyValid && !taken && missingReplyFails) {
-        ui.message("No response received from the module through the Corvid system");
+    // Under quietMissingReply the call went through all the same, only without a reply.
+    const bool quietlyMissing = state.ReplyValid && !taken && quietMissingReply;
+    if (state.ReplyValid && !taken && (missingReplyFails || quietMissingReply)) {
+        if (!quietMissingReply)
+            ui.message("No response received from the module through the Corvid system");
         state.ReplyValid = false;
+        replyMissing = true;
     }
     tunnelStale = !state.ReplyValid;
-    return state.ReplyValid;
+    return state.ReplyValid || quietlyMissing;
 }
 
 bool Link::CorvidExchange(int length, std::initializer_list<int> data)

@@ -12,6 +12,9 @@
 
 namespace kestrel {
 
+// Seconds a reply is awaited (and, on the tunnel route, each answer of the Corvid system).
+inline constexpr double kReplyTimeout = 2.0;
+
 // What the user chose for the link (the check boxes and address boxes of the main window).
 struct LinkSettings {
     bool CheckKestrelBD = true; // "Bidirectional Comm.": wait for and check replies
@@ -79,6 +82,13 @@ public:
     bool missingReplyFails = false;
     // The last send's reply was awaited and did not come.
     bool replyMissing = false;
+    // Seconds a reply is awaited. Only the bus scan shortens it, for its own exchanges.
+    double replyTimeout = kReplyTimeout;
+    // While set (the bus scan, asking addresses where no module may be), a reply that does
+    // not come is no fault: nothing is shown, "Bidirectional Comm." stays checked, the reply
+    // is not valid, and the direct route goes back to the unsynchronised state, so that the
+    // next frame begins with the wake-up again.
+    bool quietMissingReply = false;
 
     SerialPort& port() { return serial; }
     Clock& clock() { return time; }
