@@ -11,6 +11,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 using namespace kestrel;
 using namespace kestrel::test;
 
@@ -120,7 +122,8 @@ TEST_F(Layout, BacksUpAndChecksEveryModuleBesideWhatIsShown)
     ASSERT_EQ(backups.size(), modules.size());
     for (std::size_t i = 0; i + 1 < backups.size(); ++i) {
         EXPECT_TRUE(backups[i].ok && !backups[i].incomplete) << backups[i].error;
-        EXPECT_NE(backups[i].file.find("/" + backupFolderName(modules[i].id) + "/"), std::string::npos);
+        EXPECT_EQ(std::filesystem::path(backups[i].file).parent_path().filename().string(),
+                  backupFolderName(modules[i].id));
     }
     EXPECT_FALSE(backups.back().ok);
     EXPECT_EQ(backups.back().error, "No response received, resetting bidirectional communication");
