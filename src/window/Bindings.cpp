@@ -110,12 +110,13 @@ void Bindings::option(QButtonGroup* group, int& field, std::function<void()> cha
             commitNow([&field, id] { field = id; }, changed, "choosing " + controlName(group->button(id)));
     });
     items.push_back({[group, &field] {
+                         // An exclusive group refuses to uncheck its checked button, and
+                         // would keep the old one beside the new: it is opened meanwhile.
+                         group->setExclusive(false);
                          for (QAbstractButton* b : group->buttons()) {
                              const QSignalBlocker block(b);
                              b->setChecked(false);
                          }
-                         // With none selected, an exclusive group would keep the old button.
-                         group->setExclusive(false);
                          if (QAbstractButton* b = group->button(field)) {
                              const QSignalBlocker block(b);
                              b->setChecked(true);

@@ -73,6 +73,13 @@ TEST(GeneralPage, ReadsEveryFamilyOfTheDemonstrationModule)
                          checked(page, "OptionGenSerialParity", 0), checked(page, "OptionGenSerialStop", 0),
                          m.session->general.CheckGenSerialEnable),
               std::tuple("19200", true, true, true, demo.CheckGenSerialEnable));
+    // One option of each group, also where the module's value is not the one shown first.
+    for (const char* group : {"OptionGenSerialDatabits", "OptionGenSerialStop", "OptGenDCC_PRP"}) {
+        const auto buttons =
+            page.findChildren<QAbstractButton*>(QRegularExpression(QString("^%1_").arg(group)));
+        EXPECT_EQ(std::count_if(buttons.begin(), buttons.end(), [](auto* b) { return b->isChecked(); }), 1)
+            << group;
+    }
 }
 
 TEST(GeneralPage, FlexAddressingAsksFirstAndSwapsTheModeControls)
