@@ -107,12 +107,16 @@ TEST(CliLayout, ScanBackUpAllAndCheckAll)
     EXPECT_EQ(std::tuple(r.status, r.out, r.err), std::tuple(1, "", ""));
 }
 
-TEST(CliLayout, ScanAndBackUpAllThroughTheCorvidSystem)
+TEST(CliLayout, ScanBackUpAllAndCheckAllThroughTheCorvidSystem)
 {
     const LayoutOnPty layout(true);
     auto r = layout.run({"--corvid", "scan"});
     EXPECT_EQ(std::tuple(r.status, r.out, r.err), std::tuple(0, kScan, ""));
     r = layout.run({"--corvid", "backup-all"});
     EXPECT_EQ(std::tuple(r.status, results(r.out)), std::tuple(0, std::vector<std::string>(4, "backed up")))
+        << r.out << r.err;
+    r = layout.run({"--corvid", "check-all"});
+    EXPECT_EQ(std::tuple(r.status, results(r.out)),
+              std::tuple(0, std::vector<std::string>(4, "holds its newest backup")))
         << r.out << r.err;
 }
