@@ -4,6 +4,9 @@
 #include "seed/SimLayout.h"
 #include "sim/SimPort.h"
 
+#include <chrono>
+#include <thread>
+
 namespace kestrel {
 
 namespace {
@@ -51,6 +54,14 @@ public:
     int bytesWaiting() override { return port().bytesWaiting(); }
     int readByte() override { return port().readByte(); }
     bool waitForBytes(int timeoutMs) override { return port().waitForBytes(timeoutMs); }
+    bool flush() override
+    {
+        // The Corvid system answers every poll at once in process: a frame takes a moment,
+        // as on a wire, so that the polls for a module's reply do not keep a core busy.
+        if (name == LinkControl::kSimCorvidPortName)
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        return port().flush();
+    }
     std::string errorString() const override { return routes ? port().errorString() : std::string(); }
 
 private:

@@ -1,6 +1,6 @@
 // kestrel-cli's scan, backup-all and check-all against kestrel-sim's simulated layout on a
 // pseudo-terminal (modules at 0, 3, 5 and 15, and a silent one at 9), directly and through
-// a simulated Corvid system.
+// a simulated Corvid system; the built-in layout behind its Corvid system.
 #include "support/Files.h"
 #include "support/Process.h"
 
@@ -109,6 +109,10 @@ TEST(CliLayout, ScanBackUpAllAndCheckAll)
 
 TEST(CliLayout, ScanBackUpAllAndCheckAllThroughTheCorvidSystem)
 {
+    // The built-in "sim (Corvid)": the same modules behind a system that tunnels.
+    auto builtIn = runProgram(cli, {"--port", "sim (Corvid)", "--corvid", "--address", "15", "version"});
+    EXPECT_EQ(std::tuple(builtIn.status, builtIn.out, builtIn.err), std::tuple(0, "1.2.3.4\n", ""));
+
     const LayoutOnPty layout(true);
     auto r = layout.run({"--corvid", "scan"});
     EXPECT_EQ(std::tuple(r.status, r.out, r.err), std::tuple(0, kScan, ""));
