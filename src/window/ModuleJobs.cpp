@@ -194,33 +194,19 @@ void ModuleJobs::setButtons(KestrelConfig& w)
     const AspectsPage& a = *w.aspectsPage;
     const EventPage& e = *w.eventPage;
     const GeneralPage& g = *w.generalPage;
-    w.runner->setButtons({w.CommandReadAll,
-                          w.CommandWriteAll,
-                          w.CommandVerifyAll,
-                          w.CommandWriteChanges,
-                          w.CommandCompare,
-                          w.CommandReadAllPins,
-                          w.CommandWriteAllPins,
-                          w.CommandVerifyAllPins,
-                          a.CommandReadPin,
-                          a.CommandWritePin,
-                          a.CommandReadDevice,
-                          a.CommandWriteDevice,
-                          a.CommandPAspReadPin,
-                          a.CommandPAspWritePin,
-                          a.CommandPAspWriteAspect,
-                          e.CommandECRead,
-                          e.CommandECWrite,
-                          e.CommandECVerify,
-                          w.layoutPage->CommandFindModules,
-                          w.layoutPage->CommandBackUpAll,
-                          w.layoutPage->CommandCheckAll},
-                         {w.CommandWriteAll, w.CommandWriteChanges, w.CommandWriteAllPins, a.CommandWritePin,
-                          a.CommandWriteDevice, a.CommandPAspWritePin, a.CommandPAspWriteAspect,
-                          e.CommandECWrite, e.CommandECWriteSingle, e.CommandECInitWrite, g.CommandGenIDWrite,
-                          g.CommandGenDCCWrite, g.CommandGenAddrWrite, g.CommandGenHWCWrite, g.CommandLCWrite,
-                          g.CommandGenSerialWrite, g.CommandGenEraseFlash,
-                          w.pinConfigPage->CommandPCFGSetParam[1]});
+    const LayoutPage& l = *w.layoutPage;
+    w.runner->setButtons(
+        {w.CommandReadAll,     w.CommandWriteAll,     w.CommandVerifyAll,       w.CommandWriteChanges,
+         w.CommandCompare,     w.CommandReadAllPins,  w.CommandWriteAllPins,    w.CommandVerifyAllPins,
+         a.CommandReadPin,     a.CommandWritePin,     a.CommandReadDevice,      a.CommandWriteDevice,
+         a.CommandPAspReadPin, a.CommandPAspWritePin, a.CommandPAspWriteAspect, e.CommandECRead,
+         e.CommandECWrite,     e.CommandECVerify,     l.CommandFindModules,     l.CommandBackUpAll,
+         l.CommandCheckAll},
+        {w.CommandWriteAll, w.CommandWriteChanges, w.CommandWriteAllPins, a.CommandWritePin,
+         a.CommandWriteDevice, a.CommandPAspWritePin, a.CommandPAspWriteAspect, e.CommandECWrite,
+         e.CommandECWriteSingle, e.CommandECInitWrite, g.CommandGenIDWrite, g.CommandGenDCCWrite,
+         g.CommandGenAddrWrite, g.CommandGenHWCWrite, g.CommandLCWrite, g.CommandGenSerialWrite,
+         g.CommandGenEraseFlash, w.pinConfigPage->CommandPCFGSetParam[1]});
 }
 
 void ModuleJobs::showComparison(KestrelConfig& w, const Configuration& module, const GeneralSettings& gmodule)
