@@ -29,7 +29,7 @@ const char* const kSimUsage =
     "                   --address go beside them and only they take --load, --version,\n"
     "                   --xaddress and the fault switches (a silent module: --address 9\n"
     "                   --drop-replies 1000000)\n"
-    "fault switches (every module):\n"
+    "fault switches (every module; with --layout those of --address):\n"
     "  --drop-replies N     leave the next N replies unsent\n"
     "  --corrupt-copies N   send the next N replies first as a copy with a bad check byte\n"
     "  --garbage N          send N stray bytes before every reply\n"
