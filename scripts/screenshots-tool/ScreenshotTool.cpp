@@ -1,11 +1,13 @@
 // kestrel-screenshots: the window as kestrel-config opens it, pictured for the
 // documentation (scripts/screenshots). --screenshot FILE saves the window once shown;
-// --screenshots FOLDER reads the simulated module and saves every page and tool.
+// --screenshots FOLDER reads the simulated module and saves every page and tool, and the
+// Layout page after Find Modules and Check All.
 #include "window/AspectsPage.h"
 #include "window/CompareDialog.h"
 #include "window/EditTools.h"
 #include "window/HelpToolDialogs.h"
 #include "window/KestrelConfig.h"
+#include "window/LayoutPage.h"
 #include "window/TrafficMonitor.h"
 
 #include <QAction>
@@ -21,11 +23,47 @@
 #include <QSettings>
 #include <QTabWidget>
 #include <QTimer>
+#include <functional>
 
 namespace {
 
+// Once the window's job has ended, `then`.
+void whenIdle(kestrel::KestrelConfig& window, std::function<void()> then)
+{
+    auto* poll = new QTimer(&window);
+    QObject::connect(poll, &QTimer::timeout, &window, [&window, poll, then] {
+        if (window.LabelAction->isVisible() || !window.jobs.PendingJob.empty())
+            return;
+        poll->deleteLater();
+        poll->stop();
+        then();
+    });
+    poll->start(100);
+}
+
+// The Layout page after Find Modules and Check All on the simulated layout (the module at 0
+// has the backup of the Read All before), and Check All's summary; then quit.
+void takeLayout(kestrel::KestrelConfig& window, const QString& folder)
+{
+    using namespace kestrel;
+    LayoutPage& page = *window.layoutPage;
+    page.CommandFindModules->click();
+    whenIdle(window, [&window, &page, folder] {
+        page.CommandCheckAll->click();
+        whenIdle(window, [&window, &page, folder] {
+            window.tabs->setCurrentWidget(&page);
+            QApplication::processEvents();
+            window.grab().save(folder + "/" + page.objectName() + ".png");
+            page.frmLayoutSummary->resize(900, 300);
+            QApplication::processEvents();
+            page.frmLayoutSummary->grab().save(folder + "/" + page.frmLayoutSummary->objectName() + ".png");
+            QApplication::exit(0); // without asking about the configuration read
+        });
+    });
+}
+
 // --screenshots DIR: the window on the simulated module after Read All, one picture a
-// page (named after the page's objectName) and one a tool, then quit.
+// page (named after the page's objectName) and one a tool, then the Layout page.
 void takeScreenshots(kestrel::KestrelConfig& window, const QString& folder)
 {
     using namespace kestrel;
@@ -88,7 +126,8 @@ void takeScreenshots(kestrel::KestrelConfig& window, const QString& folder)
             compared->stop();
             QApplication::processEvents();
             window.frmCompare->grab().save(folder + "/" + window.frmCompare->objectName() + ".png");
-            QApplication::exit(0); // without asking about the configuration read
+            window.frmCompare->close();
+            takeLayout(window, folder);
         });
         compared->start(100);
     });

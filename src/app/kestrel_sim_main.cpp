@@ -4,12 +4,14 @@
 // the same numbers as a "kestrel-sim-stats:" line of key=value pairs.
 
 #include "platform/CommandLine.h"
+#include "seed/SimLayout.h"
 #include "seed/SimSeed.h"
 #include "sim/SimBus.h"
 #include "sim/SimCorvid.h"
 #include "sim/SimOptions.h"
 #include "sim/SimPty.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <memory>
 #include <stdexcept>
@@ -32,7 +34,7 @@ int main(int argc, char** argv)
         }
     SimOptions options;
     try {
-        std::vector<kestrel::CommandLineOption> known{{{"corvid"}, false}};
+        std::vector<kestrel::CommandLineOption> known{{{"corvid"}, false}, {{"layout"}, false}};
         for (const char* name :
              {"address", "xaddress", "version", "pace-baud", "drop-replies", "corrupt-copies", "garbage",
               "refuse", "system-version", "unit", "unit-version", "load"})
@@ -42,7 +44,7 @@ int main(int argc, char** argv)
             takeSimOption(options, option, value);
         if (!line.error.empty())
             throw std::invalid_argument(line.error);
-        if (options.addresses.empty())
+        if (options.addresses.empty() && !options.layout)
             options.addresses.push_back(0);
     } catch (const std::exception& e) {
         std::fprintf(stderr, "kestrel-sim: %s\n%s", e.what(), kSimUsage);
@@ -50,8 +52,17 @@ int main(int argc, char** argv)
     }
 
     SimBus bus;
+    if (options.layout)
+        kestrel::addSimLayout(bus);
+    std::vector<SimModule*> own; // the modules of --address
     for (int a : options.addresses) {
-        bus.addModule(a, options.xaddress, options.version);
+        const auto& layout = kestrel::simLayoutModules();
+        if (options.layout &&
+            std::any_of(layout.begin(), layout.end(), [a](const auto& m) { return m.address == a; })) {
+            std::fprintf(stderr, "kestrel-sim: address %d belongs to the layout\n", a);
+            return 2;
+        }
+        own.push_back(&bus.addModule(a, options.xaddress, options.version));
         if (a > 15 && !options.corvid)
             std::fprintf(stderr, "kestrel-sim: warning: address %d can only be reached through --corvid\n",
                          a);
@@ -73,7 +84,7 @@ int main(int argc, char** argv)
         bus.resetStats();
     }
     // The fault switches act from here on, after the modules got their configuration.
-    for (SimModule* m : bus.modules())
+    for (SimModule* m : own)
         m->faults = options.faults;
 
     std::unique_ptr<SimCorvid> corvid;

@@ -8,9 +8,12 @@
 #include "files/Backups.h"
 #include "files/ConfigurationFile.h"
 #include "forms/ConfigDiff.h"
+#include "forms/LayoutJobs.h"
+#include "forms/LayoutList.h"
 #include "link/CorvidControl.h"
 #include "model/WireLimits.h"
 #include "ops/Bulk.h"
+#include "ops/BusScan.h"
 #include "ops/GeneralCommands.h"
 #include "platform/BackupFolder.h"
 #include "platform/BuiltInSim.h"
@@ -41,7 +44,8 @@ const char* kUsageText =
     "N]\n"
     "                   [--corvid] [--one-way] [--number-from-1] COMMAND\n"
     "commands:\n"
-    "  ports                         list the ports (\"sim\" is the built-in simulated module)\n"
+    "  ports                         list the ports (\"sim\" is the built-in simulated layout,\n"
+    "                                \"sim (Corvid)\" the same behind a simulated Corvid system)\n"
     "  version                       print the module's firmware version\n"
     "  read FILE [--compact] [--backup]\n"
     "                                read the whole module and save it as a data file\n"
@@ -53,7 +57,13 @@ const char* kUsageText =
     "  show FILE                     print a data file as readable text (no port needed)\n"
     "  diff A B                      print every difference between two data files (no port needed)\n"
     "  erase --yes                   erase the module's configuration memory\n"
-    "  transparent [--yes]           switch the Corvid interface unit into transparent mode\n";
+    "  transparent [--yes]           switch the Corvid interface unit into transparent mode\n"
+    "  scan [--xaddress-range]       list every module that answers: bus addresses 0..15 (0..31 with\n"
+    "                                --corvid), with --xaddress-range also eXtended addresses 0..95 on\n"
+    "                                each address that answered; each address is given 500 ms to\n"
+    "                                answer instead of the 2 s of every other exchange\n"
+    "  backup-all [--xaddress-range] scan, then read each module found and keep it with its backups\n"
+    "  check-all [--xaddress-range]  scan, then compare each module found with its newest backup\n";
 
 struct CliOptions {
     std::string port = "sim";
@@ -68,6 +78,7 @@ struct CliOptions {
     bool withPinConfig = false;
     std::optional<std::string> changesFrom; // write: BASE.dat, what the module holds
     bool backup = false;
+    bool xaddressRange = false; // scan, backup-all, check-all: also every eXtended address
     std::string command;
     std::vector<std::string> operands;
 };
@@ -250,12 +261,88 @@ int commandErase(CliContext& c)
 // Switches an interface unit of the Corvid system into transparent mode.
 int commandTransparent(CliContext& c) { return c.corvid.cmdSetTM_Click() ? kOk : kFailed; }
 
+// The modules that answer on the route given, with the scan's options.
+std::vector<FoundModule> scanBus(CliContext& c)
+{
+    return findModules(c.session, ScanOptions{c.options.xaddressRange});
+}
+
+// One line for each module that answers; 1 when none did.
+int commandScan(CliContext& c)
+{
+    const std::vector<FoundModule> found = scanBus(c);
+    c.progress.finish();
+    const int base = c.session.config.NumberingBase;
+    for (const FoundModule& m : found)
+        std::printf("%s %s \"%s\"\n", shownAddress(m, base).c_str(), m.version.c_str(),
+                    printable(m.id).c_str());
+    return found.empty() ? kFailed : kOk;
+}
+
+// Scans, then runs `one` on each module found, each announced by its line of progress, and
+// ends with the summary of the rows. 1 when no module answered or `one` found any not well.
+template <typename One> int eachFound(CliContext& c, const char* doing, One one)
+{
+    const std::vector<FoundModule> found = scanBus(c);
+    c.progress.finish();
+    if (found.empty()) {
+        if (!c.progress.cancelled())
+            std::fputs("No module answered\n", stderr);
+        return kFailed;
+    }
+    const int base = c.session.config.NumberingBase;
+    std::vector<SummaryRow> rows;
+    bool allWell = true;
+    for (std::size_t i = 0; i < found.size() && !c.progress.cancelled(); ++i) {
+        std::printf("%s %s (%zu of %zu)\n", doing, printable(shownModule(found[i], base)).c_str(), i + 1,
+                    found.size());
+        std::fflush(stdout);
+        allWell = one(found[i], rows) && allWell;
+        c.progress.finish();
+    }
+    std::printf("\n%s", printable(summaryTable(rows)).c_str());
+    return allWell ? kOk : kFailed;
+}
+
+// Read All of every module that answers, each kept with the window's automatic backups.
+int commandBackupAll(CliContext& c)
+{
+    const std::string root = backupRoot().toStdString();
+    return eachFound(c, "Backing up", [&](const FoundModule& m, std::vector<SummaryRow>& rows) {
+        const ModuleBackup b = backUpAll(c.session, {m}, root).at(0);
+        rows.push_back(summaryRow(b, c.session.config.NumberingBase));
+        return b.ok && !b.incomplete;
+    });
+}
+
+// Every module that answers compared with its newest backup; the differences of each that
+// differs printed as compare prints them.
+int commandCheckAll(CliContext& c)
+{
+    const std::string root = backupRoot().toStdString();
+    return eachFound(c, "Checking", [&](const FoundModule& m, std::vector<SummaryRow>& rows) {
+        const ModuleCheck check = checkAll(c.session, {m}, root).at(0);
+        c.progress.finish();
+        for (const std::string& line : check.differences)
+            std::printf("%s\n", printable(line).c_str());
+        rows.push_back(summaryRow(check, c.session.config.NumberingBase));
+        return check.verdict == CheckVerdict::Equal;
+    });
+}
+
 const std::map<std::string, Command>& commands()
 {
     static const std::map<std::string, Command> table = {
-        {"version", commandVersion}, {"transparent", commandTransparent}, {"read", commandRead},
-        {"write", commandWrite},     {"verify", commandVerify},           {"erase", commandErase},
+        {"version", commandVersion},
+        {"transparent", commandTransparent},
+        {"read", commandRead},
+        {"write", commandWrite},
+        {"verify", commandVerify},
+        {"erase", commandErase},
         {"compare", commandCompare},
+        {"scan", commandScan},
+        {"backup-all", commandBackupAll},
+        {"check-all", commandCheckAll},
     };
     return table;
 }
@@ -279,10 +366,10 @@ bool checkAddress(const char* option, const std::string& text, int highest, int 
 bool parse(const std::vector<std::string>& args, CliOptions& o, std::string& error)
 {
     static const std::vector<CommandLineOption> known = {
-        {{"port"}, true}, {{"baud"}, true}, {{"address"}, true},      {{"xaddress"}, true},
-        {{"corvid"}},     {{"one-way"}},    {{"number-from-1"}},      {{"yes"}},
-        {{"compact"}},    {{"backup"}},     {{"changes-from"}, true}, {{"with-pin-config"}},
-        {{"h", "help"}},
+        {{"port"}, true},     {{"baud"}, true}, {{"address"}, true},      {{"xaddress"}, true},
+        {{"corvid"}},         {{"one-way"}},    {{"number-from-1"}},      {{"yes"}},
+        {{"compact"}},        {{"backup"}},     {{"changes-from"}, true}, {{"with-pin-config"}},
+        {{"xaddress-range"}}, {{"h", "help"}},
     };
     const CommandLine line = readCommandLine(args, known);
     // In the order given: the first fault ends the reading.
@@ -305,13 +392,14 @@ bool parse(const std::vector<std::string>& args, CliOptions& o, std::string& err
             error = "";
             return false;
         } else {
-            bool CliOptions::*flag = a == "--corvid"          ? &CliOptions::corvid
-                                     : a == "--one-way"       ? &CliOptions::oneWay
-                                     : a == "--number-from-1" ? &CliOptions::numberFrom1
-                                     : a == "--yes"           ? &CliOptions::yes
-                                     : a == "--compact"       ? &CliOptions::compact
-                                     : a == "--backup"        ? &CliOptions::backup
-                                                              : &CliOptions::withPinConfig;
+            bool CliOptions::*flag = a == "--corvid"           ? &CliOptions::corvid
+                                     : a == "--one-way"        ? &CliOptions::oneWay
+                                     : a == "--number-from-1"  ? &CliOptions::numberFrom1
+                                     : a == "--yes"            ? &CliOptions::yes
+                                     : a == "--compact"        ? &CliOptions::compact
+                                     : a == "--backup"         ? &CliOptions::backup
+                                     : a == "--xaddress-range" ? &CliOptions::xaddressRange
+                                                               : &CliOptions::withPinConfig;
             o.*flag = true;
         }
     }
@@ -340,6 +428,10 @@ bool parse(const std::vector<std::string>& args, CliOptions& o, std::string& err
     }
     if (o.backup && o.command != "read") {
         error = "--backup goes with read";
+        return false;
+    }
+    if (o.xaddressRange && o.command != "scan" && o.command != "backup-all" && o.command != "check-all") {
+        error = "--xaddress-range goes with scan, backup-all or check-all";
         return false;
     }
     if (o.changesFrom && o.command != "write") {

@@ -31,6 +31,7 @@ void LinkControl::ScanPorts()
         ComboPort = systemPorts();
     }
     ComboPort.push_back(kSimPortName);
+    ComboPort.push_back(kSimCorvidPortName);
 }
 
 void LinkControl::cmdRefreshComm_Click()

@@ -14,6 +14,8 @@ namespace kestrel {
 class LinkControl {
 public:
     static constexpr const char* kSimPortName = "sim";
+    // The same simulated modules behind a simulated Corvid system.
+    static constexpr const char* kSimCorvidPortName = "sim (Corvid)";
     static const char* const kBitRateSettings[3]; // "9600,o,8,1", "19200,o,8,1", "38400,o,8,1"
 
     // `numberingBase` is the session's NumberingBase (0 or 1), read at every call.

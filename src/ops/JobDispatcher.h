@@ -41,6 +41,10 @@ struct Jobs {
     // Only what differs from the module's image; the module read beside the configuration.
     static constexpr JobName WriteChanges{"WriteChanges"};
     static constexpr JobName CompareModule{"CompareModule"};
+    // Over every module of the layout.
+    static constexpr JobName FindModules{"FindModules"};
+    static constexpr JobName BackUpAll{"BackUpAll"};
+    static constexpr JobName CheckAll{"CheckAll"};
 };
 
 // Long operations are not run in the button's handler: the handler shows the busy

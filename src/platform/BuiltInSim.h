@@ -5,8 +5,9 @@
 
 namespace kestrel {
 
-// The simulated module that the port list offers as "sim": a module at bus address 0
-// holding a small demonstration configuration, reached in process.
+// The simulated layout that the port list offers, reached in process: "sim" is its bus
+// (the module at address 0 holds the small demonstration configuration), "sim (Corvid)"
+// the same modules behind a simulated Corvid system (seed/SimLayout).
 std::unique_ptr<SerialPort> makeBuiltInSimPort();
 
 } // namespace kestrel

@@ -9,7 +9,10 @@ PortRouter::PortRouter(std::unique_ptr<SerialPort> r, std::unique_ptr<SerialPort
 {
 }
 
-bool PortRouter::simulatedChosen() const { return name == LinkControl::kSimPortName; }
+bool PortRouter::simulatedChosen() const
+{
+    return name == LinkControl::kSimPortName || name == LinkControl::kSimCorvidPortName;
+}
 
 SerialPort& PortRouter::active() const { return simulatedChosen() ? *sim : *real; }
 

@@ -6,8 +6,8 @@
 
 namespace kestrel {
 
-// The port the link talks to: the built-in simulated module when "sim" is chosen,
-// the real serial port for any other name.
+// The port the link talks to: the built-in simulated layout when "sim" or "sim (Corvid)"
+// is chosen, the real serial port for any other name.
 class PortRouter : public SerialPort {
 public:
     PortRouter(std::unique_ptr<SerialPort> real, std::unique_ptr<SerialPort> simulated);

@@ -9,8 +9,9 @@
 namespace kestrel {
 
 // The session of a running program, wired the same way for the window and the command
-// line: the system's serial ports (platform/SystemPort.h) beside the built-in simulated module ("sim"), the
-// system clock, the Corvid controls, and the dialogs the front end gives.
+// line: the system's serial ports (platform/SystemPort.h) beside the built-in simulated
+// layout ("sim", "sim (Corvid)"), the system clock, the Corvid controls, and the dialogs
+// the front end gives.
 struct ProgramSession {
     explicit ProgramSession(UserDialogs& dialogs);
     ~ProgramSession();

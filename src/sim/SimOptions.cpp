@@ -7,7 +7,7 @@ namespace kestrel::sim {
 
 const char* const kSimUsage =
     "usage: kestrel-sim [--help] [--address N[,N...]]... [--xaddress N] [--version [A.B.C.D]]\n"
-    "                   [--pace-baud RATE]\n"
+    "                   [--pace-baud RATE] [--layout]\n"
     "                   [--corvid [--system-version X.Y] [--unit hub-a|hub-b|linkbox]\n"
     "                             [--unit-version N]]\n"
     "  --address N      a module at bus address N (0..31; 16..31 only through --corvid);\n"
@@ -22,7 +22,14 @@ const char* const kSimUsage =
     "  --unit TYPE      interface unit: hub-a (default), hub-b or linkbox\n"
     "  --unit-version N interface unit version, e.g. 1020 or 1.20 (default 1020)\n"
     "  --load FILE.dat  every module starts with the configuration of this data file\n"
-    "fault switches (every module):\n"
+    "  --layout         the simulated layout of kestrel-config's \"sim\": the demonstration\n"
+    "                   module at 0 (ID \"Demo layout\"), \"Yard east\" at 3, \"Crossing 2\" at 5\n"
+    "                   answering eXtended address 7 too, and \"Station\" at 15, each with its\n"
+    "                   own configuration (with --corvid: as \"sim (Corvid)\"); modules of\n"
+    "                   --address go beside them and only they take --load, --version,\n"
+    "                   --xaddress and the fault switches (a silent module: --address 9\n"
+    "                   --drop-replies 1000000)\n"
+    "fault switches (every module; with --layout those of --address):\n"
     "  --drop-replies N     leave the next N replies unsent\n"
     "  --corrupt-copies N   send the next N replies first as a copy with a bad check byte\n"
     "  --garbage N          send N stray bytes before every reply\n"
@@ -110,6 +117,8 @@ void takeSimOption(SimOptions& o, const std::string& option, const std::string& 
         o.faults.refuse(command, how, item);
     } else if (option == "--corvid") {
         o.corvid = true;
+    } else if (option == "--layout") {
+        o.layout = true;
     } else if (option == "--system-version") {
         o.systemVersion = parseCorvidVersion(value, "--system-version");
     } else if (option == "--unit") {

@@ -16,6 +16,7 @@ extern const char* const kSimUsage;
 // What kestrel-sim's command line asks for.
 struct SimOptions {
     std::vector<int> addresses;
+    bool layout = false; // the simulated layout (seed/SimLayout) beside the modules of --address
     std::optional<std::uint8_t> xaddress;
     std::array<std::uint8_t, 4> version{1, 2, 3, 4};
     int paceBaud = 0;

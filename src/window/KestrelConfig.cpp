@@ -10,6 +10,7 @@
 #include "window/FileActions.h"
 #include "window/GeneralPage.h"
 #include "window/JobRunner.h"
+#include "window/LayoutPage.h"
 #include "window/LinkArea.h"
 #include "window/LogWindows.h"
 #include "window/MainMenus.h"
@@ -126,6 +127,13 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     tabs->addTab(aspectsPage, "Aspects");
     pinOverviewPage = new PinOverviewPage(*core);
     tabs->addTab(pinOverviewPage, "Pin Overview");
+    layoutPage = new LayoutPage(*core, kept);
+    tabs->addTab(layoutPage, "Layout");
+    layoutPage->onModuleChosen = [this](const FoundModule& m) { chooseModule(m); };
+    for (auto [button, job] : {std::pair{layoutPage->CommandFindModules, Jobs::FindModules},
+                               {layoutPage->CommandBackUpAll, Jobs::BackUpAll},
+                               {layoutPage->CommandCheckAll, Jobs::CheckAll}})
+        connect(button, &QPushButton::clicked, this, [this, job] { startJob(job); });
     layout->addWidget(tabs, 1);
     // One pin selection for the whole window: a pin chosen on one page is shown on all.
     eventPage->onPinChosen = [this] { refreshAll(); };
@@ -186,13 +194,13 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
         frmKestrelVerification->raise();
     };
 
-    runner =
-        new JobRunner(*core, *guard, jobs,
-                      {this, LabelAction, LabelStatusJob, CheckWritePinConfig, [this] { commitAll(); },
-                       [this] { refreshAll(); },
-                       [this](const QWidget* w) {
-                           return w == frmTrafficMonitor || w == frmKestrelVerification || w == frmCorvidComm;
-                       }});
+    runner = new JobRunner(*core, *guard, jobs,
+                           {this, LabelAction, LabelStatusJob, CheckWritePinConfig, [this] { commitAll(); },
+                            [this] { refreshAll(); },
+                            [this](const QWidget* w) {
+                                return w == frmTrafficMonitor || w == frmKestrelVerification ||
+                                       w == frmCorvidComm || w == layoutPage->frmLayoutSummary;
+                            }});
     ModuleJobs::add(*this);
     Timer1 = new QTimer(this);
     Timer1->setObjectName("Timer1");
@@ -273,6 +281,25 @@ void KestrelConfig::updateWindowState()
                                                  .arg(QString::fromStdString(core->linkControl.ComboPortText))
                                                  .arg(rates[std::clamp(rate, 0, 2)])
                                            : QString("Port closed"));
+    if (tabs->currentWidget() == layoutPage) // the port's list, numbered as the window numbers
+        layoutPage->refresh();
+}
+
+void KestrelConfig::chooseModule(const FoundModule& m)
+{
+    LinkControl& lc = core->linkControl;
+    const LinkSettings& link = core->link.settings;
+    const int base = core->config.NumberingBase;
+    (*guard)([&] {
+        if (link.CheckCorvid != m.corvid && corvid->CheckCorvid_Click(m.corvid) != m.corvid)
+            return; // the route cannot be taken: the address stays as it was
+        lc.TextAddress_Click(std::to_string(m.address + base));
+        if (link.CheckXaddress != m.xaddress.has_value())
+            lc.CheckXaddress_Click(m.xaddress.has_value());
+        if (m.xaddress && link.CheckXaddress)
+            lc.txtXaddr_Click(std::to_string(*m.xaddress + base));
+    });
+    refreshLinkDisplays();
 }
 
 bool KestrelConfig::keepChangesSafe(const char* doing) { return files->keepChangesSafe(doing); }

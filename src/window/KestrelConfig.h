@@ -43,6 +43,8 @@ class EditHistory;
 class LinkArea;
 class JobRunner;
 class FileActions;
+class LayoutPage;
+struct FoundModule;
 } // namespace kestrel
 
 namespace kestrel {
@@ -117,6 +119,7 @@ public:
     // The aspect page, with the device definitions
     AspectsPage* aspectsPage;
     PinOverviewPage* pinOverviewPage; // every pin at a glance, updated with the others
+    LayoutPage* layoutPage;           // the modules of the port's layout and the jobs over them
     DeviceList devices;
 
     // The differences of the last "Compare with Module", made on first use and kept.
@@ -162,6 +165,9 @@ public:
     // told in the status bar. Restore chooses one and loads it as Load File does.
     void saveReadBackup();
     void restoreFromBackup();
+    // A module of the layout becomes the target: its route, address and eXtended address are
+    // set as the link area sets them (with the question eXtended addressing asks).
+    void chooseModule(const FoundModule& module);
 
 public slots:
     void ComboPort_Click();

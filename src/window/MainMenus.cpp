@@ -6,6 +6,7 @@
 #include "window/FileActions.h"
 #include "window/GeneralPage.h"
 #include "window/KestrelConfig.h"
+#include "window/LayoutPage.h"
 #include "window/PinOverview.h"
 #include "window/TrafficMonitor.h"
 
@@ -97,6 +98,10 @@ void MainMenus::build(KestrelConfig& w)
     add(module, "Read Event Control", press(w.eventPage->CommandECRead));
     add(module, "Write Event Control", press(w.eventPage->CommandECWrite));
     add(module, "Verify Event Control", press(w.eventPage->CommandECVerify));
+    module->addSeparator();
+    add(module, "Find &Modules", press(w.layoutPage->CommandFindModules));
+    add(module, "Back &Up All", press(w.layoutPage->CommandBackUpAll));
+    add(module, "Chec&k All", press(w.layoutPage->CommandCheckAll));
 
     QMenu* view = w.menuView = w.menuBar()->addMenu("&View");
     add(view, "&Corvid Log", [&w] {
@@ -112,6 +117,7 @@ void MainMenus::build(KestrelConfig& w)
         w.frmTrafficMonitor->raise();
     });
     add(view, "&Pin Overview", [&w] { w.tabs->setCurrentWidget(w.pinOverviewPage); });
+    add(view, "&Layout", [&w] { w.tabs->setCurrentWidget(w.layoutPage); });
 
     w.menuHelp = w.menuBar()->addMenu("&Help");
     add(

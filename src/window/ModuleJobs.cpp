@@ -1,22 +1,29 @@
 #include "window/ModuleJobs.h"
 
 #include "forms/ConfigDiff.h"
+#include "forms/LayoutList.h"
 #include "model/AddressIndex.h"
 #include "ops/Bulk.h"
+#include "ops/BusScan.h"
 #include "ops/EventControl.h"
 #include "ops/PinTransfer.h"
+#include "platform/BackupFolder.h"
 #include "window/AspectsPage.h"
+#include "window/Bindings.h"
 #include "window/CompareDialog.h"
 #include "window/EventPage.h"
 #include "window/FileActions.h"
 #include "window/GeneralPage.h"
 #include "window/JobRunner.h"
 #include "window/KestrelConfig.h"
+#include "window/LayoutPage.h"
 #include "window/PinConfigPage.h"
 
 #include <QCheckBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QTabWidget>
+#include <algorithm>
 
 namespace kestrel {
 
@@ -121,6 +128,65 @@ void ModuleJobs::add(KestrelConfig& w)
         runner.run("Write Aspect",
                    [&s] { return WriteAspect(s, s.config.CurrentPin, s.config.CurrentAspect); });
     });
+    addLayoutJobs(w);
+}
+
+void ModuleJobs::addLayoutJobs(KestrelConfig& w)
+{
+    Session& s = *w.core;
+    JobRunner& runner = *w.runner;
+    LayoutPage& page = *w.layoutPage;
+    // The scan of the route in use; Back Up All and Check All scan first when the list is empty.
+    const auto scan = [&s, &page] {
+        const bool corvid = s.link.settings.CheckCorvid;
+        const std::vector<FoundModule> found = findModules(s, {page.CheckXaddressRange->isChecked()});
+        page.found(found, corvid);
+        Progress* p = s.link.currentProgress();
+        return !(p && p->cancelled());
+    };
+    const auto listed = [&page, scan] {
+        if (page.entries().empty() && !scan())
+            return std::vector<FoundModule>{};
+        return page.modules();
+    };
+    w.jobs.add(Jobs::FindModules, [&runner, &w, scan] {
+        runner.run("Find Modules", scan);
+        w.tabs->setCurrentWidget(w.layoutPage);
+    });
+    w.jobs.add(Jobs::BackUpAll, [&runner, &s, &page, listed] {
+        std::vector<ModuleBackup> results;
+        runner.run("Back Up All", [&] {
+            results = backUpAll(s, listed(), backupRoot().toStdString());
+            return std::all_of(results.begin(), results.end(), [](const ModuleBackup& b) { return b.ok; });
+        });
+        page.backedUp(results);
+        std::vector<SummaryRow> rows;
+        for (const ModuleBackup& b : results)
+            rows.push_back(summaryRow(b, s.config.NumberingBase));
+        page.showSummary("Back Up All", latin1(summaryTable(rows)));
+    });
+    w.jobs.add(Jobs::CheckAll, [&runner, &s, &page, listed] {
+        std::vector<ModuleCheck> results;
+        runner.run("Check All", [&] {
+            results = checkAll(s, listed(), backupRoot().toStdString());
+            return std::all_of(results.begin(), results.end(),
+                               [](const ModuleCheck& c) { return c.verdict != CheckVerdict::Failed; });
+        });
+        page.checked(results);
+        // Each module that differs with its differences, as compare prints them; then the table.
+        std::string text;
+        std::vector<SummaryRow> rows;
+        for (const ModuleCheck& c : results) {
+            rows.push_back(summaryRow(c, s.config.NumberingBase));
+            if (c.differences.empty())
+                continue;
+            text += shownModule(c.module, s.config.NumberingBase) + " differs from " + c.backup + ":\n";
+            for (const std::string& line : c.differences)
+                text += line + "\n";
+            text += "\n";
+        }
+        page.showSummary("Check All", latin1(text + summaryTable(rows)));
+    });
 }
 
 void ModuleJobs::setButtons(KestrelConfig& w)
@@ -128,17 +194,19 @@ void ModuleJobs::setButtons(KestrelConfig& w)
     const AspectsPage& a = *w.aspectsPage;
     const EventPage& e = *w.eventPage;
     const GeneralPage& g = *w.generalPage;
-    w.runner->setButtons({w.CommandReadAll, w.CommandWriteAll, w.CommandVerifyAll, w.CommandWriteChanges,
-                          w.CommandCompare, w.CommandReadAllPins, w.CommandWriteAllPins,
-                          w.CommandVerifyAllPins, a.CommandReadPin, a.CommandWritePin, a.CommandReadDevice,
-                          a.CommandWriteDevice, a.CommandPAspReadPin, a.CommandPAspWritePin,
-                          a.CommandPAspWriteAspect, e.CommandECRead, e.CommandECWrite, e.CommandECVerify},
-                         {w.CommandWriteAll, w.CommandWriteChanges, w.CommandWriteAllPins, a.CommandWritePin,
-                          a.CommandWriteDevice, a.CommandPAspWritePin, a.CommandPAspWriteAspect,
-                          e.CommandECWrite, e.CommandECWriteSingle, e.CommandECInitWrite, g.CommandGenIDWrite,
-                          g.CommandGenDCCWrite, g.CommandGenAddrWrite, g.CommandGenHWCWrite, g.CommandLCWrite,
-                          g.CommandGenSerialWrite, g.CommandGenEraseFlash,
-                          w.pinConfigPage->CommandPCFGSetParam[1]});
+    const LayoutPage& l = *w.layoutPage;
+    w.runner->setButtons(
+        {w.CommandReadAll,     w.CommandWriteAll,     w.CommandVerifyAll,       w.CommandWriteChanges,
+         w.CommandCompare,     w.CommandReadAllPins,  w.CommandWriteAllPins,    w.CommandVerifyAllPins,
+         a.CommandReadPin,     a.CommandWritePin,     a.CommandReadDevice,      a.CommandWriteDevice,
+         a.CommandPAspReadPin, a.CommandPAspWritePin, a.CommandPAspWriteAspect, e.CommandECRead,
+         e.CommandECWrite,     e.CommandECVerify,     l.CommandFindModules,     l.CommandBackUpAll,
+         l.CommandCheckAll},
+        {w.CommandWriteAll, w.CommandWriteChanges, w.CommandWriteAllPins, a.CommandWritePin,
+         a.CommandWriteDevice, a.CommandPAspWritePin, a.CommandPAspWriteAspect, e.CommandECWrite,
+         e.CommandECWriteSingle, e.CommandECInitWrite, g.CommandGenIDWrite, g.CommandGenDCCWrite,
+         g.CommandGenAddrWrite, g.CommandGenHWCWrite, g.CommandLCWrite, g.CommandGenSerialWrite,
+         g.CommandGenEraseFlash, w.pinConfigPage->CommandPCFGSetParam[1]});
 }
 
 void ModuleJobs::showComparison(KestrelConfig& w, const Configuration& module, const GeneralSettings& gmodule)

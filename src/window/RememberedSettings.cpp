@@ -28,6 +28,9 @@ RememberedSettings RememberedSettings::load(int defaultBitRate)
     r.folder = s.value("files/folder").toString();
     r.recent = s.value("files/recent").toStringList().mid(0, kRecentFiles);
     r.typedPorts = s.value("link/typedPorts").toStringList().mid(0, kTypedPorts);
+    const QVariantMap layouts = s.value("layout/modules").toMap();
+    for (auto at = layouts.begin(); at != layouts.end(); ++at)
+        r.layouts[at.key()] = at.value().toStringList();
     return r;
 }
 
@@ -45,6 +48,10 @@ void RememberedSettings::save() const
     s.setValue("files/folder", folder);
     s.setValue("files/recent", recent);
     s.setValue("link/typedPorts", typedPorts);
+    QVariantMap lists;
+    for (auto at = layouts.begin(); at != layouts.end(); ++at)
+        lists[at.key()] = at.value();
+    s.setValue("layout/modules", lists);
 }
 
 void RememberedSettings::forget() { QSettings("Kestrel", "Kestrel Config").clear(); }

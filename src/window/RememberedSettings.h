@@ -1,5 +1,6 @@
 #pragma once
 #include <QByteArray>
+#include <QMap>
 #include <QString>
 #include <QStringList>
 
@@ -20,6 +21,7 @@ struct RememberedSettings {
     QString folder;                     // the last folder of a file dialog
     QStringList recent;                 // the last files, newest first (at most kRecentFiles)
     QStringList typedPorts;             // port paths typed by hand, newest first
+    QMap<QString, QStringList> layouts; // each port's list of modules (forms/LayoutList, one a line)
 
     static constexpr int kRecentFiles = 5;
     static RememberedSettings load(int defaultBitRate);

@@ -43,8 +43,9 @@ void WindowSettings::load(KestrelConfig& w)
     w.refreshLinkDisplays();
     // The last port (or, on a first start, the simulated module), shown but not yet opened.
     w.ComboPort->setEditText(kept.port);
-    w.ComboPort->setToolTip("The serial port; \"sim\" is a simulated module built into the program. "
-                            "Return or a choice from the list opens it.");
+    w.ComboPort->setToolTip("The serial port; \"sim\" is a simulated layout built into the program, "
+                            "\"sim (Corvid)\" the same behind a simulated Corvid system. Return or a "
+                            "choice from the list opens it.");
 }
 
 void WindowSettings::firstSize(KestrelConfig& w)

@@ -313,6 +313,9 @@ TEST(CommandLines, TheFirstFaultInTheOrderGivenIsToldAndNoOtherSpellingIsTaken)
         {cli, {"-port", "sim", "version"}, "kestrel-cli: unknown option -port"},
         {cli, {"ports", "--port"}, "kestrel-cli: --port needs a value"},
         {cli,
+         {"--xaddress-range", "version"},
+         "kestrel-cli: --xaddress-range goes with scan, backup-all or check-all"},
+        {cli,
          {"--port", "--corvid", "version"},
          "Warning: Cannot open port --corvid: No such file or directory"},
         {sim,
@@ -331,7 +334,9 @@ TEST(CommandLines, TheFirstFaultInTheOrderGivenIsToldAndNoOtherSpellingIsTaken)
     }
     // An empty word before the command is passed over, as it always was.
     const auto r = runProgram(cli, {"", "ports"});
-    EXPECT_EQ(std::tuple(r.status, r.out.rfind("sim\n")), std::tuple(0, r.out.size() - 4)) << r.err;
+    const std::string simulated = "sim\nsim (Corvid)\n";
+    EXPECT_EQ(std::tuple(r.status, r.out.rfind(simulated)), std::tuple(0, r.out.size() - simulated.size()))
+        << r.err;
 }
 
 TEST(KestrelConfigWithoutADisplay, AnswersHelpAndVersionAndOtherwiseSaysSoInOneLine)

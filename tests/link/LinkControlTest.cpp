@@ -83,17 +83,18 @@ TEST_F(LinkControlFixture, BitRateAndPortChoice)
     control.numberedPorts = false;
     control.systemPorts = [] { return std::vector<std::string>{"/dev/ttyS0", "/dev/ttyUSB0"}; };
     control.cmdRefreshComm_Click();
-    EXPECT_EQ(control.ComboPort, (std::vector<std::string>{"/dev/ttyS0", "/dev/ttyUSB0", "sim"}));
+    EXPECT_EQ(control.ComboPort,
+              (std::vector<std::string>{"/dev/ttyS0", "/dev/ttyUSB0", "sim", "sim (Corvid)"}));
     EXPECT_TRUE(control.ComboPortText.empty());
 
     // Numbered ports (Windows): the numbers 1..16 that open, the chosen port kept selected.
     control.numberedPorts = true;
     control.ScanPorts();
-    EXPECT_EQ(control.ComboPort, std::vector<std::string>{"sim"});
+    EXPECT_EQ(control.ComboPort, (std::vector<std::string>{"sim", "sim (Corvid)"}));
     port.failOpen = false;
     control.ScanPorts();
-    std::vector<std::string> numbers{"1",  "2",  "3",  "4",  "5",  "6",  "7",  "8",  "9",
-                                     "10", "11", "12", "13", "14", "15", "16", "sim"};
+    std::vector<std::string> numbers{"1",  "2",  "3",  "4",  "5",  "6",  "7",  "8",   "9",
+                                     "10", "11", "12", "13", "14", "15", "16", "sim", "sim (Corvid)"};
     EXPECT_EQ(std::tuple(control.ComboPort, port.selected(), port.isOpen()),
               std::tuple(numbers, "/dev/ttyUSB9", false));
 }
