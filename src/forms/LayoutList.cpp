@@ -56,7 +56,7 @@ std::string stateText(const LayoutEntry& e)
     case LayoutState::Holds:
         return "holds its newest backup";
     case LayoutState::Differs:
-        return "differs (" + std::to_string(e.differing) + " items)";
+        return "differs (" + std::to_string(e.differing) + (e.differing == 1 ? " item)" : " items)");
     case LayoutState::NoAnswer:
         return "did not answer";
     case LayoutState::NotChecked:

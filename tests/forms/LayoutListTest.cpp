@@ -51,10 +51,10 @@ TEST(LayoutList, TheJobsResultsSetTheStatesAndTheSummary)
         rows.push_back(summaryRow(c, 0));
     EXPECT_EQ(summaryTable(rows), "module   result                        file\n"
                                   "0 \"A\"    holds its newest backup       a.dat\n"
-                                  "3 \"B\"    differs (1 items)             b.dat\n"
+                                  "3 \"B\"    differs (1 item)              b.dat\n"
                                   "5/7 \"C\"  failed: No response received  -\n");
     EXPECT_EQ(std::vector<std::string>({stateText(list[0]), stateText(list[1]), stateText(list[2])}),
-              (std::vector<std::string>{"holds its newest backup", "differs (1 items)", "did not answer"}));
+              (std::vector<std::string>{"holds its newest backup", "differs (1 item)", "did not answer"}));
     noteResults(list, std::vector<ModuleBackup>{{list[1].module, true, false, "b2.dat", {}},
                                                 {list[2].module, true, true, "c.dat", {}}});
     EXPECT_EQ(std::tuple(list[1].state, list[2].state),

@@ -58,7 +58,7 @@ TEST(LayoutPage, FindBackUpCheckAndChooseAModuleOfTheSimulatedLayout)
     EXPECT_TRUE(page.txtLayoutSummary->toPlainText().contains(
         "general ID String: module \"Yard west\", file \"Yard east\"\n"))
         << page.txtLayoutSummary->toPlainText().toStdString();
-    EXPECT_EQ(rows(page).filter("differs (1 items)").size(), 1);
+    EXPECT_EQ(rows(page).filter("differs (1 item)").size(), 1);
     EXPECT_EQ(rows(page).filter("holds its newest backup").size(), 3);
 
     // The list is kept for the port: a window opened afterwards shows it on that port.

@@ -94,7 +94,7 @@ TEST(CliLayout, ScanBackUpAllAndCheckAll)
     ASSERT_EQ(layout.run({"--address", "3", "write", yard}).status, 0);
     r = layout.run({"check-all"});
     EXPECT_EQ(std::tuple(r.status, results(r.out)),
-              std::tuple(1, std::vector<std::string>{"holds its newest backup", "differs (1 items)",
+              std::tuple(1, std::vector<std::string>{"holds its newest backup", "differs (1 item)",
                                                      "holds its newest backup", "holds its newest backup"}))
         << r.out << r.err;
     EXPECT_NE(r.out.find("Checking 3 \"Yard east\" (2 of 4)\ngeneral DCC Address: module 111, file 110\n"),
