@@ -531,9 +531,7 @@ LoadResult readConfigurationText(const std::string& text, Configuration& config,
 {
     ItemReader in(text);
     const std::string keyword = kConfigFileKeyword;
-    std::string header;
-    if (!in.atEnd())
-        header = in.next();
+    const std::string header = in.firstItem();
     if (header.size() != keyword.size() + 5 || header.compare(0, keyword.size(), keyword) != 0) {
         dialogs.message("Invalid configuration file", Icon::Warning);
         return LoadResult::InvalidHeader;
