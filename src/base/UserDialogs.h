@@ -1,5 +1,8 @@
 #pragma once
+#include "base/ProgramFault.h"
+
 #include <string>
+#include <utility>
 
 namespace kestrel {
 
@@ -19,6 +22,26 @@ public:
                                      const std::string& defaultName) = 0;
     virtual std::string saveFileName(const std::string& title, const std::string& filter,
                                      const std::string& defaultName) = 0;
+};
+
+// The dialogs of a text that is the program's own: anything it would tell or ask the user
+// is a program fault ("<source>: <text>"); a file prompt is cancelled.
+class FaultingDialogs : public UserDialogs {
+public:
+    explicit FaultingDialogs(std::string source) : source(std::move(source)) {}
+    void message(const std::string& text, Icon) override { throw ProgramFault(source + ": " + text); }
+    Answer ask(const std::string& text, Buttons, Icon) override { throw ProgramFault(source + ": " + text); }
+    std::string openFileName(const std::string&, const std::string&, const std::string&) override
+    {
+        return {};
+    }
+    std::string saveFileName(const std::string&, const std::string&, const std::string&) override
+    {
+        return {};
+    }
+
+private:
+    std::string source;
 };
 
 } // namespace kestrel

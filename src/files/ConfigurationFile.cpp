@@ -17,6 +17,7 @@
 #include <array>
 #include <cmath>
 #include <cstring>
+#include <map>
 #include <vector>
 
 namespace kestrel {
@@ -256,35 +257,20 @@ public:
 private:
     void dispatch(const std::string& k)
     {
-        if (k == "ID$")
-            readId();
-        else if (k == "DCC")
-            readDcc();
-        else if (k == "XAD")
-            readXad();
-        else if (k == "LED")
-            readLed();
-        else if (k == "SPC")
-            readSpc();
+        // The records with a reader of their own; the other general items are read by their
+        // rows. Anything else is not a keyword: passed over, and the next item is tried.
+        static const std::map<std::string, void (ConfigReader::*)()> readers = {
+            {"ID$", &ConfigReader::readId},       {"DCC", &ConfigReader::readDcc},
+            {"XAD", &ConfigReader::readXad},      {"LED", &ConfigReader::readLed},
+            {"SPC", &ConfigReader::readSpc},      {"Eon", &ConfigReader::readEventsOn},
+            {"Evt", &ConfigReader::readEventsOn}, {"Eof", &ConfigReader::readEventsOff},
+            {"Pin", &ConfigReader::readPin},      {"Dev", &ConfigReader::readDev},
+            {"Cfg", &ConfigReader::readCfg},      {"PAM", &ConfigReader::readPam},
+            {"Asp", &ConfigReader::readAsp},      {"Ins", &ConfigReader::readIns}};
+        if (const auto reader = readers.find(k); reader != readers.end())
+            (this->*reader->second)();
         else if (const GeneralItemCodec* row = itemRecord(k))
             readItem(*row);
-        else if (k == "Eon" || k == "Evt")
-            readEvents(true);
-        else if (k == "Eof")
-            readEvents(false);
-        else if (k == "Pin")
-            readPin();
-        else if (k == "Dev")
-            readDev();
-        else if (k == "Cfg")
-            readCfg();
-        else if (k == "PAM")
-            readPam();
-        else if (k == "Asp")
-            readAsp();
-        else if (k == "Ins")
-            readIns();
-        // Anything else is not a keyword: passed over, and the next item is tried.
     }
 
     void readId()
@@ -386,6 +372,8 @@ private:
         return p;
     }
 
+    void readEventsOn() { readEvents(true); }
+    void readEventsOff() { readEvents(false); }
     void readEvents(bool on)
     {
         const int p = readPinIndex();
@@ -543,9 +531,7 @@ LoadResult readConfigurationText(const std::string& text, Configuration& config,
 {
     ItemReader in(text);
     const std::string keyword = kConfigFileKeyword;
-    std::string header;
-    if (!in.atEnd())
-        header = in.next();
+    const std::string header = in.firstItem();
     if (header.size() != keyword.size() + 5 || header.compare(0, keyword.size(), keyword) != 0) {
         dialogs.message("Invalid configuration file", Icon::Warning);
         return LoadResult::InvalidHeader;

@@ -1,6 +1,5 @@
 #include "files/DemoConfiguration.h"
 
-#include "base/ProgramFault.h"
 #include "base/UserDialogs.h"
 #include "files/ConfigurationFile.h"
 
@@ -154,34 +153,9 @@ const std::string& demoConfigurationText()
     return text;
 }
 
-namespace {
-
-// The text is ours: anything that the reader would tell the user is a program fault.
-class NoDialogs : public UserDialogs {
-public:
-    void message(const std::string& text, Icon) override
-    {
-        throw ProgramFault("Demonstration configuration: " + text);
-    }
-    Answer ask(const std::string& text, Buttons, Icon) override
-    {
-        throw ProgramFault("Demonstration configuration: " + text);
-    }
-    std::string openFileName(const std::string&, const std::string&, const std::string&) override
-    {
-        return {};
-    }
-    std::string saveFileName(const std::string&, const std::string&, const std::string&) override
-    {
-        return {};
-    }
-};
-
-} // namespace
-
 void fillDemoConfiguration(Configuration& config, GeneralSettings& general)
 {
-    NoDialogs dialogs;
+    FaultingDialogs dialogs("Demonstration configuration"); // the text is ours
     readConfigurationText(demoConfigurationText(), config, general, dialogs);
 }
 

@@ -33,9 +33,7 @@ ListLoad readDeviceListText(DeviceList& list, const std::string& text, const std
 {
     ItemReader in(text);
     const std::string keyword = kDeviceFileKeyword;
-    std::string header;
-    if (!in.atEnd())
-        header = in.next();
+    const std::string header = in.firstItem();
     if (header.compare(0, keyword.size(), keyword) != 0) {
         dialogs.message("Invalid definition file", Icon::Warning);
         return ListLoad::Invalid;

@@ -157,35 +157,39 @@ int ItemReader::nextSendable(int lo, int hi, std::string_view what)
     return value;
 }
 
+namespace {
+// Moves i past a sign at s[i], if there is one.
+void skipSign(std::string_view s, std::size_t& i)
+{
+    if (i < s.size() && (s[i] == '+' || s[i] == '-'))
+        ++i;
+}
+
+// Moves i past the digits from s[i] on; true when there was at least one.
+bool skipDigits(std::string_view s, std::size_t& i)
+{
+    const std::size_t from = i;
+    while (i < s.size() && s[i] >= '0' && s[i] <= '9')
+        ++i;
+    return i > from;
+}
+} // namespace
+
 bool isNumberItem(std::string_view s)
 {
     std::size_t i = 0;
-    if (i < s.size() && (s[i] == '+' || s[i] == '-'))
-        ++i;
-    bool digits = false;
-    while (i < s.size() && s[i] >= '0' && s[i] <= '9') {
-        ++i;
-        digits = true;
-    }
+    skipSign(s, i);
+    bool digits = skipDigits(s, i);
     if (i < s.size() && s[i] == '.') {
         ++i;
-        while (i < s.size() && s[i] >= '0' && s[i] <= '9') {
-            ++i;
-            digits = true;
-        }
+        digits = skipDigits(s, i) || digits;
     }
     if (!digits)
         return false;
     if (i < s.size() && (s[i] == 'e' || s[i] == 'E')) {
         ++i;
-        if (i < s.size() && (s[i] == '+' || s[i] == '-'))
-            ++i;
-        bool exponent = false;
-        while (i < s.size() && s[i] >= '0' && s[i] <= '9') {
-            ++i;
-            exponent = true;
-        }
-        if (!exponent)
+        skipSign(s, i);
+        if (!skipDigits(s, i))
             return false;
     }
     return i == s.size();

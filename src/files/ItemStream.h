@@ -35,6 +35,8 @@ public:
     // The next item; at the end of the text a FileFormatError saying that the file ends
     // before "End", placed just after the last item there was (on its line).
     std::string next();
+    // The first item of a file, its header; "" for an empty text.
+    std::string firstItem() { return atEnd() ? std::string() : next(); }
 
     // The next item as a number of the given kind. A missing item, a text that is not a
     // number and a value outside the kind's range are FileFormatErrors.

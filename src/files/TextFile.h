@@ -6,7 +6,7 @@ namespace kestrel {
 
 // The largest data or definitions file that is read: no real one comes near it, and a
 // larger one is refused before it is read.
-inline constexpr std::uintmax_t kTextFileLimit = 1024 * 1024;
+inline constexpr std::uintmax_t kTextFileLimit = std::uintmax_t{1024} * 1024;
 
 // The whole content of a file, bytes as they stand. False, with error saying why ("No
 // such file or directory", "Is a directory", "File too large: ... bytes, at most 1 MB"),

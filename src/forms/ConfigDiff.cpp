@@ -52,7 +52,7 @@ Take copyGeneralElement(std::array<T, N> GeneralSettings::*member, std::size_t i
 }
 
 // Serial addressing also decides which of its controls the page shows, as a reader sets them.
-Take withAddressingShown(Take take)
+Take withAddressingShown(const Take& take)
 {
     return [take](const Configuration& c, const GeneralSettings& gf, Configuration& t, GeneralSettings& g) {
         take(c, gf, t, g);
@@ -408,7 +408,10 @@ bool aspectUsed(const Configuration& config, int p, int a)
     return false;
 }
 
-std::string line(int depth, const std::string& text) { return std::string(2 * depth, ' ') + text + "\n"; }
+std::string line(int depth, const std::string& text)
+{
+    return std::string(2 * static_cast<std::size_t>(depth), ' ') + text + "\n";
+}
 
 } // namespace
 

@@ -113,9 +113,8 @@ std::vector<Result> eachModule(Session& s, const char* job, const std::vector<Fo
     std::vector<Result> results;
     Progress* outer = s.link.currentProgress();
     const int count = static_cast<int>(modules.size());
-    bool cancelled = false;
-    s.beginJob(job);
-    try {
+    s.asJob(job, [&] {
+        bool cancelled = false;
         for (int i = 0; i < count; ++i) {
             if (outer && outer->cancelled()) {
                 cancelled = true;
@@ -143,11 +142,8 @@ std::vector<Result> eachModule(Session& s, const char* job, const std::vector<Fo
         }
         if (!cancelled)
             s.reportStep(count, count, "Done");
-    } catch (...) {
-        s.endJob(false);
-        throw;
-    }
-    s.endJob(!cancelled);
+        return !cancelled;
+    });
     return results;
 }
 

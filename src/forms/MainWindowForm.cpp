@@ -14,7 +14,7 @@ std::string CommandSave_MouseDown(Session& session, int button, int shift,
     if (button != 1 || (shift != 0 && shift != 1))
         return {};
     const SaveForm form = shift == 1 ? SaveForm::Compact : SaveForm::Full;
-    const std::string path = session.dialogs().saveFileName("Save Configuration", kConfigFileFilter, "");
+    std::string path = session.dialogs().saveFileName("Save Configuration", kConfigFileFilter, "");
     if (path.empty() || (refused && refused(path)) || !saveConfigurationTo(session, path, form))
         return {};
     return path;

@@ -24,16 +24,14 @@ constexpr int kWakeUp[] = {0, 0, 0, 255, 255, 255, 170, 170, 170};
 constexpr int kStalePolls = 8;          // polls at most to clear what a cut-short tunnel exchange left
 constexpr int kLongestCorvidReply = 18; // data bytes; the checksum then sits at ReplyBuffer[19]
 
-std::array<int, 15> toArray15(int size, std::initializer_list<int> bytes)
+// The bytes given at the front of an array of N, zeros after them; more than N are a
+// program fault, told as "<caller>: more than N data bytes given".
+template <std::size_t N> std::array<int, N> toArray(std::initializer_list<int> bytes, const char* caller)
 {
-    std::array<int, 15> out{};
-    int i = 0;
-    for (int b : bytes) {
-        if (i >= 15)
-            throw ProgramFault("SendKestrelMessage: more than 15 data bytes given");
-        out[i++] = b;
-    }
-    (void)size;
+    if (bytes.size() > N)
+        throw ProgramFault(std::string(caller) + ": more than " + std::to_string(N) + " data bytes given");
+    std::array<int, N> out{};
+    std::copy(bytes.begin(), bytes.end(), out.begin());
     return out;
 }
 
@@ -149,7 +147,7 @@ bool Link::wakeUp()
 
 bool Link::SendKestrelMessage(bool expectReply, int size, std::initializer_list<int> bytes)
 {
-    return SendKestrelMessage(expectReply, size, toArray15(size, bytes));
+    return SendKestrelMessage(expectReply, size, toArray<15>(bytes, "SendKestrelMessage"));
 }
 
 namespace {
@@ -298,6 +296,32 @@ bool Link::SendKestrelMessage(bool expectReply, int size, const std::array<int, 
     return true;
 }
 
+int Link::replyByte(double start, const std::function<int()>& expected)
+{
+    for (;;) {
+        serial.expectBytes(expected());
+        if (serial.bytesWaiting() <= 0) {
+            const double left = remaining(start);
+            if (left <= 0)
+                return kTimeUp;
+            if (!serial.isOpen()) {
+                portLost();
+                return kPortGone;
+            }
+            serial.waitForBytes(static_cast<int>(std::ceil(left * 1000.0)));
+            continue;
+        }
+        const int b = serial.readByte();
+        if (b < 0)
+            continue;
+        ++stats.bytesIn;
+        if (b < 128) // a frame starts
+            endFrame(FrameDirection::In);
+        keepIn(b);
+        return b;
+    }
+}
+
 bool Link::receiveDirect()
 {
     const double start = time.secondsSinceMidnight();
@@ -310,33 +334,22 @@ bool Link::receiveDirect()
         // What the wire still has to carry before the frame can be complete: the request,
         // then at least address, header and checksum; once the header is in, the data, the
         // eXtended address byte and the checksum it announced.
-        serial.expectBytes(p == 0 ? outgoing + 3 : p == 1 ? 2 : r + 1 + (p == 50 ? 1 : 0));
-        outgoing = 0;
-        if (serial.bytesWaiting() <= 0) {
-            const double left = remaining(start);
-            if (left <= 0) {
-                endFrame(FrameDirection::In);
-                return false;
-            }
-            if (!serial.isOpen())
-                return portLost();
-            serial.waitForBytes(static_cast<int>(std::ceil(left * 1000.0)));
-            continue;
-        }
-        const int b = serial.readByte();
-        if (b < 0)
-            continue;
-        ++stats.bytesIn;
-        if (b < 128) { // a frame starts, also in the middle of another one
+        const int b = replyByte(start, [&] {
+            const int n = p == 0 ? outgoing + 3 : p == 1 ? 2 : r + 1 + (p == 50 ? 1 : 0);
+            outgoing = 0;
+            return n;
+        });
+        if (b == kTimeUp)
             endFrame(FrameDirection::In);
-            keepIn(b);
+        if (b < 0)
+            return false;
+        if (b < 128) { // a frame starts, also in the middle of another one
             buf[0] = b;
             s = b;
             p = 1;
             r = 0;
             continue;
         }
-        keepIn(b);
         if (p == 0)
             continue;
         s += b & 127;
@@ -455,14 +468,7 @@ bool Link::sendTunnelled(bool expectReply, int size, const std::array<int, 15>& 
 
 bool Link::CorvidExchange(int length, std::initializer_list<int> data)
 {
-    std::array<int, 19> a{};
-    int i = 0;
-    for (int d : data) {
-        if (i >= 19)
-            throw ProgramFault("CorvidExchange: more than 19 data bytes given");
-        a[i++] = d;
-    }
-    return CorvidExchange(length, a);
+    return CorvidExchange(length, toArray<19>(data, "CorvidExchange"));
 }
 
 bool Link::CorvidExchange(int length, const std::array<int, 19>& data)
@@ -529,26 +535,14 @@ std::string Link::CorvidReceive()
     const ExpectNothingAfter hintReset{serial};
     int outgoing = takeUnsent();
     for (;;) {
-        serial.expectBytes(position == 0 ? outgoing + 2 : length + 2 - position);
-        outgoing = 0;
-        if (serial.bytesWaiting() <= 0) {
-            const double left = remaining(start);
-            if (left <= 0)
-                break;
-            if (!serial.isOpen()) {
-                portLost();
-                break;
-            }
-            serial.waitForBytes(static_cast<int>(std::ceil(left * 1000.0)));
-            continue;
-        }
-        const int b = serial.readByte();
+        const int b = replyByte(start, [&] {
+            const int n = position == 0 ? outgoing + 2 : length + 2 - position;
+            outgoing = 0;
+            return n;
+        });
         if (b < 0)
-            continue;
-        ++stats.bytesIn;
+            break;
         if (b < 128) {
-            endFrame(FrameDirection::In);
-            keepIn(b);
             log = "< " + hexUpper(b);
             buf[0] = b;
             for (int i = 1; i <= 19; ++i)
@@ -563,7 +557,6 @@ std::string Link::CorvidReceive()
             }
             continue;
         }
-        keepIn(b);
         if (position == 0)
             continue;
         // A frame of 19 data bytes or more does not fit the reply buffer with its checksum:

@@ -47,7 +47,7 @@ struct KestrelReply {
     int command() const { return bytes[2]; }
     int item() const { return bytes[3]; }
     // Data byte i after the echoed command and item (ReplyBuffer[4 + i]).
-    int data(int i) const { return bytes[static_cast<std::size_t>(4 + i)]; }
+    int data(int i) const { return bytes[4 + static_cast<std::size_t>(i)]; }
     // The one check of a reply: `n` bytes from the command on, echoing command c and item i.
     bool echoes(int c, int i) const { return command() == c && item() == i; }
     bool is(int n, int c, int i) const { return valid && length() == n && echoes(c, i); }
@@ -162,6 +162,13 @@ private:
     void endFrame(FrameDirection direction);
     bool flushFrame();
     int takeUnsent(); // bytes written since the last reply wait began
+    // The next byte of a reply, read while the wait begun at `start` lasts and kept for the
+    // traffic monitor (one below 128 starts a frame): the byte, or kTimeUp, or kPortGone
+    // (the port lost, said once). `expected` gives the port the bytes still to come,
+    // before every wait.
+    static constexpr int kTimeUp = -1;
+    static constexpr int kPortGone = -2;
+    int replyByte(double start, const std::function<int()>& expected);
     bool receiveDirect();
     bool sendTunnelled(bool expectReply, int size, const std::array<int, 15>& bytes);
     bool wakeUp();

@@ -35,27 +35,12 @@ bool runSteps(Session& session, const std::vector<Step>& steps)
     return true;
 }
 
-// Runs a bulk job as one job of the session: its outcome is noted for the front end.
-bool asJob(Session& session, const char* name, const std::function<bool()>& job)
-{
-    session.beginJob(name);
-    bool ok = false;
-    try {
-        ok = job();
-    } catch (...) {
-        session.endJob(false);
-        throw;
-    }
-    session.endJob(ok);
-    return ok;
-}
-
 } // namespace
 
 bool ReadAll(Session& session)
 {
     Session& s = session;
-    const bool ok = asJob(s, "Read All", [&] {
+    const bool ok = s.asJob("Read All", [&] {
         return runSteps(s, {
                                {"Request version", [&] { return RequestVersion(s); }},
                                {"Reading ID string", [&] { return ReadIDString(s); }},
@@ -115,7 +100,7 @@ std::vector<std::pair<const char*, std::function<bool()>>> writeAllSteps(Session
 bool WriteAll(Session& session, bool withPinConfig)
 {
     Session& s = session;
-    return asJob(s, "Write All", [&] {
+    return s.asJob("Write All", [&] {
         // Everything is checked before the first byte, so that the module is written whole or not at all.
         if (!sendable(s, unsendableConfiguration(s.config, s.general, withPinConfig)))
             return false;
@@ -219,7 +204,7 @@ std::vector<std::vector<int>> changedWrites(Session& session, const ModuleImage&
 bool WriteChanges(Session& session, bool withPinConfig)
 {
     Session& s = session;
-    return asJob(s, "Write Changes", [&] {
+    return s.asJob("Write Changes", [&] {
         if (!s.moduleImage())
             return offerWriteAll(
                 s,
@@ -271,7 +256,7 @@ bool VerifyAll(Session& session)
     bool ok = false;
     // A verification that stops at a difference has done its job: the report says what
     // it found. The job's outcome only notes what kept it from comparing (messages, Cancel).
-    asJob(s, "Verify All", [&] {
+    s.asJob("Verify All", [&] {
         ok = runSteps(s, {
                              {"Verifying general settings", [&] { return VerifyGeneralSettings(s); }},
                              {"Verifying event control", [&] { return VerifyEventControl(s); }},

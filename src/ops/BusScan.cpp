@@ -72,9 +72,8 @@ std::string moduleName(const FoundModule& m, int numberingBase)
 std::vector<FoundModule> findModules(Session& s, const ScanOptions& options)
 {
     std::vector<FoundModule> found;
-    bool stopped = false;
-    s.beginJob("Find Modules");
-    try {
+    s.asJob("Find Modules", [&] {
+        bool stopped = false;
         KeptLink kept(s.link);
         Link& link = s.link;
         link.replyTimeout = kScanReplyTimeoutMs / 1000.0;
@@ -112,11 +111,8 @@ std::vector<FoundModule> findModules(Session& s, const ScanOptions& options)
         }
         if (!stopped)
             s.reportStep(total, total, "Done");
-    } catch (...) {
-        s.endJob(false);
-        throw;
-    }
-    s.endJob(!stopped);
+        return !stopped;
+    });
     return found;
 }
 

@@ -149,7 +149,7 @@ JobTraffic jobTraffic(LongJob job, const Configuration& config, const GeneralSet
     case LongJob::WriteAll:
         writeGeneral(c, general, false);
         writePins(c, config, withPinConfig);
-        c.write(6, 2 * kPinCount); // events
+        c.write(6, 2L * kPinCount); // events
         writeGeneral(c, general, true);
         break;
     case LongJob::ReadAllPins:

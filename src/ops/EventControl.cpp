@@ -177,10 +177,7 @@ bool WriteEnableMaps(Session& session) { return writeFamily(session, GeneralFami
 bool VerifyEventControl(Session& session)
 {
     auto& report = session.report;
-    session.link.setBidirectional(true);
-    report.line("Start EC Verification");
-    if (session.config.NumberingBase == 1)
-        report.line("Note: Numbering starts at 1");
+    startVerification(session, "Start EC Verification");
 
     bool ok = true;
     bool ended = false;

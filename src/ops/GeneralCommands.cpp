@@ -147,6 +147,14 @@ std::string verifierReplyText(const KestrelReply& reply, GeneralItem item)
     return prefixed(w.verifier, faultText(reply, item, w.words));
 }
 
+void startVerification(Session& session, const std::string& title)
+{
+    session.link.setBidirectional(true);
+    session.report.line(title);
+    if (session.config.NumberingBase == 1)
+        session.report.line("Note: Numbering starts at 1");
+}
+
 GeneralItemWords generalItemWords(GeneralItem item) { return wording(item).more; }
 
 GeneralBytes replyData(const KestrelReply& reply)

@@ -38,6 +38,9 @@ std::string readerByteText(GeneralItem item);
 // The verification's line for a bad reply ("" when it is right): the item's name as the
 // report knows it, then the fault ("eXtended Address: No valid response, size = ...").
 std::string verifierReplyText(const KestrelReply& reply, GeneralItem item);
+// The start of a verification of pins or events: the link made bidirectional, the title
+// line, and a note when the numbering starts at 1.
+void startVerification(Session& session, const std::string& title);
 
 // What else a reader and the verification do with an item.
 struct GeneralItemWords {

@@ -2,6 +2,7 @@
 
 #include "model/AddressIndex.h"
 #include "model/StepCodec.h"
+#include "ops/GeneralCommands.h"
 #include "ops/PinConfigTransfer.h"
 #include "ops/SendCheck.h"
 
@@ -77,6 +78,20 @@ std::optional<int> readDeviceHead(Session& session, int pin, bool& answered)
     return std::nullopt;
 }
 
+// A read of the pin whose reply must be `n` bytes echoing the command and the pin: false
+// when no valid reply came, and, told with `invalid`, when the reply was another.
+bool readOfPin(Link& link, KestrelReply& r, int command, int pin, int n, const std::string& invalid)
+{
+    r = link.request({command, pin});
+    if (!r.valid)
+        return false;
+    if (!r.is(n, command, pin)) {
+        link.dialogs().message(invalid);
+        return false;
+    }
+    return true;
+}
+
 // Steps 1 to 4 of every pin read.
 bool readPinAspects(Session& session, int pin)
 {
@@ -86,13 +101,8 @@ bool readPinAspects(Session& session, int pin)
     KestrelReply r;
 
     link.setBidirectional(true);
-    r = link.request({kReadLayout, pin});
-    if (!r.valid)
+    if (!readOfPin(link, r, kReadLayout, pin, 3, kNoValidResponse))
         return false;
-    if (!r.is(3, kReadLayout, pin)) {
-        ui.message(kNoValidResponse);
-        return false;
-    }
     rec.AspectLayout = static_cast<std::uint8_t>(r.data(0));
 
     const LayoutSlots slots = layoutSlots(rec.AspectLayout);
@@ -115,13 +125,8 @@ bool readPinAspects(Session& session, int pin)
     const bool initOk = r.is(7, kReadEventOn, pin);
     rec.InitAspect = static_cast<std::uint8_t>(initOk ? decodeInitEntry(r.data(0)) : 0);
 
-    r = link.request({kReadAddrConfig, pin});
-    if (!r.valid)
+    if (!readOfPin(link, r, kReadAddrConfig, pin, 5, kAddrConfigInvalid))
         return false;
-    if (!r.is(5, kReadAddrConfig, pin)) {
-        ui.message(kAddrConfigInvalid);
-        return false;
-    }
     bool ok = true;
     for (int i = 4; i <= 6 && ok; ++i) {
         const int b = r.bytes[i];
@@ -398,11 +403,7 @@ bool verifyPin(Session& session, int pin, bool& stopped)
 
 bool VerifyAllPins(Session& session)
 {
-    Report& report = session.report;
-    session.link.setBidirectional(true);
-    report.line("Start Pin Verification");
-    if (session.config.NumberingBase == 1)
-        report.line("Note: Numbering starts at 1");
+    startVerification(session, "Start Pin Verification");
     bool result = true;
     for (int p = 0; p < kPinCount; ++p) {
         reportStep(session, p, "Verifying pin " + shownPin(session, p));

@@ -5,51 +5,38 @@
 #include "pins/PinConfig.h"
 
 #include <algorithm>
+#include <iterator>
 #include <vector>
 
 namespace kestrel {
 
 PinFieldRule pinFieldRule(PinField field)
 {
-    switch (field) {
-    case PinField::TextPosition:
-        return {0, -64, 63, kSignedOffset};
-    case PinField::TextSrvInitPos:
-        return {1, -64, 63, kSignedOffset};
-    case PinField::TextMidpoint:
-        return {3, -64, 63, kSignedOffset};
-    case PinField::TextSrvAntiMass:
-        return {4, 0, 127, 0};
-    case PinField::TextSrvFriction:
-        return {5, 0, 127, 0};
-    case PinField::TextSrvMaxSpd:
-        return {6, 1, 127, 0};
-    case PinField::TextSrvMaxAccel:
-        return {7, 1, 127, 0};
-    case PinField::TextBounceDown:
-        return {8, 0, 63, kSignedOffset};
-    case PinField::TextBounceDownFactor:
-        return {9, 0, 127, 0};
-    case PinField::TextBounceUp:
-        return {10, -63, 0, kSignedOffset};
-    case PinField::TextBounceUpFactor:
-        return {11, 0, 127, 0};
-    case PinField::TextPWMLevel:
-        return {0, 0, 31, 0};
-    case PinField::TextPWMInitLevel:
-        return {1, 0, 31, 0};
-    case PinField::TextPWMAccel:
-        return {3, 0, 127, 0};
-    case PinField::TextPWMOffLevel:
-        return {4, 0, 31, 0};
-    case PinField::TextPWMOnLevel:
-        return {5, 0, 31, 0};
-    case PinField::TextInputDelay0:
-        return {3, 0, 31, 0};
-    case PinField::TextInputDelay1:
-        return {4, 0, 31, 0};
-    }
-    throw ProgramFault("Unknown pin configuration field");
+    // In the order of PinField: eleven of the servo page, five of the PWM page, two of the
+    // input page.
+    static constexpr PinFieldRule rules[] = {{0, -64, 63, kSignedOffset},
+                                             {1, -64, 63, kSignedOffset},
+                                             {3, -64, 63, kSignedOffset},
+                                             {4, 0, 127, 0},
+                                             {5, 0, 127, 0},
+                                             {6, 1, 127, 0},
+                                             {7, 1, 127, 0},
+                                             {8, 0, 63, kSignedOffset},
+                                             {9, 0, 127, 0},
+                                             {10, -63, 0, kSignedOffset},
+                                             {11, 0, 127, 0},
+                                             {0, 0, 31, 0},
+                                             {1, 0, 31, 0},
+                                             {3, 0, 127, 0},
+                                             {4, 0, 31, 0},
+                                             {5, 0, 31, 0},
+                                             {3, 0, 31, 0},
+                                             {4, 0, 31, 0}};
+    static_assert(std::size(rules) == static_cast<std::size_t>(PinField::TextInputDelay1) + 1);
+    const auto index = static_cast<std::size_t>(field);
+    if (index >= std::size(rules))
+        throw ProgramFault("Unknown pin configuration field");
+    return rules[index];
 }
 
 ModePage pageOfField(PinField field)

@@ -48,21 +48,10 @@ std::string modeName(int configMode)
     const std::optional<PinMode> mode = pinMode(configMode);
     if (!mode)
         return "Unknown configuration: " + std::to_string(configMode);
-    switch (*mode) {
-    case PinMode::None:
-        return "Not configured";
-    case PinMode::Servo:
-        return "Servo";
-    case PinMode::Pwm:
-        return "PWM";
-    case PinMode::PwmInverted:
-        return "PWM, Inverted";
-    case PinMode::Input:
-        return "Input";
-    case PinMode::InputInverted:
-        return "Input, Inverted";
-    }
-    return {};
+    // By mode number, None to InputInverted.
+    static const char* const names[] = {"Not configured", "Servo", "PWM",
+                                        "PWM, Inverted",  "Input", "Input, Inverted"};
+    return names[modeByte(*mode)];
 }
 
 int configParameterCount(int configMode)

@@ -68,30 +68,12 @@ std::string crossingText()
            lamp(1, -1, "Lamp right") + "\"End\"\r\n";
 }
 
-// The texts are ours: anything the reader would tell the user is a program fault.
-class NoDialogs : public UserDialogs {
-public:
-    void message(const std::string& text, Icon) override { throw ProgramFault("Simulated layout: " + text); }
-    Answer ask(const std::string& text, Buttons, Icon) override
-    {
-        throw ProgramFault("Simulated layout: " + text);
-    }
-    std::string openFileName(const std::string&, const std::string&, const std::string&) override
-    {
-        return {};
-    }
-    std::string saveFileName(const std::string&, const std::string&, const std::string&) override
-    {
-        return {};
-    }
-};
-
 void seed(sim::SimBus& bus, int address, const std::string& text)
 {
     Configuration config;
     GeneralSettings general;
     if (!text.empty()) {
-        NoDialogs dialogs;
+        FaultingDialogs dialogs("Simulated layout"); // the texts are ours
         readConfigurationText(text, config, general, dialogs);
     } else {
         fillDemoConfiguration(config, general);

@@ -45,9 +45,9 @@ int serialAddressModeByte(const GeneralSettings& g)
 std::array<int, 4> groupMaskBytes(const GeneralSettings& g)
 {
     std::array<int, 4> m{};
-    for (int grp = 0; grp < 4; ++grp)
-        m[grp] = g.CheckGenXGM[4 * grp] + 2 * g.CheckGenXGM[4 * grp + 1] + 4 * g.CheckGenXGM[4 * grp + 2] +
-                 8 * g.CheckGenXGM[4 * grp + 3];
+    for (std::size_t grp = 0; grp < 4; ++grp)
+        for (std::size_t k = 0; k < 4; ++k)
+            m[grp] += g.CheckGenXGM[4 * grp + k] * (1 << k);
     return m;
 }
 

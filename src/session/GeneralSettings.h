@@ -108,6 +108,26 @@ void applyAddressingVisibility(GeneralSettings& g);
 // off (the module ignores it then); the file writes 0 instead, so that a file does not keep
 // a flex-address that is not in use.
 int fileAddressModeByte(const GeneralSettings& g);
+// An item whose bytes one of the pieces above gives.
+template <std::array<int, 4> (*Bytes)(const GeneralSettings&)>
+GeneralBytes encodeBytes(const GeneralSettings& g)
+{
+    const auto b = Bytes(g);
+    return GeneralBytes(b.begin(), b.end());
+}
+// The DCC and eXtended DCC address items: the address text split as the module stores it,
+// and joined again from the two bytes.
+template <std::string GeneralSettings::*Address> GeneralBytes encodeDccAddress(const GeneralSettings& g)
+{
+    const auto b = dccAddressBytes(g.*Address);
+    return GeneralBytes{b[0], b[1]};
+}
+template <std::string GeneralSettings::*Address>
+bool decodeDccAddress(GeneralSettings& g, const GeneralBytes& d, int /*base*/)
+{
+    g.*Address = std::to_string(d[1] * 64 + d[0]);
+    return true;
+}
 
 // Every general item the program reads and writes, in the order of the data file and of
 // the send checks; a family's items are written in this order too.
@@ -132,24 +152,11 @@ inline const std::array<GeneralItemCodec, 12> kGeneralCodecs = {{
          setDccOptions(g, d[0]);
          return true;
      }},
-    {kItemDccAddress, GeneralFamily::Dcc, "DCC", 2, 2,
-     [](const GeneralSettings& g) {
-         const auto b = dccAddressBytes(g.TextGenDCCAddress);
-         return GeneralBytes{b[0], b[1]};
-     },
-     [](GeneralSettings& g, const GeneralBytes& d, int) {
-         g.TextGenDCCAddress = std::to_string(d[1] * 64 + d[0]);
-         return true;
-     }},
+    {kItemDccAddress, GeneralFamily::Dcc, "DCC", 2, 2, encodeDccAddress<&GeneralSettings::TextGenDCCAddress>,
+     decodeDccAddress<&GeneralSettings::TextGenDCCAddress>},
     {kItemXDccAddress, GeneralFamily::Dcc, "DCC", 3, 3,
-     [](const GeneralSettings& g) {
-         const auto b = dccAddressBytes(g.TextGenXDCCAddress);
-         return GeneralBytes{b[0], b[1]};
-     },
-     [](GeneralSettings& g, const GeneralBytes& d, int) {
-         g.TextGenXDCCAddress = std::to_string(d[1] * 64 + d[0]);
-         return true;
-     }},
+     encodeDccAddress<&GeneralSettings::TextGenXDCCAddress>,
+     decodeDccAddress<&GeneralSettings::TextGenXDCCAddress>},
     {kItemSerialAddressing, GeneralFamily::Addressing, "XAD", 4, 5,
      [](const GeneralSettings& g) {
          return GeneralBytes{g.CheckGenLynxaddr == 1 ? 1 : 0, serialAddressModeByte(g)};
@@ -163,11 +170,7 @@ inline const std::array<GeneralItemCodec, 12> kGeneralCodecs = {{
          applyAddressingVisibility(g);
          return true;
      }},
-    {kItemGroupMask, GeneralFamily::Addressing, "XAD", 6, 7,
-     [](const GeneralSettings& g) {
-         const auto m = groupMaskBytes(g);
-         return GeneralBytes(m.begin(), m.end());
-     },
+    {kItemGroupMask, GeneralFamily::Addressing, "XAD", 6, 7, encodeBytes<groupMaskBytes>,
      [](GeneralSettings& g, const GeneralBytes& d, int) {
          for (int grp = 0; grp < 4; ++grp)
              for (int k = 0; k < 4; ++k)
@@ -181,11 +184,7 @@ inline const std::array<GeneralItemCodec, 12> kGeneralCodecs = {{
          g.TextGenXaddr = std::to_string(g.ExtendedAddress + base);
          return true;
      }},
-    {kItemHardwareConfig, GeneralFamily::Hardware, "HWC", 9, 1,
-     [](const GeneralSettings& g) {
-         const auto h = hardwareConfigBytes(g);
-         return GeneralBytes(h.begin(), h.end());
-     },
+    {kItemHardwareConfig, GeneralFamily::Hardware, "HWC", 9, 1, encodeBytes<hardwareConfigBytes>,
      [](GeneralSettings& g, const GeneralBytes& d, int) {
          for (int grp = 0; grp < 4; ++grp) {
              if (d[grp] < 0 || d[grp] > 3)

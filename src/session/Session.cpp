@@ -94,6 +94,20 @@ void Session::beginJob(const std::string& name)
     outcome.running = true;
 }
 
+bool Session::asJob(const std::string& name, const std::function<bool()>& job)
+{
+    beginJob(name);
+    bool ok = false;
+    try {
+        ok = job();
+    } catch (...) {
+        endJob(false);
+        throw;
+    }
+    endJob(ok);
+    return ok;
+}
+
 void Session::endJob(bool completed)
 {
     if (jobDepth == 0 || --jobDepth > 0)

@@ -85,6 +85,9 @@ public:
     // whether the job ran to its end; only the outermost call counts.
     void beginJob(const std::string& name);
     void endJob(bool completed);
+    // Runs `job` between beginJob and endJob; it returns whether it ran to its end, and a
+    // fault thrown from it ends the job as incomplete. Returns what the job returned.
+    bool asJob(const std::string& name, const std::function<bool()>& job);
     const JobOutcome& lastJob() const { return outcome; }
     // "" when the last job ran to its end and nothing was reported; otherwise one line
     // saying what was incomplete: "Read All incomplete: 1 problem reported, the first:

@@ -58,6 +58,22 @@ const char* const kHelpKey = "F2 opens the help tool";
 constexpr int kPinRow = -2; // the rows of a context menu: the pin's, the aspect's, a step's
 constexpr int kAspectRow = -1;
 const char* const kTestTip = "The module has no command to test an aspect, so this is not available";
+
+// A button of the page with its tooltip.
+QPushButton* tippedButton(const char* caption, const char* name, const char* tip)
+{
+    auto* b = named(new QPushButton(caption), name);
+    b->setToolTip(tip);
+    return b;
+}
+
+// A tool window of the page, made on its first use and then kept with what it holds.
+template <typename Dialog, typename... Args> Dialog* kept(Dialog*& dialog, Args&&... args)
+{
+    if (!dialog)
+        dialog = new Dialog(std::forward<Args>(args)...);
+    return dialog;
+}
 } // namespace
 
 AspectsPage::AspectsPage(Session& s, DeviceList& list, std::function<void(JobName)> start, Guard* sharedGuard,
@@ -145,14 +161,14 @@ QWidget* AspectsPage::buildPinArea()
 
     // The pin's own jobs, beside the pin they act on.
     auto* jobs = new QHBoxLayout;
-    CommandReadPin = named(new QPushButton("Re&ad Pin"), "CommandReadPin");
-    CommandReadPin->setToolTip("Reads this pin from the module: aspects, addresses and pin configuration");
-    CommandWritePin = named(new QPushButton("Write Pin"), "CommandWritePin");
-    CommandWritePin->setToolTip("Writes this pin to the module: aspects and addresses");
-    CommandReadDevice = named(new QPushButton("Read Device"), "CommandReadDevice");
-    CommandReadDevice->setToolTip("Reads every pin of this pin's device from the module");
-    CommandWriteDevice = named(new QPushButton("Write Device"), "CommandWriteDevice");
-    CommandWriteDevice->setToolTip("Writes every pin of this pin's device to the module");
+    CommandReadPin = tippedButton("Re&ad Pin", "CommandReadPin",
+                                  "Reads this pin from the module: aspects, addresses and pin configuration");
+    CommandWritePin =
+        tippedButton("Write Pin", "CommandWritePin", "Writes this pin to the module: aspects and addresses");
+    CommandReadDevice = tippedButton("Read Device", "CommandReadDevice",
+                                     "Reads every pin of this pin's device from the module");
+    CommandWriteDevice = tippedButton("Write Device", "CommandWriteDevice",
+                                      "Writes every pin of this pin's device to the module");
     for (QPushButton* b : {CommandReadPin, CommandWritePin, CommandReadDevice, CommandWriteDevice})
         jobs->addWidget(b);
     jobs->addStretch();
@@ -277,12 +293,14 @@ QWidget* AspectsPage::buildAspectArea()
     CheckPAspShowDetails->setChecked(true);
     CheckPAspShowDetails->setToolTip("Shows or hides the transfer buttons, the step headings and the "
                                      "pin configuration's parameter buttons");
-    CommandPAspReadPin = named(new QPushButton("Read Asp's"), "CommandPAspReadPin");
-    CommandPAspReadPin->setToolTip("Reads this pin's aspects, initial aspect and addresses from the module");
-    CommandPAspWritePin = named(new QPushButton("Write Asp's"), "CommandPAspWritePin");
-    CommandPAspWritePin->setToolTip("Writes this pin's aspects, initial aspect and addresses to the module");
-    CommandPAspWriteAspect = named(new QPushButton("Write Aspect"), "CommandPAspWriteAspect");
-    CommandPAspWriteAspect->setToolTip("Writes only the steps of the selected aspect to the module");
+    CommandPAspReadPin =
+        tippedButton("Read Asp's", "CommandPAspReadPin",
+                     "Reads this pin's aspects, initial aspect and addresses from the module");
+    CommandPAspWritePin =
+        tippedButton("Write Asp's", "CommandPAspWritePin",
+                     "Writes this pin's aspects, initial aspect and addresses to the module");
+    CommandPAspWriteAspect = tippedButton("Write Aspect", "CommandPAspWriteAspect",
+                                          "Writes only the steps of the selected aspect to the module");
     CommandPAspTestAspect = named(new QPushButton("Test Aspect"), "CommandPAspTestAspect");
     CommandPAspTestAspect->setEnabled(false);
     CommandPAspTestAspect->setToolTip(kTestTip);
@@ -308,12 +326,12 @@ QWidget* AspectsPage::buildDeviceArea()
     cboDevice = named(new QComboBox, "cboDevice");
     cboDevice->setMinimumWidth(220);
     cboDevice->setAccessibleName("Device to load");
-    CommandPAspPreLoad = named(new QPushButton("Load Device"), "CommandPAspPreLoad");
-    CommandPAspPreLoad->setToolTip("Places the chosen device on the pins, its first pin on this pin");
-    CommandSaveDevice = named(new QPushButton("Save Device"), "CommandSaveDevice");
-    CommandSaveDevice->setToolTip("Saves this pin's device to a definitions file of its own");
-    CommandReloadDD = named(new QPushButton("Reload &DD"), "CommandReloadDD");
-    CommandReloadDD->setToolTip("Reload DD to load new file, Shift + Reload DD to append");
+    CommandPAspPreLoad = tippedButton("Load Device", "CommandPAspPreLoad",
+                                      "Places the chosen device on the pins, its first pin on this pin");
+    CommandSaveDevice = tippedButton("Save Device", "CommandSaveDevice",
+                                     "Saves this pin's device to a definitions file of its own");
+    CommandReloadDD = tippedButton("Reload &DD", "CommandReloadDD",
+                                   "Reload DD to load new file, Shift + Reload DD to append");
     CommandReloadDD->setAutoDefault(true); // Return presses it as Space does
     CommandReloadDD->installEventFilter(this);
     lblDDVersion = named(new QLabel, "lblDDVersion");
@@ -347,29 +365,29 @@ StepRecord& AspectsPage::step(int row)
     return session.config.step(session.config.CurrentPin, session.config.CurrentAspect, row);
 }
 
+void AspectsPage::bindSelector(QLineEdit* box, std::string AspectView::*text,
+                               Selection (*select)(Configuration&, const std::string&),
+                               const std::function<void()>& then)
+{
+    bindings.entry(
+        box, [this, text] { return view.*text; },
+        [this, text, select, then](const std::string& typed) {
+            const Selection s = select(session.config, typed);
+            view = s.view;
+            view.*text = s.text;
+            then();
+        });
+}
+
 void AspectsPage::bind()
 {
     Configuration& c = session.config;
     auto& b = bindings;
 
     // The selectors: clamped, written back, and the page shown for the new selection.
-    b.entry(
-        TextPAspOutput, [this] { return view.pinText; },
-        [this, &c](const std::string& typed) {
-            const Selection s = selectPin(c, typed);
-            view = s.view;
-            view.pinText = s.text;
-            pinReplaced();
-        });
+    bindSelector(TextPAspOutput, &AspectView::pinText, selectPin, [this] { pinReplaced(); });
     b.spinner(UpDownPAspOutput, TextPAspOutput, [&c] { return c.CurrentPin + c.NumberingBase; });
-    b.entry(
-        TextPAspAspect, [this] { return view.aspectText; },
-        [this, &c](const std::string& typed) {
-            const Selection s = selectAspect(c, typed);
-            view = s.view;
-            view.aspectText = s.text;
-            bindings.show();
-        });
+    bindSelector(TextPAspAspect, &AspectView::aspectText, selectAspect, [this] { bindings.show(); });
     b.spinner(UpDownPAspAspect, TextPAspAspect, [&c] { return c.CurrentAspect; });
     b.entry(
         TextPAspInit, [this] { return view.initText; },
@@ -549,26 +567,11 @@ void AspectsPage::run(const std::function<void()>& handler)
     guard(handler);
 }
 
-EditPinDialog& AspectsPage::pinTool()
-{
-    if (!dlgEditPin)
-        dlgEditPin = new EditPinDialog(session, this);
-    return *dlgEditPin;
-}
+EditPinDialog& AspectsPage::pinTool() { return *kept(dlgEditPin, session, this); }
 
-EditAspectDialog& AspectsPage::aspectTool()
-{
-    if (!dlgEditAspect)
-        dlgEditAspect = new EditAspectDialog(session, this);
-    return *dlgEditAspect;
-}
+EditAspectDialog& AspectsPage::aspectTool() { return *kept(dlgEditAspect, session, this); }
 
-EditStepDialog& AspectsPage::stepTool()
-{
-    if (!dlgEditStep)
-        dlgEditStep = new EditStepDialog(session, this);
-    return *dlgEditStep;
-}
+EditStepDialog& AspectsPage::stepTool() { return *kept(dlgEditStep, session, this); }
 
 void AspectsPage::LabelPAspOutput_Click()
 {
@@ -611,28 +614,21 @@ void AspectsPage::helpTool(int row, HelpBox box)
         case HelpToolKind::None:
             return;
         case HelpToolKind::Time:
-            if (!dlgCT)
-                dlgCT = new TimeToolDialog(this);
-            dlgCT->run(st);
+            kept(dlgCT, this)->run(st);
             guard.name("Time tool");
             break;
         case HelpToolKind::Pattern:
-            if (!dlgKestrelCalcPattern)
-                dlgKestrelCalcPattern = new PatternToolDialog(this);
-            dlgKestrelCalcPattern->run(st);
+            kept(dlgKestrelCalcPattern, this)->run(st);
             guard.name("Pattern tool");
             break;
         case HelpToolKind::EventPattern:
-            if (!dlgKestrelCalcEventPattern)
-                dlgKestrelCalcEventPattern = new EventPatternToolDialog(this);
-            dlgKestrelCalcEventPattern->run(st);
+            kept(dlgKestrelCalcEventPattern, this)->run(st);
             guard.name("Event pattern tool");
             break;
         case HelpToolKind::Level: {
             const int p = box == HelpBox::Par1 ? 1 : box == HelpBox::Par2 ? 2 : 3;
             int value = static_cast<int>(valInt(view.rows[row].parameters[p].text));
-            if (!dlgKestrelCalcLevel)
-                dlgKestrelCalcLevel = new LevelToolDialog(this);
+            kept(dlgKestrelCalcLevel, this);
             guard.name("Level tool");
             if (dlgKestrelCalcLevel->run(value))
                 setParameter(session.config, row, p, std::to_string(value)); // within the box's range

@@ -5,20 +5,11 @@
 #include "session/Session.h"
 #include "window/Bindings.h"
 #include "window/Guard.h"
+#include "window/WidgetsFwd.h"
 
 #include <QWidget>
 #include <functional>
 #include <memory>
-
-class QAction;
-class QButtonGroup;
-class QCheckBox;
-class QComboBox;
-class QLabel;
-class QLineEdit;
-class QPushButton;
-class QRadioButton;
-class QSpinBox;
 
 namespace kestrel {
 
@@ -169,6 +160,11 @@ private:
     QWidget* buildAspectArea();
     QWidget* buildDeviceArea();
     void bind();
+    // A selector's box: the typed selection clamped and written back, the page's view made
+    // for it (its box showing `text`), then `then`.
+    void bindSelector(QLineEdit* box, std::string AspectView::*text,
+                      Selection (*select)(Configuration&, const std::string&),
+                      const std::function<void()>& then);
     // Shows one step row and the headings from `view`.
     void showRow(int row);
     void showHeadings();

@@ -92,10 +92,11 @@ void Bindings::commitNow(const std::function<void()>& take, const std::function<
 
 void Bindings::check(QAbstractButton* box, int& field, std::function<void()> changed)
 {
-    QObject::connect(box, &QAbstractButton::toggled, box, [this, box, &field, changed](bool on) {
-        commitNow([&field, on] { field = on ? 1 : 0; }, changed,
-                  (on ? "checking " : "unchecking ") + controlName(box));
-    });
+    QObject::connect(box, &QAbstractButton::toggled, box,
+                     [this, box, &field, changed = std::move(changed)](bool on) {
+                         commitNow([&field, on] { field = on ? 1 : 0; }, changed,
+                                   (on ? "checking " : "unchecking ") + controlName(box));
+                     });
     items.push_back({[box, &field] {
                          const QSignalBlocker block(box);
                          box->setChecked(field == 1);
@@ -105,10 +106,12 @@ void Bindings::check(QAbstractButton* box, int& field, std::function<void()> cha
 
 void Bindings::option(QButtonGroup* group, int& field, std::function<void()> changed)
 {
-    QObject::connect(group, &QButtonGroup::idToggled, group, [this, group, &field, changed](int id, bool on) {
-        if (on)
-            commitNow([&field, id] { field = id; }, changed, "choosing " + controlName(group->button(id)));
-    });
+    QObject::connect(group, &QButtonGroup::idToggled, group,
+                     [this, group, &field, changed = std::move(changed)](int id, bool on) {
+                         if (on)
+                             commitNow([&field, id] { field = id; }, changed,
+                                       "choosing " + controlName(group->button(id)));
+                     });
     items.push_back({[group, &field] {
                          // An exclusive group refuses to uncheck its checked button, and
                          // would keep the old one beside the new: it is opened meanwhile.
@@ -128,10 +131,11 @@ void Bindings::option(QButtonGroup* group, int& field, std::function<void()> cha
 
 void Bindings::combo(QComboBox* box, int& field, std::function<void()> changed)
 {
-    QObject::connect(box, &QComboBox::currentIndexChanged, box, [this, box, &field, changed](int index) {
-        commitNow([&field, index] { field = index; }, changed,
-                  QString("choosing %1 in %2").arg(box->itemText(index), controlName(box)));
-    });
+    QObject::connect(box, &QComboBox::currentIndexChanged, box,
+                     [this, box, &field, changed = std::move(changed)](int index) {
+                         commitNow([&field, index] { field = index; }, changed,
+                                   QString("choosing %1 in %2").arg(box->itemText(index), controlName(box)));
+                     });
     items.push_back({[box, &field] {
                          const QSignalBlocker block(box);
                          box->setCurrentIndex(field >= 0 && field < box->count() ? field : -1);
@@ -149,10 +153,11 @@ void Bindings::text(QLineEdit* box, std::function<std::string&()> field, std::fu
 {
     // textChanged, not textEdited: a text set from outside (a screen reader, a test) is an
     // edit too; showing blocks the signal.
-    QObject::connect(box, &QLineEdit::textChanged, box, [this, box, field, changed](const QString& typed) {
-        commitNow([&field, typed] { field() = fromLatin1(typed); }, changed, "typing in " + controlName(box),
-                  box);
-    });
+    QObject::connect(box, &QLineEdit::textChanged, box,
+                     [this, box, field, changed = std::move(changed)](const QString& typed) {
+                         commitNow([&field, typed] { field() = fromLatin1(typed); }, changed,
+                                   "typing in " + controlName(box), box);
+                     });
     items.push_back({[box, field] {
                          const QString shown = latin1(field());
                          if (box->text() == shown)
@@ -168,7 +173,7 @@ void Bindings::entry(QLineEdit* box, std::function<std::string()> show,
 {
     // What the box was last given: any other text is an edit not yet taken.
     auto shown = std::make_shared<QString>(box->text());
-    auto showModel = [box, show, shown] {
+    auto showModel = [box, show = std::move(show), shown] {
         const QSignalBlocker block(box);
         *shown = latin1(show());
         if (box->text() != *shown)
@@ -202,7 +207,7 @@ void Bindings::spinner(QSpinBox* spin, QLineEdit* box, std::function<int()> show
         emit box->editingFinished();
         spinning = nullptr;
     });
-    items.push_back({[spin, show] {
+    items.push_back({[spin, show = std::move(show)] {
                          const QSignalBlocker block(spin);
                          spin->setValue(show());
                      },

@@ -19,17 +19,8 @@ constexpr int kTakeModule = 1;
 
 const char* groupCaption(DiffGroup g)
 {
-    switch (g) {
-    case DiffGroup::General:
-        return "General settings";
-    case DiffGroup::Pin:
-        return "Pins";
-    case DiffGroup::Aspect:
-        return "Aspects";
-    case DiffGroup::Events:
-        return "Events";
-    }
-    return "";
+    static const char* const captions[] = {"General settings", "Pins", "Aspects", "Events"}; // as DiffGroup
+    return captions[static_cast<int>(g)];
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include <initializer_list>
+#include <tuple>
 #include <utility>
 
 namespace kestrel {
@@ -16,24 +17,6 @@ QPushButton* button(const QString& caption, const QString& name)
     b->setObjectName(name);
     b->setAutoDefault(false);
     return b;
-}
-
-// The line that says what the tool acts on, then the commands one below the other and
-// Cancel apart at the bottom.
-QLabel* layOut(QDialog* dialog, std::initializer_list<QPushButton*> commands, QPushButton* cancel)
-{
-    auto* target = new QLabel;
-    target->setObjectName("LabelTarget");
-    auto* layout = new QVBoxLayout(dialog);
-    layout->addWidget(target);
-    layout->addSpacing(6);
-    for (QPushButton* b : commands)
-        layout->addWidget(b);
-    layout->addSpacing(12);
-    layout->addWidget(cancel);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
-    dialog->setMinimumWidth(200);
-    return target;
 }
 
 QString pinText(const Configuration& config)
@@ -93,20 +76,46 @@ void ToolDialog::command(const std::function<void()>& action)
     }
 }
 
+QPushButton* ToolDialog::commandButton(const QString& caption, const QString& name,
+                                       const std::function<bool()>& action)
+{
+    QPushButton* b = button(caption, name);
+    connect(b, &QPushButton::clicked, this, [this, action] {
+        command([&] {
+            if (action())
+                accept();
+        });
+    });
+    return b;
+}
+
+QLabel* ToolDialog::layOut(std::initializer_list<QPushButton*> commands, QPushButton*& cancel,
+                           const QString& cancelCaption)
+{
+    cancel = button(cancelCaption, "commandCancel");
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    auto* target = new QLabel;
+    target->setObjectName("LabelTarget");
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(target);
+    layout->addSpacing(6);
+    for (QPushButton* b : commands)
+        layout->addWidget(b);
+    layout->addSpacing(12);
+    layout->addWidget(cancel);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    setMinimumWidth(200);
+    return target;
+}
+
 // ---- pin tool
 
 EditPinDialog::EditPinDialog(Session& s, QWidget* parent)
     : ToolDialog("dlgEditPin", "Pin tool", parent), session(s)
 {
-    CommandCopyPin = button("&Copy Pin", "CommandCopyPin");
-    CommandPastePin = button("&Paste Pin", "CommandPastePin");
-    CommandClearPin = button("C&lear Pin", "CommandClearPin");
-    commandCancel = button("Ca&ncel", "commandCancel");
-    LabelTarget = layOut(this, {CommandCopyPin, CommandPastePin, CommandClearPin}, commandCancel);
-    connect(CommandCopyPin, &QPushButton::clicked, this, &EditPinDialog::CommandCopyPin_Click);
-    connect(CommandPastePin, &QPushButton::clicked, this, &EditPinDialog::CommandPastePin_Click);
-    connect(CommandClearPin, &QPushButton::clicked, this, &EditPinDialog::CommandClearPin_Click);
-    connect(commandCancel, &QPushButton::clicked, this, &QDialog::reject);
+    std::tie(CommandCopyPin, CommandPastePin, CommandClearPin) =
+        clipboardButtons(tool, session, "Pin", {"CommandCopyPin", "CommandPastePin", "CommandClearPin"});
+    LabelTarget = layOut({CommandCopyPin, CommandPastePin, CommandClearPin}, commandCancel, "Ca&ncel");
 }
 
 void EditPinDialog::run()
@@ -115,47 +124,19 @@ void EditPinDialog::run()
     runModal();
 }
 
-void EditPinDialog::CommandCopyPin_Click()
-{
-    command([this] {
-        tool.copy(session.config);
-        accept();
-    });
-}
-
-void EditPinDialog::CommandPastePin_Click()
-{
-    command([this] {
-        if (tool.paste(session.config, session.dialogs()))
-            accept();
-    });
-}
-
-void EditPinDialog::CommandClearPin_Click()
-{
-    command([this] {
-        tool.clear(session.config);
-        accept();
-    });
-}
-
 // ---- aspect tool
 
 EditAspectDialog::EditAspectDialog(Session& s, QWidget* parent)
     : ToolDialog("dlgEditAspect", "Aspect tool", parent), session(s)
 {
-    CommandCopy = button("&Copy Aspect", "CommandCopy");
-    CommandPaste = button("&Paste Aspect", "CommandPaste");
-    CommandClear = button("C&lear Aspect", "CommandClear");
-    CommandClean = button("Clean &Aspect", "CommandClean");
-    commandCancel = button("Ca&ncel", "commandCancel");
-    LabelTarget = layOut(this, {CommandCopy, CommandPaste, CommandClear, CommandClean}, commandCancel);
+    std::tie(CommandCopy, CommandPaste, CommandClear) =
+        clipboardButtons(tool, session, "Aspect", {"CommandCopy", "CommandPaste", "CommandClear"});
+    CommandClean = commandButton("Clean &Aspect", "CommandClean", [this] {
+        tool.clean(session.config);
+        return true;
+    });
+    LabelTarget = layOut({CommandCopy, CommandPaste, CommandClear, CommandClean}, commandCancel, "Ca&ncel");
     CommandClean->setToolTip("Clears the description and everything after the first empty step");
-    connect(CommandCopy, &QPushButton::clicked, this, &EditAspectDialog::CommandCopy_Click);
-    connect(CommandPaste, &QPushButton::clicked, this, &EditAspectDialog::CommandPaste_Click);
-    connect(CommandClear, &QPushButton::clicked, this, &EditAspectDialog::CommandClear_Click);
-    connect(CommandClean, &QPushButton::clicked, this, &EditAspectDialog::CommandClean_Click);
-    connect(commandCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 void EditAspectDialog::run()
@@ -164,72 +145,26 @@ void EditAspectDialog::run()
     runModal();
 }
 
-void EditAspectDialog::CommandCopy_Click()
-{
-    command([this] {
-        tool.copy(session.config);
-        accept();
-    });
-}
-
-void EditAspectDialog::CommandPaste_Click()
-{
-    command([this] {
-        if (tool.paste(session.config, session.dialogs()))
-            accept();
-    });
-}
-
-void EditAspectDialog::CommandClear_Click()
-{
-    command([this] {
-        tool.clear(session.config);
-        accept();
-    });
-}
-
-void EditAspectDialog::CommandClean_Click()
-{
-    command([this] {
-        tool.clean(session.config);
-        accept();
-    });
-}
-
 // ---- step tool
 
 EditStepDialog::EditStepDialog(Session& s, QWidget* parent)
     : ToolDialog("dlgEditStep", "Step tool", parent), session(s)
 {
-    commandInsert = button("&Insert Step", "commandInsert");
-    commandDelete = button("&Delete Step", "commandDelete");
-    commandCancel = button("&Cancel", "commandCancel");
-    LabelTarget = layOut(this, {commandInsert, commandDelete}, commandCancel);
-    connect(commandInsert, &QPushButton::clicked, this, &EditStepDialog::commandInsert_Click);
-    connect(commandDelete, &QPushButton::clicked, this, &EditStepDialog::commandDelete_Click);
-    connect(commandCancel, &QPushButton::clicked, this, &QDialog::reject);
+    commandInsert = commandButton("&Insert Step", "commandInsert", [this] {
+        insertStep(session.config);
+        return true;
+    });
+    commandDelete = commandButton("&Delete Step", "commandDelete", [this] {
+        deleteStep(session.config);
+        return true;
+    });
+    LabelTarget = layOut({commandInsert, commandDelete}, commandCancel, "&Cancel");
 }
 
 void EditStepDialog::run()
 {
     LabelTarget->setText(aspectText(session.config) + QString(", step %1").arg(session.config.CurrentStep));
     runModal();
-}
-
-void EditStepDialog::commandInsert_Click()
-{
-    command([this] {
-        insertStep(session.config);
-        accept();
-    });
-}
-
-void EditStepDialog::commandDelete_Click()
-{
-    command([this] {
-        deleteStep(session.config);
-        accept();
-    });
 }
 
 } // namespace kestrel

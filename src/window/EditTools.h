@@ -4,8 +4,11 @@
 #include "session/Session.h"
 
 #include <QDialog>
+#include <array>
 #include <exception>
 #include <functional>
+#include <initializer_list>
+#include <tuple>
 
 class QLabel;
 class QPushButton;
@@ -33,6 +36,33 @@ protected:
     bool runModal();
     // One command of the tool (a click, a finished entry).
     void command(const std::function<void()>& action);
+    // A command's button: a click runs the action as one command, and the tool closes
+    // when the action says it is done.
+    QPushButton* commandButton(const QString& caption, const QString& name,
+                               const std::function<bool()>& action);
+    // The line that says what the tool acts on (returned), then the commands one below the
+    // other and Cancel ("commandCancel", made here) apart at the bottom.
+    QLabel* layOut(std::initializer_list<QPushButton*> commands, QPushButton*& cancel,
+                   const QString& cancelCaption);
+    // Copy, Paste and Clear of a tool that keeps a pin or an aspect ("&Copy <what>", ...),
+    // with the buttons' names in that order.
+    template <typename Tool>
+    std::tuple<QPushButton*, QPushButton*, QPushButton*>
+    clipboardButtons(Tool& tool, Session& session, const QString& what,
+                     const std::array<const char*, 3>& names)
+    {
+        return {commandButton("&Copy " + what, names[0],
+                              [&tool, &session] {
+                                  tool.copy(session.config);
+                                  return true;
+                              }),
+                commandButton("&Paste " + what, names[1],
+                              [&tool, &session] { return tool.paste(session.config, session.dialogs()); }),
+                commandButton("C&lear " + what, names[2], [&tool, &session] {
+                    tool.clear(session.config);
+                    return true;
+                })};
+    }
     // A help tool's run: opened on the step and shown; OK applies it to the step, Cancel
     // shows the values it was opened with again and leaves the step as it was.
     template <typename Tool> bool runOnStep(Tool& tool, StepRecord& step, const std::function<void()>& show)
@@ -68,11 +98,6 @@ public:
     QPushButton* CommandClearPin;
     QPushButton* commandCancel;
 
-public slots:
-    void CommandCopyPin_Click();
-    void CommandPastePin_Click();
-    void CommandClearPin_Click();
-
 private:
     Session& session;
 };
@@ -93,12 +118,6 @@ public:
     QPushButton* CommandClean;
     QPushButton* commandCancel;
 
-public slots:
-    void CommandCopy_Click();
-    void CommandPaste_Click();
-    void CommandClear_Click();
-    void CommandClean_Click();
-
 private:
     Session& session;
 };
@@ -115,10 +134,6 @@ public:
     QPushButton* commandInsert;
     QPushButton* commandDelete;
     QPushButton* commandCancel;
-
-public slots:
-    void commandInsert_Click();
-    void commandDelete_Click();
 
 private:
     Session& session;

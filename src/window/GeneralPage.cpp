@@ -24,6 +24,7 @@
 
 #include <algorithm>
 #include <initializer_list>
+#include <utility>
 
 namespace kestrel {
 
@@ -49,18 +50,27 @@ QString pinLegend(int base)
     return legends[base == 1 ? 1 : 0];
 }
 
-constexpr std::size_t kIDStringMaximum = 12;
-
 QPushButton* button(const char* caption, const char* name) { return named(new QPushButton(caption), name); }
 
-QHBoxLayout* buttonRow(QPushButton* read, QPushButton* write)
+// A frame's Read and Write buttons ("<prefix>Read", "<prefix>Write") in a row of their own.
+QHBoxLayout* readWriteRow(const QString& prefix, const char* read, const char* write,
+                          QPushButton*& readButton, QPushButton*& writeButton)
 {
+    readButton = named(new QPushButton(read), prefix + "Read");
+    writeButton = named(new QPushButton(write), prefix + "Write");
     auto* row = new QHBoxLayout;
-    row->addWidget(read);
-    if (write)
-        row->addWidget(write);
+    row->addWidget(readButton);
+    row->addWidget(writeButton);
     row->addStretch();
     return row;
+}
+
+// A frame of the page and the layout of its controls.
+template <typename Layout = QGridLayout>
+std::pair<QGroupBox*, Layout*> frameWith(const char* title, const char* name)
+{
+    auto* frame = named(new QGroupBox(title), name);
+    return {frame, new Layout(frame)};
 }
 
 QLineEdit* numberBox(const char* name, int width)
@@ -116,30 +126,27 @@ GeneralPage::GeneralPage(Session& s, Guard* sharedGuard, QWidget* parent)
 
 QGroupBox* GeneralPage::buildIdentity()
 {
-    auto* frame = named(new QGroupBox("Module"), "FrameGenID");
-    auto* grid = new QGridLayout(frame);
+    const auto [frame, grid] = frameWith("Module", "FrameGenID");
     CommandGenVersion = button("Re&quest Version", "CommandGenVersion");
     LabelGenVersionString = named(new QLabel("Unknown"), "LabelGenVersionString");
     LabelGenVersionString->setMinimumWidth(90);
     TextGenIDString = named(new QLineEdit, "TextGenIDString");
     TextGenIDString->setToolTip("At most 12 characters, letters, digits and signs without accents");
-    CommandGenIDRead = button("Re&ad", "CommandGenIDRead");
-    CommandGenIDWrite = button("Write", "CommandGenIDWrite");
 
     TextGenIDString->setMinimumWidth(140);
     grid->addWidget(CommandGenVersion, 0, 0);
     grid->addWidget(LabelGenVersionString, 0, 1);
     grid->addWidget(captionFor("ID String", TextGenIDString), 1, 0);
     grid->addWidget(TextGenIDString, 1, 1);
-    grid->addLayout(buttonRow(CommandGenIDRead, CommandGenIDWrite), 2, 0, 1, 2);
+    grid->addLayout(readWriteRow("CommandGenID", "Re&ad", "Write", CommandGenIDRead, CommandGenIDWrite), 2, 0,
+                    1, 2);
     grid->setColumnStretch(1, 1);
     return frame;
 }
 
 QGroupBox* GeneralPage::buildDcc()
 {
-    auto* frame = named(new QGroupBox("DCC"), "FrameGenDCC");
-    auto* grid = new QGridLayout(frame);
+    const auto [frame, grid] = frameWith("DCC", "FrameGenDCC");
     TextGenDCCAddress = numberBox("TextGenDCCAddress", 60);
     TextGenXDCCAddress = numberBox("TextGenXDCCAddress", 60);
     grid->addWidget(captionFor("DCC Address", TextGenDCCAddress), 0, 0);
@@ -163,17 +170,15 @@ QGroupBox* GeneralPage::buildDcc()
     grid->addWidget(ChkGenDCC_BPSI, 3, 0, 1, 2);
     grid->addWidget(ChkGenDCCAllow0, 4, 0, 1, 2);
 
-    CommandGenDCCRead = button("Rea&d", "CommandGenDCCRead");
-    CommandGenDCCWrite = button("Write", "CommandGenDCCWrite");
-    grid->addLayout(buttonRow(CommandGenDCCRead, CommandGenDCCWrite), 5, 0, 1, 3);
+    grid->addLayout(readWriteRow("CommandGenDCC", "Rea&d", "Write", CommandGenDCCRead, CommandGenDCCWrite), 5,
+                    0, 1, 3);
     grid->setColumnStretch(2, 1);
     return frame;
 }
 
 QGroupBox* GeneralPage::buildAddressing()
 {
-    auto* frame = named(new QGroupBox("Serial Addressing"), "FrameGenAddr");
-    auto* grid = new QGridLayout(frame);
+    const auto [frame, grid] = frameWith("Serial Addressing", "FrameGenAddr");
     CheckGenKestrelNative = named(new QCheckBox("Enable Native Kestrel Mode"), "CheckGenKestrelNative");
     CheckGenLynxaddr = named(new QCheckBox("Enable Lynx Flex-Addresss"), "CheckGenLynxaddr");
     LabelGenXA_4 = named(new QLabel("Flex-Address"), "LabelGenXA_4");
@@ -212,17 +217,15 @@ QGroupBox* GeneralPage::buildAddressing()
     }
     grid->addWidget(mask, 3, 0, 1, 3);
 
-    CommandGenAddrRead = button("Read", "CommandGenAddrRead");
-    CommandGenAddrWrite = button("Write", "CommandGenAddrWrite");
-    grid->addLayout(buttonRow(CommandGenAddrRead, CommandGenAddrWrite), 4, 0, 1, 3);
+    grid->addLayout(readWriteRow("CommandGenAddr", "Read", "Write", CommandGenAddrRead, CommandGenAddrWrite),
+                    4, 0, 1, 3);
     grid->setColumnStretch(2, 1);
     return frame;
 }
 
 QGroupBox* GeneralPage::buildHardware()
 {
-    auto* frame = named(new QGroupBox("Hardware Configuration"), "FrameGenHWC");
-    auto* column = new QVBoxLayout(frame);
+    const auto [frame, column] = frameWith<QVBoxLayout>("Hardware Configuration", "FrameGenHWC");
     hardwareArea = new QWidget;
     LabelGenHWCPin = named(new QLabel(pinLegend(0), hardwareArea), "LabelGenHWCPin");
     driverCaptions[0] = new QLabel("Sink Driver", hardwareArea);
@@ -237,9 +240,8 @@ QGroupBox* GeneralPage::buildHardware()
     tabOrder({ChkGenHWCSink[0], ChkGenHWCSink[1], ChkGenHWCSink[2], ChkGenHWCSink[3], ChkGenHWCSource[0],
               ChkGenHWCSource[1], ChkGenHWCSource[2], ChkGenHWCSource[3]});
 
-    CommandGenHWCRead = button("Read Config", "CommandGenHWCRead");
-    CommandGenHWCWrite = button("Write Config", "CommandGenHWCWrite");
-    column->addLayout(buttonRow(CommandGenHWCRead, CommandGenHWCWrite));
+    column->addLayout(
+        readWriteRow("CommandGenHWC", "Read Config", "Write Config", CommandGenHWCRead, CommandGenHWCWrite));
     return frame;
 }
 
@@ -284,8 +286,7 @@ void GeneralPage::placeHardwareBoxes()
 
 QGroupBox* GeneralPage::buildLeds()
 {
-    auto* frame = named(new QGroupBox("LED Control"), "FrameGenLC");
-    auto* grid = new QGridLayout(frame);
+    const auto [frame, grid] = frameWith("LED Control", "FrameGenLC");
     const char* green[8] = {"Basic DCC Packet", "eXtd DCC Packet", "Lynx Message", "Kestrel Message",
                             "Green 4",          "Green 5",         "Green 6",      "Idle Flash"};
     const char* orange[8] = {"DCC Checksum Error", "Orange 1", "Orange 2", "Orange 3",
@@ -300,16 +301,15 @@ QGroupBox* GeneralPage::buildLeds()
         grid->addWidget(CheckLCGreen[i], i + 1, 0);
         grid->addWidget(CheckLCOrange[i], i + 1, 1);
     }
-    CommandLCRead = button("Read Settings", "CommandLCRead");
-    CommandLCWrite = button("Write Settings", "CommandLCWrite");
-    grid->addLayout(buttonRow(CommandLCRead, CommandLCWrite), 9, 0, 1, 2);
+    grid->addLayout(
+        readWriteRow("CommandLC", "Read Settings", "Write Settings", CommandLCRead, CommandLCWrite), 9, 0, 1,
+        2);
     return frame;
 }
 
 QGroupBox* GeneralPage::buildSerialPort()
 {
-    auto* frame = named(new QGroupBox("Serial Port"), "FrameGenSerial");
-    auto* grid = new QGridLayout(frame);
+    const auto [frame, grid] = frameWith("Serial Port", "FrameGenSerial");
     CheckGenSerialEnable = named(new QCheckBox("Enable"), "CheckGenSerialEnable");
     ComboGenBaud = named(new QComboBox, "ComboGenBaud");
     for (const char* rate : kGenBaudList)
@@ -355,17 +355,16 @@ QGroupBox* GeneralPage::buildSerialPort()
     options->addWidget(parity);
     grid->addLayout(options, 1, 0, 1, 4);
 
-    CommandGenSerialRead = button("Read Settings", "CommandGenSerialRead");
-    CommandGenSerialWrite = button("Write Settings", "CommandGenSerialWrite");
-    grid->addLayout(buttonRow(CommandGenSerialRead, CommandGenSerialWrite), 2, 0, 1, 4);
+    grid->addLayout(readWriteRow("CommandGenSerial", "Read Settings", "Write Settings", CommandGenSerialRead,
+                                 CommandGenSerialWrite),
+                    2, 0, 1, 4);
     grid->setColumnStretch(3, 1);
     return frame;
 }
 
 QGroupBox* GeneralPage::buildErase()
 {
-    auto* frame = named(new QGroupBox("Configuration Memory"), "FrameGenErase");
-    auto* row = new QHBoxLayout(frame);
+    const auto [frame, row] = frameWith<QHBoxLayout>("Configuration Memory", "FrameGenErase");
     CommandGenEraseFlash = button("Erase Flash", "CommandGenEraseFlash");
     CommandGenEraseFlash->setToolTip("Erases the whole configuration of the module (takes up to 45 seconds)");
     row->addWidget(CommandGenEraseFlash);

@@ -2,20 +2,11 @@
 #include "session/Session.h"
 #include "window/Bindings.h"
 #include "window/Guard.h"
+#include "window/WidgetsFwd.h"
 
 #include <QWidget>
 #include <array>
 #include <memory>
-
-class QButtonGroup;
-class QCheckBox;
-class QComboBox;
-class QGroupBox;
-class QLabel;
-class QLineEdit;
-class QPushButton;
-class QRadioButton;
-class QSpinBox;
 
 namespace kestrel {
 

@@ -51,19 +51,6 @@ QLabel* labelFor(const QString& caption, const QString& name, QWidget* input)
     return label;
 }
 
-// OK (the default button) and Cancel.
-QDialogButtonBox* okCancel(QPushButton*& ok, QPushButton*& cancel)
-{
-    auto* box = new QDialogButtonBox;
-    ok = named(new QPushButton("&OK"), "OKButton");
-    cancel = named(new QPushButton("&Cancel"), "CancelButton");
-    box->addButton(ok, QDialogButtonBox::AcceptRole);
-    box->addButton(cancel, QDialogButtonBox::RejectRole);
-    ok->setDefault(true);
-    cancel->setAutoDefault(false);
-    return box;
-}
-
 void setTextIfChanged(QLineEdit* box, const std::string& text)
 {
     const QString shown = latin1(text);
@@ -72,9 +59,23 @@ void setTextIfChanged(QLineEdit* box, const std::string& text)
 }
 } // namespace
 
+void HelpToolDialog::addOkCancel(QVBoxLayout* layout)
+{
+    auto* box = new QDialogButtonBox;
+    OKButton = named(new QPushButton("&OK"), "OKButton");
+    CancelButton = named(new QPushButton("&Cancel"), "CancelButton");
+    box->addButton(OKButton, QDialogButtonBox::AcceptRole);
+    box->addButton(CancelButton, QDialogButtonBox::RejectRole);
+    OKButton->setDefault(true);
+    CancelButton->setAutoDefault(false);
+    layout->addWidget(box);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    connect(CancelButton, &QPushButton::clicked, this, &QDialog::reject);
+}
+
 // ---- time tool
 
-TimeToolDialog::TimeToolDialog(QWidget* parent) : ToolDialog("dlgCT", "KestrelConfig CalcTime", parent)
+TimeToolDialog::TimeToolDialog(QWidget* parent) : HelpToolDialog("dlgCT", "KestrelConfig CalcTime", parent)
 {
     auto* base = new NumberEntry("TextCTBase", "UpDownCTBase", 2);
     TextCTBase = base->text;
@@ -110,8 +111,7 @@ TimeToolDialog::TimeToolDialog(QWidget* parent) : ToolDialog("dlgCT", "KestrelCo
     values->addWidget(LabelCTTimeValue, 1, 1);
     values->setColumnStretch(1, 1);
     layout->addLayout(values);
-    layout->addWidget(okCancel(OKButton, CancelButton));
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+    addOkCancel(layout);
 
     // The durations follow the box as it is typed in, clicked and left (and on Return).
     connect(TextCTBase, &QLineEdit::editingFinished, this, &TimeToolDialog::TextCTBase_Change);
@@ -125,7 +125,6 @@ TimeToolDialog::TimeToolDialog(QWidget* parent) : ToolDialog("dlgCT", "KestrelCo
             accept();
         });
     });
-    connect(CancelButton, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 bool TimeToolDialog::run(StepRecord& step)
@@ -175,7 +174,7 @@ void TimeToolDialog::SliderCTTime_Change(int time)
     });
 }
 
-void TimeToolDialog::showTool()
+void TimeToolDialog::showTool() const
 {
     {
         const QSignalBlocker a(UpDownCTBase), b(SliderCTTime);
@@ -189,7 +188,7 @@ void TimeToolDialog::showTool()
 // ---- pattern tool
 
 PatternToolDialog::PatternToolDialog(QWidget* parent)
-    : ToolDialog("dlgKestrelCalcPattern", "LynxConfig Calculate Pattern", parent)
+    : HelpToolDialog("dlgKestrelCalcPattern", "LynxConfig Calculate Pattern", parent)
 {
     auto* boxes = new QGridLayout;
     for (int i = 0; i < 7; ++i) {
@@ -234,8 +233,7 @@ PatternToolDialog::PatternToolDialog(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(boxes);
     layout->addLayout(values);
-    layout->addWidget(okCancel(OKButton, CancelButton));
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+    addOkCancel(layout);
 
     connect(OKButton, &QPushButton::clicked, this, [this] {
         command([this] {
@@ -243,7 +241,6 @@ PatternToolDialog::PatternToolDialog(QWidget* parent)
             accept();
         });
     });
-    connect(CancelButton, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 bool PatternToolDialog::run(StepRecord& step)
@@ -270,7 +267,7 @@ void PatternToolDialog::showTool()
 // ---- event-pattern tool
 
 EventPatternToolDialog::EventPatternToolDialog(QWidget* parent)
-    : ToolDialog("dlgKestrelCalcEventPattern", "KestrelConfig CalcETImap", parent)
+    : HelpToolDialog("dlgKestrelCalcEventPattern", "KestrelConfig CalcETImap", parent)
 {
     auto* inputs = new QGroupBox("Event inputs");
     auto* inputsLayout = new QVBoxLayout(inputs);
@@ -326,11 +323,9 @@ EventPatternToolDialog::EventPatternToolDialog(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(top);
     layout->addLayout(values);
-    layout->addWidget(okCancel(OKButton, CancelButton));
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+    addOkCancel(layout);
 
     connect(OKButton, &QPushButton::clicked, this, &QDialog::accept);
-    connect(CancelButton, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 bool EventPatternToolDialog::run(StepRecord& step)
@@ -351,7 +346,7 @@ void EventPatternToolDialog::showTool()
 // ---- level tool
 
 LevelToolDialog::LevelToolDialog(QWidget* parent)
-    : ToolDialog("dlgKestrelCalcLevel", "LynxConfig Calculate Level", parent)
+    : HelpToolDialog("dlgKestrelCalcLevel", "LynxConfig Calculate Level", parent)
 {
     txtParameter = numberBox("txtParameter", 3);
     txtLevel = numberBox("txtLevel", 2);
@@ -371,8 +366,7 @@ LevelToolDialog::LevelToolDialog(QWidget* parent)
     values->addRow(lblDelay, txtDelay);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(values);
-    layout->addWidget(okCancel(OKButton, CancelButton));
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+    addOkCancel(layout);
 
     for (QLineEdit* box : {txtParameter, txtLevel, txtTimeIndex})
         connect(box, &QLineEdit::editingFinished, this, [this, box] { command([this, box] { take(box); }); });
@@ -388,7 +382,6 @@ LevelToolDialog::LevelToolDialog(QWidget* parent)
             accept();
         });
     });
-    connect(CancelButton, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 bool LevelToolDialog::run(int& parameter)
@@ -415,7 +408,7 @@ void LevelToolDialog::take(QLineEdit* box)
     setTextIfChanged(box, shown);
 }
 
-void LevelToolDialog::showTool()
+void LevelToolDialog::showTool() const
 {
     setTextIfChanged(txtParameter, tool.parameterText());
     setTextIfChanged(txtLevel, tool.levelText());

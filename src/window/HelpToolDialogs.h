@@ -2,15 +2,7 @@
 #include "model/Configuration.h"
 #include "model/HelpTools.h"
 #include "window/EditTools.h"
-
-class QButtonGroup;
-class QCheckBox;
-class QLabel;
-class QLineEdit;
-class QPushButton;
-class QRadioButton;
-class QSlider;
-class QSpinBox;
+#include "window/WidgetsFwd.h"
 
 namespace kestrel {
 
@@ -18,8 +10,21 @@ namespace kestrel {
 // reaches the step before OK, so Cancel (or closing the window) leaves it as it was. The
 // windows only copy values between their tool object and the controls.
 
+// A help tool: its controls, then OK (the default button) and Cancel at the bottom.
+class HelpToolDialog : public ToolDialog {
+public:
+    using ToolDialog::ToolDialog;
+
+    QPushButton* OKButton = nullptr;
+    QPushButton* CancelButton = nullptr;
+
+protected:
+    // OK and Cancel below what `layout` holds (Cancel rejects); the window keeps its size.
+    void addOkCancel(QVBoxLayout* layout);
+};
+
 // The time tool: "Time" (Par2) on the slider, "Base" (Par3) in the box.
-class TimeToolDialog : public ToolDialog {
+class TimeToolDialog : public HelpToolDialog {
     Q_OBJECT
 public:
     explicit TimeToolDialog(QWidget* parent = nullptr);
@@ -35,8 +40,6 @@ public:
     QLabel* LabelCTMaxTimeValue;
     QLabel* LabelCTTime;
     QLabel* LabelCTTimeValue;
-    QPushButton* OKButton;
-    QPushButton* CancelButton;
 
 public slots:
     void TextCTBase_Change();
@@ -47,11 +50,11 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void showTool(); // the controls from the tool
+    void showTool() const; // the controls from the tool
 };
 
 // The pattern tool of the "Multibit" instructions.
-class PatternToolDialog : public ToolDialog {
+class PatternToolDialog : public HelpToolDialog {
     Q_OBJECT
 public:
     explicit PatternToolDialog(QWidget* parent = nullptr);
@@ -67,8 +70,6 @@ public:
     QLineEdit* txtParameter;
     QLabel* lblOriginal;
     QLineEdit* txtOriginal;
-    QPushButton* OKButton;
-    QPushButton* CancelButton;
 
 private:
     void showTool();
@@ -77,7 +78,7 @@ private:
 // The event-pattern tool of "Event Input": the event inputs and at most one action. The
 // seventh option, "No action", is the value without an action, so that every value the
 // tool composes is shown again as it was chosen when the tool is opened on it.
-class EventPatternToolDialog : public ToolDialog {
+class EventPatternToolDialog : public HelpToolDialog {
     Q_OBJECT
 public:
     explicit EventPatternToolDialog(QWidget* parent = nullptr);
@@ -92,8 +93,6 @@ public:
     QLineEdit* txtParameter; // composed from the boxes only
     QLabel* lblOriginal;
     QLineEdit* txtOriginal;
-    QPushButton* OKButton;
-    QPushButton* CancelButton;
 
 private:
     void showTool();
@@ -101,7 +100,7 @@ private:
 };
 
 // The level tool: a parameter 0..127 as level and time index, and the delay of that index.
-class LevelToolDialog : public ToolDialog {
+class LevelToolDialog : public HelpToolDialog {
     Q_OBJECT
 public:
     explicit LevelToolDialog(QWidget* parent = nullptr);
@@ -117,13 +116,11 @@ public:
     QLineEdit* txtTimeIndex;
     QLabel* lblDelay;
     QLineEdit* txtDelay; // read-only
-    QPushButton* OKButton;
-    QPushButton* CancelButton;
 
 private:
     // A box left: it clamps through the tool and the others follow.
     void take(QLineEdit* box);
-    void showTool();
+    void showTool() const;
 };
 
 } // namespace kestrel

@@ -18,6 +18,30 @@
 
 namespace kestrel {
 
+namespace {
+struct Caption {
+    QLabel*& label;
+    const char* text;
+    const char* name;
+};
+template <typename W> struct Named {
+    W*& widget;
+    const char* name;
+};
+
+// An address box with its up-down, named, and its caption, which also names the box.
+NumberEntry* addressEntry(Caption caption, Named<QLineEdit> box, Named<QSpinBox> upDown)
+{
+    caption.label = named(new QLabel(caption.text), caption.name);
+    auto* entry = new NumberEntry(box.name, upDown.name);
+    box.widget = entry->text;
+    upDown.widget = entry->upDown;
+    numericInput(box.widget, 3);
+    nameAfter(caption.label, box.widget);
+    return entry;
+}
+} // namespace
+
 LinkArea::LinkArea(Session& session, CorvidControl& corvid, Guard& guard, RememberedSettings& kept)
     : QGroupBox("Communication"), session(session), corvid(corvid), guard(guard), kept(kept)
 {
@@ -48,22 +72,14 @@ LinkArea::LinkArea(Session& session, CorvidControl& corvid, Guard& guard, Rememb
     OptionBitRate[session.linkControl.OptionBitRate]->setChecked(true);
     grid->addWidget(FrameBitrate, 1, 0, 1, 3);
 
-    LabelAddress = named(new QLabel("Module Address"), "LabelAddress");
-    auto* address = new NumberEntry("TextAddress", "UpDownAddress");
-    TextAddress = address->text;
-    UpDownAddress = address->upDown;
-    numericInput(TextAddress, 3);
-    nameAfter(LabelAddress, TextAddress);
+    auto* address = addressEntry({LabelAddress, "Module Address", "LabelAddress"},
+                                 {TextAddress, "TextAddress"}, {UpDownAddress, "UpDownAddress"});
     grid->addWidget(LabelAddress, 0, 3);
     grid->addWidget(address, 0, 4, Qt::AlignLeft);
 
     CheckXaddress = named(new QCheckBox("Use eXtended Addr"), "CheckXaddress");
-    LabelXaddress = named(new QLabel("eXtended address"), "LabelXaddress");
-    auto* xAddress = new NumberEntry("txtXaddr", "UpDownXaddr");
-    txtXaddr = xAddress->text;
-    UpDownXaddr = xAddress->upDown;
-    numericInput(txtXaddr, 3);
-    nameAfter(LabelXaddress, txtXaddr);
+    auto* xAddress = addressEntry({LabelXaddress, "eXtended address", "LabelXaddress"},
+                                  {txtXaddr, "txtXaddr"}, {UpDownXaddr, "UpDownXaddr"});
     UpDownXaddr->setAccessibleName(txtXaddr->accessibleName());
     grid->addWidget(CheckXaddress, 1, 3);
     grid->addWidget(LabelXaddress, 2, 3);
@@ -174,50 +190,47 @@ void LinkArea::OptionBitRate_Click(int index)
     guard([&] { session.linkControl.OptionBitRate_Click(index); });
 }
 
-void LinkArea::TextAddress_Click()
+void LinkArea::changeThenRefresh(const std::function<void()>& change)
 {
-    TextAddress->setModified(false);
-    guard([this] { session.linkControl.TextAddress_Click(fromLatin1(TextAddress->text())); });
+    guard(change);
     refresh();
 }
+
+void LinkArea::take(QLineEdit* box, std::string (LinkControl::*taker)(const std::string&))
+{
+    box->setModified(false);
+    changeThenRefresh([&] { (session.linkControl.*taker)(fromLatin1(box->text())); });
+}
+
+void LinkArea::TextAddress_Click() { take(TextAddress, &LinkControl::TextAddress_Click); }
 
 void LinkArea::UpDownAddress_Change(int value)
 {
-    guard([&] { session.linkControl.UpDownAddress_Change(value); });
-    refresh();
+    changeThenRefresh([&] { session.linkControl.UpDownAddress_Change(value); });
 }
 
-void LinkArea::txtXaddr_Click()
-{
-    txtXaddr->setModified(false);
-    guard([this] { session.linkControl.txtXaddr_Click(fromLatin1(txtXaddr->text())); });
-    refresh();
-}
+void LinkArea::txtXaddr_Click() { take(txtXaddr, &LinkControl::txtXaddr_Click); }
 
 void LinkArea::UpDownXaddr_Change(int value)
 {
-    guard([&] { session.linkControl.UpDownXaddr_Change(value); });
-    refresh();
+    changeThenRefresh([&] { session.linkControl.UpDownXaddr_Change(value); });
 }
 
 void LinkArea::CheckXaddress_Click()
 {
-    guard([this] { session.linkControl.CheckXaddress_Click(CheckXaddress->isChecked()); });
-    refresh();
+    changeThenRefresh([this] { session.linkControl.CheckXaddress_Click(CheckXaddress->isChecked()); });
 }
 
 void LinkArea::CheckKestrelBD_Click() { session.link.setBidirectional(CheckKestrelBD->isChecked()); }
 
 void LinkArea::CheckCorvid_Click()
 {
-    guard([this] { corvid.CheckCorvid_Click(CheckCorvid->isChecked()); });
-    refresh();
+    changeThenRefresh([this] { corvid.CheckCorvid_Click(CheckCorvid->isChecked()); });
 }
 
 void LinkArea::cmdSetTM_Click()
 {
-    guard([this] { corvid.cmdSetTM_Click(); });
-    refresh();
+    changeThenRefresh([this] { corvid.cmdSetTM_Click(); });
 }
 
 bool LinkArea::eventFilter(QObject* watched, QEvent* event)
@@ -230,7 +243,7 @@ bool LinkArea::eventFilter(QObject* watched, QEvent* event)
     return QGroupBox::eventFilter(watched, event);
 }
 
-void LinkArea::changed()
+void LinkArea::changed() const
 {
     if (onChanged)
         onChanged();

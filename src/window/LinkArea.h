@@ -3,17 +3,10 @@
 #include "session/Session.h"
 #include "window/Guard.h"
 #include "window/RememberedSettings.h"
+#include "window/WidgetsFwd.h"
 
 #include <QGroupBox>
 #include <functional>
-
-class QCheckBox;
-class QComboBox;
-class QLabel;
-class QLineEdit;
-class QPushButton;
-class QRadioButton;
-class QSpinBox;
 
 namespace kestrel {
 
@@ -69,7 +62,11 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void changed();
+    void changed() const;
+    // A handler's change, inside the guard; then the link settings shown again.
+    void changeThenRefresh(const std::function<void()>& change);
+    // A typed address box left: its text taken by the link's control.
+    void take(QLineEdit* box, std::string (LinkControl::*taker)(const std::string&));
     Session& session;
     CorvidControl& corvid;
     Guard& guard;

@@ -8,30 +8,38 @@
 
 namespace kestrel {
 
+namespace {
+// A window that shows a read-only text (named `textName`), at the top of its column.
+QVBoxLayout* textWindow(QDialog*& window, QWidget* parent, const char* name, const char* title,
+                        QPlainTextEdit*& text, const char* textName, const char* accessibleName)
+{
+    window = named(new QDialog(parent), name);
+    window->setWindowTitle(title);
+    auto* l = new QVBoxLayout(window);
+    text = named(new QPlainTextEdit, textName);
+    text->setReadOnly(true);
+    text->setAccessibleName(accessibleName);
+    l->addWidget(text);
+    return l;
+}
+} // namespace
+
 QDialog* makeVerificationWindow(QWidget* parent, QPlainTextEdit*& text)
 {
-    auto* window = named(new QDialog(parent), "frmKestrelVerification");
-    window->setWindowTitle("Kestrel Verification");
-    auto* l = new QVBoxLayout(window);
-    text = named(new QPlainTextEdit, "txtVerification");
-    text->setReadOnly(true);
-    text->setAccessibleName("Verification report");
-    l->addWidget(text);
+    QDialog* window = nullptr;
+    textWindow(window, parent, "frmKestrelVerification", "Kestrel Verification", text, "txtVerification",
+               "Verification report");
     window->resize(560, 420);
     return window;
 }
 
 QDialog* makeCorvidWindow(QWidget* parent, QPlainTextEdit*& text, QPushButton*& clear)
 {
-    auto* window = named(new QDialog(parent), "frmCorvidComm");
-    window->setWindowTitle("Corvid Communication");
-    auto* l = new QVBoxLayout(window);
-    text = named(new QPlainTextEdit, "txtCorvidCommunication");
-    text->setReadOnly(true);
-    text->setAccessibleName("Corvid communication");
+    QDialog* window = nullptr;
+    QVBoxLayout* l = textWindow(window, parent, "frmCorvidComm", "Corvid Communication", text,
+                                "txtCorvidCommunication", "Corvid communication");
     text->setFont(QFont("monospace"));
     clear = named(new QPushButton("&Clear"), "cmdClear");
-    l->addWidget(text);
     l->addWidget(clear);
     window->resize(480, 360);
     return window;

@@ -149,6 +149,26 @@ PinConfigPage::PinConfigPage(Session& s, Guard* sharedGuard, QWidget* parent)
     refresh();
 }
 
+void PinConfigPage::followEachOther(QLineEdit* box, PinField field, QSlider* slider)
+{
+    connect(box, &QLineEdit::editingFinished, this, [this, field, slider] {
+        const int value = liveValue(field); // the slider follows without sending
+        const QSignalBlocker block(slider);
+        slider->setValue(value);
+    });
+    connect(slider, &QSlider::sliderMoved, this, [box](int v) { box->setText(QString::number(v)); });
+}
+
+QCheckBox* PinConfigPage::invertedBox(const QString& name, ModePage page)
+{
+    auto* box = named(new QCheckBox("Inverted"), name);
+    connect(box, &QCheckBox::clicked, this, [this, box, page](bool checked) {
+        guard((checked ? "checking " : "unchecking ") + controlName(box).toStdString(),
+              [&] { setInverted(pin(), page, checked); });
+    });
+    return box;
+}
+
 QLineEdit* PinConfigPage::fieldBox(PinField field, const QString& name)
 {
     auto* box = named(new QLineEdit("0"), name);
@@ -242,13 +262,7 @@ QWidget* PinConfigPage::buildServoPage()
     layout->setRowStretch(3, 1);
     layout->setColumnStretch(0, 1);
 
-    connect(TextPosition, &QLineEdit::editingFinished, this, [this] {
-        const int value = liveValue(PinField::TextPosition); // the slider follows without sending
-        const QSignalBlocker block(SliderServo);
-        SliderServo->setValue(value);
-    });
-    connect(SliderServo, &QSlider::sliderMoved, this,
-            [this](int v) { TextPosition->setText(QString::number(v)); });
+    followEachOther(TextPosition, PinField::TextPosition, SliderServo);
     connect(SliderServo, &QSlider::valueChanged, this, &PinConfigPage::SliderServo_Change);
     connect(CommandSrvLevel, &QPushButton::clicked, this, &PinConfigPage::CommandSrvLevel_Click);
     connect(CommandStopSrv, &QPushButton::clicked, this, &PinConfigPage::CommandStopSrv_Click);
@@ -260,11 +274,7 @@ QWidget* PinConfigPage::buildPwmPage()
     auto* page = named(new QWidget, "PagePCFGPWM");
     auto* layout = new QGridLayout(page);
 
-    CheckPWMInverted = named(new QCheckBox("Inverted"), "CheckPWMInverted");
-    connect(CheckPWMInverted, &QCheckBox::clicked, this, [this](bool checked) {
-        guard((checked ? "checking " : "unchecking ") + controlName(CheckPWMInverted).toStdString(),
-              [&] { setInverted(pin(), ModePage::Pwm, checked); });
-    });
+    CheckPWMInverted = invertedBox("CheckPWMInverted", ModePage::Pwm);
 
     TextPWMLevel = named(new QLineEdit("0"), "TextPWMLevel");
     TextPWMLevel->setFixedWidth(48);
@@ -328,13 +338,7 @@ QWidget* PinConfigPage::buildPwmPage()
     layout->setColumnStretch(0, 1);
     layout->setRowStretch(1, 1);
 
-    connect(TextPWMLevel, &QLineEdit::editingFinished, this, [this] {
-        const int value = liveValue(PinField::TextPWMLevel); // the slider follows without sending
-        const QSignalBlocker block(SliderPWM);
-        SliderPWM->setValue(value);
-    });
-    connect(SliderPWM, &QSlider::sliderMoved, this,
-            [this](int v) { TextPWMLevel->setText(QString::number(v)); });
+    followEachOther(TextPWMLevel, PinField::TextPWMLevel, SliderPWM);
     connect(SliderPWM, &QSlider::valueChanged, this, &PinConfigPage::SliderPWM_Change);
     connect(CommandPWMLevel, &QPushButton::clicked, this, &PinConfigPage::CommandPWMLevel_Click);
     connect(CommandPWMJump, &QPushButton::clicked, this, &PinConfigPage::CommandPWMJump_Click);
@@ -345,11 +349,7 @@ QWidget* PinConfigPage::buildInputPage()
 {
     auto* page = named(new QWidget, "PagePCFGInput");
     auto* layout = new QVBoxLayout(page);
-    CheckInputInvert = named(new QCheckBox("Inverted"), "CheckInputInvert");
-    connect(CheckInputInvert, &QCheckBox::clicked, this, [this](bool checked) {
-        guard((checked ? "checking " : "unchecking ") + controlName(CheckInputInvert).toStdString(),
-              [&] { setInverted(pin(), ModePage::Input, checked); });
-    });
+    CheckInputInvert = invertedBox("CheckInputInvert", ModePage::Input);
     layout->addWidget(CheckInputInvert);
 
     auto* frame = named(new QGroupBox("Debounce"), "FrameInputDelay");

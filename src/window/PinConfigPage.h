@@ -3,6 +3,7 @@
 #include "session/Session.h"
 #include "window/Bindings.h"
 #include "window/Guard.h"
+#include "window/WidgetsFwd.h"
 
 #include <QWidget>
 #include <functional>
@@ -12,15 +13,6 @@
 #include <vector>
 
 #include <QSignalBlocker>
-
-class QCheckBox;
-class QLabel;
-class QLineEdit;
-class QPushButton;
-class QRadioButton;
-class QSlider;
-class QSpinBox;
-class QTabWidget;
 
 namespace kestrel {
 
@@ -119,6 +111,11 @@ private:
     QWidget* buildPwmPage();
     QWidget* buildInputPage();
     QLineEdit* fieldBox(PinField field, const QString& name);
+    // The "Inverted" box of a page: a click sets the mode inverted or not.
+    QCheckBox* invertedBox(const QString& name, ModePage page);
+    // A live box and its slider: a box left moves the slider (sending nothing), a slider
+    // dragged writes the box.
+    void followEachOther(QLineEdit* box, PinField field, QSlider* slider);
     PinRecord& pin();
     // The handler of an edit box: clamped, written back and stored.
     void commitField(PinField field);

@@ -39,7 +39,7 @@ PinOverviewPage::PinOverviewPage(Session& s, QWidget* parent) : QWidget(parent),
     refresh();
 }
 
-void PinOverviewPage::refresh()
+void PinOverviewPage::refresh() const
 {
     const auto rows = pinOverview(session.config, session.general);
     for (int p = 0; p < kPinCount; ++p) {

@@ -17,7 +17,7 @@ public:
     explicit PinOverviewPage(Session& session, QWidget* parent = nullptr);
 
     // Fills the table again from the session and selects the row of CurrentPin.
-    void refresh();
+    void refresh() const;
     // Called after a chosen row has set session.config.CurrentPin: the window shows that pin everywhere.
     std::function<void()> onPinChosen;
 

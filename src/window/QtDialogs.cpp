@@ -9,22 +9,17 @@
 #include <QPushButton>
 #include <QRegularExpression>
 
+#include <utility>
+
 namespace kestrel {
 
 namespace {
 QMessageBox::Icon qtIcon(Icon icon)
 {
-    switch (icon) {
-    case Icon::Warning:
-        return QMessageBox::Warning;
-    case Icon::Information:
-        return QMessageBox::Information;
-    case Icon::Question:
-        return QMessageBox::Question;
-    case Icon::None:
-        break;
-    }
-    return QMessageBox::NoIcon;
+    // As Icon: None, Warning, Information, Question.
+    static const QMessageBox::Icon icons[] = {QMessageBox::NoIcon, QMessageBox::Warning,
+                                              QMessageBox::Information, QMessageBox::Question};
+    return icons[static_cast<int>(icon)];
 }
 
 // "Kestrel Config Data|*.dat" -> "Kestrel Config Data (*.dat)"
@@ -109,20 +104,17 @@ Answer QtDialogs::ask(const std::string& text, Buttons buttons, Icon icon)
     QMessageBox box(qtIcon(icon), QApplication::applicationDisplayName(), QString::fromLatin1(text.c_str()),
                     set, owner());
     box.setObjectName("dlgQuestion");
-    switch (showBox(box)) {
-    case QMessageBox::Ok:
-        return Answer::Ok;
-    case QMessageBox::Yes:
-        return Answer::Yes;
-    case QMessageBox::No:
-        return Answer::No;
-    case QMessageBox::Save:
-        return Answer::Save;
-    case QMessageBox::Discard:
-        return Answer::Discard;
-    default:
-        return Answer::Cancel;
-    }
+    const int clicked = showBox(box);
+    static const std::pair<QMessageBox::StandardButton, Answer> answers[] = {
+        {QMessageBox::Ok, Answer::Ok},
+        {QMessageBox::Yes, Answer::Yes},
+        {QMessageBox::No, Answer::No},
+        {QMessageBox::Save, Answer::Save},
+        {QMessageBox::Discard, Answer::Discard}};
+    for (const auto& [button, answer] : answers)
+        if (clicked == static_cast<int>(button))
+            return answer;
+    return Answer::Cancel; // Cancel, or the window closed
 }
 
 QString QtDialogs::withDefaultSuffix(const QString& name, const std::string& filter)

@@ -149,7 +149,7 @@ bool TrafficMonitor::passes(const Line& line) const
     return filter == kAllCommands || filter == line.command;
 }
 
-void TrafficMonitor::addRow(const Line& line)
+void TrafficMonitor::addRow(const Line& line) const
 {
     const int row = grdMonitor->rowCount();
     grdMonitor->insertRow(row);

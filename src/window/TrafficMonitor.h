@@ -48,7 +48,7 @@ private:
     };
     void received(FrameDirection direction, FrameRoute route, const std::vector<int>& bytes);
     bool passes(const Line& line) const;
-    void addRow(const Line& line);
+    void addRow(const Line& line) const;
     void refill();
     void clear();
     void save();
