@@ -104,12 +104,6 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     // Alt+Shift+S is not the button's own letter: it saves compact as Shift+click does.
     connect(new QShortcut(QKeySequence(Qt::ALT | Qt::SHIFT | Qt::Key_S), this), &QShortcut::activated, this,
             [this] { CommandSave_MouseDown(1, 1); });
-    for (auto [button, job] : {std::pair{CommandReadAllPins, Jobs::ReadAllPins},
-                               {CommandWriteAllPins, Jobs::WriteAllPins},
-                               {CommandVerifyAllPins, Jobs::VerifyAllPins},
-                               {CommandWriteChanges, Jobs::WriteChanges},
-                               {CommandCompare, Jobs::CompareModule}})
-        connect(button, &QPushButton::clicked, this, [this, job] { startJob(job); });
     connect(CommandLoad, &QPushButton::clicked, this, [this] { (*guard)([this] { CommandLoad_Click(); }); });
     connect(CommandReadAll, &QPushButton::clicked, this, &KestrelConfig::CommandReadAll_Click);
     connect(CommandWriteAll, &QPushButton::clicked, this, &KestrelConfig::CommandWriteAll_Click);
@@ -130,10 +124,6 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     layoutPage = new LayoutPage(*core, kept);
     tabs->addTab(layoutPage, "Layout");
     layoutPage->onModuleChosen = [this](const FoundModule& m) { chooseModule(m); };
-    for (auto [button, job] : {std::pair{layoutPage->CommandFindModules, Jobs::FindModules},
-                               {layoutPage->CommandBackUpAll, Jobs::BackUpAll},
-                               {layoutPage->CommandCheckAll, Jobs::CheckAll}})
-        connect(button, &QPushButton::clicked, this, [this, job] { startJob(job); });
     layout->addWidget(tabs, 1);
     // One pin selection for the whole window: a pin chosen on one page is shown on all.
     eventPage->onPinChosen = [this] { refreshAll(); };
@@ -150,12 +140,7 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     };
     connect(tabs, &QTabWidget::currentChanged, this, [this] { refreshAll(); });
 
-    LabelAction = named(new QLabel("Working ... Please WAIT"), "LabelAction");
-    LabelAction->setStyleSheet("color: #b00000; font-weight: bold;");
-    QSizePolicy keepRoom = LabelAction->sizePolicy();
-    keepRoom.setRetainSizeWhenHidden(true); // the notice does not resize the window
-    LabelAction->setSizePolicy(keepRoom);
-    LabelAction->hide();
+    LabelAction = workingNotice();
     layout->addWidget(LabelAction);
     setCentralWidget(central);
 
@@ -170,29 +155,7 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
 
     core->link.onTextResponse = [this](const std::string& t) { TextResponse->setText(latin1(t)); };
     core->link.onSettingsChanged = [this] { refreshLinkDisplays(); };
-    core->link.onCorvidLog = [this](const std::string& line) {
-        ensureCorvidWindow();
-        txtCorvidCommunication->appendPlainText(latin1(line));
-        // Shown when first written to; once the user has closed it, it stays closed
-        // until View > Corvid Log opens it again.
-        if (!frmCorvidComm->isVisible() && !corvidLogDismissed)
-            frmCorvidComm->show();
-    };
-
-    core->report.onClear = [this] {
-        ensureVerificationWindow();
-        txtVerification->clear();
-    };
-    core->report.onLine = [this](const std::string& line) {
-        ensureVerificationWindow();
-        txtVerification->appendPlainText(latin1(line));
-        runner->reportLine(line);
-    };
-    core->onShowVerification = [this] {
-        ensureVerificationWindow();
-        frmKestrelVerification->show();
-        frmKestrelVerification->raise();
-    };
+    LogWindows::attach(*this);
 
     runner = new JobRunner(*core, *guard, jobs,
                            {this, LabelAction, LabelStatusJob, CheckWritePinConfig, [this] { commitAll(); },
@@ -328,24 +291,6 @@ void KestrelConfig::CommandSave_MouseDown(int button, int shift)
 void KestrelConfig::saveFile(const QString& path, bool compact) { files->save(path, compact); }
 
 void KestrelConfig::about() { MainMenus::about(this); }
-
-void KestrelConfig::ensureVerificationWindow()
-{
-    if (!frmKestrelVerification)
-        frmKestrelVerification = makeVerificationWindow(this, txtVerification);
-}
-
-void KestrelConfig::ensureCorvidWindow()
-{
-    if (frmCorvidComm)
-        return;
-    frmCorvidComm = makeCorvidWindow(this, txtCorvidCommunication, cmdClear);
-    connect(cmdClear, &QPushButton::clicked, this, [this] {
-        txtCorvidCommunication->clear();
-        core->link.txtCorvidCommunication.clear();
-    });
-    connect(frmCorvidComm, &QDialog::finished, this, [this] { corvidLogDismissed = true; });
-}
 
 void KestrelConfig::refreshLinkDisplays() { linkArea->refresh(); }
 

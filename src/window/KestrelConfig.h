@@ -190,6 +190,7 @@ protected:
 
 private:
     // The parts that build on the window's controls.
+    friend class LogWindows;
     friend class MainMenus;
     friend class ModuleJobs;
     friend class WindowSettings;
@@ -205,8 +206,6 @@ private:
     // Over unsaved changes: Save / Discard / Cancel. True when the caller may go on.
     bool keepChangesSafe(const char* doing);
     void startJob(JobName name);
-    void ensureVerificationWindow();
-    void ensureCorvidWindow();
 
     QtDialogs boxes;
     std::unique_ptr<ProgramSession> program;

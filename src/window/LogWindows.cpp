@@ -1,4 +1,7 @@
 #include "window/LogWindows.h"
+#include "window/Bindings.h"
+#include "window/JobRunner.h"
+#include "window/KestrelConfig.h"
 #include "window/Widgets.h"
 
 #include <QDialog>
@@ -43,6 +46,49 @@ QDialog* makeCorvidWindow(QWidget* parent, QPlainTextEdit*& text, QPushButton*& 
     l->addWidget(clear);
     window->resize(480, 360);
     return window;
+}
+
+void LogWindows::ensureVerificationWindow(KestrelConfig& w)
+{
+    if (!w.frmKestrelVerification)
+        w.frmKestrelVerification = makeVerificationWindow(&w, w.txtVerification);
+}
+
+void LogWindows::ensureCorvidWindow(KestrelConfig& w)
+{
+    if (w.frmCorvidComm)
+        return;
+    w.frmCorvidComm = makeCorvidWindow(&w, w.txtCorvidCommunication, w.cmdClear);
+    QObject::connect(w.cmdClear, &QPushButton::clicked, &w, [&w] {
+        w.txtCorvidCommunication->clear();
+        w.core->link.txtCorvidCommunication.clear();
+    });
+    QObject::connect(w.frmCorvidComm, &QDialog::finished, &w, [&w] { w.corvidLogDismissed = true; });
+}
+
+void LogWindows::attach(KestrelConfig& w)
+{
+    Session& s = *w.core;
+    s.link.onCorvidLog = [&w](const std::string& line) {
+        ensureCorvidWindow(w);
+        w.txtCorvidCommunication->appendPlainText(latin1(line));
+        if (!w.frmCorvidComm->isVisible() && !w.corvidLogDismissed)
+            w.frmCorvidComm->show();
+    };
+    s.report.onClear = [&w] {
+        ensureVerificationWindow(w);
+        w.txtVerification->clear();
+    };
+    s.report.onLine = [&w](const std::string& line) {
+        ensureVerificationWindow(w);
+        w.txtVerification->appendPlainText(latin1(line));
+        w.runner->reportLine(line);
+    };
+    s.onShowVerification = [&w] {
+        ensureVerificationWindow(w);
+        w.frmKestrelVerification->show();
+        w.frmKestrelVerification->raise();
+    };
 }
 
 } // namespace kestrel

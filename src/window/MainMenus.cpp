@@ -1,4 +1,5 @@
 #include "window/MainMenus.h"
+#include "window/LogWindows.h"
 
 #include "window/AspectsPage.h"
 #include "window/EditHistory.h"
@@ -23,7 +24,7 @@ namespace kestrel {
 
 void MainMenus::build(KestrelConfig& w)
 {
-    auto add = [&w](QMenu* menu, const QString& text, auto handler, QKeySequence keys = {}) {
+    auto add = [&w](QMenu* menu, const QString& text, auto handler, const QKeySequence& keys = {}) {
         QAction* action = menu->addAction(text, &w, handler);
         action->setShortcut(keys);
         return action;
@@ -105,7 +106,7 @@ void MainMenus::build(KestrelConfig& w)
 
     QMenu* view = w.menuView = w.menuBar()->addMenu("&View");
     add(view, "&Corvid Log", [&w] {
-        w.ensureCorvidWindow();
+        LogWindows::ensureCorvidWindow(w);
         w.corvidLogDismissed = false;
         w.frmCorvidComm->show();
         w.frmCorvidComm->raise();

@@ -161,6 +161,7 @@ void ModuleJobs::addLayoutJobs(KestrelConfig& w)
         });
         page.backedUp(results);
         std::vector<SummaryRow> rows;
+        rows.reserve(results.size());
         for (const ModuleBackup& b : results)
             rows.push_back(summaryRow(b, s.config.NumberingBase));
         page.showSummary("Back Up All", latin1(summaryTable(rows)));
@@ -191,6 +192,20 @@ void ModuleJobs::addLayoutJobs(KestrelConfig& w)
 
 void ModuleJobs::setButtons(KestrelConfig& w)
 {
+    // The buttons that do nothing but start their job.
+    const std::pair<QPushButton*, JobName> starters[] = {
+        {w.CommandReadAllPins, Jobs::ReadAllPins},
+        {w.CommandWriteAllPins, Jobs::WriteAllPins},
+        {w.CommandVerifyAllPins, Jobs::VerifyAllPins},
+        {w.CommandWriteChanges, Jobs::WriteChanges},
+        {w.CommandCompare, Jobs::CompareModule},
+        {w.layoutPage->CommandFindModules, Jobs::FindModules},
+        {w.layoutPage->CommandBackUpAll, Jobs::BackUpAll},
+        {w.layoutPage->CommandCheckAll, Jobs::CheckAll}};
+    for (const auto& starter : starters) {
+        const JobName job = starter.second;
+        QObject::connect(starter.first, &QPushButton::clicked, &w, [&w, job] { w.startJob(job); });
+    }
     const AspectsPage& a = *w.aspectsPage;
     const EventPage& e = *w.eventPage;
     const GeneralPage& g = *w.generalPage;

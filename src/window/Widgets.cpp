@@ -94,6 +94,17 @@ bool NumberEntry::eventFilter(QObject* watched, QEvent* event)
     return QWidget::eventFilter(watched, event);
 }
 
+QLabel* workingNotice()
+{
+    auto* label = named(new QLabel("Working ... Please WAIT"), "LabelAction");
+    label->setStyleSheet("color: #b00000; font-weight: bold;");
+    QSizePolicy keepRoom = label->sizePolicy();
+    keepRoom.setRetainSizeWhenHidden(true);
+    label->setSizePolicy(keepRoom);
+    label->hide();
+    return label;
+}
+
 void addStatusFields(QStatusBar* bar, std::initializer_list<QLabel**> fields,
                      std::initializer_list<const char*> names)
 {

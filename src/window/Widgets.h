@@ -25,6 +25,10 @@ inline QString indexed(const char* name, int i) { return QString("%1_%2").arg(na
 // scrolling (and the window's minimum size stays small).
 QWidget* scrolledContent(QWidget* page);
 
+// "Working ... Please WAIT" (LabelAction), hidden; shown while a job runs, in room kept for
+// it so that the window does not change its size.
+QLabel* workingNotice();
+
 // A status bar's fields, named, with a line between each two; the last takes the room left.
 void addStatusFields(QStatusBar* bar, std::initializer_list<QLabel**> fields,
                      std::initializer_list<const char*> names);
