@@ -155,7 +155,7 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
 
     core->link.onTextResponse = [this](const std::string& t) { TextResponse->setText(latin1(t)); };
     core->link.onSettingsChanged = [this] { refreshLinkDisplays(); };
-    LogWindows::attach(*this);
+    attachLogWindows(*this);
 
     runner = new JobRunner(*core, *guard, jobs,
                            {this, LabelAction, LabelStatusJob, CheckWritePinConfig, [this] { commitAll(); },

@@ -190,7 +190,9 @@ protected:
 
 private:
     // The parts that build on the window's controls.
-    friend class LogWindows;
+    friend void attachLogWindows(KestrelConfig&);
+    friend void ensureVerificationWindow(KestrelConfig&);
+    friend void ensureCorvidWindow(KestrelConfig&);
     friend class MainMenus;
     friend class ModuleJobs;
     friend class WindowSettings;

@@ -48,13 +48,13 @@ QDialog* makeCorvidWindow(QWidget* parent, QPlainTextEdit*& text, QPushButton*& 
     return window;
 }
 
-void LogWindows::ensureVerificationWindow(KestrelConfig& w)
+void ensureVerificationWindow(KestrelConfig& w)
 {
     if (!w.frmKestrelVerification)
         w.frmKestrelVerification = makeVerificationWindow(&w, w.txtVerification);
 }
 
-void LogWindows::ensureCorvidWindow(KestrelConfig& w)
+void ensureCorvidWindow(KestrelConfig& w)
 {
     if (w.frmCorvidComm)
         return;
@@ -66,7 +66,7 @@ void LogWindows::ensureCorvidWindow(KestrelConfig& w)
     QObject::connect(w.frmCorvidComm, &QDialog::finished, &w, [&w] { w.corvidLogDismissed = true; });
 }
 
-void LogWindows::attach(KestrelConfig& w)
+void attachLogWindows(KestrelConfig& w)
 {
     Session& s = *w.core;
     s.link.onCorvidLog = [&w](const std::string& line) {

@@ -12,12 +12,9 @@ class KestrelConfig;
 // What the window shows of the link's Corvid log and of the verification report: each
 // window is made on first use; the Corvid log opens when first written to and, once the
 // user has closed it, stays closed until View > Corvid Log opens it again.
-class LogWindows {
-public:
-    static void attach(KestrelConfig& window);
-    static void ensureVerificationWindow(KestrelConfig& window);
-    static void ensureCorvidWindow(KestrelConfig& window);
-};
+void attachLogWindows(KestrelConfig& window);
+void ensureVerificationWindow(KestrelConfig& window);
+void ensureCorvidWindow(KestrelConfig& window);
 
 // The window's two text windows, each made on first use and kept by the window.
 // The verification report ("frmKestrelVerification"), its read-only text `text`.

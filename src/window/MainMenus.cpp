@@ -106,7 +106,7 @@ void MainMenus::build(KestrelConfig& w)
 
     QMenu* view = w.menuView = w.menuBar()->addMenu("&View");
     add(view, "&Corvid Log", [&w] {
-        LogWindows::ensureCorvidWindow(w);
+        ensureCorvidWindow(w);
         w.corvidLogDismissed = false;
         w.frmCorvidComm->show();
         w.frmCorvidComm->raise();
