@@ -37,6 +37,25 @@ void AspectTimeline::showTimeline(Timeline timeline, int currentAspect, int curr
 {
     const bool resized = timeline.rows.size() != shown.rows.size();
     shown = std::move(timeline);
+    int plain = 0;
+    for (const TimelineRow& row : shown.rows) {
+        int length = 0;
+        for (const TimelineBlock& b : row.blocks)
+            length += b.overflow ? 0 : b.width;
+        plain = std::max(plain, length);
+    }
+    painted.clear();
+    paintedLongest = 0;
+    for (const TimelineRow& row : shown.rows) {
+        int at = 0;
+        auto& places = painted.emplace_back();
+        for (const TimelineBlock& b : row.blocks) {
+            const int ticks = b.overflow ? std::max(plain, kShortestScale) : b.width;
+            places.emplace_back(at, ticks);
+            at += ticks;
+        }
+        paintedLongest = std::max(paintedLongest, at);
+    }
     aspect = currentAspect;
     step = currentStep;
     QStringList rows;
@@ -52,12 +71,12 @@ void AspectTimeline::showTimeline(Timeline timeline, int currentAspect, int curr
     update();
 }
 
-int AspectTimeline::rowHeight() const { return shown.rows.size() > 4 ? 20 : 34; }
+int AspectTimeline::rowHeight() const { return shown.rows.size() > 4 ? 17 : 34; }
 
 double AspectTimeline::pixelsPerTick() const
 {
     const int room = width() - kLabelWidth - kRightMargin - shown.mostMarks * kMarkWidth;
-    return std::max(room, 1) / double(std::max(shown.longest, kShortestScale));
+    return std::max(room, 1) / double(std::max(paintedLongest, kShortestScale));
 }
 
 QRect AspectTimeline::blockRect(int row, int index) const
@@ -67,11 +86,12 @@ QRect AspectTimeline::blockRect(int row, int index) const
     for (int i = 0; i < index; ++i)
         marks += r.blocks[static_cast<std::size_t>(i)].waits() ? 0 : 1;
     const TimelineBlock& b = r.blocks.at(static_cast<std::size_t>(index));
+    const auto [start, ticks] = painted.at(static_cast<std::size_t>(row)).at(static_cast<std::size_t>(index));
     const double scale = pixelsPerTick();
-    const int left = kLabelWidth + marks * kMarkWidth + static_cast<int>(std::lround(b.start * scale));
-    const int right = b.waits() ? kLabelWidth + marks * kMarkWidth +
-                                      static_cast<int>(std::lround((b.start + b.width) * scale))
-                                : left + kMarkWidth;
+    const int left = kLabelWidth + marks * kMarkWidth + static_cast<int>(std::lround(start * scale));
+    const int right =
+        b.waits() ? kLabelWidth + marks * kMarkWidth + static_cast<int>(std::lround((start + ticks) * scale))
+                  : left + kMarkWidth;
     const int top = kTopMargin + row * rowHeight() + 2;
     return {left, top, std::max(right - left - 1, 1), rowHeight() - 4};
 }
@@ -146,22 +166,25 @@ void AspectTimeline::paintEvent(QPaintEvent*)
             }
             p.fillRect(box, kWaitColor);
             if (b.overflow)
-                p.fillRect(box.adjusted(0, 0, 0, -5), QBrush(kOverflowColor, Qt::BDiagPattern));
+                p.fillRect(box.adjusted(0, 0, 0, h > 30 ? -5 : 0), QBrush(kOverflowColor, Qt::BDiagPattern));
             // The text keeps off the block's lowest pixels.
-            const QRect textBox = box.adjusted(3, 1, -2, -5);
+            const QRect textBox = h > 30 ? box.adjusted(3, 1, -2, -5) : box.adjusted(3, -1, -2, 1);
             const QString text =
                 h > 30 ? latin1(b.name) + "\n" + latin1(b.key) : latin1(b.name) + " " + latin1(b.key);
             QStringList lines;
             for (const QString& line : text.split('\n'))
                 lines << metrics.elidedText(line, Qt::ElideRight, textBox.width());
             p.setPen(b.overflow ? kOverflowColor : palette().text().color());
-            p.drawText(textBox, Qt::AlignLeft | Qt::AlignTop, lines.join('\n'));
+            p.drawText(textBox, Qt::AlignLeft | (h > 30 ? Qt::AlignTop : Qt::AlignVCenter), lines.join('\n'));
         }
         if (!row.blocks.empty()) {
             const QRect last = blockRect(r, static_cast<int>(row.blocks.size()) - 1);
             p.setPen(palette().placeholderText().color());
             p.drawText(QRect(last.right() + 4, band.top(), 200, h), Qt::AlignVCenter,
-                       latin1(durationText(std::min(row.length, kLongestStep))));
+                       std::any_of(row.blocks.begin(), row.blocks.end(),
+                                   [](const TimelineBlock& b) { return b.overflow; })
+                           ? QString(kTimeOverflow)
+                           : latin1(durationText(row.length)));
         }
     }
     // The selected step, framed.

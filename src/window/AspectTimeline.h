@@ -5,6 +5,7 @@
 #include <QRect>
 #include <QWidget>
 #include <utility>
+#include <vector>
 
 namespace kestrel {
 
@@ -23,7 +24,8 @@ public:
 
     // The geometry the picture is painted with. A block starts at its start in ticks
     // times pixelsPerTick() plus kMarkWidth for each mark before it in its row, after the
-    // kLabelWidth of the row's caption.
+    // kLabelWidth of the row's caption; a hatched block is as wide as the longest row
+    // without one.
     static constexpr int kLabelWidth = 64;
     static constexpr int kMarkWidth = 6;
     static constexpr int kTopMargin = 18; // the scale bar
@@ -53,6 +55,10 @@ protected:
 private:
     QString describe(const TimelineBlock& block) const;
     Timeline shown;
+    // Start and width in ticks of each block as painted: a time too long for the module is
+    // as wide as the longest row without such times, so that it leaves room for the rest.
+    std::vector<std::vector<std::pair<int, int>>> painted;
+    int paintedLongest = 0;
     int aspect = 0;
     int step = 0;
 };

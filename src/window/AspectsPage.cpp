@@ -291,6 +291,8 @@ QWidget* AspectsPage::buildAspectArea()
     TimelinePAsp = named(new AspectTimeline, "TimelinePAsp");
     auto* program = new QHBoxLayout;
     program->addLayout(grid);
+    program->setAlignment(grid, Qt::AlignTop);
+    program->addSpacing(12);
     program->addWidget(TimelinePAsp, 1, Qt::AlignTop);
     layout->addLayout(program);
     connect(TimelinePAsp, &AspectTimeline::stepClicked, this, &AspectsPage::TimelinePAsp_Click);
