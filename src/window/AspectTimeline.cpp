@@ -28,7 +28,6 @@ AspectTimeline::AspectTimeline(QWidget* parent) : QWidget(parent)
 {
     setObjectName("AspectTimeline");
     setAccessibleName("Aspect timeline");
-    setMouseTracking(false);
     setFocusPolicy(Qt::NoFocus); // the step rows beside it take the keyboard
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
