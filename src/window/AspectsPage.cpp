@@ -1,9 +1,11 @@
 #include "window/AspectsPage.h"
 
 #include "base/Text.h"
+#include "forms/AspectTimeline.h"
 #include "forms/DevicesForm.h"
 #include "model/AddressIndex.h"
 #include "model/InstructionSet.h"
+#include "window/AspectTimeline.h"
 #include "window/EditTools.h"
 #include "window/HelpToolDialogs.h"
 #include "window/Widgets.h"
@@ -286,7 +288,14 @@ QWidget* AspectsPage::buildAspectArea()
         });
     }
     grid->setColumnStretch(8, 1);
-    layout->addLayout(grid);
+    TimelinePAsp = named(new AspectTimeline, "TimelinePAsp");
+    auto* program = new QHBoxLayout;
+    program->addLayout(grid);
+    program->setAlignment(grid, Qt::AlignTop);
+    program->addSpacing(12);
+    program->addWidget(TimelinePAsp, 1, Qt::AlignTop);
+    layout->addLayout(program);
+    connect(TimelinePAsp, &AspectTimeline::stepClicked, this, &AspectsPage::TimelinePAsp_Click);
 
     auto* buttons = new QHBoxLayout;
     CheckPAspShowDetails = named(new QCheckBox("Show Details"), "CheckPAspShowDetails");
@@ -443,9 +452,11 @@ void AspectsPage::bind()
                     view.rows[r].parameters[p].text = e.text;
                     view.rows[r].timeText = e.timeText;
                     LabelPAspTime[r]->setText(latin1(e.timeText));
+                    showTimeline();
                 });
         b.display([this, r] { showRow(r); });
     }
+    b.display([this] { showTimeline(); });
 
     b.display([this, &c] {
         UpDownPAspOutput->setRange(c.NumberingBase, c.NumberingBase + kPinCount - 1);
@@ -530,6 +541,25 @@ void AspectsPage::showDetails()
     for (QWidget* w : std::initializer_list<QWidget*>{CommandPAspWriteAspect, CommandPAspTestAspect,
                                                       LabelPAspHStep, LabelPAspHInst})
         w->setVisible(details && aspects);
+}
+
+void AspectsPage::showTimeline()
+{
+    const Configuration& c = session.config;
+    TimelinePAsp->setVisible(view.layout.aspectControlsVisible);
+    TimelinePAsp->showTimeline(aspectTimeline(c), c.CurrentAspect, c.CurrentStep);
+}
+
+void AspectsPage::TimelinePAsp_Click(int aspect, int stepIndex)
+{
+    commitPending();
+    guard("choosing a step in the timeline", [this, aspect, stepIndex] {
+        if (aspect != session.config.CurrentAspect)
+            selectAspect(session.config, std::to_string(aspect));
+        selectStepRow(session.config, stepIndex);
+    });
+    refresh();
+    ComboPAspInst[stepIndex]->setFocus(Qt::MouseFocusReason);
 }
 
 void AspectsPage::CheckPAspShowDetails_Click()

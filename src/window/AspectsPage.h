@@ -20,6 +20,7 @@ class TimeToolDialog;
 class PatternToolDialog;
 class EventPatternToolDialog;
 class LevelToolDialog;
+class AspectTimeline;
 
 // The aspect page: CurrentPin's description, device, aspect layout, address counts and
 // initial aspect, and the program of the selected aspect as nine step rows; the pin,
@@ -31,7 +32,9 @@ class LevelToolDialog;
 // Every edit goes straight into the model. The page shows what ShowAspect gives: after a
 // selection, a layout change, a tool, a read or a load the whole page; after an edit in
 // a step row only that row and the column headings, which take the captions of the
-// instruction normalised last.
+// instruction normalised last. Beside the rows, TimelinePAsp pictures the pin's aspects
+// over time; it follows every showing and every taken entry, and a click on a step in it
+// selects that aspect and step and puts the focus on the step's row.
 class AspectsPage : public QWidget {
     Q_OBJECT
 public:
@@ -101,6 +104,7 @@ public:
     QLineEdit* TextPAspPar2[kStepRows];
     QLineEdit* TextPAspPar3[kStepRows];
     QLabel* LabelPAspTime[kStepRows];
+    AspectTimeline* TimelinePAsp;
 
     QCheckBox* CheckPAspShowDetails;
     QPushButton* CommandPAspReadPin;
@@ -150,6 +154,8 @@ public slots:
     // The step row (0..8) a tool acts on from the Edit menu.
     int focusedStepRow() const;
     void CheckPAspShowDetails_Click();
+    // A click on a step in the timeline.
+    void TimelinePAsp_Click(int aspect, int step);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -169,6 +175,7 @@ private:
     void showRow(int row);
     void showHeadings();
     void showDetails();
+    void showTimeline();
     // After a tool or a device load: the page and, through onPinChosen, the window.
     void pinReplaced();
     StepRecord& step(int row);

@@ -2,6 +2,7 @@
 #include "window/AspectsPage.h"
 #include "gui/GuiRig.h"
 #include "model/PinTools.h"
+#include "window/AspectTimeline.h"
 #include "window/EventPage.h"
 
 #include <QAbstractItemView>
@@ -308,4 +309,24 @@ TEST(AspectsPage, EveryPinJobRunsFromItsButton)
     m.page.refresh();
     EXPECT_EQ(m.dialogs.texts().size(), 1u);
     m.config.CurrentAspect = 0;
+}
+
+TEST(AspectsPage, TheTimelineFollowsEditsAndAClickSelectsItsStep)
+{
+    AspectsRig m;
+    QTest::mouseClick(m.page.OptionPAspConf[1], Qt::LeftButton); // "4"
+    m.choose(0, "Wait");
+    type(m.page.TextPAspPar2[0], "50");
+    const Timeline& shown = m.page.TimelinePAsp->timeline();
+    ASSERT_EQ(shown.rows[0].blocks.size(), 1u);
+    EXPECT_EQ(shown.rows[0].blocks[0].width, 50);
+
+    m.config.step(1, 2, 0) = {9, 0, 0, 0, 0, 0};
+    m.config.step(1, 2, 1) = {102, 0, 0, 0, 10, 1};
+    m.page.refresh();
+    m.activate();
+    QTest::mouseClick(m.page.TimelinePAsp, Qt::LeftButton, {}, m.page.TimelinePAsp->blockRect(2, 1).center());
+    EXPECT_EQ(std::tuple(m.config.CurrentAspect, m.config.CurrentStep, m.page.TextPAspAspect->text(),
+                         QApplication::focusWidget() == m.page.ComboPAspInst[1]),
+              std::tuple(2, 1, "2", true));
 }
