@@ -36,7 +36,7 @@ public:
         QCheckBox* writePinConfig;    // "Write pin configurations too"
         std::function<void()> commit; // takes the pages' unfinished entries
         std::function<void()> show;   // shows the session on every page, once a job has ended
-        std::function<bool(const QWidget*)> watches; // a window that only watches (traffic, report)
+        std::function<bool(const QWidget*)> watches; // a window that only watches (traffic, report, guide)
     };
     JobRunner(Session& session, Guard& guard, JobDispatcher& jobs, Window window);
 

@@ -18,6 +18,7 @@
 #include "window/PinConfigPage.h"
 #include "window/PinOverview.h"
 #include "window/TrafficMonitor.h"
+#include "window/UserGuide.h"
 #include "window/Widgets.h"
 #include "window/WindowSettings.h"
 
@@ -162,7 +163,8 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
                             [this] { refreshAll(); },
                             [this](const QWidget* w) {
                                 return w == frmTrafficMonitor || w == frmKestrelVerification ||
-                                       w == frmCorvidComm || w == layoutPage->frmLayoutSummary;
+                                       w == frmCorvidComm || w == layoutPage->frmLayoutSummary ||
+                                       w == frmUserGuide;
                             }});
     ModuleJobs::add(*this);
     Timer1 = new QTimer(this);

@@ -38,6 +38,7 @@ class PinConfigPage;
 class AspectsPage;
 class PinOverviewPage;
 class TrafficMonitor;
+class UserGuide;
 class CompareDialog;
 class EditHistory;
 class LinkArea;
@@ -125,9 +126,13 @@ public:
     // The differences of the last "Compare with Module", made on first use and kept.
     CompareDialog* frmCompare = nullptr;
 
-    // The verification report window
+    // The verification report window; its Show Differences runs Compare with Module.
     QDialog* frmKestrelVerification = nullptr;
     QPlainTextEdit* txtVerification = nullptr;
+    QPushButton* CommandShowDifferences = nullptr;
+
+    // The user guide (Help > User Guide, F1), made on first use and kept.
+    UserGuide* frmUserGuide = nullptr;
 
     // The status bar: the port, and what the last job did.
     QLabel* LabelStatusPort;

@@ -27,11 +27,15 @@ QVBoxLayout* textWindow(QDialog*& window, QWidget* parent, const char* name, con
 }
 } // namespace
 
-QDialog* makeVerificationWindow(QWidget* parent, QPlainTextEdit*& text)
+QDialog* makeVerificationWindow(QWidget* parent, QPlainTextEdit*& text, QPushButton*& showDifferences)
 {
     QDialog* window = nullptr;
-    textWindow(window, parent, "frmKestrelVerification", "Kestrel Verification", text, "txtVerification",
-               "Verification report");
+    QVBoxLayout* l = textWindow(window, parent, "frmKestrelVerification", "Kestrel Verification", text,
+                                "txtVerification", "Verification report");
+    showDifferences = named(new QPushButton("Show Differences"), "CommandShowDifferences");
+    showDifferences->setAccessibleName("Show Differences");
+    showDifferences->setToolTip("Reads the module beside the configuration and lists every difference");
+    l->addWidget(showDifferences);
     window->resize(560, 420);
     return window;
 }
@@ -50,8 +54,14 @@ QDialog* makeCorvidWindow(QWidget* parent, QPlainTextEdit*& text, QPushButton*& 
 
 void ensureVerificationWindow(KestrelConfig& w)
 {
-    if (!w.frmKestrelVerification)
-        w.frmKestrelVerification = makeVerificationWindow(&w, w.txtVerification);
+    if (w.frmKestrelVerification)
+        return;
+    w.frmKestrelVerification = makeVerificationWindow(&w, w.txtVerification, w.CommandShowDifferences);
+    // The window takes input during a job (it only watches): a job under way is not replaced.
+    QObject::connect(w.CommandShowDifferences, &QPushButton::clicked, &w, [&w] {
+        if (!w.runner->busy())
+            w.startJob(Jobs::CompareModule);
+    });
 }
 
 void ensureCorvidWindow(KestrelConfig& w)

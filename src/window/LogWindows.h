@@ -17,8 +17,9 @@ void ensureVerificationWindow(KestrelConfig& window);
 void ensureCorvidWindow(KestrelConfig& window);
 
 // The window's two text windows, each made on first use and kept by the window.
-// The verification report ("frmKestrelVerification"), its read-only text `text`.
-QDialog* makeVerificationWindow(QWidget* parent, QPlainTextEdit*& text);
+// The verification report ("frmKestrelVerification"), its read-only text `text` and its
+// `showDifferences` button.
+QDialog* makeVerificationWindow(QWidget* parent, QPlainTextEdit*& text, QPushButton*& showDifferences);
 // The Corvid system's log ("frmCorvidComm"): its read-only text `text` and a `clear` button.
 QDialog* makeCorvidWindow(QWidget* parent, QPlainTextEdit*& text, QPushButton*& clear);
 

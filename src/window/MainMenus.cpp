@@ -10,6 +10,7 @@
 #include "window/LayoutPage.h"
 #include "window/PinOverview.h"
 #include "window/TrafficMonitor.h"
+#include "window/UserGuide.h"
 
 #include <QAction>
 #include <QDialog>
@@ -121,8 +122,16 @@ void MainMenus::build(KestrelConfig& w)
     add(view, "&Layout", [&w] { w.tabs->setCurrentWidget(w.layoutPage); });
 
     w.menuHelp = w.menuBar()->addMenu("&Help");
+    // The guide opens at the section of the page shown ("The Aspects page").
     add(
-        w.menuHelp, "&About Kestrel Config", [&w] { w.about(); }, QKeySequence::HelpContents);
+        w.menuHelp, "&User Guide",
+        [&w] {
+            if (!w.frmUserGuide)
+                w.frmUserGuide = new UserGuide(&w);
+            w.frmUserGuide->showSection(QString("The %1 page").arg(w.tabs->tabText(w.tabs->currentIndex())));
+        },
+        QKeySequence::HelpContents);
+    add(w.menuHelp, "&About Kestrel Config", [&w] { w.about(); });
 }
 
 void MainMenus::about(QWidget* parent)
@@ -135,9 +144,12 @@ void MainMenus::about(QWidget* parent)
     box.setInformativeText(
         QString("Reads, edits, writes back and verifies what a Kestrel accessory module stores.<br><br>"
                 "Build: %1, Qt %2<br><br>"
-                "The README (how to start, the command-line tool, the data-file format and the "
-                "Aspects page) lies in the program's source folder, README.md; the data-file "
-                "keywords are described in its section \"kestrel-cli\".")
+                "The user guide (Help &gt; User Guide) is also a file: "
+                "/usr/share/doc/kestrel-config/user-guide.md when installed from the Debian package, "
+                "user-guide.md in the program's folder on Windows (C:\\Program Files\\Kestrel Config "
+                "when installed). Its section \"Data files\" describes the data-file format, and "
+                "\"Readable configurations and differences\" every item of it; on Linux the manual page "
+                "kestrel-cli(1) describes the format too.")
             .arg(QString(KESTREL_BUILD_TYPE).isEmpty() ? QString("default") : QString(KESTREL_BUILD_TYPE),
                  qVersion()));
     box.exec();
