@@ -7,6 +7,7 @@
 #include "model/InstructionSet.h"
 #include "window/AspectTimeline.h"
 #include "window/EditTools.h"
+#include "window/FieldHelp.h"
 #include "window/HelpToolDialogs.h"
 #include "window/Widgets.h"
 
@@ -56,7 +57,6 @@ QLineEdit* numberBox(const QString& name, int width = 44)
 
 const char* const kToolTip = "Click for copy/paste tools";
 const char* const kHelpTip = "Double-click for help-tool";
-const char* const kHelpKey = "F2 opens the help tool";
 constexpr int kPinRow = -2; // the rows of a context menu: the pin's, the aspect's, a step's
 constexpr int kAspectRow = -1;
 const char* const kTestTip = "The module has no command to test an aspect, so this is not available";
@@ -96,6 +96,11 @@ AspectsPage::AspectsPage(Session& s, DeviceList& list, std::function<void(JobNam
     connect(actionPinTool, &QAction::triggered, this, &AspectsPage::LabelPAspOutput_Click);
     connect(actionAspectTool, &QAction::triggered, this, &AspectsPage::LabelPAspAspect_Click);
     connect(actionStepTool, &QAction::triggered, this, [this] { LabelPAspStep_Click(focusedStepRow()); });
+    // The column headings follow the row that has the focus.
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        if (now && isAncestorOf(now))
+            showHeadings();
+    });
     bind();
 }
 
@@ -252,10 +257,6 @@ QWidget* AspectsPage::buildAspectArea()
         QLineEdit* parameters[4] = {TextPAspOffset[r], TextPAspPar1[r], TextPAspPar2[r], TextPAspPar3[r]};
         for (int p = 0; p < 4; ++p)
             parameters[p]->setAccessibleName(QString("Parameter %1, step %2").arg(p).arg(r));
-        for (QLineEdit* box : {TextPAspPar1[r], TextPAspPar2[r], TextPAspPar3[r]}) {
-            box->setToolTip(kHelpTip);
-            box->setAccessibleDescription(kHelpKey);
-        }
         LabelPAspTime[r] = named(new QLabel("00:00.00"), indexed("LabelPAspTime", r));
         LabelPAspTime[r]->setToolTip(kHelpTip);
         for (QWidget* w : std::initializer_list<QWidget*>{ComboPAspInst[r], CheckPAspFade[r],
@@ -274,7 +275,6 @@ QWidget* AspectsPage::buildAspectArea()
             bindings.edit(name, [&] {
                 const RowEdit e = setInstruction(session.config, r, code);
                 view.rows[r] = e.row;
-                view.headings = e.headings;
             });
             bindings.show();
         });
@@ -282,7 +282,6 @@ QWidget* AspectsPage::buildAspectArea()
             bindings.edit((checked ? "checking " : "unchecking ") + controlName(CheckPAspFade[r]), [&] {
                 const RowEdit e = setFade(session.config, r, checked);
                 view.rows[r] = e.row;
-                view.headings = e.headings;
             });
             bindings.show();
         });
@@ -513,8 +512,10 @@ void AspectsPage::showRow(int r)
     }
     QLineEdit* boxes[4] = {TextPAspOffset[r], TextPAspPar1[r], TextPAspPar2[r], TextPAspPar3[r]};
     const InstructionInfo& info = instructionInfo(row.instruction);
+    const Configuration& c = session.config;
     for (int p = 0; p < 4; ++p) {
         boxes[p]->setEnabled(row.parameters[p].used);
+        setTip(boxes[p], stepParameterTip(step(r), p, c.CurrentPin, c.NumberingBase));
         const std::string& caption = info.caption(p);
         boxes[p]->setAccessibleName(
             QString("%1, step %2")
@@ -527,9 +528,16 @@ void AspectsPage::showRow(int r)
 
 void AspectsPage::showHeadings()
 {
+    // One set of headings for all rows: those of the row being worked on.
+    const int r = focusedStepRow();
+    const Configuration& c = session.config;
+    const InstructionInfo& info = instructionInfo(view.rows[r].instruction);
     QLabel* labels[4] = {LabelPAspOffset, LabelPAspHParam1, LabelPASpHParam2, LabelPAspHParam3};
-    for (int p = 0; p < 4; ++p)
-        labels[p]->setText(latin1(view.headings[p]));
+    for (int p = 0; p < 4; ++p) {
+        labels[p]->setText(latin1(info.caption(p)));
+        setTip(labels[p],
+               info.used(p) ? stepParameterTip(step(r), p, c.CurrentPin, c.NumberingBase) : QString());
+    }
 }
 
 void AspectsPage::showDetails()
@@ -667,7 +675,6 @@ void AspectsPage::helpTool(int row, HelpBox box)
         }
         const RowEdit e = showStepRow(session.config, row);
         view.rows[row] = e.row;
-        view.headings = e.headings;
     });
     bindings.show();
 }

@@ -31,10 +31,11 @@ class AspectTimeline;
 //
 // Every edit goes straight into the model. The page shows what ShowAspect gives: after a
 // selection, a layout change, a tool, a read or a load the whole page; after an edit in
-// a step row only that row and the column headings, which take the captions of the
-// instruction normalised last. Beside the rows, TimelinePAsp pictures the pin's aspects
-// over time; it follows every showing and every taken entry, and a click on a step in it
-// selects that aspect and step and puts the focus on the step's row.
+// a step row only that row and the column headings. The headings take the captions of the
+// row that has the focus (else of the chosen step), and every parameter box's tool tip says
+// what the value does for its row's instruction and the range it takes. Beside the rows, TimelinePAsp
+// pictures the pin's aspects over time; it follows every showing and every taken entry, and a click on a step
+// in it selects that aspect and step and puts the focus on the step's row.
 class AspectsPage : public QWidget {
     Q_OBJECT
 public:
@@ -171,7 +172,7 @@ private:
     void bindSelector(QLineEdit* box, std::string AspectView::*text,
                       Selection (*select)(Configuration&, const std::string&),
                       const std::function<void()>& then);
-    // Shows one step row and the headings from `view`.
+    // Shows one step row from `view`; the headings from the focused row.
     void showRow(int row);
     void showHeadings();
     void showDetails();

@@ -1,6 +1,7 @@
 #include "window/HelpToolDialogs.h"
 
 #include "window/Bindings.h"
+#include "window/FieldHelp.h"
 #include "window/Widgets.h"
 
 #include <QButtonGroup>
@@ -324,6 +325,7 @@ EventPatternToolDialog::EventPatternToolDialog(QWidget* parent)
     layout->addLayout(top);
     layout->addLayout(values);
     addOkCancel(layout);
+    explainFields(this);
 
     connect(OKButton, &QPushButton::clicked, this, &QDialog::accept);
 }

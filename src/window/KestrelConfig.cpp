@@ -7,6 +7,7 @@
 #include "window/BulkRows.h"
 #include "window/EditHistory.h"
 #include "window/EventPage.h"
+#include "window/FieldHelp.h"
 #include "window/FileActions.h"
 #include "window/GeneralPage.h"
 #include "window/JobRunner.h"
@@ -126,6 +127,7 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     tabs->addTab(layoutPage, "Layout");
     layoutPage->onModuleChosen = [this](const FoundModule& m) { chooseModule(m); };
     layout->addWidget(tabs, 1);
+    explainFields(tabs);
     // One pin selection for the whole window: a pin chosen on one page is shown on all.
     eventPage->onPinChosen = [this] { refreshAll(); };
     pinConfigPage->onPinChosen = [this] { refreshAll(); };

@@ -6,6 +6,7 @@
 
 #include <QAbstractSpinBox>
 #include <QAccessible>
+#include <QCheckBox>
 #include <QGroupBox>
 #include <QKeySequence>
 #include <QMenuBar>
@@ -198,4 +199,30 @@ TEST(Access, TheWindowFits1280x720AndEveryNumberBoxShowsItsNumber)
             << box->objectName().toStdString() << ": " << widest << " in " << room << ", arrows "
             << up(arrows) << " of " << up(roomy) << ", digits " << digits->width();
     }
+}
+
+TEST(Access, EverySettingSaysWhatItDoesAlsoToScreenReaders)
+{
+    Window m(false);
+    KestrelConfig& w = m.w;
+    Configuration& c = w.session().config;
+    QStringList silent;
+    // General, Event Control, and the pin configuration in each of its modes.
+    const std::pair<int, int> pages[] = {{0, 0}, {1, 0}, {2, 1}, {2, 2}, {2, 4}};
+    for (const auto& [tab, mode] : pages) {
+        c.pin(c.CurrentPin).ConfigMode = static_cast<std::uint8_t>(mode);
+        w.tabs->setCurrentIndex(tab);
+        for (QWidget* input : w.tabs->currentWidget()->findChildren<QWidget*>()) {
+            QAccessibleInterface* a = QAccessible::queryAccessibleInterface(input);
+            if (input->isVisible() && a && takesInput(a->role()) &&
+                (input->toolTip().isEmpty() || !a->text(QAccessible::Description).contains(input->toolTip())))
+                silent << input->objectName();
+        }
+    }
+    EXPECT_EQ(silent.join(", ").toStdString(), "");
+    // The event inputs are counted from 1 on the page and from 0 in the tool: both tips say so.
+    EventPatternToolDialog tool(w.aspectsPage);
+    EXPECT_EQ(std::tuple(w.findChild<QWidget*>("TextECoff_0")->toolTip().contains("\"Event Input 0\""),
+                         tool.chkEvent[3]->toolTip()),
+              std::tuple(true, QString("\"Event Input 3\" is \"Input 4\" on the Event Control page.")));
 }

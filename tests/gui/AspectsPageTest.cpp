@@ -56,7 +56,7 @@ TEST(AspectsPage, StepRowsFollowTheirInstructionAndClampWhatIsTyped)
                          m.page.LabelPAspHParam1->text(), m.page.TextPAspPar2[0]->isEnabled(),
                          m.page.CheckPAspFade[0]->isVisible(), m.page.CheckPAspFade[0]->text(),
                          m.page.TextPAspPar3[0]->toolTip()),
-              std::tuple(9, "P.O.", "T(/60)", false, true, "Fade", "Double-click for help-tool"));
+              std::tuple(9, "P.O.", "T(/60)", false, true, "Fade", "Not used by this instruction."));
     // Tab goes through a row left to right, then to the next row.
     QWidget* at = m.page.ComboPAspInst[0];
     for (QWidget* next : std::initializer_list<QWidget*>{m.page.CheckPAspFade[0], m.page.TextPAspOffset[0],
@@ -91,6 +91,50 @@ TEST(AspectsPage, StepRowsFollowTheirInstructionAndClampWhatIsTyped)
     QTest::keyClicks(m.page.TextPAspAspDesc, "Stop");
     EXPECT_EQ(std::tuple(m.config.pin(1).Description, m.config.aspect(1, 0).Description),
               std::tuple("Home signal", "Stop"));
+}
+
+TEST(AspectsPage, EachParameterSaysWhatItDoesForItsInstructionAndTheHeadingsFollowTheFocus)
+{
+    AspectsRig m; // pin 1
+    QTest::mouseClick(m.page.OptionPAspConf[1], Qt::LeftButton);
+    // Instruction, parameter, what its tip says (the range as the box clamps on pin 1).
+    const std::tuple<const char*, int, const char*> tips[] = {
+        {"On", 0,
+         "Pin offset: the pin that this step acts on, counted from this pin (0 is this pin, -1 the pin "
+         "before it).\nRange: -1 to 30."},
+        {"Jump", 1, "The aspect to jump to.\nRange: 0 to 11."},
+        {"Set Servo", 1, "The servo position; 0 is the midpoint.\nRange: -64 to 63."},
+        {"Multibit 3", 1, "...).\nRange: 0 to 127.\nDouble-click or F2 opens the help tool."},
+        {"Event Input", 1, "(Input 1 to Input 4 on the Event Control page)"},
+        {"SetLevel & Wait", 0, "-1 is kept as 127.\nRange: -1 to 31."},
+        {"Wait Random", 2, "random time up to it.\nRange: 0 to 63.\nDouble-click or F2 opens the help tool."},
+        {"If Less", 1, "compared with.\nRange: -64 to 63."},
+        {"SendSerial 2", 2,
+         "The second byte that the module sends on its own serial port.\nRange: 0 to 255."},
+    };
+    for (const auto& [name, p, tip] : tips) {
+        m.choose(0, name);
+        QLineEdit* box = m.page.findChild<QLineEdit*>(
+            QString("%1_0").arg(p == 0 ? "TextPAspOffset" : QString("TextPAspPar%1").arg(p)));
+        EXPECT_TRUE(box->toolTip().contains(tip)) << name << ": " << box->toolTip().toStdString();
+        EXPECT_EQ(box->accessibleDescription(), box->toolTip()) << name;
+    }
+    // Two rows of different instructions: the headings are the focused row's, also after the
+    // page is shown afresh (as after a read or a load).
+    m.choose(0, "On");
+    m.choose(1, "Wait");
+    const auto headings = [&] {
+        return QStringList{m.page.LabelPAspOffset->text(), m.page.LabelPAspHParam1->text(),
+                           m.page.LabelPASpHParam2->text(), m.page.LabelPAspHParam3->text()}
+            .join("|")
+            .toStdString();
+    };
+    m.activate();
+    m.page.TextPAspOffset[0]->setFocus();
+    EXPECT_EQ(headings(), "P.O.|T(/60)||");
+    m.page.TextPAspPar2[1]->setFocus();
+    m.page.refresh();
+    EXPECT_EQ(headings(), "||Time|Base");
 }
 
 TEST(AspectsPage, LayoutOptionsClampTheSelectionAndShowTheirRows)
