@@ -166,25 +166,25 @@ QString rangeText(const QString& low, const QString& high) { return tr("Range: %
 QString eventInputText(int input)
 {
     return tr("Input %1 here is \"Event Input %2\" in the event-pattern tool of the \"Event Input\" "
-              "instruction "
-              "and input (%2) in the verification report.")
+              "instruction, and Event-On(%2) and Event-Off(%2) in the verification report.")
         .arg(input + 1)
         .arg(input);
 }
 
 void explainEventInputs(QWidget* root)
 {
-    const QString action =
-        tr("The action when the input's event comes %1: the number of the aspect that this "
-           "pin takes, 0 to 11, or -1 for none.");
+    const QString on = tr("The action when the input switches on: the number of the aspect that this pin "
+                          "takes, 0 to 11, or -1 for none.");
+    const QString off = tr("The action when the input switches off: the number of the aspect that this pin "
+                           "takes, 0 to 11, or -1 for none.");
     for (int i = 0; i < 4; ++i) {
         const QString input = eventInputText(i);
         const std::pair<QString, QString> fields[] = {
             {QString("LabelECinput_%1").arg(i), input},
-            {QString("TextECon_%1").arg(i), action.arg(tr("on")) + "\n" + input},
-            {QString("UpDownECon_%1").arg(i), action.arg(tr("on")) + "\n" + input},
-            {QString("TextECoff_%1").arg(i), action.arg(tr("off")) + "\n" + input},
-            {QString("UpDownECoff_%1").arg(i), action.arg(tr("off")) + "\n" + input},
+            {QString("TextECon_%1").arg(i), on + "\n" + input},
+            {QString("UpDownECon_%1").arg(i), on + "\n" + input},
+            {QString("TextECoff_%1").arg(i), off + "\n" + input},
+            {QString("UpDownECoff_%1").arg(i), off + "\n" + input},
             {QString("CheckInitEE_%1").arg(i),
              tr("Event-On of this input is enabled when the module starts.") + "\n" + input},
             {QString("CheckInitEE_%1").arg(i + 4),
