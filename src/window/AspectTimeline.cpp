@@ -1,4 +1,5 @@
 #include "window/AspectTimeline.h"
+#include "window/Language.h"
 
 #include "model/StepDisplay.h"
 #include "window/Bindings.h"
@@ -27,7 +28,7 @@ const QColor kCurrentRow(0xf2, 0xf2, 0xe0);
 AspectTimeline::AspectTimeline(QWidget* parent) : QWidget(parent)
 {
     setObjectName("AspectTimeline");
-    setAccessibleName("Aspect timeline");
+    setAccessibleName(Lang::tr("Aspect timeline"));
     setFocusPolicy(Qt::NoFocus); // the step rows beside it take the keyboard
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
@@ -155,7 +156,7 @@ void AspectTimeline::paintEvent(QPaintEvent*)
         if (row.aspect == aspect)
             p.fillRect(band, kCurrentRow);
         p.setPen(palette().text().color());
-        p.drawText(band.adjusted(4, 0, 0, 0), Qt::AlignVCenter, QString("Aspect %1").arg(row.aspect));
+        p.drawText(band.adjusted(4, 0, 0, 0), Qt::AlignVCenter, Lang::tr("Aspect %1").arg(row.aspect));
         for (int i = 0; i < static_cast<int>(row.blocks.size()); ++i) {
             const TimelineBlock& b = row.blocks[static_cast<std::size_t>(i)];
             const QRect box = blockRect(r, i);

@@ -1,4 +1,5 @@
 #include "window/AspectsPage.h"
+#include "window/Language.h"
 
 #include "base/Text.h"
 #include "forms/AspectTimeline.h"
@@ -54,15 +55,15 @@ QLineEdit* numberBox(const QString& name, int width = 44)
     return box;
 }
 
-const char* const kToolTip = "Click for copy/paste tools";
-const char* const kHelpTip = "Double-click for help-tool";
-const char* const kHelpKey = "F2 opens the help tool";
+const char* const kToolTip = QT_TRANSLATE_NOOP("Lang", "Click for copy/paste tools");
+const char* const kHelpTip = QT_TRANSLATE_NOOP("Lang", "Double-click for help-tool");
+const char* const kHelpKey = QT_TRANSLATE_NOOP("Lang", "F2 opens the help tool");
 constexpr int kPinRow = -2; // the rows of a context menu: the pin's, the aspect's, a step's
 constexpr int kAspectRow = -1;
-const char* const kTestTip = "The module has no command to test an aspect, so this is not available";
+const char* const kTestTip = QT_TRANSLATE_NOOP("Lang", "The module has no command to test an aspect, so this is not available");
 
 // A button of the page with its tooltip.
-QPushButton* tippedButton(const char* caption, const char* name, const char* tip)
+QPushButton* tippedButton(const QString& caption, const char* name, const QString& tip)
 {
     auto* b = named(new QPushButton(caption), name);
     b->setToolTip(tip);
@@ -90,9 +91,9 @@ AspectsPage::AspectsPage(Session& s, DeviceList& list, std::function<void(JobNam
     layout->addWidget(buildAspectArea(), 1);
     layout->addWidget(buildDeviceArea());
 
-    actionPinTool = new QAction("&Pin Tool...", this);
-    actionAspectTool = new QAction("&Aspect Tool...", this);
-    actionStepTool = new QAction("&Step Tool...", this);
+    actionPinTool = new QAction(Lang::tr("&Pin Tool..."), this);
+    actionAspectTool = new QAction(Lang::tr("&Aspect Tool..."), this);
+    actionStepTool = new QAction(Lang::tr("&Step Tool..."), this);
     connect(actionPinTool, &QAction::triggered, this, &AspectsPage::LabelPAspOutput_Click);
     connect(actionAspectTool, &QAction::triggered, this, &AspectsPage::LabelPAspAspect_Click);
     connect(actionStepTool, &QAction::triggered, this, [this] { LabelPAspStep_Click(focusedStepRow()); });
@@ -103,34 +104,34 @@ AspectsPage::~AspectsPage() = default;
 
 QWidget* AspectsPage::buildPinArea()
 {
-    auto* frame = named(new QGroupBox("Pin"), "FramePAspPin");
+    auto* frame = named(new QGroupBox(Lang::tr("Pin")), "FramePAspPin");
     auto* grid = new QGridLayout(frame);
 
     NumberEntry* pin = entry("PAspOutput", TextPAspOutput, UpDownPAspOutput);
-    LabelPAspOutput = named(captionFor("Pin", TextPAspOutput), "LabelPAspOutput");
-    LabelPAspOutput->setToolTip(kToolTip);
+    LabelPAspOutput = named(captionFor(Lang::tr("Pin"), TextPAspOutput), "LabelPAspOutput");
+    LabelPAspOutput->setToolTip(Lang::tr(kToolTip));
     LabelPAspOutput->setCursor(Qt::PointingHandCursor);
     TextPAspDesc = named(new QLineEdit, "TextPAspDesc");
-    TextPAspDesc->setToolTip("The pin's description, kept in the configuration");
+    TextPAspDesc->setToolTip(Lang::tr("The pin's description, kept in the configuration"));
     TextDevicePin = named(new QLineEdit, "TextDevicePin");
     TextDevicePin->setReadOnly(true);
     TextDevicePin->setFixedWidth(44);
-    TextDevicePin->setToolTip("The first pin of the device this pin belongs to");
+    TextDevicePin->setToolTip(Lang::tr("The first pin of the device this pin belongs to"));
     TextDeviceDescription = named(new QLineEdit, "TextDeviceDescription");
-    TextDeviceDescription->setToolTip("The device's name, kept by its first pin");
+    TextDeviceDescription->setToolTip(Lang::tr("The device's name, kept by its first pin"));
 
     grid->addWidget(LabelPAspOutput, 0, 0);
     grid->addWidget(pin, 0, 1);
-    grid->addWidget(captionFor("Description", TextPAspDesc), 0, 2);
+    grid->addWidget(captionFor(Lang::tr("Description"), TextPAspDesc), 0, 2);
     grid->addWidget(TextPAspDesc, 0, 3, 1, 3);
-    grid->addWidget(captionFor("Device pin", TextDevicePin), 1, 0);
+    grid->addWidget(captionFor(Lang::tr("Device pin"), TextDevicePin), 1, 0);
     grid->addWidget(TextDevicePin, 1, 1);
-    grid->addWidget(captionFor("Device", TextDeviceDescription), 1, 2);
+    grid->addWidget(captionFor(Lang::tr("Device"), TextDeviceDescription), 1, 2);
     grid->addWidget(TextDeviceDescription, 1, 3, 1, 3);
 
     auto* layoutRow = new QHBoxLayout;
     OptionPAspConfGroup = new QButtonGroup(this);
-    auto* layoutLabel = new QLabel("Aspects");
+    auto* layoutLabel = new QLabel(Lang::tr("Aspects"));
     layoutRow->addWidget(layoutLabel);
     const char* captions[3] = {"0", "4", "12"};
     for (int i = 0; i < 3; ++i) {
@@ -140,20 +141,20 @@ QWidget* AspectsPage::buildPinArea()
         layoutRow->addWidget(OptionPAspConf[i]);
     }
     layoutRow->addSpacing(16);
-    LabelPASPAdrCnt = named(new QLabel("Addresses:"), "LabelPASPAdrCnt");
+    LabelPASPAdrCnt = named(new QLabel(Lang::tr("Addresses:")), "LabelPASPAdrCnt");
     layoutRow->addWidget(LabelPASPAdrCnt);
     NumberEntry* dcc = entry("PaspDCCn", TextPaspDCCn, UpDownPaspDCCn);
     NumberEntry* xdcc = entry("PAspXDCCn", TextPAspXDCCn, UpDownPAspXDCCn);
     NumberEntry* serial = entry("PaspLynxn", TextPaspLynxn, UpDownPaspLynxn);
-    layoutRow->addWidget(captionFor("DCC", TextPaspDCCn));
+    layoutRow->addWidget(captionFor(Lang::tr("DCC"), TextPaspDCCn));
     layoutRow->addWidget(dcc);
-    layoutRow->addWidget(captionFor("eXtd DCC", TextPAspXDCCn));
+    layoutRow->addWidget(captionFor(Lang::tr("eXtd DCC"), TextPAspXDCCn));
     layoutRow->addWidget(xdcc);
-    layoutRow->addWidget(captionFor("Serial", TextPaspLynxn));
+    layoutRow->addWidget(captionFor(Lang::tr("Serial"), TextPaspLynxn));
     layoutRow->addWidget(serial);
-    TextPaspDCCn->setAccessibleName("DCC addresses");
-    TextPAspXDCCn->setAccessibleName("eXtd DCC addresses");
-    TextPaspLynxn->setAccessibleName("Serial addresses");
+    TextPaspDCCn->setAccessibleName(Lang::tr("DCC addresses"));
+    TextPAspXDCCn->setAccessibleName(Lang::tr("eXtd DCC addresses"));
+    TextPaspLynxn->setAccessibleName(Lang::tr("Serial addresses"));
     for (auto [box, spin] :
          {std::pair{TextPAspOutput, UpDownPAspOutput}, std::pair{TextPaspDCCn, UpDownPaspDCCn},
           std::pair{TextPAspXDCCn, UpDownPAspXDCCn}, std::pair{TextPaspLynxn, UpDownPaspLynxn}})
@@ -163,13 +164,13 @@ QWidget* AspectsPage::buildPinArea()
 
     // The pin's own jobs, beside the pin they act on.
     auto* jobs = new QHBoxLayout;
-    CommandReadPin = tippedButton("Re&ad Pin", "CommandReadPin",
+    CommandReadPin = tippedButton(Lang::tr("Re&ad Pin"), "CommandReadPin",
                                   "Reads this pin from the module: aspects, addresses and pin configuration");
     CommandWritePin =
-        tippedButton("Write Pin", "CommandWritePin", "Writes this pin to the module: aspects and addresses");
-    CommandReadDevice = tippedButton("Read Device", "CommandReadDevice",
+        tippedButton(Lang::tr("Write Pin"), "CommandWritePin", "Writes this pin to the module: aspects and addresses");
+    CommandReadDevice = tippedButton(Lang::tr("Read Device"), "CommandReadDevice",
                                      "Reads every pin of this pin's device from the module");
-    CommandWriteDevice = tippedButton("Write Device", "CommandWriteDevice",
+    CommandWriteDevice = tippedButton(Lang::tr("Write Device"), "CommandWriteDevice",
                                       "Writes every pin of this pin's device to the module");
     for (QPushButton* b : {CommandReadPin, CommandWritePin, CommandReadDevice, CommandWriteDevice})
         jobs->addWidget(b);
@@ -188,19 +189,19 @@ QWidget* AspectsPage::buildPinArea()
 
 QWidget* AspectsPage::buildAspectArea()
 {
-    auto* frame = named(new QGroupBox("Aspect program"), "FramePAspAspect");
+    auto* frame = named(new QGroupBox(Lang::tr("Aspect program")), "FramePAspAspect");
     auto* layout = new QVBoxLayout(frame);
 
     auto* aspectRow = new QHBoxLayout;
     NumberEntry* aspect = entry("PAspAspect", TextPAspAspect, UpDownPAspAspect);
-    LabelPAspAspect = named(captionFor("Aspect", TextPAspAspect), "LabelPAspAspect");
-    LabelPAspAspect->setToolTip(kToolTip);
+    LabelPAspAspect = named(captionFor(Lang::tr("Aspect"), TextPAspAspect), "LabelPAspAspect");
+    LabelPAspAspect->setToolTip(Lang::tr(kToolTip));
     LabelPAspAspect->setCursor(Qt::PointingHandCursor);
     TextPAspAspDesc = named(new QLineEdit, "TextPAspAspDesc");
-    LabelPAspAspDesc = named(captionFor("Aspect description", TextPAspAspDesc), "LabelPAspAspDesc");
+    LabelPAspAspDesc = named(captionFor(Lang::tr("Aspect description"), TextPAspAspDesc), "LabelPAspAspDesc");
     NumberEntry* init = entry("PAspInit", TextPAspInit, UpDownPAspInit);
-    LabelPAspInit = named(captionFor("Initial aspect", TextPAspInit), "LabelPAspInit");
-    TextPAspInit->setToolTip("The aspect the pin shows after power-up; -1 for none");
+    LabelPAspInit = named(captionFor(Lang::tr("Initial aspect"), TextPAspInit), "LabelPAspInit");
+    TextPAspInit->setToolTip(Lang::tr("The aspect the pin shows after power-up; -1 for none"));
     UpDownPAspAspect->setAccessibleName(TextPAspAspect->accessibleName());
     UpDownPAspInit->setAccessibleName(TextPAspInit->accessibleName());
     aspectRow->addWidget(LabelPAspAspect);
@@ -216,14 +217,14 @@ QWidget* AspectsPage::buildAspectArea()
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(6);
     grid->setVerticalSpacing(2);
-    LabelPAspHStep = named(new QLabel("Step"), "LabelPAspHStep");
-    LabelPAspHInst = named(new QLabel("Instruction"), "LabelPAspHInst");
-    LabelPAspHFade = named(new QLabel("Fade"), "LabelPAspHFade");
+    LabelPAspHStep = named(new QLabel(Lang::tr("Step")), "LabelPAspHStep");
+    LabelPAspHInst = named(new QLabel(Lang::tr("Instruction")), "LabelPAspHInst");
+    LabelPAspHFade = named(new QLabel(Lang::tr("Fade")), "LabelPAspHFade");
     LabelPAspOffset = named(new QLabel, "LabelPAspOffset");
     LabelPAspHParam1 = named(new QLabel, "LabelPAspHParam1");
     LabelPASpHParam2 = named(new QLabel, "LabelPASpHParam2");
     LabelPAspHParam3 = named(new QLabel, "LabelPAspHParam3");
-    LabelPAspHTime = named(new QLabel("Time"), "LabelPAspHTime");
+    LabelPAspHTime = named(new QLabel(Lang::tr("Time")), "LabelPAspHTime");
     const QList<QLabel*> headings{LabelPAspHStep,   LabelPAspHInst,   LabelPAspHFade,   LabelPAspOffset,
                                   LabelPAspHParam1, LabelPASpHParam2, LabelPAspHParam3, LabelPAspHTime};
     for (int c = 0; c < headings.size(); ++c)
@@ -233,17 +234,17 @@ QWidget* AspectsPage::buildAspectArea()
     for (int r = 0; r < kStepRows; ++r) {
         const QString step = QString::number(r);
         LabelPAspStep[r] = named(new QLabel(step), indexed("LabelPAspStep", r));
-        LabelPAspStep[r]->setToolTip("Click to Insert/Delete step");
+        LabelPAspStep[r]->setToolTip(Lang::tr("Click to Insert/Delete step"));
         LabelPAspStep[r]->setCursor(Qt::PointingHandCursor);
         LabelPAspStep[r]->installEventFilter(this);
         ComboPAspInst[r] = named(new QComboBox, indexed("ComboPAspInst", r));
         for (const auto& item : items)
             ComboPAspInst[r]->addItem(latin1(item.name), item.code);
         ComboPAspInst[r]->setMaxVisibleItems(24);
-        ComboPAspInst[r]->setAccessibleName("Instruction, step " + step);
+        ComboPAspInst[r]->setAccessibleName(Lang::tr("Instruction, step ") + step);
         CheckPAspFade[r] = named(new QCheckBox, indexed("CheckPAspFade", r));
         CheckPAspFade[r]->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed); // the box, not the column
-        CheckPAspFade[r]->setAccessibleName("Fade, step " + step);
+        CheckPAspFade[r]->setAccessibleName(Lang::tr("Fade, step ") + step);
         TextPAspOffset[r] = numberBox(indexed("TextPAspOffset", r));
         TextPAspPar1[r] = numberBox(indexed("TextPAspPar1", r));
         TextPAspPar2[r] = numberBox(indexed("TextPAspPar2", r));
@@ -253,11 +254,11 @@ QWidget* AspectsPage::buildAspectArea()
         for (int p = 0; p < 4; ++p)
             parameters[p]->setAccessibleName(QString("Parameter %1, step %2").arg(p).arg(r));
         for (QLineEdit* box : {TextPAspPar1[r], TextPAspPar2[r], TextPAspPar3[r]}) {
-            box->setToolTip(kHelpTip);
-            box->setAccessibleDescription(kHelpKey);
+            box->setToolTip(Lang::tr(kHelpTip));
+            box->setAccessibleDescription(Lang::tr(kHelpKey));
         }
         LabelPAspTime[r] = named(new QLabel("00:00.00"), indexed("LabelPAspTime", r));
-        LabelPAspTime[r]->setToolTip(kHelpTip);
+        LabelPAspTime[r]->setToolTip(Lang::tr(kHelpTip));
         for (QWidget* w : std::initializer_list<QWidget*>{ComboPAspInst[r], CheckPAspFade[r],
                                                           TextPAspOffset[r], TextPAspPar1[r], TextPAspPar2[r],
                                                           TextPAspPar3[r], LabelPAspTime[r]})
@@ -298,21 +299,21 @@ QWidget* AspectsPage::buildAspectArea()
     connect(TimelinePAsp, &AspectTimeline::stepClicked, this, &AspectsPage::TimelinePAsp_Click);
 
     auto* buttons = new QHBoxLayout;
-    CheckPAspShowDetails = named(new QCheckBox("Show Details"), "CheckPAspShowDetails");
+    CheckPAspShowDetails = named(new QCheckBox(Lang::tr("Show Details")), "CheckPAspShowDetails");
     CheckPAspShowDetails->setChecked(true);
-    CheckPAspShowDetails->setToolTip("Shows or hides the transfer buttons, the step headings and the "
-                                     "pin configuration's parameter buttons");
+    CheckPAspShowDetails->setToolTip(Lang::tr("Shows or hides the transfer buttons, the step headings and the "
+                                     "pin configuration's parameter buttons"));
     CommandPAspReadPin =
-        tippedButton("Read Asp's", "CommandPAspReadPin",
+        tippedButton(Lang::tr("Read Asp's"), "CommandPAspReadPin",
                      "Reads this pin's aspects, initial aspect and addresses from the module");
     CommandPAspWritePin =
-        tippedButton("Write Asp's", "CommandPAspWritePin",
+        tippedButton(Lang::tr("Write Asp's"), "CommandPAspWritePin",
                      "Writes this pin's aspects, initial aspect and addresses to the module");
-    CommandPAspWriteAspect = tippedButton("Write Aspect", "CommandPAspWriteAspect",
+    CommandPAspWriteAspect = tippedButton(Lang::tr("Write Aspect"), "CommandPAspWriteAspect",
                                           "Writes only the steps of the selected aspect to the module");
-    CommandPAspTestAspect = named(new QPushButton("Test Aspect"), "CommandPAspTestAspect");
+    CommandPAspTestAspect = named(new QPushButton(Lang::tr("Test Aspect")), "CommandPAspTestAspect");
     CommandPAspTestAspect->setEnabled(false);
-    CommandPAspTestAspect->setToolTip(kTestTip);
+    CommandPAspTestAspect->setToolTip(Lang::tr(kTestTip));
     buttons->addWidget(CheckPAspShowDetails);
     for (QPushButton* b :
          {CommandPAspReadPin, CommandPAspWritePin, CommandPAspWriteAspect, CommandPAspTestAspect})
@@ -330,16 +331,16 @@ QWidget* AspectsPage::buildAspectArea()
 
 QWidget* AspectsPage::buildDeviceArea()
 {
-    auto* frame = named(new QGroupBox("Device definitions"), "FramePAspDevice");
+    auto* frame = named(new QGroupBox(Lang::tr("Device definitions")), "FramePAspDevice");
     auto* row = new QHBoxLayout(frame);
     cboDevice = named(new QComboBox, "cboDevice");
     cboDevice->setMinimumWidth(220);
-    cboDevice->setAccessibleName("Device to load");
-    CommandPAspPreLoad = tippedButton("Load Device", "CommandPAspPreLoad",
+    cboDevice->setAccessibleName(Lang::tr("Device to load"));
+    CommandPAspPreLoad = tippedButton(Lang::tr("Load Device"), "CommandPAspPreLoad",
                                       "Places the chosen device on the pins, its first pin on this pin");
-    CommandSaveDevice = tippedButton("Save Device", "CommandSaveDevice",
+    CommandSaveDevice = tippedButton(Lang::tr("Save Device"), "CommandSaveDevice",
                                      "Saves this pin's device to a definitions file of its own");
-    CommandReloadDD = tippedButton("Reload &DD", "CommandReloadDD",
+    CommandReloadDD = tippedButton(Lang::tr("Reload &DD"), "CommandReloadDD",
                                    "Reload DD to load new file, Shift + Reload DD to append");
     CommandReloadDD->setAutoDefault(true); // Return presses it as Space does
     CommandReloadDD->installEventFilter(this);

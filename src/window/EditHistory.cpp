@@ -1,4 +1,5 @@
 #include "window/EditHistory.h"
+#include "window/Language.h"
 #include "window/Bindings.h"
 
 #include <QAction>
@@ -78,8 +79,8 @@ EditHistory::EditHistory(Session& session, std::function<void()> commit, std::fu
       steps(new QUndoStack(this))
 {
     steps->setUndoLimit(100);
-    undoEntry = steps->createUndoAction(this, "Undo");
-    redoEntry = steps->createRedoAction(this, "Redo");
+    undoEntry = steps->createUndoAction(this, Lang::tr("Undo"));
+    redoEntry = steps->createRedoAction(this, Lang::tr("Redo"));
     undoEntry->setShortcuts(QKeySequence::Undo);
     redoEntry->setShortcuts({QKeySequence("Ctrl+Shift+Z"), QKeySequence("Ctrl+Y")});
     // A typed but unfinished entry is taken first.

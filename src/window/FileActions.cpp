@@ -1,4 +1,5 @@
 #include "window/FileActions.h"
+#include "window/Language.h"
 #include "forms/MainWindowForm.h"
 
 #include "files/Backups.h"
@@ -74,7 +75,7 @@ void FileActions::save(const QString& path, bool compact)
         else
             work.fileHolds(written, core.config, core.general);
         remember(name);
-        window.status->setText(QString("Saved %1%2").arg(name, compact ? " (compact)" : ""));
+        window.status->setText(Lang::tr("Saved %1%2").arg(name, compact ? Lang::tr(" (compact)") : QString()));
         if (compact && unsaved())
             window.status->setText(window.status->text() +
                                    "; it does not hold everything shown, so the work is still unsaved");
@@ -97,20 +98,20 @@ void FileActions::load(const QString& path, bool backup)
             // A backup stays the program's: the configuration from it is untitled.
             if (backup || inBackups(name)) {
                 work.untitled(&core.config, &core.general);
-                window.status->setText("Restored the backup " + name + " as an untitled configuration");
+                window.status->setText(Lang::tr("Restored the backup ") + name + " as an untitled configuration");
                 break;
             }
             work.fileHolds(loaded.path, core.config, core.general);
             remember(name);
-            window.status->setText("Loaded " + name);
+            window.status->setText(Lang::tr("Loaded ") + name);
             break;
         case LoadResult::FormatError:
             work.untitled(); // what was read is not what the file holds
-            window.status->setText("Load stopped at a fault in " + name +
+            window.status->setText(Lang::tr("Load stopped at a fault in ") + name +
                                    ": the pages show what was read before it");
             break;
         default:
-            window.status->setText("Nothing was loaded from " + name);
+            window.status->setText(Lang::tr("Nothing was loaded from ") + name);
             break;
         }
     });

@@ -1,4 +1,5 @@
 #include "window/LayoutPage.h"
+#include "window/Language.h"
 
 #include "files/Backups.h"
 #include "platform/BackupFolder.h"
@@ -38,25 +39,26 @@ LayoutPage::LayoutPage(Session& s, RememberedSettings& k, QWidget* parent)
 {
     setObjectName("PageLayout");
     QWidget* content = scrolledContent(this);
-    CommandFindModules = captioned(new QPushButton("Find Modules"), "CommandFindModules");
+    CommandFindModules = captioned(new QPushButton(Lang::tr("Find Modules")), "CommandFindModules");
     CommandFindModules->setToolTip(
-        "Asks every bus address of the route in use (0..15 directly, 0..31 through "
+        Lang::tr("Asks every bus address of the route in use (0..15 directly, 0..31 through "
         "the Corvid system) for its version and ID string; each address is given "
-        "500 ms to answer");
-    CheckXaddressRange = captioned(new QCheckBox("Also every eXtended address"), "CheckXaddressRange");
-    CheckXaddressRange->setToolTip("Find Modules also asks eXtended addresses 0..95 on each address that "
-                                   "answered (about 48 s an address)");
-    CommandBackUpAll = captioned(new QPushButton("Back Up All"), "CommandBackUpAll");
-    CommandBackUpAll->setToolTip("Read All of each module in the list, kept with its backups");
-    CommandCheckAll = captioned(new QPushButton("Check All"), "CommandCheckAll");
-    CommandCheckAll->setToolTip("Compares each module in the list with its newest backup");
+        "500 ms to answer"));
+    CheckXaddressRange = captioned(new QCheckBox(Lang::tr("Also every eXtended address")), "CheckXaddressRange");
+    CheckXaddressRange->setToolTip(Lang::tr("Find Modules also asks eXtended addresses 0..95 on each address that "
+                                   "answered (about 48 s an address)"));
+    CommandBackUpAll = captioned(new QPushButton(Lang::tr("Back Up All")), "CommandBackUpAll");
+    CommandBackUpAll->setToolTip(Lang::tr("Read All of each module in the list, kept with its backups"));
+    CommandCheckAll = captioned(new QPushButton(Lang::tr("Check All")), "CommandCheckAll");
+    CommandCheckAll->setToolTip(Lang::tr("Compares each module in the list with its newest backup"));
 
-    auto* caption = named(new QLabel("Modules of the layout:"), "LabelLayout");
+    auto* caption = named(new QLabel(Lang::tr("Modules of the layout:")), "LabelLayout");
     TableLayout = named(new QTableWidget(0, Columns), "TableLayout");
-    TableLayout->setAccessibleName("Modules of the layout");
+    TableLayout->setAccessibleName(Lang::tr("Modules of the layout"));
     caption->setBuddy(TableLayout);
     TableLayout->setHorizontalHeaderLabels(
-        {"Route", "Address", "eXtended", "Version", "ID String", "Newest Backup", "State"});
+        {Lang::tr("Route"), Lang::tr("Address"), Lang::tr("eXtended"), Lang::tr("Version"), Lang::tr("ID String"),
+         Lang::tr("Newest Backup"), Lang::tr("State")});
     TableLayout->verticalHeader()->hide();
     TableLayout->setEditTriggers(QAbstractItemView::NoEditTriggers);
     TableLayout->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -64,7 +66,7 @@ LayoutPage::LayoutPage(Session& s, RememberedSettings& k, QWidget* parent)
     TableLayout->setAlternatingRowColors(true);
     TableLayout->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     TableLayout->horizontalHeader()->setStretchLastSection(true);
-    TableLayout->setToolTip("Double-click a module (or press Return) to make it the target");
+    TableLayout->setToolTip(Lang::tr("Double-click a module (or press Return) to make it the target"));
     TableLayout->installEventFilter(this);
     connect(TableLayout, &QTableWidget::cellDoubleClicked, this, [this](int row, int) {
         if (onModuleChosen && row >= 0 && row < int(list.size()))
@@ -186,14 +188,14 @@ void LayoutPage::showSummary(const QString& title, const QString& summary)
     if (!frmLayoutSummary) {
         frmLayoutSummary = named(new QDialog(window()), "frmLayoutSummary");
         auto* l = new QVBoxLayout(frmLayoutSummary);
-        auto* caption = named(new QLabel("Summary:"), "LabelLayoutSummary");
+        auto* caption = named(new QLabel(Lang::tr("Summary:")), "LabelLayoutSummary");
         txtLayoutSummary = named(new QPlainTextEdit, "txtLayoutSummary");
         txtLayoutSummary->setReadOnly(true);
-        txtLayoutSummary->setAccessibleName("Summary");
+        txtLayoutSummary->setAccessibleName(Lang::tr("Summary"));
         txtLayoutSummary->setFont(QFont("monospace"));
         txtLayoutSummary->setLineWrapMode(QPlainTextEdit::NoWrap);
         caption->setBuddy(txtLayoutSummary);
-        auto* close = captioned(new QPushButton("Close"), "CommandLayoutSummaryClose");
+        auto* close = captioned(new QPushButton(Lang::tr("Close")), "CommandLayoutSummaryClose");
         connect(close, &QPushButton::clicked, frmLayoutSummary, &QDialog::accept);
         l->addWidget(caption);
         l->addWidget(txtLayoutSummary);

@@ -1,4 +1,5 @@
 #include "window/ModuleJobs.h"
+#include "window/Language.h"
 
 #include "forms/ConfigDiff.h"
 #include "forms/LayoutList.h"
@@ -164,7 +165,7 @@ void ModuleJobs::addLayoutJobs(KestrelConfig& w)
         rows.reserve(results.size());
         for (const ModuleBackup& b : results)
             rows.push_back(summaryRow(b, s.config.NumberingBase));
-        page.showSummary("Back Up All", latin1(summaryTable(rows)));
+        page.showSummary(Lang::tr("Back Up All"), latin1(summaryTable(rows)));
     });
     w.jobs.add(Jobs::CheckAll, [&runner, &s, &page, listed] {
         std::vector<ModuleCheck> results;
@@ -186,7 +187,7 @@ void ModuleJobs::addLayoutJobs(KestrelConfig& w)
                 text += line + "\n";
             text += "\n";
         }
-        page.showSummary("Check All", latin1(text + summaryTable(rows)));
+        page.showSummary(Lang::tr("Check All"), latin1(text + summaryTable(rows)));
     });
 }
 

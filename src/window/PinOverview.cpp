@@ -1,4 +1,5 @@
 #include "window/PinOverview.h"
+#include "window/Language.h"
 
 #include "forms/PinOverview.h"
 #include "window/Bindings.h"
@@ -19,9 +20,10 @@ PinOverviewPage::PinOverviewPage(Session& s, QWidget* parent) : QWidget(parent),
     setObjectName("PagePinOverview");
     TablePinOverview = new QTableWidget(kPinCount, Columns, this);
     TablePinOverview->setObjectName("TablePinOverview");
-    TablePinOverview->setAccessibleName("Pin overview");
+    TablePinOverview->setAccessibleName(Lang::tr("Pin overview"));
     TablePinOverview->setHorizontalHeaderLabels(
-        {"Pin", "Description", "Mode", "Layout", "Device", "DCC", "eXtd DCC", "Serial"});
+        {Lang::tr("Pin"), Lang::tr("Description"), Lang::tr("Mode"), Lang::tr("Layout"), Lang::tr("Device"), Lang::tr("DCC"),
+         Lang::tr("eXtd DCC"), Lang::tr("Serial")});
     TablePinOverview->verticalHeader()->hide();
     TablePinOverview->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     TablePinOverview->setEditTriggers(QAbstractItemView::NoEditTriggers);

@@ -1,4 +1,5 @@
 #include "window/QtDialogs.h"
+#include "window/Language.h"
 
 #include <QApplication>
 #include <QFileDialog>
@@ -58,11 +59,14 @@ int showBox(QMessageBox& box)
 {
     // Every answer has its letter (Alt+S, Alt+D, ...).
     for (auto [which, caption] :
-         {std::pair{QMessageBox::Save, "&Save"}, std::pair{QMessageBox::Discard, "&Discard"},
-          std::pair{QMessageBox::Cancel, "&Cancel"}, std::pair{QMessageBox::Yes, "&Yes"},
-          std::pair{QMessageBox::No, "&No"}, std::pair{QMessageBox::Ok, "&OK"}})
+         {std::pair{QMessageBox::Save, QT_TRANSLATE_NOOP("Lang", "&Save")},
+          std::pair{QMessageBox::Discard, QT_TRANSLATE_NOOP("Lang", "&Discard")},
+          std::pair{QMessageBox::Cancel, QT_TRANSLATE_NOOP("Lang", "&Cancel")},
+          std::pair{QMessageBox::Yes, QT_TRANSLATE_NOOP("Lang", "&Yes")},
+          std::pair{QMessageBox::No, QT_TRANSLATE_NOOP("Lang", "&No")},
+          std::pair{QMessageBox::Ok, QT_TRANSLATE_NOOP("Lang", "&OK")}})
         if (QAbstractButton* button = box.button(which))
-            button->setText(caption);
+            button->setText(Lang::tr(caption));
     // The keyboard goes back where it was when the box closes, also after two in a row.
     // Right after another box the window may not be active yet: its own window then.
     QPointer<QWidget> active = QApplication::activeWindow();
@@ -86,7 +90,7 @@ int showBox(QMessageBox& box)
 
 void QtDialogs::message(const std::string& text, Icon icon)
 {
-    QMessageBox box(qtIcon(icon), QApplication::applicationDisplayName(), QString::fromLatin1(text.c_str()),
+    QMessageBox box(qtIcon(icon), QApplication::applicationDisplayName(), translated("Messages", text),
                     QMessageBox::Ok, owner());
     box.setObjectName("dlgMessage");
     showBox(box);
@@ -101,7 +105,7 @@ Answer QtDialogs::ask(const std::string& text, Buttons buttons, Icon icon)
         set = QMessageBox::Yes | QMessageBox::No;
     else if (buttons == Buttons::SaveDiscardCancel)
         set = QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel;
-    QMessageBox box(qtIcon(icon), QApplication::applicationDisplayName(), QString::fromLatin1(text.c_str()),
+    QMessageBox box(qtIcon(icon), QApplication::applicationDisplayName(), translated("Messages", text),
                     set, owner());
     box.setObjectName("dlgQuestion");
     const int clicked = showBox(box);
@@ -136,7 +140,7 @@ std::string QtDialogs::openFileName(const std::string& title, const std::string&
     if (!folder.isEmpty())
         start = start.isEmpty() ? folder : folder + "/" + start;
     const QString chosen =
-        QFileDialog::getOpenFileName(owner(), QString::fromLatin1(title.c_str()), start, qtFilter(filter));
+        QFileDialog::getOpenFileName(owner(), translated("Messages", title), start, qtFilter(filter));
     if (!chosen.isEmpty() && !definitions)
         lastFolder = QFileInfo(chosen).absolutePath();
     return chosen.toStdString();
@@ -145,7 +149,7 @@ std::string QtDialogs::openFileName(const std::string& title, const std::string&
 std::string QtDialogs::saveFileName(const std::string& title, const std::string& filter,
                                     const std::string& defaultName)
 {
-    QFileDialog dialog(owner(), QString::fromLatin1(title.c_str()), lastFolder, qtFilter(filter));
+    QFileDialog dialog(owner(), translated("Messages", title), lastFolder, qtFilter(filter));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     // The suffix is added before the dialog asks about replacing an existing file.

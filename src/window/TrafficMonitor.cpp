@@ -1,4 +1,5 @@
 #include "window/TrafficMonitor.h"
+#include "window/Language.h"
 #include "window/Widgets.h"
 
 #include "files/TextFile.h"
@@ -30,10 +31,10 @@ const QString kAllCommands = "All commands";
 TrafficMonitor::TrafficMonitor(Link& link, QWidget* parent) : QDialog(parent), link(link)
 {
     setObjectName("frmTrafficMonitor");
-    setWindowTitle("Traffic Monitor");
+    setWindowTitle(Lang::tr("Traffic Monitor"));
 
     grdMonitor = named(new QTableWidget(0, 4), "grdMonitor");
-    grdMonitor->setHorizontalHeaderLabels({"Time", "Dir", "Bytes", "Decoded"});
+    grdMonitor->setHorizontalHeaderLabels({Lang::tr("Time"), Lang::tr("Dir"), Lang::tr("Bytes"), Lang::tr("Decoded")});
     grdMonitor->setAccessibleName("Frames");
     grdMonitor->setEditTriggers(QAbstractItemView::NoEditTriggers);
     grdMonitor->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -49,17 +50,18 @@ TrafficMonitor::TrafficMonitor(Link& link, QWidget* parent) : QDialog(parent), l
 
     cboMonitorFilter = named(new QComboBox, "cboMonitorFilter");
     cboMonitorFilter->addItem(kAllCommands);
+    cboMonitorFilter->setItemText(0, Lang::tr("All commands"));
     cboMonitorFilter->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    cboMonitorFilter->setAccessibleName("Filter");
-    lblMonitorFilter = named(new QLabel("&Filter:"), "lblMonitorFilter");
+    cboMonitorFilter->setAccessibleName(Lang::tr("Filter"));
+    lblMonitorFilter = named(new QLabel(Lang::tr("&Filter:")), "lblMonitorFilter");
     lblMonitorFilter->setBuddy(cboMonitorFilter);
-    chkMonitorPause = named(new QCheckBox("&Pause"), "chkMonitorPause");
-    chkMonitorPause->setAccessibleName("Pause");
-    chkMonitorPause->setToolTip("Frames that arrive while paused are not kept, only counted");
+    chkMonitorPause = named(new QCheckBox(Lang::tr("&Pause")), "chkMonitorPause");
+    chkMonitorPause->setAccessibleName(Lang::tr("Pause"));
+    chkMonitorPause->setToolTip(Lang::tr("Frames that arrive while paused are not kept, only counted"));
     lblMonitorDropped = named(new QLabel, "lblMonitorDropped");
-    cmdMonitorClear = named(new QPushButton("&Clear"), "cmdMonitorClear");
-    cmdMonitorSave = named(new QPushButton("&Save As..."), "cmdMonitorSave");
-    cmdMonitorSave->setToolTip("Saves the frames shown as plain text, one line per frame");
+    cmdMonitorClear = named(new QPushButton(Lang::tr("&Clear")), "cmdMonitorClear");
+    cmdMonitorSave = named(new QPushButton(Lang::tr("&Save As...")), "cmdMonitorSave");
+    cmdMonitorSave->setToolTip(Lang::tr("Saves the frames shown as plain text, one line per frame"));
 
     auto* bar = new QHBoxLayout;
     bar->addWidget(lblMonitorFilter);
@@ -114,7 +116,7 @@ void TrafficMonitor::closeEvent(QCloseEvent* event)
 void TrafficMonitor::received(FrameDirection direction, FrameRoute route, const std::vector<int>& bytes)
 {
     if (chkMonitorPause->isChecked()) {
-        lblMonitorDropped->setText(QString("%1 not kept while paused").arg(++dropped));
+        lblMonitorDropped->setText(Lang::tr("%1 not kept while paused").arg(++dropped));
         return;
     }
     const DecodedFrame decoded = decodeFrame(direction, route, bytes);
@@ -146,7 +148,7 @@ void TrafficMonitor::received(FrameDirection direction, FrameRoute route, const 
 bool TrafficMonitor::passes(const Line& line) const
 {
     const QString filter = cboMonitorFilter->currentText();
-    return filter == kAllCommands || filter == line.command;
+    return cboMonitorFilter->currentIndex() == 0 || filter == line.command;
 }
 
 void TrafficMonitor::addRow(const Line& line) const
@@ -183,7 +185,7 @@ void TrafficMonitor::clear()
 
 void TrafficMonitor::save()
 {
-    const std::string path = link.dialogs().saveFileName("Save Traffic", "Text files|*.txt", "");
+    const std::string path = link.dialogs().saveFileName(Lang::tr("Save Traffic").toStdString(), Lang::tr("Text files").toStdString() + "|*.txt", "");
     if (path.empty())
         return;
     std::string text;
