@@ -5,1550 +5,1546 @@
     <name>Lang</name>
     <message>
         <source>Click for copy/paste tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicken für Kopieren/Einfügen</translation>
     </message>
     <message>
         <source>Double-click for help-tool</source>
-        <translation type="unfinished"></translation>
+        <translation>Doppelklick für das Hilfswerkzeug</translation>
     </message>
     <message>
         <source>F2 opens the help tool</source>
-        <translation type="unfinished"></translation>
+        <translation>F2 öffnet das Hilfswerkzeug</translation>
     </message>
     <message>
         <source>The module has no command to test an aspect, so this is not available</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Modul kennt keinen Befehl zum Testen eines Signalbilds, daher ist dies nicht verfügbar</translation>
     </message>
     <message>
         <source>&amp;Pin Tool...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pin-Werkzeug...</translation>
     </message>
     <message>
         <source>&amp;Aspect Tool...</source>
-        <translation type="unfinished"></translation>
+        <translation>Si&amp;gnalbild-Werkzeug...</translation>
     </message>
     <message>
         <source>&amp;Step Tool...</source>
-        <translation type="unfinished"></translation>
+        <translation>Sc&amp;hritt-Werkzeug...</translation>
     </message>
     <message>
         <source>Pin</source>
-        <translation type="unfinished"></translation>
+        <translation>Pin</translation>
     </message>
     <message>
         <source>The pin&apos;s description, kept in the configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Beschreibung des Pins, in der Konfiguration gespeichert</translation>
     </message>
     <message>
         <source>The first pin of the device this pin belongs to</source>
-        <translation type="unfinished"></translation>
+        <translation>Der erste Pin des Bausteins, zu dem dieser Pin gehört</translation>
     </message>
     <message>
         <source>The device&apos;s name, kept by its first pin</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name des Bausteins, beim ersten Pin gespeichert</translation>
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschreibung</translation>
     </message>
     <message>
         <source>Device pin</source>
-        <translation type="unfinished"></translation>
+        <translation>Baustein-Pin</translation>
     </message>
     <message>
         <source>Device</source>
-        <translation type="unfinished"></translation>
+        <translation>Baustein</translation>
     </message>
     <message>
         <source>Aspects</source>
-        <translation type="unfinished"></translation>
+        <translation>Signalbilder</translation>
     </message>
     <message>
         <source>Addresses:</source>
-        <translation type="unfinished"></translation>
+        <translation>Adressen:</translation>
     </message>
     <message>
         <source>DCC</source>
-        <translation type="unfinished"></translation>
+        <translation>DCC</translation>
     </message>
     <message>
         <source>eXtd DCC</source>
-        <translation type="unfinished"></translation>
+        <translation>eXtd DCC</translation>
     </message>
     <message>
         <source>Serial</source>
-        <translation type="unfinished"></translation>
+        <translation>Seriell</translation>
     </message>
     <message>
         <source>DCC addresses</source>
-        <translation type="unfinished"></translation>
+        <translation>DCC-Adressen</translation>
     </message>
     <message>
         <source>eXtd DCC addresses</source>
-        <translation type="unfinished"></translation>
+        <translation>eXtd-DCC-Adressen</translation>
     </message>
     <message>
         <source>Serial addresses</source>
-        <translation type="unfinished"></translation>
+        <translation>Serielle Adressen</translation>
     </message>
     <message>
         <source>Re&amp;ad Pin</source>
-        <translation type="unfinished"></translation>
+        <translation>Pin le&amp;sen</translation>
     </message>
     <message>
         <source>Write Pin</source>
-        <translation type="unfinished"></translation>
+        <translation>Pin schreiben</translation>
     </message>
     <message>
         <source>Read Device</source>
-        <translation type="unfinished"></translation>
+        <translation>Baustein lesen</translation>
     </message>
     <message>
         <source>Write Device</source>
-        <translation type="unfinished"></translation>
+        <translation>Baustein schreiben</translation>
     </message>
     <message>
         <source>Aspect program</source>
-        <translation type="unfinished"></translation>
+        <translation>Signalbild-Programm</translation>
     </message>
     <message>
         <source>Aspect</source>
-        <translation type="unfinished"></translation>
+        <translation>Signalbild</translation>
     </message>
     <message>
         <source>Aspect description</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschreibung des Signalbilds</translation>
     </message>
     <message>
         <source>Initial aspect</source>
-        <translation type="unfinished"></translation>
+        <translation>Anfangs-Signalbild</translation>
     </message>
     <message>
         <source>The aspect the pin shows after power-up; -1 for none</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Signalbild, das der Pin nach dem Einschalten zeigt; -1 für keines</translation>
     </message>
     <message>
         <source>Step</source>
-        <translation type="unfinished"></translation>
+        <translation>Schritt</translation>
     </message>
     <message>
         <source>Instruction</source>
-        <translation type="unfinished"></translation>
+        <translation>Befehl</translation>
     </message>
     <message>
         <source>Fade</source>
-        <translation type="unfinished"></translation>
+        <translation>Überblenden</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>Click to Insert/Delete step</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicken zum Einfügen/Löschen eines Schritts</translation>
     </message>
     <message>
         <source>Instruction, step </source>
-        <translation type="unfinished"></translation>
+        <translation>Befehl, Schritt </translation>
     </message>
     <message>
         <source>Fade, step </source>
-        <translation type="unfinished"></translation>
+        <translation>Überblenden, Schritt </translation>
     </message>
     <message>
         <source>Show Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Details zeigen</translation>
     </message>
     <message>
         <source>Shows or hides the transfer buttons, the step headings and the pin configuration&apos;s parameter buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt oder verbirgt die Übertragungsknöpfe, die Schrittüberschriften und die Parameterknöpfe der Pin-Konfiguration</translation>
     </message>
     <message>
         <source>Read Asp&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>Signalb. lesen</translation>
     </message>
     <message>
         <source>Write Asp&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>Signalb. schreiben</translation>
     </message>
     <message>
         <source>Write Aspect</source>
-        <translation type="unfinished"></translation>
+        <translation>Signalbild schreiben</translation>
     </message>
     <message>
         <source>Test Aspect</source>
-        <translation type="unfinished"></translation>
+        <translation>Signalbild testen</translation>
     </message>
     <message>
         <source>Device definitions</source>
-        <translation type="unfinished"></translation>
+        <translation>Bausteindefinitionen</translation>
     </message>
     <message>
         <source>Device to load</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu ladender Baustein</translation>
     </message>
     <message>
         <source>Load Device</source>
-        <translation type="unfinished"></translation>
+        <translation>Baustein laden</translation>
     </message>
     <message>
         <source>Save Device</source>
-        <translation type="unfinished"></translation>
+        <translation>Baustein speichern</translation>
     </message>
     <message>
         <source>Reload &amp;DD</source>
-        <translation type="unfinished"></translation>
+        <translation>BD neu &amp;laden</translation>
     </message>
     <message>
         <source>Aspect timeline</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitleiste der Signalbilder</translation>
     </message>
     <message>
         <source>Aspect %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Signalbild %1</translation>
     </message>
     <message>
         <source>Restore from backup</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus Sicherung wiederherstellen</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>ID</source>
-        <translation type="unfinished"></translation>
+        <translation>ID</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Version</translation>
     </message>
     <message>
         <source>The read reported problems: this backup may hold values the module never sent</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Lesen gab es Probleme: diese Sicherung kann Werte enthalten, die das Modul nie gesendet hat</translation>
     </message>
     <message>
         <source>&amp;Backups</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sicherungen</translation>
     </message>
     <message>
         <source>&amp;Load</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Laden</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abbrechen</translation>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>Laden</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Read A&amp;ll</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;lles lesen</translation>
     </message>
     <message>
         <source>&amp;Write All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles sc&amp;hreiben</translation>
     </message>
     <message>
         <source>Verif&amp;y All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles &amp;prüfen</translation>
     </message>
     <message>
         <source>Write Chan&amp;ges</source>
-        <translation type="unfinished"></translation>
+        <translation>Ä&amp;nderungen schreiben</translation>
     </message>
     <message>
         <source>Writes only what differs from the module as it was last read, written or verified</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt nur, was vom zuletzt gelesenen, geschriebenen oder geprüften Stand des Moduls abweicht</translation>
     </message>
     <message>
         <source>Compare wi&amp;th Module</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mit Modul vergleichen</translation>
     </message>
     <message>
         <source>Reads the module beside the configuration and lists every difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Liest das Modul neben der Konfiguration und listet jeden Unterschied auf</translation>
     </message>
     <message>
         <source>Write pin configurations too</source>
-        <translation type="unfinished"></translation>
+        <translation>Pin-Konfigurationen mitschreiben</translation>
     </message>
     <message>
         <source>Also writes each pin&apos;s servo, PWM or input parameters to flash</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt auch die Servo-, PWM- oder Eingangsparameter jedes Pins in den Flash</translation>
     </message>
     <message>
         <source>&amp;Save File</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei &amp;speichern</translation>
     </message>
     <message>
         <source>Shift+Save File to save compact</source>
-        <translation type="unfinished"></translation>
+        <translation>Umschalt+Datei speichern speichert kompakt</translation>
     </message>
     <message>
         <source>L&amp;oad File</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei la&amp;den</translation>
     </message>
     <message>
         <source>Read All &amp;Pins</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle &amp;Pins lesen</translation>
     </message>
     <message>
         <source>Reads the 32 pins from the module, without the general settings and events</source>
-        <translation type="unfinished"></translation>
+        <translation>Liest die 32 Pins aus dem Modul, ohne die allgemeinen Einstellungen und Ereignisse</translation>
     </message>
     <message>
         <source>Write All Pi&amp;ns</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Pi&amp;ns schreiben</translation>
     </message>
     <message>
         <source>Writes the 32 pins to the module, without the general settings and events</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt die 32 Pins in das Modul, ohne die allgemeinen Einstellungen und Ereignisse</translation>
     </message>
     <message>
         <source>Ver&amp;ify All Pins</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Pins pr&amp;üfen</translation>
     </message>
     <message>
         <source>Compares the 32 pins of the module with the configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergleicht die 32 Pins des Moduls mit der Konfiguration</translation>
     </message>
     <message>
         <source>General settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Allgemeine Einstellungen</translation>
     </message>
     <message>
         <source>Pins</source>
-        <translation type="unfinished"></translation>
+        <translation>Pins</translation>
     </message>
     <message>
         <source>Events</source>
-        <translation type="unfinished"></translation>
+        <translation>Ereignisse</translation>
     </message>
     <message>
         <source>Compare with Module</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Modul vergleichen</translation>
     </message>
     <message>
         <source>Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterschiede</translation>
     </message>
     <message>
         <source>Item</source>
-        <translation type="unfinished"></translation>
+        <translation>Eintrag</translation>
     </message>
     <message>
         <source>Module</source>
-        <translation type="unfinished"></translation>
+        <translation>Modul</translation>
     </message>
     <message>
         <source>Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Konfiguration</translation>
     </message>
     <message>
         <source>Choice</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswahl</translation>
     </message>
     <message>
         <source>&amp;Take All from Module</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles vom Modul &amp;übernehmen</translation>
     </message>
     <message>
         <source>&amp;Keep All Mine</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles &amp;Eigene behalten</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Ü&amp;bernehmen</translation>
     </message>
     <message>
         <source>Takes the items chosen &quot;take the module&apos;s&quot; into the configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Übernimmt die Einträge mit der Wahl „vom Modul übernehmen“ in die Konfiguration</translation>
     </message>
     <message>
         <source>Apply and &amp;Write Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Übernehmen und Änderungen &amp;schreiben</translation>
     </message>
     <message>
         <source>Applies, then writes to the module what you kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Übernimmt und schreibt dann das Behaltene in das Modul</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Schließen</translation>
     </message>
     <message>
         <source>keep mine</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenes behalten</translation>
     </message>
     <message>
         <source>take the module&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>vom Modul übernehmen</translation>
     </message>
     <message>
         <source>The module holds this configuration: no differences.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Modul enthält diese Konfiguration: keine Unterschiede.</translation>
     </message>
     <message>
         <source>1 difference between the module and the configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Unterschied zwischen Modul und Konfiguration</translation>
     </message>
     <message>
         <source>%1 differences between the module and the configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Unterschiede zwischen Modul und Konfiguration</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen</translation>
     </message>
     <message>
         <source>Pin %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Pin %1</translation>
     </message>
     <message>
         <source>, aspect %1</source>
-        <translation type="unfinished"></translation>
+        <translation>, Signalbild %1</translation>
     </message>
     <message>
         <source>Ca&amp;ncel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbre&amp;chen</translation>
     </message>
     <message>
         <source>Clean &amp;Aspect</source>
-        <translation type="unfinished"></translation>
+        <translation>Signalbild &amp;bereinigen</translation>
     </message>
     <message>
         <source>Clears the description and everything after the first empty step</source>
-        <translation type="unfinished"></translation>
+        <translation>Löscht die Beschreibung und alles nach dem ersten leeren Schritt</translation>
     </message>
     <message>
         <source>&amp;Insert Step</source>
-        <translation type="unfinished"></translation>
+        <translation>Schritt &amp;einfügen</translation>
     </message>
     <message>
         <source>&amp;Delete Step</source>
-        <translation type="unfinished"></translation>
+        <translation>Schritt &amp;löschen</translation>
     </message>
     <message>
         <source>, step %1</source>
-        <translation type="unfinished"></translation>
+        <translation>, Schritt %1</translation>
     </message>
     <message>
         <source>Event Control</source>
-        <translation type="unfinished"></translation>
+        <translation>Ereignissteuerung</translation>
     </message>
     <message>
         <source>Rea&amp;d</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lesen</translation>
     </message>
     <message>
         <source>Write</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreiben</translation>
     </message>
     <message>
         <source>Copy to &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>In &amp;alle kopieren</translation>
     </message>
     <message>
         <source>Input %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingang %1</translation>
     </message>
     <message>
         <source>ON:</source>
-        <translation type="unfinished"></translation>
+        <translation>EIN:</translation>
     </message>
     <message>
         <source>OFF:</source>
-        <translation type="unfinished"></translation>
+        <translation>AUS:</translation>
     </message>
     <message>
         <source>InitialEvent_ON Enable</source>
-        <translation type="unfinished"></translation>
+        <translation>Anfangsereignis EIN freigeben</translation>
     </message>
     <message>
         <source>Initial Event_OFF Enable</source>
-        <translation type="unfinished"></translation>
+        <translation>Anfangsereignis AUS freigeben</translation>
     </message>
     <message>
         <source>Read Enable Map</source>
-        <translation type="unfinished"></translation>
+        <translation>Freigaben lesen</translation>
     </message>
     <message>
         <source>Write Ena&amp;ble Map</source>
-        <translation type="unfinished"></translation>
+        <translation>Frei&amp;gaben schreiben</translation>
     </message>
     <message>
         <source>All Pins</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Pins</translation>
     </message>
     <message>
         <source>Read All Events</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Ereignisse lesen</translation>
     </message>
     <message>
         <source>Write All Events</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Ereignisse schreiben</translation>
     </message>
     <message>
         <source>Verify Event Control</source>
-        <translation type="unfinished"></translation>
+        <translation>Ereignissteuerung prüfen</translation>
     </message>
     <message>
         <source>Saved %1%2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%2 gespeichert</translation>
     </message>
     <message>
         <source> (compact)</source>
-        <translation type="unfinished"></translation>
+        <translation> (kompakt)</translation>
     </message>
     <message>
         <source>Restored the backup </source>
-        <translation type="unfinished"></translation>
+        <translation>Sicherung wiederhergestellt: </translation>
     </message>
     <message>
         <source>Loaded </source>
-        <translation type="unfinished"></translation>
+        <translation>Geladen: </translation>
     </message>
     <message>
         <source>Load stopped at a fault in </source>
-        <translation type="unfinished"></translation>
+        <translation>Laden bei einem Fehler abgebrochen in </translation>
     </message>
     <message>
         <source>Nothing was loaded from </source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts wurde geladen aus </translation>
     </message>
     <message>
         <source>Re&amp;quest Version</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Version abfragen</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbekannt</translation>
     </message>
     <message>
         <source>At most 12 characters, letters, digits and signs without accents</source>
-        <translation type="unfinished"></translation>
+        <translation>Höchstens 12 Zeichen: Buchstaben, Ziffern und Zeichen ohne Akzente</translation>
     </message>
     <message>
         <source>ID String</source>
-        <translation type="unfinished"></translation>
+        <translation>ID-Text</translation>
     </message>
     <message>
         <source>DCC Address</source>
-        <translation type="unfinished"></translation>
+        <translation>DCC-Adresse</translation>
     </message>
     <message>
         <source>eXtended DCC Address</source>
-        <translation type="unfinished"></translation>
+        <translation>eXtended-DCC-Adresse</translation>
     </message>
     <message>
         <source>Packet Repeat Period</source>
-        <translation type="unfinished"></translation>
+        <translation>Paket-Wiederholzeit</translation>
     </message>
     <message>
         <source>Basic Packet State Invert</source>
-        <translation type="unfinished"></translation>
+        <translation>Zustand der Basis-Pakete umkehren</translation>
     </message>
     <message>
         <source>Allow Address 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse 0 erlauben</translation>
     </message>
     <message>
         <source>Serial Addressing</source>
-        <translation type="unfinished"></translation>
+        <translation>Serielle Adressierung</translation>
     </message>
     <message>
         <source>Enable Native Kestrel Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenen Kestrel-Modus einschalten</translation>
     </message>
     <message>
         <source>Enable Lynx Flex-Addresss</source>
-        <translation type="unfinished"></translation>
+        <translation>Lynx-Flex-Adressen einschalten</translation>
     </message>
     <message>
         <source>Flex-Address</source>
-        <translation type="unfinished"></translation>
+        <translation>Flex-Adresse</translation>
     </message>
     <message>
         <source>The first Lynx address of the module; addresses come in groups of 4</source>
-        <translation type="unfinished"></translation>
+        <translation>Die erste Lynx-Adresse des Moduls; Adressen kommen in Vierergruppen</translation>
     </message>
     <message>
         <source>eXtended Address</source>
-        <translation type="unfinished"></translation>
+        <translation>eXtended-Adresse</translation>
     </message>
     <message>
         <source>eXtended Group Mask</source>
-        <translation type="unfinished"></translation>
+        <translation>eXtended-Gruppenmaske</translation>
     </message>
     <message>
         <source>Hardware Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Hardware-Konfiguration</translation>
     </message>
     <message>
         <source>Sink Driver</source>
-        <translation type="unfinished"></translation>
+        <translation>Senkentreiber</translation>
     </message>
     <message>
         <source>Source Driver</source>
-        <translation type="unfinished"></translation>
+        <translation>Quellentreiber</translation>
     </message>
     <message>
         <source>LED Control</source>
-        <translation type="unfinished"></translation>
+        <translation>LED-Steuerung</translation>
     </message>
     <message>
         <source>Basic DCC Packet</source>
-        <translation type="unfinished"></translation>
+        <translation>DCC-Basispaket</translation>
     </message>
     <message>
         <source>eXtd DCC Packet</source>
-        <translation type="unfinished"></translation>
+        <translation>eXtd-DCC-Paket</translation>
     </message>
     <message>
         <source>Lynx Message</source>
-        <translation type="unfinished"></translation>
+        <translation>Lynx-Nachricht</translation>
     </message>
     <message>
         <source>Kestrel Message</source>
-        <translation type="unfinished"></translation>
+        <translation>Kestrel-Nachricht</translation>
     </message>
     <message>
         <source>Green 4</source>
-        <translation type="unfinished"></translation>
+        <translation>Grün 4</translation>
     </message>
     <message>
         <source>Green 5</source>
-        <translation type="unfinished"></translation>
+        <translation>Grün 5</translation>
     </message>
     <message>
         <source>Green 6</source>
-        <translation type="unfinished"></translation>
+        <translation>Grün 6</translation>
     </message>
     <message>
         <source>Idle Flash</source>
-        <translation type="unfinished"></translation>
+        <translation>Blinken im Leerlauf</translation>
     </message>
     <message>
         <source>DCC Checksum Error</source>
-        <translation type="unfinished"></translation>
+        <translation>DCC-Prüfsummenfehler</translation>
     </message>
     <message>
         <source>Orange 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Orange 1</translation>
     </message>
     <message>
         <source>Orange 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Orange 2</translation>
     </message>
     <message>
         <source>Orange 3</source>
-        <translation type="unfinished"></translation>
+        <translation>Orange 3</translation>
     </message>
     <message>
         <source>Orange 4</source>
-        <translation type="unfinished"></translation>
+        <translation>Orange 4</translation>
     </message>
     <message>
         <source>Orange 5</source>
-        <translation type="unfinished"></translation>
+        <translation>Orange 5</translation>
     </message>
     <message>
         <source>Orange 6</source>
-        <translation type="unfinished"></translation>
+        <translation>Orange 6</translation>
     </message>
     <message>
         <source>All Received Datagrams</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle empfangenen Datagramme</translation>
     </message>
     <message>
         <source>&lt;b&gt;Green LED&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Grüne LED&lt;/b&gt;</translation>
     </message>
     <message>
         <source>&lt;b&gt;Orange LED&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Orange LED&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Serial Port</source>
-        <translation type="unfinished"></translation>
+        <translation>Serielle Schnittstelle</translation>
     </message>
     <message>
         <source>Enable</source>
-        <translation type="unfinished"></translation>
+        <translation>Einschalten</translation>
     </message>
     <message>
         <source>Baud</source>
-        <translation type="unfinished"></translation>
+        <translation>Baud</translation>
     </message>
     <message>
         <source>Data Bits</source>
-        <translation type="unfinished"></translation>
+        <translation>Datenbits</translation>
     </message>
     <message>
         <source>Stop Bits</source>
-        <translation type="unfinished"></translation>
+        <translation>Stoppbits</translation>
     </message>
     <message>
         <source>Parity</source>
-        <translation type="unfinished"></translation>
+        <translation>Parität</translation>
     </message>
     <message>
         <source>7 bits</source>
-        <translation type="unfinished"></translation>
+        <translation>7 Bit</translation>
     </message>
     <message>
         <source>8 bits</source>
-        <translation type="unfinished"></translation>
+        <translation>8 Bit</translation>
     </message>
     <message>
         <source>1 bit</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Bit</translation>
     </message>
     <message>
         <source>2 bits</source>
-        <translation type="unfinished"></translation>
+        <translation>2 Bit</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine</translation>
     </message>
     <message>
         <source>Even</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerade</translation>
     </message>
     <message>
         <source>Odd</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungerade</translation>
     </message>
     <message>
         <source>Configuration Memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Konfigurationsspeicher</translation>
     </message>
     <message>
         <source>Erase Flash</source>
-        <translation type="unfinished"></translation>
+        <translation>Flash löschen</translation>
     </message>
     <message>
         <source>Erases the whole configuration of the module (takes up to 45 seconds)</source>
-        <translation type="unfinished"></translation>
+        <translation>Löscht die ganze Konfiguration des Moduls (dauert bis zu 45 Sekunden)</translation>
     </message>
     <message>
         <source>&amp;OK</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;OK</translation>
     </message>
     <message>
         <source>&amp;Base</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Basis</translation>
     </message>
     <message>
         <source>Base</source>
-        <translation type="unfinished"></translation>
+        <translation>Basis</translation>
     </message>
     <message>
         <source>&amp;Time =</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zeit =</translation>
     </message>
     <message>
         <source>Max Time =</source>
-        <translation type="unfinished"></translation>
+        <translation>Max. Zeit =</translation>
     </message>
     <message>
         <source>Output +&amp;%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgang +&amp;%1</translation>
     </message>
     <message>
         <source>&amp;All Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle dunkel</translation>
     </message>
     <message>
         <source>&amp;No Dark-phase</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Keine Dunkelphase</translation>
     </message>
     <message>
         <source>&amp;Parameter</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Parameter</translation>
     </message>
     <message>
         <source>Original</source>
-        <translation type="unfinished"></translation>
+        <translation>Original</translation>
     </message>
     <message>
         <source>Event inputs</source>
-        <translation type="unfinished"></translation>
+        <translation>Ereigniseingänge</translation>
     </message>
     <message>
         <source>Event Input &amp;%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ereigniseingang &amp;%1</translation>
     </message>
     <message>
         <source>Action</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktion</translation>
     </message>
     <message>
         <source>No &amp;action</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Keine Aktion</translation>
     </message>
     <message>
         <source>Parameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Parameter</translation>
     </message>
     <message>
         <source>&amp;Level</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Stufe</translation>
     </message>
     <message>
         <source>&amp;Time Index</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zeitindex</translation>
     </message>
     <message>
         <source>&amp;Delay</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Verzögerung</translation>
     </message>
     <message>
         <source>0..127: 16 x level + time index</source>
-        <translation type="unfinished"></translation>
+        <translation>0..127: 16 x Stufe + Zeitindex</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Allgemein</translation>
     </message>
     <message>
         <source>Pin Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Pin-Konfiguration</translation>
     </message>
     <message>
         <source>Pin Overview</source>
-        <translation type="unfinished"></translation>
+        <translation>Pin-Übersicht</translation>
     </message>
     <message>
         <source>Layout</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Kestrel Config</source>
-        <translation type="unfinished"></translation>
+        <translation>Anlage</translation>
     </message>
     <message>
         <source>untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>unbenannt</translation>
     </message>
     <message>
         <source>Port %1 open at %2 bit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>Port %1 offen mit %2 Bit/s</translation>
     </message>
     <message>
         <source>Port closed</source>
-        <translation type="unfinished"></translation>
+        <translation>Port geschlossen</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>System</translation>
     </message>
     <message>
         <source>Find Modules</source>
-        <translation type="unfinished"></translation>
+        <translation>Module suchen</translation>
     </message>
     <message>
         <source>Asks every bus address of the route in use (0..15 directly, 0..31 through the Corvid system) for its version and ID string; each address is given 500 ms to answer</source>
-        <translation type="unfinished"></translation>
+        <translation>Fragt jede Busadresse des benutzten Wegs (0..15 direkt, 0..31 über das Corvid-System) nach Version und ID-Text; jede Adresse hat 500 ms zum Antworten</translation>
     </message>
     <message>
         <source>Also every eXtended address</source>
-        <translation type="unfinished"></translation>
+        <translation>Auch jede eXtended-Adresse</translation>
     </message>
     <message>
         <source>Find Modules also asks eXtended addresses 0..95 on each address that answered (about 48 s an address)</source>
-        <translation type="unfinished"></translation>
+        <translation>Module suchen fragt auch die eXtended-Adressen 0..95 an jeder Adresse, die geantwortet hat (etwa 48 s je Adresse)</translation>
     </message>
     <message>
         <source>Back Up All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle sichern</translation>
     </message>
     <message>
         <source>Read All of each module in the list, kept with its backups</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles lesen für jedes Modul der Liste, bei seinen Sicherungen abgelegt</translation>
     </message>
     <message>
         <source>Check All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle prüfen</translation>
     </message>
     <message>
         <source>Compares each module in the list with its newest backup</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergleicht jedes Modul der Liste mit seiner neuesten Sicherung</translation>
     </message>
     <message>
         <source>Modules of the layout:</source>
-        <translation type="unfinished"></translation>
+        <translation>Module der Anlage:</translation>
     </message>
     <message>
         <source>Modules of the layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Module der Anlage</translation>
     </message>
     <message>
         <source>Route</source>
-        <translation type="unfinished"></translation>
+        <translation>Weg</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse</translation>
     </message>
     <message>
         <source>eXtended</source>
-        <translation type="unfinished"></translation>
+        <translation>eXtended</translation>
     </message>
     <message>
         <source>Newest Backup</source>
-        <translation type="unfinished"></translation>
+        <translation>Neueste Sicherung</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Zustand</translation>
     </message>
     <message>
         <source>Double-click a module (or press Return) to make it the target</source>
-        <translation type="unfinished"></translation>
+        <translation>Doppelklick auf ein Modul (oder Eingabetaste) macht es zum Ziel</translation>
     </message>
     <message>
         <source>Summary:</source>
-        <translation type="unfinished"></translation>
+        <translation>Zusammenfassung:</translation>
     </message>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Zusammenfassung</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>Communication</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung</translation>
     </message>
     <message>
         <source>Port:</source>
-        <translation type="unfinished"></translation>
+        <translation>Port:</translation>
     </message>
     <message>
         <source>&amp;Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aktualisieren</translation>
     </message>
     <message>
         <source>Port</source>
-        <translation type="unfinished"></translation>
+        <translation>Port</translation>
     </message>
     <message>
         <source>Bitrate</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitrate</translation>
     </message>
     <message>
         <source>Module Address</source>
-        <translation type="unfinished"></translation>
+        <translation>Moduladresse</translation>
     </message>
     <message>
         <source>Use eXtended Addr</source>
-        <translation type="unfinished"></translation>
+        <translation>eXtended-Adr. benutzen</translation>
     </message>
     <message>
         <source>eXtended address</source>
-        <translation type="unfinished"></translation>
+        <translation>eXtended-Adresse</translation>
     </message>
     <message>
         <source>Bidirectional Comm.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bidirektionale Verb.</translation>
     </message>
     <message>
         <source>Use Corvid Tunneling</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvid-Tunnel benutzen</translation>
     </message>
     <message>
         <source>A&amp;ctivate Transparent Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparentmodus a&amp;ktivieren</translation>
     </message>
     <message>
         <source>Switch Hub-A or Linkbox in Transparant Mode for Kestrel Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Schaltet Hub-A oder Linkbox in den Transparentmodus für die Kestrel-Konfiguration</translation>
     </message>
     <message>
         <source>Start numbering at 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zählung bei 1 beginnen</translation>
     </message>
     <message>
         <source>Response:</source>
-        <translation type="unfinished"></translation>
+        <translation>Antwort:</translation>
     </message>
     <message>
         <source>Kestrel Verification</source>
-        <translation type="unfinished"></translation>
+        <translation>Kestrel-Prüfung</translation>
     </message>
     <message>
         <source>Verification report</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüfbericht</translation>
     </message>
     <message>
         <source>Show Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterschiede zeigen</translation>
     </message>
     <message>
         <source>Corvid Communication</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvid-Verbindung</translation>
     </message>
     <message>
         <source>Corvid communication</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvid-Verbindung</translation>
     </message>
     <message>
         <source>&amp;Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Leeren</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Datei</translation>
     </message>
     <message>
         <source>&amp;Load File...</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei &amp;laden...</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Speichern</translation>
     </message>
     <message>
         <source>Save &amp;Compact...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kompakt speichern...</translation>
     </message>
     <message>
         <source>Save &amp;As...</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern &amp;unter...</translation>
     </message>
     <message>
         <source>&amp;Restore from backup...</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus Sicherung &amp;wiederherstellen...</translation>
     </message>
     <message>
         <source>Reload &amp;Device Definitions...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bausteindefinitionen neu laden...</translation>
     </message>
     <message>
         <source>A&amp;ppend Device Definitions...</source>
-        <translation type="unfinished"></translation>
+        <translation>Bausteindefinitionen &amp;hinzufügen...</translation>
     </message>
     <message>
         <source>&amp;Forget Remembered Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Gemerkte Einstellungen &amp;vergessen</translation>
     </message>
     <message>
         <source>The program starts afresh next time: port, addresses, window and files are forgotten</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Programm beginnt beim nächsten Mal neu: Port, Adressen, Fenster und Dateien sind vergessen</translation>
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beenden</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
         <source>&amp;Module</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modul</translation>
     </message>
     <message>
         <source>Request &amp;Version</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Version abfragen</translation>
     </message>
     <message>
         <source>&amp;Read All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles &amp;lesen</translation>
     </message>
     <message>
         <source>Verify &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles &amp;prüfen</translation>
     </message>
     <message>
         <source>Compare wi&amp;th Module...</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Modul ver&amp;gleichen...</translation>
     </message>
     <message>
         <source>&amp;Erase Flash...</source>
-        <translation type="unfinished"></translation>
+        <translation>Flash &amp;löschen...</translation>
     </message>
     <message>
         <source>Read &amp;Pin</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pin lesen</translation>
     </message>
     <message>
         <source>Write P&amp;in</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;in schreiben</translation>
     </message>
     <message>
         <source>Read &amp;Device</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Baustein lesen</translation>
     </message>
     <message>
         <source>Write Devi&amp;ce</source>
-        <translation type="unfinished"></translation>
+        <translation>Bau&amp;stein schreiben</translation>
     </message>
     <message>
         <source>Read Aspe&amp;cts of the Pin</source>
-        <translation type="unfinished"></translation>
+        <translation>Signalbil&amp;der des Pins lesen</translation>
     </message>
     <message>
         <source>Write Aspects o&amp;f the Pin</source>
-        <translation type="unfinished"></translation>
+        <translation>Signalbilder des Pins sc&amp;hreiben</translation>
     </message>
     <message>
         <source>Write the Selected Asp&amp;ect</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewähltes Signalbild schreiben</translation>
     </message>
     <message>
         <source>Read All Pi&amp;ns</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Pi&amp;ns lesen</translation>
     </message>
     <message>
         <source>Write All Pin&amp;s</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Pins schreiben</translation>
     </message>
     <message>
         <source>Verify All Pins</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Pins prüfen</translation>
     </message>
     <message>
         <source>Read Event Control</source>
-        <translation type="unfinished"></translation>
+        <translation>Ereignissteuerung lesen</translation>
     </message>
     <message>
         <source>Write Event Control</source>
-        <translation type="unfinished"></translation>
+        <translation>Ereignissteuerung schreiben</translation>
     </message>
     <message>
         <source>Find &amp;Modules</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Module suchen</translation>
     </message>
     <message>
         <source>Back &amp;Up All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle &amp;sichern</translation>
     </message>
     <message>
         <source>Chec&amp;k All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle prü&amp;fen</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ansicht</translation>
     </message>
     <message>
         <source>&amp;Corvid Log</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Corvid-Protokoll</translation>
     </message>
     <message>
         <source>&amp;Traffic Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Verkehrsmonitor</translation>
     </message>
     <message>
         <source>&amp;Pin Overview</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pin-Übersicht</translation>
     </message>
     <message>
         <source>&amp;Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>An&amp;lage</translation>
     </message>
     <message>
         <source>L&amp;anguage</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sprache</translation>
     </message>
     <message>
         <source>The language changes when Kestrel Config starts next.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Sprache wechselt beim nächsten Start von Kestrel Config.</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hilfe</translation>
     </message>
     <message>
         <source>&amp;User Guide</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Benutzerhandbuch</translation>
     </message>
     <message>
         <source>&amp;About Kestrel Config</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Über Kestrel Config</translation>
     </message>
     <message>
         <source>About Kestrel Config</source>
-        <translation type="unfinished"></translation>
+        <translation>Über Kestrel Config</translation>
     </message>
     <message>
         <source>Reads, edits, writes back and verifies what a Kestrel accessory module stores.&lt;br&gt;&lt;br&gt;Build: %1, Qt %2&lt;br&gt;&lt;br&gt;The user guide (Help &amp;gt; User Guide) is also a file: /usr/share/doc/kestrel-config/user-guide.md when installed from the Debian package, user-guide.md in the program&apos;s folder on Windows (C:\Program Files\Kestrel Config when installed). Its section &quot;Data files&quot; describes the data-file format, and &quot;Readable configurations and differences&quot; every item of it; on Linux the manual page kestrel-cli(1) describes the format too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Liest, bearbeitet, schreibt zurück und prüft, was ein Kestrel-Zubehörmodul speichert.&lt;br&gt;&lt;br&gt;Build: %1, Qt %2&lt;br&gt;&lt;br&gt;Das Benutzerhandbuch (Hilfe &amp;gt; Benutzerhandbuch, auf Englisch) ist auch eine Datei: /usr/share/doc/kestrel-config/user-guide.md bei Installation aus dem Debian-Paket, user-guide.md im Programmordner unter Windows (C:\Program Files\Kestrel Config bei Installation). Sein Abschnitt &quot;Data files&quot; beschreibt das Format der Datendateien und &quot;Readable configurations and differences&quot; jeden ihrer Einträge; unter Linux beschreibt auch die Handbuchseite kestrel-cli(1) das Format.</translation>
     </message>
     <message>
         <source>default</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard</translation>
     </message>
     <message>
         <source>If checked, use active dynamic parameters, else go directly to position</source>
-        <translation type="unfinished"></translation>
+        <translation>Wenn angekreuzt, gelten die aktiven dynamischen Parameter, sonst direkt in die Stellung</translation>
     </message>
     <message>
         <source>Pin </source>
-        <translation type="unfinished"></translation>
+        <translation>Pin </translation>
     </message>
     <message>
         <source>Pin is not configured</source>
-        <translation type="unfinished"></translation>
+        <translation>Pin ist nicht konfiguriert</translation>
     </message>
     <message>
         <source>Not configured</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht konfiguriert</translation>
     </message>
     <message>
         <source>Servo</source>
-        <translation type="unfinished"></translation>
+        <translation>Servo</translation>
     </message>
     <message>
         <source>PWM</source>
-        <translation type="unfinished"></translation>
+        <translation>PWM</translation>
     </message>
     <message>
         <source>Input</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingang</translation>
     </message>
     <message>
         <source>the pin no longer drives anything</source>
-        <translation type="unfinished"></translation>
+        <translation>der Pin steuert nichts mehr</translation>
     </message>
     <message>
         <source>the pin drives a servo</source>
-        <translation type="unfinished"></translation>
+        <translation>der Pin steuert einen Servo</translation>
     </message>
     <message>
         <source>the pin drives a PWM output</source>
-        <translation type="unfinished"></translation>
+        <translation>der Pin steuert einen PWM-Ausgang</translation>
     </message>
     <message>
         <source>the pin reads an input</source>
-        <translation type="unfinished"></translation>
+        <translation>der Pin liest einen Eingang</translation>
     </message>
     <message>
         <source>Picking this page changes the pin&apos;s mode: %1. It asks first when the pin&apos;s parameters would be replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Wahl dieser Seite ändert die Betriebsart des Pins: %1. Es wird vorher gefragt, wenn die Parameter des Pins ersetzt würden.</translation>
     </message>
     <message>
         <source>Get Pin Config</source>
-        <translation type="unfinished"></translation>
+        <translation>Pin-Konfig. holen</translation>
     </message>
     <message>
         <source>Re&amp;ad Pin Config</source>
-        <translation type="unfinished"></translation>
+        <translation>Pin-Konfig. le&amp;sen</translation>
     </message>
     <message>
         <source>Set Pin Config</source>
-        <translation type="unfinished"></translation>
+        <translation>Pin-Konfig. setzen</translation>
     </message>
     <message>
         <source>Write Pin Config</source>
-        <translation type="unfinished"></translation>
+        <translation>Pin-Konfig. schreiben</translation>
     </message>
     <message>
         <source>Gets the active parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Holt die aktiven Parameter</translation>
     </message>
     <message>
         <source>Reads the parameters from Flash memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Liest die Parameter aus dem Flash-Speicher</translation>
     </message>
     <message>
         <source>Sets Active Servo parameters (not permanent)</source>
-        <translation type="unfinished"></translation>
+        <translation>Setzt die aktiven Servoparameter (nicht dauerhaft)</translation>
     </message>
     <message>
         <source>Writes Servo Parameters to Flash memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt die Servoparameter in den Flash-Speicher</translation>
     </message>
     <message>
         <source>Inverted</source>
-        <translation type="unfinished"></translation>
+        <translation>Umgekehrt</translation>
     </message>
     <message>
         <source>Set Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Stellung setzen</translation>
     </message>
     <message>
         <source>Dynamic</source>
-        <translation type="unfinished"></translation>
+        <translation>Dynamisch</translation>
     </message>
     <message>
         <source>&amp;Jump</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Springen</translation>
     </message>
     <message>
         <source>Jump to target position immediately, override dynamic parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Sofort in die Zielstellung springen, dynamische Parameter übergehen</translation>
     </message>
     <message>
         <source>Servo Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Servostellung</translation>
     </message>
     <message>
         <source>Servo Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Servoparameter</translation>
     </message>
     <message>
         <source>Initial Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Anfangsstellung</translation>
     </message>
     <message>
         <source>Midpoint</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittelstellung</translation>
     </message>
     <message>
         <source>1/Mass</source>
-        <translation type="unfinished"></translation>
+        <translation>1/Masse</translation>
     </message>
     <message>
         <source>Damping</source>
-        <translation type="unfinished"></translation>
+        <translation>Dämpfung</translation>
     </message>
     <message>
         <source>MaxSpd</source>
-        <translation type="unfinished"></translation>
+        <translation>Max. Geschw.</translation>
     </message>
     <message>
         <source>MaxAcc</source>
-        <translation type="unfinished"></translation>
+        <translation>Max. Beschl.</translation>
     </message>
     <message>
         <source>BounceDown</source>
-        <translation type="unfinished"></translation>
+        <translation>Prellen ab</translation>
     </message>
     <message>
         <source>BounceDownFactor</source>
-        <translation type="unfinished"></translation>
+        <translation>Prellfaktor ab</translation>
     </message>
     <message>
         <source>BounceUp</source>
-        <translation type="unfinished"></translation>
+        <translation>Prellen auf</translation>
     </message>
     <message>
         <source>BounceUpFactor</source>
-        <translation type="unfinished"></translation>
+        <translation>Prellfaktor auf</translation>
     </message>
     <message>
         <source>Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereich</translation>
     </message>
     <message>
         <source>Servo State</source>
-        <translation type="unfinished"></translation>
+        <translation>Servozustand</translation>
     </message>
     <message>
         <source>Auto Suspend</source>
-        <translation type="unfinished"></translation>
+        <translation>Selbst abschalten</translation>
     </message>
     <message>
         <source>Suspended</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgeschaltet</translation>
     </message>
     <message>
         <source>If checked, the servo is not activated until the first position is sent</source>
-        <translation type="unfinished"></translation>
+        <translation>Wenn angekreuzt, wird der Servo erst mit der ersten gesendeten Stellung aktiv</translation>
     </message>
     <message>
         <source>Servo Initialised</source>
-        <translation type="unfinished"></translation>
+        <translation>Servo initialisiert</translation>
     </message>
     <message>
         <source>Set Level</source>
-        <translation type="unfinished"></translation>
+        <translation>Stufe setzen</translation>
     </message>
     <message>
         <source>Slow</source>
-        <translation type="unfinished"></translation>
+        <translation>Langsam</translation>
     </message>
     <message>
         <source>J&amp;ump</source>
-        <translation type="unfinished"></translation>
+        <translation>Spr&amp;ingen</translation>
     </message>
     <message>
         <source>Jump to the level immediately, without the slow change</source>
-        <translation type="unfinished"></translation>
+        <translation>Sofort auf die Stufe springen, ohne langsamen Übergang</translation>
     </message>
     <message>
         <source>PWM Level</source>
-        <translation type="unfinished"></translation>
+        <translation>PWM-Stufe</translation>
     </message>
     <message>
         <source>Drive Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Ansteuerart</translation>
     </message>
     <message>
         <source>Acceleration Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschleunigungsart</translation>
     </message>
     <message>
         <source>Linear</source>
-        <translation type="unfinished"></translation>
+        <translation>Linear</translation>
     </message>
     <message>
         <source>Logaritmic</source>
-        <translation type="unfinished"></translation>
+        <translation>Logarithmisch</translation>
     </message>
     <message>
         <source>PWM Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>PWM-Parameter</translation>
     </message>
     <message>
         <source>Initial Level</source>
-        <translation type="unfinished"></translation>
+        <translation>Anfangsstufe</translation>
     </message>
     <message>
         <source>Acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschleunigung</translation>
     </message>
     <message>
         <source>Off - Level</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus-Stufe</translation>
     </message>
     <message>
         <source>On-Level</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein-Stufe</translation>
     </message>
     <message>
         <source>Debounce</source>
-        <translation type="unfinished"></translation>
+        <translation>Entprellen</translation>
     </message>
     <message>
         <source>ON-delay (debounce)</source>
-        <translation type="unfinished"></translation>
+        <translation>EIN-Verzögerung (Entprellen)</translation>
     </message>
     <message>
         <source>OFF-delay (debounce)</source>
-        <translation type="unfinished"></translation>
+        <translation>AUS-Verzögerung (Entprellen)</translation>
     </message>
     <message>
         <source>Pin overview</source>
-        <translation type="unfinished"></translation>
+        <translation>Pin-Übersicht</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Betriebsart</translation>
     </message>
     <message>
         <source>&amp;Discard</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Verwerfen</translation>
     </message>
     <message>
         <source>&amp;Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ja</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nein</translation>
     </message>
     <message>
         <source>About %1 left</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch etwa %1</translation>
     </message>
     <message>
         <source>About %1 at %2 baud</source>
-        <translation type="unfinished"></translation>
+        <translation>Etwa %1 bei %2 Baud</translation>
     </message>
     <message>
         <source>Traffic Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>Verkehrsmonitor</translation>
     </message>
     <message>
         <source>Dir</source>
-        <translation type="unfinished"></translation>
+        <translation>Richt.</translation>
     </message>
     <message>
         <source>Bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>Bytes</translation>
     </message>
     <message>
         <source>Decoded</source>
-        <translation type="unfinished"></translation>
+        <translation>Entschlüsselt</translation>
     </message>
     <message>
         <source>All commands</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Befehle</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter</translation>
     </message>
     <message>
         <source>&amp;Filter:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Filter:</translation>
     </message>
     <message>
         <source>&amp;Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pause</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>Frames that arrive while paused are not kept, only counted</source>
-        <translation type="unfinished"></translation>
+        <translation>Rahmen, die während der Pause ankommen, werden nur gezählt, nicht behalten</translation>
     </message>
     <message>
         <source>&amp;Save As...</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern &amp;unter...</translation>
     </message>
     <message>
         <source>Saves the frames shown as plain text, one line per frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichert die gezeigten Rahmen als Text, eine Zeile je Rahmen</translation>
     </message>
     <message>
         <source>%1 not kept while paused</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 in der Pause nicht behalten</translation>
     </message>
     <message>
         <source>Save Traffic</source>
-        <translation type="unfinished"></translation>
+        <translation>Verkehr speichern</translation>
     </message>
     <message>
         <source>Text files</source>
-        <translation type="unfinished"></translation>
+        <translation>Textdateien</translation>
     </message>
     <message>
         <source>Kestrel Config User Guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Kestrel Config Benutzerhandbuch</translation>
     </message>
     <message>
         <source>User guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzerhandbuch</translation>
     </message>
     <message>
         <source>Working ... Please WAIT</source>
-        <translation type="unfinished"></translation>
+        <translation>Arbeitet ... Bitte WARTEN</translation>
     </message>
     <message>
         <source>The serial port; &quot;sim&quot; is a simulated layout built into the program, &quot;sim (Corvid)&quot; the same behind a simulated Corvid system. Return or a choice from the list opens it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die serielle Schnittstelle; &quot;sim&quot; ist eine im Programm eingebaute simulierte Anlage, &quot;sim (Corvid)&quot; dieselbe hinter einem simulierten Corvid-System. Eingabetaste oder eine Wahl aus der Liste öffnet sie.</translation>
     </message>
 </context>
 <context>
     <name>WorkState</name>
     <message>
         <source>What the module holds is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>Was das Modul enthält, ist nicht bekannt</translation>
     </message>
     <message>
         <source>The module holds what is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Modul enthält das Gezeigte</translation>
     </message>
 </context>
 </TS>

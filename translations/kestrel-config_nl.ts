@@ -5,1550 +5,1546 @@
     <name>Lang</name>
     <message>
         <source>Click for copy/paste tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Klik voor kopiëren/plakken</translation>
     </message>
     <message>
         <source>Double-click for help-tool</source>
-        <translation type="unfinished"></translation>
+        <translation>Dubbelklik voor het hulpgereedschap</translation>
     </message>
     <message>
         <source>F2 opens the help tool</source>
-        <translation type="unfinished"></translation>
+        <translation>F2 opent het hulpgereedschap</translation>
     </message>
     <message>
         <source>The module has no command to test an aspect, so this is not available</source>
-        <translation type="unfinished"></translation>
+        <translation>De module kent geen opdracht om een seinbeeld te testen, daarom is dit niet beschikbaar</translation>
     </message>
     <message>
         <source>&amp;Pin Tool...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pin-gereedschap...</translation>
     </message>
     <message>
         <source>&amp;Aspect Tool...</source>
-        <translation type="unfinished"></translation>
+        <translation>Sein&amp;beeld-gereedschap...</translation>
     </message>
     <message>
         <source>&amp;Step Tool...</source>
-        <translation type="unfinished"></translation>
+        <translation>Sta&amp;p-gereedschap...</translation>
     </message>
     <message>
         <source>Pin</source>
-        <translation type="unfinished"></translation>
+        <translation>Pin</translation>
     </message>
     <message>
         <source>The pin&apos;s description, kept in the configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>De beschrijving van de pin, bewaard in de configuratie</translation>
     </message>
     <message>
         <source>The first pin of the device this pin belongs to</source>
-        <translation type="unfinished"></translation>
+        <translation>De eerste pin van het apparaat waartoe deze pin behoort</translation>
     </message>
     <message>
         <source>The device&apos;s name, kept by its first pin</source>
-        <translation type="unfinished"></translation>
+        <translation>De naam van het apparaat, bewaard bij de eerste pin</translation>
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschrijving</translation>
     </message>
     <message>
         <source>Device pin</source>
-        <translation type="unfinished"></translation>
+        <translation>Apparaatpin</translation>
     </message>
     <message>
         <source>Device</source>
-        <translation type="unfinished"></translation>
+        <translation>Apparaat</translation>
     </message>
     <message>
         <source>Aspects</source>
-        <translation type="unfinished"></translation>
+        <translation>Seinbeelden</translation>
     </message>
     <message>
         <source>Addresses:</source>
-        <translation type="unfinished"></translation>
+        <translation>Adressen:</translation>
     </message>
     <message>
         <source>DCC</source>
-        <translation type="unfinished"></translation>
+        <translation>DCC</translation>
     </message>
     <message>
         <source>eXtd DCC</source>
-        <translation type="unfinished"></translation>
+        <translation>eXtd DCC</translation>
     </message>
     <message>
         <source>Serial</source>
-        <translation type="unfinished"></translation>
+        <translation>Serieel</translation>
     </message>
     <message>
         <source>DCC addresses</source>
-        <translation type="unfinished"></translation>
+        <translation>DCC-adressen</translation>
     </message>
     <message>
         <source>eXtd DCC addresses</source>
-        <translation type="unfinished"></translation>
+        <translation>eXtd-DCC-adressen</translation>
     </message>
     <message>
         <source>Serial addresses</source>
-        <translation type="unfinished"></translation>
+        <translation>Seriële adressen</translation>
     </message>
     <message>
         <source>Re&amp;ad Pin</source>
-        <translation type="unfinished"></translation>
+        <translation>Pin &amp;lezen</translation>
     </message>
     <message>
         <source>Write Pin</source>
-        <translation type="unfinished"></translation>
+        <translation>Pin schrijven</translation>
     </message>
     <message>
         <source>Read Device</source>
-        <translation type="unfinished"></translation>
+        <translation>Apparaat lezen</translation>
     </message>
     <message>
         <source>Write Device</source>
-        <translation type="unfinished"></translation>
+        <translation>Apparaat schrijven</translation>
     </message>
     <message>
         <source>Aspect program</source>
-        <translation type="unfinished"></translation>
+        <translation>Seinbeeldprogramma</translation>
     </message>
     <message>
         <source>Aspect</source>
-        <translation type="unfinished"></translation>
+        <translation>Seinbeeld</translation>
     </message>
     <message>
         <source>Aspect description</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschrijving van het seinbeeld</translation>
     </message>
     <message>
         <source>Initial aspect</source>
-        <translation type="unfinished"></translation>
+        <translation>Beginseinbeeld</translation>
     </message>
     <message>
         <source>The aspect the pin shows after power-up; -1 for none</source>
-        <translation type="unfinished"></translation>
+        <translation>Het seinbeeld dat de pin na het inschakelen toont; -1 voor geen</translation>
     </message>
     <message>
         <source>Step</source>
-        <translation type="unfinished"></translation>
+        <translation>Stap</translation>
     </message>
     <message>
         <source>Instruction</source>
-        <translation type="unfinished"></translation>
+        <translation>Instructie</translation>
     </message>
     <message>
         <source>Fade</source>
-        <translation type="unfinished"></translation>
+        <translation>Overvloeien</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tijd</translation>
     </message>
     <message>
         <source>Click to Insert/Delete step</source>
-        <translation type="unfinished"></translation>
+        <translation>Klik om een stap in te voegen/te wissen</translation>
     </message>
     <message>
         <source>Instruction, step </source>
-        <translation type="unfinished"></translation>
+        <translation>Instructie, stap </translation>
     </message>
     <message>
         <source>Fade, step </source>
-        <translation type="unfinished"></translation>
+        <translation>Overvloeien, stap </translation>
     </message>
     <message>
         <source>Show Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Details tonen</translation>
     </message>
     <message>
         <source>Shows or hides the transfer buttons, the step headings and the pin configuration&apos;s parameter buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Toont of verbergt de overdrachtknoppen, de stapkoppen en de parameterknoppen van de pinconfiguratie</translation>
     </message>
     <message>
         <source>Read Asp&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>Seinb. lezen</translation>
     </message>
     <message>
         <source>Write Asp&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>Seinb. schrijven</translation>
     </message>
     <message>
         <source>Write Aspect</source>
-        <translation type="unfinished"></translation>
+        <translation>Seinbeeld schrijven</translation>
     </message>
     <message>
         <source>Test Aspect</source>
-        <translation type="unfinished"></translation>
+        <translation>Seinbeeld testen</translation>
     </message>
     <message>
         <source>Device definitions</source>
-        <translation type="unfinished"></translation>
+        <translation>Apparaatdefinities</translation>
     </message>
     <message>
         <source>Device to load</source>
-        <translation type="unfinished"></translation>
+        <translation>Te laden apparaat</translation>
     </message>
     <message>
         <source>Load Device</source>
-        <translation type="unfinished"></translation>
+        <translation>Apparaat laden</translation>
     </message>
     <message>
         <source>Save Device</source>
-        <translation type="unfinished"></translation>
+        <translation>Apparaat opslaan</translation>
     </message>
     <message>
         <source>Reload &amp;DD</source>
-        <translation type="unfinished"></translation>
+        <translation>AD opnieuw &amp;laden</translation>
     </message>
     <message>
         <source>Aspect timeline</source>
-        <translation type="unfinished"></translation>
+        <translation>Tijdlijn van de seinbeelden</translation>
     </message>
     <message>
         <source>Aspect %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Seinbeeld %1</translation>
     </message>
     <message>
         <source>Restore from backup</source>
-        <translation type="unfinished"></translation>
+        <translation>Herstellen uit reservekopie</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>ID</source>
-        <translation type="unfinished"></translation>
+        <translation>ID</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Versie</translation>
     </message>
     <message>
         <source>The read reported problems: this backup may hold values the module never sent</source>
-        <translation type="unfinished"></translation>
+        <translation>Bij het lezen waren er problemen: deze reservekopie kan waarden bevatten die de module nooit heeft gestuurd</translation>
     </message>
     <message>
         <source>&amp;Backups</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reservekopieën</translation>
     </message>
     <message>
         <source>&amp;Load</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Laden</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Annuleren</translation>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>Laden</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuleren</translation>
     </message>
     <message>
         <source>Read A&amp;ll</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;lles lezen</translation>
     </message>
     <message>
         <source>&amp;Write All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles &amp;schrijven</translation>
     </message>
     <message>
         <source>Verif&amp;y All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles &amp;controleren</translation>
     </message>
     <message>
         <source>Write Chan&amp;ges</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wijzigingen schrijven</translation>
     </message>
     <message>
         <source>Writes only what differs from the module as it was last read, written or verified</source>
-        <translation type="unfinished"></translation>
+        <translation>Schrijft alleen wat afwijkt van de module zoals die het laatst gelezen, geschreven of gecontroleerd is</translation>
     </message>
     <message>
         <source>Compare wi&amp;th Module</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver&amp;gelijken met module</translation>
     </message>
     <message>
         <source>Reads the module beside the configuration and lists every difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Leest de module naast de configuratie en toont elk verschil</translation>
     </message>
     <message>
         <source>Write pin configurations too</source>
-        <translation type="unfinished"></translation>
+        <translation>Ook pinconfiguraties schrijven</translation>
     </message>
     <message>
         <source>Also writes each pin&apos;s servo, PWM or input parameters to flash</source>
-        <translation type="unfinished"></translation>
+        <translation>Schrijft ook de servo-, PWM- of ingangsparameters van elke pin naar het flashgeheugen</translation>
     </message>
     <message>
         <source>&amp;Save File</source>
-        <translation type="unfinished"></translation>
+        <translation>Bestand &amp;opslaan</translation>
     </message>
     <message>
         <source>Shift+Save File to save compact</source>
-        <translation type="unfinished"></translation>
+        <translation>Shift+Bestand opslaan slaat compact op</translation>
     </message>
     <message>
         <source>L&amp;oad File</source>
-        <translation type="unfinished"></translation>
+        <translation>Bestand la&amp;den</translation>
     </message>
     <message>
         <source>Read All &amp;Pins</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle &amp;pins lezen</translation>
     </message>
     <message>
         <source>Reads the 32 pins from the module, without the general settings and events</source>
-        <translation type="unfinished"></translation>
+        <translation>Leest de 32 pins uit de module, zonder de algemene instellingen en gebeurtenissen</translation>
     </message>
     <message>
         <source>Write All Pi&amp;ns</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle pi&amp;ns schrijven</translation>
     </message>
     <message>
         <source>Writes the 32 pins to the module, without the general settings and events</source>
-        <translation type="unfinished"></translation>
+        <translation>Schrijft de 32 pins naar de module, zonder de algemene instellingen en gebeurtenissen</translation>
     </message>
     <message>
         <source>Ver&amp;ify All Pins</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle pins contr&amp;oleren</translation>
     </message>
     <message>
         <source>Compares the 32 pins of the module with the configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergelijkt de 32 pins van de module met de configuratie</translation>
     </message>
     <message>
         <source>General settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Algemene instellingen</translation>
     </message>
     <message>
         <source>Pins</source>
-        <translation type="unfinished"></translation>
+        <translation>Pins</translation>
     </message>
     <message>
         <source>Events</source>
-        <translation type="unfinished"></translation>
+        <translation>Gebeurtenissen</translation>
     </message>
     <message>
         <source>Compare with Module</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergelijken met module</translation>
     </message>
     <message>
         <source>Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschillen</translation>
     </message>
     <message>
         <source>Item</source>
-        <translation type="unfinished"></translation>
+        <translation>Onderdeel</translation>
     </message>
     <message>
         <source>Module</source>
-        <translation type="unfinished"></translation>
+        <translation>Module</translation>
     </message>
     <message>
         <source>Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuratie</translation>
     </message>
     <message>
         <source>Choice</source>
-        <translation type="unfinished"></translation>
+        <translation>Keuze</translation>
     </message>
     <message>
         <source>&amp;Take All from Module</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles van de module &amp;overnemen</translation>
     </message>
     <message>
         <source>&amp;Keep All Mine</source>
-        <translation type="unfinished"></translation>
+        <translation>Al het &amp;mijne houden</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Toepassen</translation>
     </message>
     <message>
         <source>Takes the items chosen &quot;take the module&apos;s&quot; into the configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Neemt de onderdelen met de keuze „van de module overnemen” op in de configuratie</translation>
     </message>
     <message>
         <source>Apply and &amp;Write Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Toepassen en wijzigingen &amp;schrijven</translation>
     </message>
     <message>
         <source>Applies, then writes to the module what you kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Past toe en schrijft daarna wat u hield naar de module</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sluiten</translation>
     </message>
     <message>
         <source>keep mine</source>
-        <translation type="unfinished"></translation>
+        <translation>het mijne houden</translation>
     </message>
     <message>
         <source>take the module&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>van de module overnemen</translation>
     </message>
     <message>
         <source>The module holds this configuration: no differences.</source>
-        <translation type="unfinished"></translation>
+        <translation>De module bevat deze configuratie: geen verschillen.</translation>
     </message>
     <message>
         <source>1 difference between the module and the configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>1 verschil tussen de module en de configuratie</translation>
     </message>
     <message>
         <source>%1 differences between the module and the configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 verschillen tussen de module en de configuratie</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Ongedaan maken</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Opnieuw</translation>
     </message>
     <message>
         <source>Pin %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Pin %1</translation>
     </message>
     <message>
         <source>, aspect %1</source>
-        <translation type="unfinished"></translation>
+        <translation>, seinbeeld %1</translation>
     </message>
     <message>
         <source>Ca&amp;ncel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annu&amp;leren</translation>
     </message>
     <message>
         <source>Clean &amp;Aspect</source>
-        <translation type="unfinished"></translation>
+        <translation>Seinbeeld &amp;opschonen</translation>
     </message>
     <message>
         <source>Clears the description and everything after the first empty step</source>
-        <translation type="unfinished"></translation>
+        <translation>Wist de beschrijving en alles na de eerste lege stap</translation>
     </message>
     <message>
         <source>&amp;Insert Step</source>
-        <translation type="unfinished"></translation>
+        <translation>Stap &amp;invoegen</translation>
     </message>
     <message>
         <source>&amp;Delete Step</source>
-        <translation type="unfinished"></translation>
+        <translation>Stap &amp;wissen</translation>
     </message>
     <message>
         <source>, step %1</source>
-        <translation type="unfinished"></translation>
+        <translation>, stap %1</translation>
     </message>
     <message>
         <source>Event Control</source>
-        <translation type="unfinished"></translation>
+        <translation>Gebeurtenisbesturing</translation>
     </message>
     <message>
         <source>Rea&amp;d</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lezen</translation>
     </message>
     <message>
         <source>Write</source>
-        <translation type="unfinished"></translation>
+        <translation>Schrijven</translation>
     </message>
     <message>
         <source>Copy to &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>Naar &amp;alle kopiëren</translation>
     </message>
     <message>
         <source>Input %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ingang %1</translation>
     </message>
     <message>
         <source>ON:</source>
-        <translation type="unfinished"></translation>
+        <translation>AAN:</translation>
     </message>
     <message>
         <source>OFF:</source>
-        <translation type="unfinished"></translation>
+        <translation>UIT:</translation>
     </message>
     <message>
         <source>InitialEvent_ON Enable</source>
-        <translation type="unfinished"></translation>
+        <translation>Beginsgebeurtenis AAN inschakelen</translation>
     </message>
     <message>
         <source>Initial Event_OFF Enable</source>
-        <translation type="unfinished"></translation>
+        <translation>Beginsgebeurtenis UIT inschakelen</translation>
     </message>
     <message>
         <source>Read Enable Map</source>
-        <translation type="unfinished"></translation>
+        <translation>Vrijgaven lezen</translation>
     </message>
     <message>
         <source>Write Ena&amp;ble Map</source>
-        <translation type="unfinished"></translation>
+        <translation>Vrij&amp;gaven schrijven</translation>
     </message>
     <message>
         <source>All Pins</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle pins</translation>
     </message>
     <message>
         <source>Read All Events</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle gebeurtenissen lezen</translation>
     </message>
     <message>
         <source>Write All Events</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle gebeurtenissen schrijven</translation>
     </message>
     <message>
         <source>Verify Event Control</source>
-        <translation type="unfinished"></translation>
+        <translation>Gebeurtenisbesturing controleren</translation>
     </message>
     <message>
         <source>Saved %1%2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%2 opgeslagen</translation>
     </message>
     <message>
         <source> (compact)</source>
-        <translation type="unfinished"></translation>
+        <translation> (compact)</translation>
     </message>
     <message>
         <source>Restored the backup </source>
-        <translation type="unfinished"></translation>
+        <translation>Reservekopie hersteld: </translation>
     </message>
     <message>
         <source>Loaded </source>
-        <translation type="unfinished"></translation>
+        <translation>Geladen: </translation>
     </message>
     <message>
         <source>Load stopped at a fault in </source>
-        <translation type="unfinished"></translation>
+        <translation>Laden gestopt bij een fout in </translation>
     </message>
     <message>
         <source>Nothing was loaded from </source>
-        <translation type="unfinished"></translation>
+        <translation>Er is niets geladen uit </translation>
     </message>
     <message>
         <source>Re&amp;quest Version</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Versie opvragen</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Onbekend</translation>
     </message>
     <message>
         <source>At most 12 characters, letters, digits and signs without accents</source>
-        <translation type="unfinished"></translation>
+        <translation>Hoogstens 12 tekens: letters, cijfers en tekens zonder accenten</translation>
     </message>
     <message>
         <source>ID String</source>
-        <translation type="unfinished"></translation>
+        <translation>ID-tekst</translation>
     </message>
     <message>
         <source>DCC Address</source>
-        <translation type="unfinished"></translation>
+        <translation>DCC-adres</translation>
     </message>
     <message>
         <source>eXtended DCC Address</source>
-        <translation type="unfinished"></translation>
+        <translation>eXtended-DCC-adres</translation>
     </message>
     <message>
         <source>Packet Repeat Period</source>
-        <translation type="unfinished"></translation>
+        <translation>Herhaaltijd van pakketten</translation>
     </message>
     <message>
         <source>Basic Packet State Invert</source>
-        <translation type="unfinished"></translation>
+        <translation>Toestand van basispakketten omkeren</translation>
     </message>
     <message>
         <source>Allow Address 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Adres 0 toestaan</translation>
     </message>
     <message>
         <source>Serial Addressing</source>
-        <translation type="unfinished"></translation>
+        <translation>Seriële adressering</translation>
     </message>
     <message>
         <source>Enable Native Kestrel Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigen Kestrel-modus inschakelen</translation>
     </message>
     <message>
         <source>Enable Lynx Flex-Addresss</source>
-        <translation type="unfinished"></translation>
+        <translation>Lynx-flexadressen inschakelen</translation>
     </message>
     <message>
         <source>Flex-Address</source>
-        <translation type="unfinished"></translation>
+        <translation>Flexadres</translation>
     </message>
     <message>
         <source>The first Lynx address of the module; addresses come in groups of 4</source>
-        <translation type="unfinished"></translation>
+        <translation>Het eerste Lynx-adres van de module; adressen komen in groepen van 4</translation>
     </message>
     <message>
         <source>eXtended Address</source>
-        <translation type="unfinished"></translation>
+        <translation>eXtended-adres</translation>
     </message>
     <message>
         <source>eXtended Group Mask</source>
-        <translation type="unfinished"></translation>
+        <translation>eXtended-groepsmasker</translation>
     </message>
     <message>
         <source>Hardware Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Hardwareconfiguratie</translation>
     </message>
     <message>
         <source>Sink Driver</source>
-        <translation type="unfinished"></translation>
+        <translation>Sink-driver</translation>
     </message>
     <message>
         <source>Source Driver</source>
-        <translation type="unfinished"></translation>
+        <translation>Source-driver</translation>
     </message>
     <message>
         <source>LED Control</source>
-        <translation type="unfinished"></translation>
+        <translation>Led-besturing</translation>
     </message>
     <message>
         <source>Basic DCC Packet</source>
-        <translation type="unfinished"></translation>
+        <translation>Basis-DCC-pakket</translation>
     </message>
     <message>
         <source>eXtd DCC Packet</source>
-        <translation type="unfinished"></translation>
+        <translation>eXtd-DCC-pakket</translation>
     </message>
     <message>
         <source>Lynx Message</source>
-        <translation type="unfinished"></translation>
+        <translation>Lynx-bericht</translation>
     </message>
     <message>
         <source>Kestrel Message</source>
-        <translation type="unfinished"></translation>
+        <translation>Kestrel-bericht</translation>
     </message>
     <message>
         <source>Green 4</source>
-        <translation type="unfinished"></translation>
+        <translation>Groen 4</translation>
     </message>
     <message>
         <source>Green 5</source>
-        <translation type="unfinished"></translation>
+        <translation>Groen 5</translation>
     </message>
     <message>
         <source>Green 6</source>
-        <translation type="unfinished"></translation>
+        <translation>Groen 6</translation>
     </message>
     <message>
         <source>Idle Flash</source>
-        <translation type="unfinished"></translation>
+        <translation>Knipperen bij rust</translation>
     </message>
     <message>
         <source>DCC Checksum Error</source>
-        <translation type="unfinished"></translation>
+        <translation>DCC-controlesomfout</translation>
     </message>
     <message>
         <source>Orange 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Oranje 1</translation>
     </message>
     <message>
         <source>Orange 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Oranje 2</translation>
     </message>
     <message>
         <source>Orange 3</source>
-        <translation type="unfinished"></translation>
+        <translation>Oranje 3</translation>
     </message>
     <message>
         <source>Orange 4</source>
-        <translation type="unfinished"></translation>
+        <translation>Oranje 4</translation>
     </message>
     <message>
         <source>Orange 5</source>
-        <translation type="unfinished"></translation>
+        <translation>Oranje 5</translation>
     </message>
     <message>
         <source>Orange 6</source>
-        <translation type="unfinished"></translation>
+        <translation>Oranje 6</translation>
     </message>
     <message>
         <source>All Received Datagrams</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle ontvangen datagrammen</translation>
     </message>
     <message>
         <source>&lt;b&gt;Green LED&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Groene led&lt;/b&gt;</translation>
     </message>
     <message>
         <source>&lt;b&gt;Orange LED&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Oranje led&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Serial Port</source>
-        <translation type="unfinished"></translation>
+        <translation>Seriële poort</translation>
     </message>
     <message>
         <source>Enable</source>
-        <translation type="unfinished"></translation>
+        <translation>Inschakelen</translation>
     </message>
     <message>
         <source>Baud</source>
-        <translation type="unfinished"></translation>
+        <translation>Baud</translation>
     </message>
     <message>
         <source>Data Bits</source>
-        <translation type="unfinished"></translation>
+        <translation>Databits</translation>
     </message>
     <message>
         <source>Stop Bits</source>
-        <translation type="unfinished"></translation>
+        <translation>Stopbits</translation>
     </message>
     <message>
         <source>Parity</source>
-        <translation type="unfinished"></translation>
+        <translation>Pariteit</translation>
     </message>
     <message>
         <source>7 bits</source>
-        <translation type="unfinished"></translation>
+        <translation>7 bits</translation>
     </message>
     <message>
         <source>8 bits</source>
-        <translation type="unfinished"></translation>
+        <translation>8 bits</translation>
     </message>
     <message>
         <source>1 bit</source>
-        <translation type="unfinished"></translation>
+        <translation>1 bit</translation>
     </message>
     <message>
         <source>2 bits</source>
-        <translation type="unfinished"></translation>
+        <translation>2 bits</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Geen</translation>
     </message>
     <message>
         <source>Even</source>
-        <translation type="unfinished"></translation>
+        <translation>Even</translation>
     </message>
     <message>
         <source>Odd</source>
-        <translation type="unfinished"></translation>
+        <translation>Oneven</translation>
     </message>
     <message>
         <source>Configuration Memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuratiegeheugen</translation>
     </message>
     <message>
         <source>Erase Flash</source>
-        <translation type="unfinished"></translation>
+        <translation>Flash wissen</translation>
     </message>
     <message>
         <source>Erases the whole configuration of the module (takes up to 45 seconds)</source>
-        <translation type="unfinished"></translation>
+        <translation>Wist de hele configuratie van de module (duurt tot 45 seconden)</translation>
     </message>
     <message>
         <source>&amp;OK</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;OK</translation>
     </message>
     <message>
         <source>&amp;Base</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Basis</translation>
     </message>
     <message>
         <source>Base</source>
-        <translation type="unfinished"></translation>
+        <translation>Basis</translation>
     </message>
     <message>
         <source>&amp;Time =</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tijd =</translation>
     </message>
     <message>
         <source>Max Time =</source>
-        <translation type="unfinished"></translation>
+        <translation>Max. tijd =</translation>
     </message>
     <message>
         <source>Output +&amp;%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Uitgang +&amp;%1</translation>
     </message>
     <message>
         <source>&amp;All Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alles donker</translation>
     </message>
     <message>
         <source>&amp;No Dark-phase</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Geen donkerfase</translation>
     </message>
     <message>
         <source>&amp;Parameter</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Parameter</translation>
     </message>
     <message>
         <source>Original</source>
-        <translation type="unfinished"></translation>
+        <translation>Origineel</translation>
     </message>
     <message>
         <source>Event inputs</source>
-        <translation type="unfinished"></translation>
+        <translation>Gebeurtenisingangen</translation>
     </message>
     <message>
         <source>Event Input &amp;%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gebeurtenisingang &amp;%1</translation>
     </message>
     <message>
         <source>Action</source>
-        <translation type="unfinished"></translation>
+        <translation>Actie</translation>
     </message>
     <message>
         <source>No &amp;action</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Geen actie</translation>
     </message>
     <message>
         <source>Parameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Parameter</translation>
     </message>
     <message>
         <source>&amp;Level</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Niveau</translation>
     </message>
     <message>
         <source>&amp;Time Index</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tijdindex</translation>
     </message>
     <message>
         <source>&amp;Delay</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vertraging</translation>
     </message>
     <message>
         <source>0..127: 16 x level + time index</source>
-        <translation type="unfinished"></translation>
+        <translation>0..127: 16 x niveau + tijdindex</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Algemeen</translation>
     </message>
     <message>
         <source>Pin Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Pinconfiguratie</translation>
     </message>
     <message>
         <source>Pin Overview</source>
-        <translation type="unfinished"></translation>
+        <translation>Pinoverzicht</translation>
     </message>
     <message>
         <source>Layout</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Kestrel Config</source>
-        <translation type="unfinished"></translation>
+        <translation>Baan</translation>
     </message>
     <message>
         <source>untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>naamloos</translation>
     </message>
     <message>
         <source>Port %1 open at %2 bit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>Poort %1 open op %2 bit/s</translation>
     </message>
     <message>
         <source>Port closed</source>
-        <translation type="unfinished"></translation>
+        <translation>Poort gesloten</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>Systeem</translation>
     </message>
     <message>
         <source>Find Modules</source>
-        <translation type="unfinished"></translation>
+        <translation>Modules zoeken</translation>
     </message>
     <message>
         <source>Asks every bus address of the route in use (0..15 directly, 0..31 through the Corvid system) for its version and ID string; each address is given 500 ms to answer</source>
-        <translation type="unfinished"></translation>
+        <translation>Vraagt elk busadres van de gebruikte route (0..15 rechtstreeks, 0..31 via het Corvid-systeem) naar versie en ID-tekst; elk adres krijgt 500 ms om te antwoorden</translation>
     </message>
     <message>
         <source>Also every eXtended address</source>
-        <translation type="unfinished"></translation>
+        <translation>Ook elk eXtended-adres</translation>
     </message>
     <message>
         <source>Find Modules also asks eXtended addresses 0..95 on each address that answered (about 48 s an address)</source>
-        <translation type="unfinished"></translation>
+        <translation>Modules zoeken vraagt ook de eXtended-adressen 0..95 op elk adres dat antwoordde (ongeveer 48 s per adres)</translation>
     </message>
     <message>
         <source>Back Up All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles reservekopiëren</translation>
     </message>
     <message>
         <source>Read All of each module in the list, kept with its backups</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles lezen van elke module in de lijst, bewaard bij zijn reservekopieën</translation>
     </message>
     <message>
         <source>Check All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles controleren</translation>
     </message>
     <message>
         <source>Compares each module in the list with its newest backup</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergelijkt elke module in de lijst met zijn nieuwste reservekopie</translation>
     </message>
     <message>
         <source>Modules of the layout:</source>
-        <translation type="unfinished"></translation>
+        <translation>Modules van de baan:</translation>
     </message>
     <message>
         <source>Modules of the layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Modules van de baan</translation>
     </message>
     <message>
         <source>Route</source>
-        <translation type="unfinished"></translation>
+        <translation>Route</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished"></translation>
+        <translation>Adres</translation>
     </message>
     <message>
         <source>eXtended</source>
-        <translation type="unfinished"></translation>
+        <translation>eXtended</translation>
     </message>
     <message>
         <source>Newest Backup</source>
-        <translation type="unfinished"></translation>
+        <translation>Nieuwste reservekopie</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Toestand</translation>
     </message>
     <message>
         <source>Double-click a module (or press Return) to make it the target</source>
-        <translation type="unfinished"></translation>
+        <translation>Dubbelklik op een module (of druk op Enter) om die het doel te maken</translation>
     </message>
     <message>
         <source>Summary:</source>
-        <translation type="unfinished"></translation>
+        <translation>Samenvatting:</translation>
     </message>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Samenvatting</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Sluiten</translation>
     </message>
     <message>
         <source>Communication</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbinding</translation>
     </message>
     <message>
         <source>Port:</source>
-        <translation type="unfinished"></translation>
+        <translation>Poort:</translation>
     </message>
     <message>
         <source>&amp;Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vernieuwen</translation>
     </message>
     <message>
         <source>Port</source>
-        <translation type="unfinished"></translation>
+        <translation>Poort</translation>
     </message>
     <message>
         <source>Bitrate</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitsnelheid</translation>
     </message>
     <message>
         <source>Module Address</source>
-        <translation type="unfinished"></translation>
+        <translation>Moduleadres</translation>
     </message>
     <message>
         <source>Use eXtended Addr</source>
-        <translation type="unfinished"></translation>
+        <translation>eXtended-adres gebruiken</translation>
     </message>
     <message>
         <source>eXtended address</source>
-        <translation type="unfinished"></translation>
+        <translation>eXtended-adres</translation>
     </message>
     <message>
         <source>Bidirectional Comm.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bidirectionele verb.</translation>
     </message>
     <message>
         <source>Use Corvid Tunneling</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvid-tunnel gebruiken</translation>
     </message>
     <message>
         <source>A&amp;ctivate Transparent Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparante modus a&amp;ctiveren</translation>
     </message>
     <message>
         <source>Switch Hub-A or Linkbox in Transparant Mode for Kestrel Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Zet Hub-A of Linkbox in transparante modus voor de Kestrel-configuratie</translation>
     </message>
     <message>
         <source>Start numbering at 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nummering bij 1 beginnen</translation>
     </message>
     <message>
         <source>Response:</source>
-        <translation type="unfinished"></translation>
+        <translation>Antwoord:</translation>
     </message>
     <message>
         <source>Kestrel Verification</source>
-        <translation type="unfinished"></translation>
+        <translation>Kestrel-controle</translation>
     </message>
     <message>
         <source>Verification report</source>
-        <translation type="unfinished"></translation>
+        <translation>Controlerapport</translation>
     </message>
     <message>
         <source>Show Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschillen tonen</translation>
     </message>
     <message>
         <source>Corvid Communication</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvid-verbinding</translation>
     </message>
     <message>
         <source>Corvid communication</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvid-verbinding</translation>
     </message>
     <message>
         <source>&amp;Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Leegmaken</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bestand</translation>
     </message>
     <message>
         <source>&amp;Load File...</source>
-        <translation type="unfinished"></translation>
+        <translation>Bestand &amp;laden...</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Opslaan</translation>
     </message>
     <message>
         <source>Save &amp;Compact...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Compact opslaan...</translation>
     </message>
     <message>
         <source>Save &amp;As...</source>
-        <translation type="unfinished"></translation>
+        <translation>Opslaan &amp;als...</translation>
     </message>
     <message>
         <source>&amp;Restore from backup...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Herstellen uit reservekopie...</translation>
     </message>
     <message>
         <source>Reload &amp;Device Definitions...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Apparaatdefinities opnieuw laden...</translation>
     </message>
     <message>
         <source>A&amp;ppend Device Definitions...</source>
-        <translation type="unfinished"></translation>
+        <translation>Apparaatdefinities &amp;toevoegen...</translation>
     </message>
     <message>
         <source>&amp;Forget Remembered Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Onthouden instellingen &amp;vergeten</translation>
     </message>
     <message>
         <source>The program starts afresh next time: port, addresses, window and files are forgotten</source>
-        <translation type="unfinished"></translation>
+        <translation>Het programma begint de volgende keer opnieuw: poort, adressen, venster en bestanden zijn vergeten</translation>
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Afsluiten</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Be&amp;werken</translation>
     </message>
     <message>
         <source>&amp;Module</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Module</translation>
     </message>
     <message>
         <source>Request &amp;Version</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Versie opvragen</translation>
     </message>
     <message>
         <source>&amp;Read All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles &amp;lezen</translation>
     </message>
     <message>
         <source>Verify &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles &amp;controleren</translation>
     </message>
     <message>
         <source>Compare wi&amp;th Module...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver&amp;gelijken met module...</translation>
     </message>
     <message>
         <source>&amp;Erase Flash...</source>
-        <translation type="unfinished"></translation>
+        <translation>Flash &amp;wissen...</translation>
     </message>
     <message>
         <source>Read &amp;Pin</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pin lezen</translation>
     </message>
     <message>
         <source>Write P&amp;in</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;in schrijven</translation>
     </message>
     <message>
         <source>Read &amp;Device</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Apparaat lezen</translation>
     </message>
     <message>
         <source>Write Devi&amp;ce</source>
-        <translation type="unfinished"></translation>
+        <translation>App&amp;araat schrijven</translation>
     </message>
     <message>
         <source>Read Aspe&amp;cts of the Pin</source>
-        <translation type="unfinished"></translation>
+        <translation>Seinbeel&amp;den van de pin lezen</translation>
     </message>
     <message>
         <source>Write Aspects o&amp;f the Pin</source>
-        <translation type="unfinished"></translation>
+        <translation>Seinbeelden van de pin sc&amp;hrijven</translation>
     </message>
     <message>
         <source>Write the Selected Asp&amp;ect</source>
-        <translation type="unfinished"></translation>
+        <translation>Gekozen seinbeeld schrijven</translation>
     </message>
     <message>
         <source>Read All Pi&amp;ns</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle pi&amp;ns lezen</translation>
     </message>
     <message>
         <source>Write All Pin&amp;s</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle pins schrijven</translation>
     </message>
     <message>
         <source>Verify All Pins</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle pins controleren</translation>
     </message>
     <message>
         <source>Read Event Control</source>
-        <translation type="unfinished"></translation>
+        <translation>Gebeurtenisbesturing lezen</translation>
     </message>
     <message>
         <source>Write Event Control</source>
-        <translation type="unfinished"></translation>
+        <translation>Gebeurtenisbesturing schrijven</translation>
     </message>
     <message>
         <source>Find &amp;Modules</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modules zoeken</translation>
     </message>
     <message>
         <source>Back &amp;Up All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles &amp;reservekopiëren</translation>
     </message>
     <message>
         <source>Chec&amp;k All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles contr&amp;oleren</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>Beel&amp;d</translation>
     </message>
     <message>
         <source>&amp;Corvid Log</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Corvid-logboek</translation>
     </message>
     <message>
         <source>&amp;Traffic Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Verkeersmonitor</translation>
     </message>
     <message>
         <source>&amp;Pin Overview</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pinoverzicht</translation>
     </message>
     <message>
         <source>&amp;Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Baan</translation>
     </message>
     <message>
         <source>L&amp;anguage</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Taal</translation>
     </message>
     <message>
         <source>The language changes when Kestrel Config starts next.</source>
-        <translation type="unfinished"></translation>
+        <translation>De taal verandert wanneer Kestrel Config de volgende keer start.</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Help</translation>
     </message>
     <message>
         <source>&amp;User Guide</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gebruikershandleiding</translation>
     </message>
     <message>
         <source>&amp;About Kestrel Config</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Over Kestrel Config</translation>
     </message>
     <message>
         <source>About Kestrel Config</source>
-        <translation type="unfinished"></translation>
+        <translation>Over Kestrel Config</translation>
     </message>
     <message>
         <source>Reads, edits, writes back and verifies what a Kestrel accessory module stores.&lt;br&gt;&lt;br&gt;Build: %1, Qt %2&lt;br&gt;&lt;br&gt;The user guide (Help &amp;gt; User Guide) is also a file: /usr/share/doc/kestrel-config/user-guide.md when installed from the Debian package, user-guide.md in the program&apos;s folder on Windows (C:\Program Files\Kestrel Config when installed). Its section &quot;Data files&quot; describes the data-file format, and &quot;Readable configurations and differences&quot; every item of it; on Linux the manual page kestrel-cli(1) describes the format too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Leest, bewerkt, schrijft terug en controleert wat een Kestrel-accessoiremodule bewaart.&lt;br&gt;&lt;br&gt;Build: %1, Qt %2&lt;br&gt;&lt;br&gt;De gebruikershandleiding (Help &amp;gt; Gebruikershandleiding, in het Engels) is ook een bestand: /usr/share/doc/kestrel-config/user-guide.md bij installatie uit het Debian-pakket, user-guide.md in de programmamap onder Windows (C:\Program Files\Kestrel Config bij installatie). Het hoofdstuk &quot;Data files&quot; beschrijft de indeling van de gegevensbestanden en &quot;Readable configurations and differences&quot; elk onderdeel ervan; onder Linux beschrijft ook de handleidingpagina kestrel-cli(1) de indeling.</translation>
     </message>
     <message>
         <source>default</source>
-        <translation type="unfinished"></translation>
+        <translation>standaard</translation>
     </message>
     <message>
         <source>If checked, use active dynamic parameters, else go directly to position</source>
-        <translation type="unfinished"></translation>
+        <translation>Indien aangevinkt gelden de actieve dynamische parameters, anders direct naar de stand</translation>
     </message>
     <message>
         <source>Pin </source>
-        <translation type="unfinished"></translation>
+        <translation>Pin </translation>
     </message>
     <message>
         <source>Pin is not configured</source>
-        <translation type="unfinished"></translation>
+        <translation>Pin is niet geconfigureerd</translation>
     </message>
     <message>
         <source>Not configured</source>
-        <translation type="unfinished"></translation>
+        <translation>Niet geconfigureerd</translation>
     </message>
     <message>
         <source>Servo</source>
-        <translation type="unfinished"></translation>
+        <translation>Servo</translation>
     </message>
     <message>
         <source>PWM</source>
-        <translation type="unfinished"></translation>
+        <translation>PWM</translation>
     </message>
     <message>
         <source>Input</source>
-        <translation type="unfinished"></translation>
+        <translation>Ingang</translation>
     </message>
     <message>
         <source>the pin no longer drives anything</source>
-        <translation type="unfinished"></translation>
+        <translation>de pin stuurt niets meer aan</translation>
     </message>
     <message>
         <source>the pin drives a servo</source>
-        <translation type="unfinished"></translation>
+        <translation>de pin stuurt een servo aan</translation>
     </message>
     <message>
         <source>the pin drives a PWM output</source>
-        <translation type="unfinished"></translation>
+        <translation>de pin stuurt een PWM-uitgang aan</translation>
     </message>
     <message>
         <source>the pin reads an input</source>
-        <translation type="unfinished"></translation>
+        <translation>de pin leest een ingang</translation>
     </message>
     <message>
         <source>Picking this page changes the pin&apos;s mode: %1. It asks first when the pin&apos;s parameters would be replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Het kiezen van deze pagina wijzigt de modus van de pin: %1. Er wordt eerst gevraagd wanneer de parameters van de pin vervangen zouden worden.</translation>
     </message>
     <message>
         <source>Get Pin Config</source>
-        <translation type="unfinished"></translation>
+        <translation>Pinconfig. ophalen</translation>
     </message>
     <message>
         <source>Re&amp;ad Pin Config</source>
-        <translation type="unfinished"></translation>
+        <translation>Pinconfig. &amp;lezen</translation>
     </message>
     <message>
         <source>Set Pin Config</source>
-        <translation type="unfinished"></translation>
+        <translation>Pinconfig. instellen</translation>
     </message>
     <message>
         <source>Write Pin Config</source>
-        <translation type="unfinished"></translation>
+        <translation>Pinconfig. schrijven</translation>
     </message>
     <message>
         <source>Gets the active parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Haalt de actieve parameters op</translation>
     </message>
     <message>
         <source>Reads the parameters from Flash memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Leest de parameters uit het flashgeheugen</translation>
     </message>
     <message>
         <source>Sets Active Servo parameters (not permanent)</source>
-        <translation type="unfinished"></translation>
+        <translation>Stelt de actieve servoparameters in (niet blijvend)</translation>
     </message>
     <message>
         <source>Writes Servo Parameters to Flash memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Schrijft de servoparameters naar het flashgeheugen</translation>
     </message>
     <message>
         <source>Inverted</source>
-        <translation type="unfinished"></translation>
+        <translation>Omgekeerd</translation>
     </message>
     <message>
         <source>Set Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Stand instellen</translation>
     </message>
     <message>
         <source>Dynamic</source>
-        <translation type="unfinished"></translation>
+        <translation>Dynamisch</translation>
     </message>
     <message>
         <source>&amp;Jump</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Springen</translation>
     </message>
     <message>
         <source>Jump to target position immediately, override dynamic parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Direct naar de doelstand springen, dynamische parameters negeren</translation>
     </message>
     <message>
         <source>Servo Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Servostand</translation>
     </message>
     <message>
         <source>Servo Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Servoparameters</translation>
     </message>
     <message>
         <source>Initial Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Beginstand</translation>
     </message>
     <message>
         <source>Midpoint</source>
-        <translation type="unfinished"></translation>
+        <translation>Middenstand</translation>
     </message>
     <message>
         <source>1/Mass</source>
-        <translation type="unfinished"></translation>
+        <translation>1/massa</translation>
     </message>
     <message>
         <source>Damping</source>
-        <translation type="unfinished"></translation>
+        <translation>Demping</translation>
     </message>
     <message>
         <source>MaxSpd</source>
-        <translation type="unfinished"></translation>
+        <translation>Max. snelh.</translation>
     </message>
     <message>
         <source>MaxAcc</source>
-        <translation type="unfinished"></translation>
+        <translation>Max. versn.</translation>
     </message>
     <message>
         <source>BounceDown</source>
-        <translation type="unfinished"></translation>
+        <translation>Stuiteren omlaag</translation>
     </message>
     <message>
         <source>BounceDownFactor</source>
-        <translation type="unfinished"></translation>
+        <translation>Stuitfactor omlaag</translation>
     </message>
     <message>
         <source>BounceUp</source>
-        <translation type="unfinished"></translation>
+        <translation>Stuiteren omhoog</translation>
     </message>
     <message>
         <source>BounceUpFactor</source>
-        <translation type="unfinished"></translation>
+        <translation>Stuitfactor omhoog</translation>
     </message>
     <message>
         <source>Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereik</translation>
     </message>
     <message>
         <source>Servo State</source>
-        <translation type="unfinished"></translation>
+        <translation>Servotoestand</translation>
     </message>
     <message>
         <source>Auto Suspend</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisch uitschakelen</translation>
     </message>
     <message>
         <source>Suspended</source>
-        <translation type="unfinished"></translation>
+        <translation>Uitgeschakeld</translation>
     </message>
     <message>
         <source>If checked, the servo is not activated until the first position is sent</source>
-        <translation type="unfinished"></translation>
+        <translation>Indien aangevinkt wordt de servo pas actief wanneer de eerste stand is verzonden</translation>
     </message>
     <message>
         <source>Servo Initialised</source>
-        <translation type="unfinished"></translation>
+        <translation>Servo geïnitialiseerd</translation>
     </message>
     <message>
         <source>Set Level</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau instellen</translation>
     </message>
     <message>
         <source>Slow</source>
-        <translation type="unfinished"></translation>
+        <translation>Langzaam</translation>
     </message>
     <message>
         <source>J&amp;ump</source>
-        <translation type="unfinished"></translation>
+        <translation>Spr&amp;ingen</translation>
     </message>
     <message>
         <source>Jump to the level immediately, without the slow change</source>
-        <translation type="unfinished"></translation>
+        <translation>Direct naar het niveau springen, zonder langzame overgang</translation>
     </message>
     <message>
         <source>PWM Level</source>
-        <translation type="unfinished"></translation>
+        <translation>PWM-niveau</translation>
     </message>
     <message>
         <source>Drive Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Aanstuurwijze</translation>
     </message>
     <message>
         <source>Acceleration Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Versnellingswijze</translation>
     </message>
     <message>
         <source>Linear</source>
-        <translation type="unfinished"></translation>
+        <translation>Lineair</translation>
     </message>
     <message>
         <source>Logaritmic</source>
-        <translation type="unfinished"></translation>
+        <translation>Logaritmisch</translation>
     </message>
     <message>
         <source>PWM Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>PWM-parameters</translation>
     </message>
     <message>
         <source>Initial Level</source>
-        <translation type="unfinished"></translation>
+        <translation>Beginniveau</translation>
     </message>
     <message>
         <source>Acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Versnelling</translation>
     </message>
     <message>
         <source>Off - Level</source>
-        <translation type="unfinished"></translation>
+        <translation>Uit-niveau</translation>
     </message>
     <message>
         <source>On-Level</source>
-        <translation type="unfinished"></translation>
+        <translation>Aan-niveau</translation>
     </message>
     <message>
         <source>Debounce</source>
-        <translation type="unfinished"></translation>
+        <translation>Ontdenderen</translation>
     </message>
     <message>
         <source>ON-delay (debounce)</source>
-        <translation type="unfinished"></translation>
+        <translation>AAN-vertraging (ontdenderen)</translation>
     </message>
     <message>
         <source>OFF-delay (debounce)</source>
-        <translation type="unfinished"></translation>
+        <translation>UIT-vertraging (ontdenderen)</translation>
     </message>
     <message>
         <source>Pin overview</source>
-        <translation type="unfinished"></translation>
+        <translation>Pinoverzicht</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modus</translation>
     </message>
     <message>
         <source>&amp;Discard</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Weggooien</translation>
     </message>
     <message>
         <source>&amp;Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ja</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nee</translation>
     </message>
     <message>
         <source>About %1 left</source>
-        <translation type="unfinished"></translation>
+        <translation>Nog ongeveer %1</translation>
     </message>
     <message>
         <source>About %1 at %2 baud</source>
-        <translation type="unfinished"></translation>
+        <translation>Ongeveer %1 bij %2 baud</translation>
     </message>
     <message>
         <source>Traffic Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>Verkeersmonitor</translation>
     </message>
     <message>
         <source>Dir</source>
-        <translation type="unfinished"></translation>
+        <translation>Richt.</translation>
     </message>
     <message>
         <source>Bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>Bytes</translation>
     </message>
     <message>
         <source>Decoded</source>
-        <translation type="unfinished"></translation>
+        <translation>Gedecodeerd</translation>
     </message>
     <message>
         <source>All commands</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle opdrachten</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter</translation>
     </message>
     <message>
         <source>&amp;Filter:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Filter:</translation>
     </message>
     <message>
         <source>&amp;Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pauze</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pauze</translation>
     </message>
     <message>
         <source>Frames that arrive while paused are not kept, only counted</source>
-        <translation type="unfinished"></translation>
+        <translation>Frames die tijdens de pauze binnenkomen worden alleen geteld, niet bewaard</translation>
     </message>
     <message>
         <source>&amp;Save As...</source>
-        <translation type="unfinished"></translation>
+        <translation>Opslaan &amp;als...</translation>
     </message>
     <message>
         <source>Saves the frames shown as plain text, one line per frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Slaat de getoonde frames op als tekst, één regel per frame</translation>
     </message>
     <message>
         <source>%1 not kept while paused</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 niet bewaard tijdens pauze</translation>
     </message>
     <message>
         <source>Save Traffic</source>
-        <translation type="unfinished"></translation>
+        <translation>Verkeer opslaan</translation>
     </message>
     <message>
         <source>Text files</source>
-        <translation type="unfinished"></translation>
+        <translation>Tekstbestanden</translation>
     </message>
     <message>
         <source>Kestrel Config User Guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Kestrel Config gebruikershandleiding</translation>
     </message>
     <message>
         <source>User guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Gebruikershandleiding</translation>
     </message>
     <message>
         <source>Working ... Please WAIT</source>
-        <translation type="unfinished"></translation>
+        <translation>Bezig ... Even WACHTEN</translation>
     </message>
     <message>
         <source>The serial port; &quot;sim&quot; is a simulated layout built into the program, &quot;sim (Corvid)&quot; the same behind a simulated Corvid system. Return or a choice from the list opens it.</source>
-        <translation type="unfinished"></translation>
+        <translation>De seriële poort; &quot;sim&quot; is een in het programma ingebouwde gesimuleerde baan, &quot;sim (Corvid)&quot; dezelfde achter een gesimuleerd Corvid-systeem. Enter of een keuze uit de lijst opent hem.</translation>
     </message>
 </context>
 <context>
     <name>WorkState</name>
     <message>
         <source>What the module holds is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>Wat de module bevat is niet bekend</translation>
     </message>
     <message>
         <source>The module holds what is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>De module bevat wat getoond wordt</translation>
     </message>
 </context>
 </TS>
