@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
+    <name>GeneralSettings</name>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+</context>
+<context>
     <name>Lang</name>
     <message>
         <source>Click for copy/paste tools</source>
@@ -36,7 +43,7 @@
         <translation>Pin</translation>
     </message>
     <message>
-        <source>The pin&apos;s description, kept in the configuration</source>
+        <source>The pin's description, kept in the configuration</source>
         <translation>Die Beschreibung des Pins, in der Konfiguration gespeichert</translation>
     </message>
     <message>
@@ -44,7 +51,7 @@
         <translation>Der erste Pin des Bausteins, zu dem dieser Pin gehört</translation>
     </message>
     <message>
-        <source>The device&apos;s name, kept by its first pin</source>
+        <source>The device's name, kept by its first pin</source>
         <translation>Der Name des Bausteins, beim ersten Pin gespeichert</translation>
     </message>
     <message>
@@ -160,15 +167,15 @@
         <translation>Details zeigen</translation>
     </message>
     <message>
-        <source>Shows or hides the transfer buttons, the step headings and the pin configuration&apos;s parameter buttons</source>
+        <source>Shows or hides the transfer buttons, the step headings and the pin configuration's parameter buttons</source>
         <translation>Zeigt oder verbirgt die Übertragungsknöpfe, die Schrittüberschriften und die Parameterknöpfe der Pin-Konfiguration</translation>
     </message>
     <message>
-        <source>Read Asp&apos;s</source>
+        <source>Read Asp's</source>
         <translation>Signalb. lesen</translation>
     </message>
     <message>
-        <source>Write Asp&apos;s</source>
+        <source>Write Asp's</source>
         <translation>Signalb. schreiben</translation>
     </message>
     <message>
@@ -280,7 +287,7 @@
         <translation>Pin-Konfigurationen mitschreiben</translation>
     </message>
     <message>
-        <source>Also writes each pin&apos;s servo, PWM or input parameters to flash</source>
+        <source>Also writes each pin's servo, PWM or input parameters to flash</source>
         <translation>Schreibt auch die Servo-, PWM- oder Eingangsparameter jedes Pins in den Flash</translation>
     </message>
     <message>
@@ -368,7 +375,7 @@
         <translation>Ü&amp;bernehmen</translation>
     </message>
     <message>
-        <source>Takes the items chosen &quot;take the module&apos;s&quot; into the configuration</source>
+        <source>Takes the items chosen "take the module's" into the configuration</source>
         <translation>Übernimmt die Einträge mit der Wahl „vom Modul übernehmen“ in die Konfiguration</translation>
     </message>
     <message>
@@ -388,7 +395,7 @@
         <translation>Eigenes behalten</translation>
     </message>
     <message>
-        <source>take the module&apos;s</source>
+        <source>take the module's</source>
         <translation>vom Modul übernehmen</translation>
     </message>
     <message>
@@ -1184,8 +1191,8 @@
         <translation>Über Kestrel Config</translation>
     </message>
     <message>
-        <source>Reads, edits, writes back and verifies what a Kestrel accessory module stores.&lt;br&gt;&lt;br&gt;Build: %1, Qt %2&lt;br&gt;&lt;br&gt;The user guide (Help &amp;gt; User Guide) is also a file: /usr/share/doc/kestrel-config/user-guide.md when installed from the Debian package, user-guide.md in the program&apos;s folder on Windows (C:\Program Files\Kestrel Config when installed). Its section &quot;Data files&quot; describes the data-file format, and &quot;Readable configurations and differences&quot; every item of it; on Linux the manual page kestrel-cli(1) describes the format too.</source>
-        <translation>Liest, bearbeitet, schreibt zurück und prüft, was ein Kestrel-Zubehörmodul speichert.&lt;br&gt;&lt;br&gt;Build: %1, Qt %2&lt;br&gt;&lt;br&gt;Das Benutzerhandbuch (Hilfe &amp;gt; Benutzerhandbuch, auf Englisch) ist auch eine Datei: /usr/share/doc/kestrel-config/user-guide.md bei Installation aus dem Debian-Paket, user-guide.md im Programmordner unter Windows (C:\Program Files\Kestrel Config bei Installation). Sein Abschnitt &quot;Data files&quot; beschreibt das Format der Datendateien und &quot;Readable configurations and differences&quot; jeden ihrer Einträge; unter Linux beschreibt auch die Handbuchseite kestrel-cli(1) das Format.</translation>
+        <source>Reads, edits, writes back and verifies what a Kestrel accessory module stores.&lt;br&gt;&lt;br&gt;Build: %1, Qt %2&lt;br&gt;&lt;br&gt;The user guide (Help &amp;gt; User Guide) is also a file: /usr/share/doc/kestrel-config/user-guide.md when installed from the Debian package, user-guide.md in the program's folder on Windows (C:\Program Files\Kestrel Config when installed). Its section "Data files" describes the data-file format, and "Readable configurations and differences" every item of it; on Linux the manual page kestrel-cli(1) describes the format too.</source>
+        <translation>Liest, bearbeitet, schreibt zurück und prüft, was ein Kestrel-Zubehörmodul speichert.&lt;br&gt;&lt;br&gt;Build: %1, Qt %2&lt;br&gt;&lt;br&gt;Das Benutzerhandbuch (Hilfe &amp;gt; Benutzerhandbuch, auf Englisch) ist auch eine Datei: /usr/share/doc/kestrel-config/user-guide.md bei Installation aus dem Debian-Paket, user-guide.md im Programmordner unter Windows (C:\Program Files\Kestrel Config bei Installation). Sein Abschnitt "Data files" beschreibt das Format der Datendateien und "Readable configurations and differences" jeden ihrer Einträge; unter Linux beschreibt auch die Handbuchseite kestrel-cli(1) das Format.</translation>
     </message>
     <message>
         <source>default</source>
@@ -1236,7 +1243,7 @@
         <translation>der Pin liest einen Eingang</translation>
     </message>
     <message>
-        <source>Picking this page changes the pin&apos;s mode: %1. It asks first when the pin&apos;s parameters would be replaced.</source>
+        <source>Picking this page changes the pin's mode: %1. It asks first when the pin's parameters would be replaced.</source>
         <translation>Die Wahl dieser Seite ändert die Betriebsart des Pins: %1. Es wird vorher gefragt, wenn die Parameter des Pins ersetzt würden.</translation>
     </message>
     <message>
@@ -1532,8 +1539,83 @@
         <translation>Arbeitet ... Bitte WARTEN</translation>
     </message>
     <message>
-        <source>The serial port; &quot;sim&quot; is a simulated layout built into the program, &quot;sim (Corvid)&quot; the same behind a simulated Corvid system. Return or a choice from the list opens it.</source>
-        <translation>Die serielle Schnittstelle; &quot;sim&quot; ist eine im Programm eingebaute simulierte Anlage, &quot;sim (Corvid)&quot; dieselbe hinter einem simulierten Corvid-System. Eingabetaste oder eine Wahl aus der Liste öffnet sie.</translation>
+        <source>The serial port; "sim" is a simulated layout built into the program, "sim (Corvid)" the same behind a simulated Corvid system. Return or a choice from the list opens it.</source>
+        <translation>Die serielle Schnittstelle; "sim" ist eine im Programm eingebaute simulierte Anlage, "sim (Corvid)" dieselbe hinter einem simulierten Corvid-System. Eingabetaste oder eine Wahl aus der Liste öffnet sie.</translation>
+    </message>
+    <message>
+        <source>Reads this pin from the module: aspects, addresses and pin configuration</source>
+        <translation>Liest diesen Pin aus dem Modul: Signalbilder, Adressen und Pin-Konfiguration</translation>
+    </message>
+    <message>
+        <source>Writes this pin to the module: aspects and addresses</source>
+        <translation>Schreibt diesen Pin in das Modul: Signalbilder und Adressen</translation>
+    </message>
+    <message>
+        <source>Reads every pin of this pin's device from the module</source>
+        <translation>Liest jeden Pin des Bausteins dieses Pins aus dem Modul</translation>
+    </message>
+    <message>
+        <source>Writes every pin of this pin's device to the module</source>
+        <translation>Schreibt jeden Pin des Bausteins dieses Pins in das Modul</translation>
+    </message>
+    <message>
+        <source>Reads this pin's aspects, initial aspect and addresses from the module</source>
+        <translation>Liest die Signalbilder, das Anfangs-Signalbild und die Adressen dieses Pins aus dem Modul</translation>
+    </message>
+    <message>
+        <source>Writes this pin's aspects, initial aspect and addresses to the module</source>
+        <translation>Schreibt die Signalbilder, das Anfangs-Signalbild und die Adressen dieses Pins in das Modul</translation>
+    </message>
+    <message>
+        <source>Writes only the steps of the selected aspect to the module</source>
+        <translation>Schreibt nur die Schritte des gewählten Signalbilds in das Modul</translation>
+    </message>
+    <message>
+        <source>Places the chosen device on the pins, its first pin on this pin</source>
+        <translation>Legt den gewählten Baustein auf die Pins, seinen ersten Pin auf diesen Pin</translation>
+    </message>
+    <message>
+        <source>Saves this pin's device to a definitions file of its own</source>
+        <translation>Speichert den Baustein dieses Pins in eine eigene Definitionsdatei</translation>
+    </message>
+    <message>
+        <source>Reload DD to load new file, Shift + Reload DD to append</source>
+        <translation>BD neu laden lädt eine neue Datei, Umschalt + BD neu laden fügt hinzu</translation>
+    </message>
+    <message>
+        <source>Re&amp;ad</source>
+        <translation>Le&amp;sen</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Lesen</translation>
+    </message>
+    <message>
+        <source>Read Config</source>
+        <translation>Konfig. lesen</translation>
+    </message>
+    <message>
+        <source>Write Config</source>
+        <translation>Konfig. schreiben</translation>
+    </message>
+    <message>
+        <source>Read Settings</source>
+        <translation>Einstellungen lesen</translation>
+    </message>
+    <message>
+        <source>Write Settings</source>
+        <translation>Einstellungen schreiben</translation>
+    </message>
+</context>
+<context>
+    <name>LinkControl</name>
+    <message>
+        <source>Channel Number</source>
+        <translation>Kanalnummer</translation>
+    </message>
+    <message>
+        <source>Module Address</source>
+        <translation>Moduladresse</translation>
     </message>
 </context>
 <context>

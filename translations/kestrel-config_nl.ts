@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl_NL">
 <context>
+    <name>GeneralSettings</name>
+    <message>
+        <source>Unknown</source>
+        <translation>Onbekend</translation>
+    </message>
+</context>
+<context>
     <name>Lang</name>
     <message>
         <source>Click for copy/paste tools</source>
@@ -36,7 +43,7 @@
         <translation>Pin</translation>
     </message>
     <message>
-        <source>The pin&apos;s description, kept in the configuration</source>
+        <source>The pin's description, kept in the configuration</source>
         <translation>De beschrijving van de pin, bewaard in de configuratie</translation>
     </message>
     <message>
@@ -44,7 +51,7 @@
         <translation>De eerste pin van het apparaat waartoe deze pin behoort</translation>
     </message>
     <message>
-        <source>The device&apos;s name, kept by its first pin</source>
+        <source>The device's name, kept by its first pin</source>
         <translation>De naam van het apparaat, bewaard bij de eerste pin</translation>
     </message>
     <message>
@@ -160,15 +167,15 @@
         <translation>Details tonen</translation>
     </message>
     <message>
-        <source>Shows or hides the transfer buttons, the step headings and the pin configuration&apos;s parameter buttons</source>
+        <source>Shows or hides the transfer buttons, the step headings and the pin configuration's parameter buttons</source>
         <translation>Toont of verbergt de overdrachtknoppen, de stapkoppen en de parameterknoppen van de pinconfiguratie</translation>
     </message>
     <message>
-        <source>Read Asp&apos;s</source>
+        <source>Read Asp's</source>
         <translation>Seinb. lezen</translation>
     </message>
     <message>
-        <source>Write Asp&apos;s</source>
+        <source>Write Asp's</source>
         <translation>Seinb. schrijven</translation>
     </message>
     <message>
@@ -280,7 +287,7 @@
         <translation>Ook pinconfiguraties schrijven</translation>
     </message>
     <message>
-        <source>Also writes each pin&apos;s servo, PWM or input parameters to flash</source>
+        <source>Also writes each pin's servo, PWM or input parameters to flash</source>
         <translation>Schrijft ook de servo-, PWM- of ingangsparameters van elke pin naar het flashgeheugen</translation>
     </message>
     <message>
@@ -368,7 +375,7 @@
         <translation>&amp;Toepassen</translation>
     </message>
     <message>
-        <source>Takes the items chosen &quot;take the module&apos;s&quot; into the configuration</source>
+        <source>Takes the items chosen "take the module's" into the configuration</source>
         <translation>Neemt de onderdelen met de keuze „van de module overnemen” op in de configuratie</translation>
     </message>
     <message>
@@ -388,7 +395,7 @@
         <translation>het mijne houden</translation>
     </message>
     <message>
-        <source>take the module&apos;s</source>
+        <source>take the module's</source>
         <translation>van de module overnemen</translation>
     </message>
     <message>
@@ -1184,8 +1191,8 @@
         <translation>Over Kestrel Config</translation>
     </message>
     <message>
-        <source>Reads, edits, writes back and verifies what a Kestrel accessory module stores.&lt;br&gt;&lt;br&gt;Build: %1, Qt %2&lt;br&gt;&lt;br&gt;The user guide (Help &amp;gt; User Guide) is also a file: /usr/share/doc/kestrel-config/user-guide.md when installed from the Debian package, user-guide.md in the program&apos;s folder on Windows (C:\Program Files\Kestrel Config when installed). Its section &quot;Data files&quot; describes the data-file format, and &quot;Readable configurations and differences&quot; every item of it; on Linux the manual page kestrel-cli(1) describes the format too.</source>
-        <translation>Leest, bewerkt, schrijft terug en controleert wat een Kestrel-accessoiremodule bewaart.&lt;br&gt;&lt;br&gt;Build: %1, Qt %2&lt;br&gt;&lt;br&gt;De gebruikershandleiding (Help &amp;gt; Gebruikershandleiding, in het Engels) is ook een bestand: /usr/share/doc/kestrel-config/user-guide.md bij installatie uit het Debian-pakket, user-guide.md in de programmamap onder Windows (C:\Program Files\Kestrel Config bij installatie). Het hoofdstuk &quot;Data files&quot; beschrijft de indeling van de gegevensbestanden en &quot;Readable configurations and differences&quot; elk onderdeel ervan; onder Linux beschrijft ook de handleidingpagina kestrel-cli(1) de indeling.</translation>
+        <source>Reads, edits, writes back and verifies what a Kestrel accessory module stores.&lt;br&gt;&lt;br&gt;Build: %1, Qt %2&lt;br&gt;&lt;br&gt;The user guide (Help &amp;gt; User Guide) is also a file: /usr/share/doc/kestrel-config/user-guide.md when installed from the Debian package, user-guide.md in the program's folder on Windows (C:\Program Files\Kestrel Config when installed). Its section "Data files" describes the data-file format, and "Readable configurations and differences" every item of it; on Linux the manual page kestrel-cli(1) describes the format too.</source>
+        <translation>Leest, bewerkt, schrijft terug en controleert wat een Kestrel-accessoiremodule bewaart.&lt;br&gt;&lt;br&gt;Build: %1, Qt %2&lt;br&gt;&lt;br&gt;De gebruikershandleiding (Help &amp;gt; Gebruikershandleiding, in het Engels) is ook een bestand: /usr/share/doc/kestrel-config/user-guide.md bij installatie uit het Debian-pakket, user-guide.md in de programmamap onder Windows (C:\Program Files\Kestrel Config bij installatie). Het hoofdstuk "Data files" beschrijft de indeling van de gegevensbestanden en "Readable configurations and differences" elk onderdeel ervan; onder Linux beschrijft ook de handleidingpagina kestrel-cli(1) de indeling.</translation>
     </message>
     <message>
         <source>default</source>
@@ -1236,7 +1243,7 @@
         <translation>de pin leest een ingang</translation>
     </message>
     <message>
-        <source>Picking this page changes the pin&apos;s mode: %1. It asks first when the pin&apos;s parameters would be replaced.</source>
+        <source>Picking this page changes the pin's mode: %1. It asks first when the pin's parameters would be replaced.</source>
         <translation>Het kiezen van deze pagina wijzigt de modus van de pin: %1. Er wordt eerst gevraagd wanneer de parameters van de pin vervangen zouden worden.</translation>
     </message>
     <message>
@@ -1532,8 +1539,83 @@
         <translation>Bezig ... Even WACHTEN</translation>
     </message>
     <message>
-        <source>The serial port; &quot;sim&quot; is a simulated layout built into the program, &quot;sim (Corvid)&quot; the same behind a simulated Corvid system. Return or a choice from the list opens it.</source>
-        <translation>De seriële poort; &quot;sim&quot; is een in het programma ingebouwde gesimuleerde baan, &quot;sim (Corvid)&quot; dezelfde achter een gesimuleerd Corvid-systeem. Enter of een keuze uit de lijst opent hem.</translation>
+        <source>The serial port; "sim" is a simulated layout built into the program, "sim (Corvid)" the same behind a simulated Corvid system. Return or a choice from the list opens it.</source>
+        <translation>De seriële poort; "sim" is een in het programma ingebouwde gesimuleerde baan, "sim (Corvid)" dezelfde achter een gesimuleerd Corvid-systeem. Enter of een keuze uit de lijst opent hem.</translation>
+    </message>
+    <message>
+        <source>Reads this pin from the module: aspects, addresses and pin configuration</source>
+        <translation>Leest deze pin uit de module: seinbeelden, adressen en pinconfiguratie</translation>
+    </message>
+    <message>
+        <source>Writes this pin to the module: aspects and addresses</source>
+        <translation>Schrijft deze pin naar de module: seinbeelden en adressen</translation>
+    </message>
+    <message>
+        <source>Reads every pin of this pin's device from the module</source>
+        <translation>Leest elke pin van het apparaat van deze pin uit de module</translation>
+    </message>
+    <message>
+        <source>Writes every pin of this pin's device to the module</source>
+        <translation>Schrijft elke pin van het apparaat van deze pin naar de module</translation>
+    </message>
+    <message>
+        <source>Reads this pin's aspects, initial aspect and addresses from the module</source>
+        <translation>Leest de seinbeelden, het beginseinbeeld en de adressen van deze pin uit de module</translation>
+    </message>
+    <message>
+        <source>Writes this pin's aspects, initial aspect and addresses to the module</source>
+        <translation>Schrijft de seinbeelden, het beginseinbeeld en de adressen van deze pin naar de module</translation>
+    </message>
+    <message>
+        <source>Writes only the steps of the selected aspect to the module</source>
+        <translation>Schrijft alleen de stappen van het gekozen seinbeeld naar de module</translation>
+    </message>
+    <message>
+        <source>Places the chosen device on the pins, its first pin on this pin</source>
+        <translation>Plaatst het gekozen apparaat op de pins, zijn eerste pin op deze pin</translation>
+    </message>
+    <message>
+        <source>Saves this pin's device to a definitions file of its own</source>
+        <translation>Slaat het apparaat van deze pin op in een eigen definitiebestand</translation>
+    </message>
+    <message>
+        <source>Reload DD to load new file, Shift + Reload DD to append</source>
+        <translation>AD opnieuw laden laadt een nieuw bestand, Shift + AD opnieuw laden voegt toe</translation>
+    </message>
+    <message>
+        <source>Re&amp;ad</source>
+        <translation>Le&amp;zen</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Lezen</translation>
+    </message>
+    <message>
+        <source>Read Config</source>
+        <translation>Config. lezen</translation>
+    </message>
+    <message>
+        <source>Write Config</source>
+        <translation>Config. schrijven</translation>
+    </message>
+    <message>
+        <source>Read Settings</source>
+        <translation>Instellingen lezen</translation>
+    </message>
+    <message>
+        <source>Write Settings</source>
+        <translation>Instellingen schrijven</translation>
+    </message>
+</context>
+<context>
+    <name>LinkControl</name>
+    <message>
+        <source>Channel Number</source>
+        <translation>Kanaalnummer</translation>
+    </message>
+    <message>
+        <source>Module Address</source>
+        <translation>Moduleadres</translation>
     </message>
 </context>
 <context>

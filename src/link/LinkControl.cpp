@@ -1,4 +1,5 @@
 #include "link/LinkControl.h"
+#include "base/Translatable.h"
 #include "base/Wire.h"
 
 #include "base/Text.h"
@@ -131,7 +132,8 @@ bool LinkControl::CheckXaddress_Click(bool checked)
 
 std::string LinkControl::addressLabel() const
 {
-    return link.settings.CheckXaddress ? "Channel Number" : "Module Address";
+    return link.settings.CheckXaddress ? KC_TRANSLATABLE("LinkControl", "Channel Number")
+                                       : KC_TRANSLATABLE("LinkControl", "Module Address");
 }
 
 } // namespace kestrel

@@ -60,7 +60,8 @@ const char* const kHelpTip = QT_TRANSLATE_NOOP("Lang", "Double-click for help-to
 const char* const kHelpKey = QT_TRANSLATE_NOOP("Lang", "F2 opens the help tool");
 constexpr int kPinRow = -2; // the rows of a context menu: the pin's, the aspect's, a step's
 constexpr int kAspectRow = -1;
-const char* const kTestTip = QT_TRANSLATE_NOOP("Lang", "The module has no command to test an aspect, so this is not available");
+const char* const kTestTip =
+    QT_TRANSLATE_NOOP("Lang", "The module has no command to test an aspect, so this is not available");
 
 // A button of the page with its tooltip.
 QPushButton* tippedButton(const QString& caption, const char* name, const QString& tip)
@@ -164,14 +165,15 @@ QWidget* AspectsPage::buildPinArea()
 
     // The pin's own jobs, beside the pin they act on.
     auto* jobs = new QHBoxLayout;
-    CommandReadPin = tippedButton(Lang::tr("Re&ad Pin"), "CommandReadPin",
-                                  "Reads this pin from the module: aspects, addresses and pin configuration");
-    CommandWritePin =
-        tippedButton(Lang::tr("Write Pin"), "CommandWritePin", "Writes this pin to the module: aspects and addresses");
+    CommandReadPin =
+        tippedButton(Lang::tr("Re&ad Pin"), "CommandReadPin",
+                     Lang::tr("Reads this pin from the module: aspects, addresses and pin configuration"));
+    CommandWritePin = tippedButton(Lang::tr("Write Pin"), "CommandWritePin",
+                                   Lang::tr("Writes this pin to the module: aspects and addresses"));
     CommandReadDevice = tippedButton(Lang::tr("Read Device"), "CommandReadDevice",
-                                     "Reads every pin of this pin's device from the module");
+                                     Lang::tr("Reads every pin of this pin's device from the module"));
     CommandWriteDevice = tippedButton(Lang::tr("Write Device"), "CommandWriteDevice",
-                                      "Writes every pin of this pin's device to the module");
+                                      Lang::tr("Writes every pin of this pin's device to the module"));
     for (QPushButton* b : {CommandReadPin, CommandWritePin, CommandReadDevice, CommandWriteDevice})
         jobs->addWidget(b);
     jobs->addStretch();
@@ -301,16 +303,18 @@ QWidget* AspectsPage::buildAspectArea()
     auto* buttons = new QHBoxLayout;
     CheckPAspShowDetails = named(new QCheckBox(Lang::tr("Show Details")), "CheckPAspShowDetails");
     CheckPAspShowDetails->setChecked(true);
-    CheckPAspShowDetails->setToolTip(Lang::tr("Shows or hides the transfer buttons, the step headings and the "
-                                     "pin configuration's parameter buttons"));
+    CheckPAspShowDetails->setToolTip(
+        Lang::tr("Shows or hides the transfer buttons, the step headings and the "
+                 "pin configuration's parameter buttons"));
     CommandPAspReadPin =
         tippedButton(Lang::tr("Read Asp's"), "CommandPAspReadPin",
-                     "Reads this pin's aspects, initial aspect and addresses from the module");
+                     Lang::tr("Reads this pin's aspects, initial aspect and addresses from the module"));
     CommandPAspWritePin =
         tippedButton(Lang::tr("Write Asp's"), "CommandPAspWritePin",
-                     "Writes this pin's aspects, initial aspect and addresses to the module");
-    CommandPAspWriteAspect = tippedButton(Lang::tr("Write Aspect"), "CommandPAspWriteAspect",
-                                          "Writes only the steps of the selected aspect to the module");
+                     Lang::tr("Writes this pin's aspects, initial aspect and addresses to the module"));
+    CommandPAspWriteAspect =
+        tippedButton(Lang::tr("Write Aspect"), "CommandPAspWriteAspect",
+                     Lang::tr("Writes only the steps of the selected aspect to the module"));
     CommandPAspTestAspect = named(new QPushButton(Lang::tr("Test Aspect")), "CommandPAspTestAspect");
     CommandPAspTestAspect->setEnabled(false);
     CommandPAspTestAspect->setToolTip(Lang::tr(kTestTip));
@@ -336,12 +340,13 @@ QWidget* AspectsPage::buildDeviceArea()
     cboDevice = named(new QComboBox, "cboDevice");
     cboDevice->setMinimumWidth(220);
     cboDevice->setAccessibleName(Lang::tr("Device to load"));
-    CommandPAspPreLoad = tippedButton(Lang::tr("Load Device"), "CommandPAspPreLoad",
-                                      "Places the chosen device on the pins, its first pin on this pin");
+    CommandPAspPreLoad =
+        tippedButton(Lang::tr("Load Device"), "CommandPAspPreLoad",
+                     Lang::tr("Places the chosen device on the pins, its first pin on this pin"));
     CommandSaveDevice = tippedButton(Lang::tr("Save Device"), "CommandSaveDevice",
-                                     "Saves this pin's device to a definitions file of its own");
+                                     Lang::tr("Saves this pin's device to a definitions file of its own"));
     CommandReloadDD = tippedButton(Lang::tr("Reload &DD"), "CommandReloadDD",
-                                   "Reload DD to load new file, Shift + Reload DD to append");
+                                   Lang::tr("Reload DD to load new file, Shift + Reload DD to append"));
     CommandReloadDD->setAutoDefault(true); // Return presses it as Space does
     CommandReloadDD->installEventFilter(this);
     lblDDVersion = named(new QLabel, "lblDDVersion");

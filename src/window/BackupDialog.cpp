@@ -33,8 +33,8 @@ BackupDialog::BackupDialog(std::vector<BackupEntry> entries, QWidget* parent)
         for (const std::string& text : {e.incomplete ? e.when + " (incomplete)" : e.when, e.id, e.version}) {
             auto* item = new QTableWidgetItem(QString::fromLatin1(text.c_str()));
             if (e.incomplete)
-                item->setToolTip(
-                    Lang::tr("The read reported problems: this backup may hold values the module never sent"));
+                item->setToolTip(Lang::tr(
+                    "The read reported problems: this backup may hold values the module never sent"));
             tableBackups->setItem(row, column++, item);
         }
     }

@@ -18,9 +18,12 @@ BulkRows::BulkRows()
     CommandWriteChanges->setToolTip(
         Lang::tr("Writes only what differs from the module as it was last read, written or verified"));
     CommandCompare = named(new QPushButton(Lang::tr("Compare wi&th Module")), "CommandCompare");
-    CommandCompare->setToolTip(Lang::tr("Reads the module beside the configuration and lists every difference"));
-    CheckWritePinConfig = named(new QCheckBox(Lang::tr("Write pin configurations too")), "CheckWritePinConfig");
-    CheckWritePinConfig->setToolTip(Lang::tr("Also writes each pin's servo, PWM or input parameters to flash"));
+    CommandCompare->setToolTip(
+        Lang::tr("Reads the module beside the configuration and lists every difference"));
+    CheckWritePinConfig =
+        named(new QCheckBox(Lang::tr("Write pin configurations too")), "CheckWritePinConfig");
+    CheckWritePinConfig->setToolTip(
+        Lang::tr("Also writes each pin's servo, PWM or input parameters to flash"));
     CheckWritePinConfig->setChecked(true); // so that what is written verifies
     CommandSave = named(new QPushButton(Lang::tr("&Save File")), "CommandSave");
     CommandSave->setToolTip(Lang::tr("Shift+Save File to save compact"));

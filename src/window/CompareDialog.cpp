@@ -20,7 +20,9 @@ constexpr int kTakeModule = 1;
 
 QString groupCaption(DiffGroup g)
 {
-    static const char* const captions[] = {QT_TRANSLATE_NOOP("Lang", "General settings"), QT_TRANSLATE_NOOP("Lang", "Pins"), QT_TRANSLATE_NOOP("Lang", "Aspects"), QT_TRANSLATE_NOOP("Lang", "Events")}; // as DiffGroup
+    static const char* const captions[] = {
+        QT_TRANSLATE_NOOP("Lang", "General settings"), QT_TRANSLATE_NOOP("Lang", "Pins"),
+        QT_TRANSLATE_NOOP("Lang", "Aspects"), QT_TRANSLATE_NOOP("Lang", "Events")}; // as DiffGroup
     return Lang::tr(captions[static_cast<int>(g)]);
 }
 
@@ -36,7 +38,8 @@ CompareDialog::CompareDialog(QWidget* parent) : QDialog(parent)
     layout->addWidget(LabelCompareSummary);
     TreeCompare = named(new QTreeWidget, "TreeCompare");
     TreeCompare->setAccessibleName(Lang::tr("Differences"));
-    TreeCompare->setHeaderLabels({Lang::tr("Item"), Lang::tr("Module"), Lang::tr("Configuration"), Lang::tr("Choice")});
+    TreeCompare->setHeaderLabels(
+        {Lang::tr("Item"), Lang::tr("Module"), Lang::tr("Configuration"), Lang::tr("Choice")});
     TreeCompare->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     layout->addWidget(TreeCompare, 1);
 
@@ -44,7 +47,8 @@ CompareDialog::CompareDialog(QWidget* parent) : QDialog(parent)
     CommandTakeAllModule = named(new QPushButton(Lang::tr("&Take All from Module")), "CommandTakeAllModule");
     CommandKeepAllMine = named(new QPushButton(Lang::tr("&Keep All Mine")), "CommandKeepAllMine");
     CommandCompareApply = named(new QPushButton(Lang::tr("&Apply")), "CommandCompareApply");
-    CommandCompareApply->setToolTip(Lang::tr("Takes the items chosen \"take the module's\" into the configuration"));
+    CommandCompareApply->setToolTip(
+        Lang::tr("Takes the items chosen \"take the module's\" into the configuration"));
     CommandCompareWrite = named(new QPushButton(Lang::tr("Apply and &Write Changes")), "CommandCompareWrite");
     CommandCompareWrite->setToolTip(Lang::tr("Applies, then writes to the module what you kept"));
     CommandCompareClose = named(new QPushButton(Lang::tr("&Close")), "CommandCompareClose");
@@ -88,9 +92,10 @@ void CompareDialog::showDifferences(std::vector<Difference> found, const Configu
         choices.push_back(choice);
     }
     const auto n = differences.size();
-    LabelCompareSummary->setText(n == 0 ? Lang::tr("The module holds this configuration: no differences.")
-                                        : n == 1 ? Lang::tr("1 difference between the module and the configuration")
-                                               : Lang::tr("%1 differences between the module and the configuration").arg(n));
+    LabelCompareSummary->setText(
+        n == 0   ? Lang::tr("The module holds this configuration: no differences.")
+        : n == 1 ? Lang::tr("1 difference between the module and the configuration")
+                 : Lang::tr("%1 differences between the module and the configuration").arg(n));
     for (QPushButton* b :
          {CommandTakeAllModule, CommandKeepAllMine, CommandCompareApply, CommandCompareWrite})
         b->setEnabled(n > 0);

@@ -1,6 +1,6 @@
 #include "window/EditHistory.h"
-#include "window/Language.h"
 #include "window/Bindings.h"
+#include "window/Language.h"
 
 #include <QAction>
 #include <QGroupBox>

@@ -116,7 +116,8 @@ EditPinDialog::EditPinDialog(Session& s, QWidget* parent)
 {
     std::tie(CommandCopyPin, CommandPastePin, CommandClearPin) =
         clipboardButtons(tool, session, "Pin", {"CommandCopyPin", "CommandPastePin", "CommandClearPin"});
-    LabelTarget = layOut({CommandCopyPin, CommandPastePin, CommandClearPin}, commandCancel, Lang::tr("Ca&ncel"));
+    LabelTarget =
+        layOut({CommandCopyPin, CommandPastePin, CommandClearPin}, commandCancel, Lang::tr("Ca&ncel"));
 }
 
 void EditPinDialog::run()
@@ -136,7 +137,8 @@ EditAspectDialog::EditAspectDialog(Session& s, QWidget* parent)
         tool.clean(session.config);
         return true;
     });
-    LabelTarget = layOut({CommandCopy, CommandPaste, CommandClear, CommandClean}, commandCancel, Lang::tr("Ca&ncel"));
+    LabelTarget =
+        layOut({CommandCopy, CommandPaste, CommandClear, CommandClean}, commandCancel, Lang::tr("Ca&ncel"));
     CommandClean->setToolTip(Lang::tr("Clears the description and everything after the first empty step"));
 }
 

@@ -1,6 +1,6 @@
 #include "window/EventPage.h"
-#include "window/Language.h"
 #include "forms/EventControlForm.h"
+#include "window/Language.h"
 
 #include "base/Text.h"
 #include "window/Widgets.h"

@@ -1,6 +1,6 @@
 #include "window/FileActions.h"
-#include "window/Language.h"
 #include "forms/MainWindowForm.h"
+#include "window/Language.h"
 
 #include "files/Backups.h"
 #include "files/ConfigurationFile.h"
@@ -75,7 +75,8 @@ void FileActions::save(const QString& path, bool compact)
         else
             work.fileHolds(written, core.config, core.general);
         remember(name);
-        window.status->setText(Lang::tr("Saved %1%2").arg(name, compact ? Lang::tr(" (compact)") : QString()));
+        window.status->setText(
+            Lang::tr("Saved %1%2").arg(name, compact ? Lang::tr(" (compact)") : QString()));
         if (compact && unsaved())
             window.status->setText(window.status->text() +
                                    "; it does not hold everything shown, so the work is still unsaved");
@@ -98,7 +99,8 @@ void FileActions::load(const QString& path, bool backup)
             // A backup stays the program's: the configuration from it is untitled.
             if (backup || inBackups(name)) {
                 work.untitled(&core.config, &core.general);
-                window.status->setText(Lang::tr("Restored the backup ") + name + " as an untitled configuration");
+                window.status->setText(Lang::tr("Restored the backup ") + name +
+                                       " as an untitled configuration");
                 break;
             }
             work.fileHolds(loaded.path, core.config, core.general);

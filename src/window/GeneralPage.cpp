@@ -1,6 +1,6 @@
 #include "window/GeneralPage.h"
-#include "window/Language.h"
 #include "forms/GeneralForm.h"
+#include "window/Language.h"
 
 #include "base/Text.h"
 #include "forms/AspectEditor.h"
@@ -51,7 +51,10 @@ QString pinLegend(int base)
     return legends[base == 1 ? 1 : 0];
 }
 
-QPushButton* button(const QString& caption, const char* name) { return named(new QPushButton(caption), name); }
+QPushButton* button(const QString& caption, const char* name)
+{
+    return named(new QPushButton(caption), name);
+}
 
 // A frame's Read and Write buttons ("<prefix>Read", "<prefix>Write") in a row of their own.
 QHBoxLayout* readWriteRow(const QString& prefix, const QString& read, const QString& write,
@@ -139,8 +142,9 @@ QGroupBox* GeneralPage::buildIdentity()
     grid->addWidget(LabelGenVersionString, 0, 1);
     grid->addWidget(captionFor(Lang::tr("ID String"), TextGenIDString), 1, 0);
     grid->addWidget(TextGenIDString, 1, 1);
-    grid->addLayout(readWriteRow("CommandGenID", "Re&ad", "Write", CommandGenIDRead, CommandGenIDWrite), 2, 0,
-                    1, 2);
+    grid->addLayout(readWriteRow("CommandGenID", Lang::tr("Re&ad"), Lang::tr("Write"), CommandGenIDRead,
+                                 CommandGenIDWrite),
+                    2, 0, 1, 2);
     grid->setColumnStretch(1, 1);
     return frame;
 }
@@ -171,8 +175,9 @@ QGroupBox* GeneralPage::buildDcc()
     grid->addWidget(ChkGenDCC_BPSI, 3, 0, 1, 2);
     grid->addWidget(ChkGenDCCAllow0, 4, 0, 1, 2);
 
-    grid->addLayout(readWriteRow("CommandGenDCC", "Rea&d", "Write", CommandGenDCCRead, CommandGenDCCWrite), 5,
-                    0, 1, 3);
+    grid->addLayout(readWriteRow("CommandGenDCC", Lang::tr("Rea&d"), Lang::tr("Write"), CommandGenDCCRead,
+                                 CommandGenDCCWrite),
+                    5, 0, 1, 3);
     grid->setColumnStretch(2, 1);
     return frame;
 }
@@ -180,12 +185,14 @@ QGroupBox* GeneralPage::buildDcc()
 QGroupBox* GeneralPage::buildAddressing()
 {
     const auto [frame, grid] = frameWith(Lang::tr("Serial Addressing"), "FrameGenAddr");
-    CheckGenKestrelNative = named(new QCheckBox(Lang::tr("Enable Native Kestrel Mode")), "CheckGenKestrelNative");
+    CheckGenKestrelNative =
+        named(new QCheckBox(Lang::tr("Enable Native Kestrel Mode")), "CheckGenKestrelNative");
     CheckGenLynxaddr = named(new QCheckBox(Lang::tr("Enable Lynx Flex-Addresss")), "CheckGenLynxaddr");
     LabelGenXA_4 = named(new QLabel(Lang::tr("Flex-Address")), "LabelGenXA_4");
     auto* flexAddress = new NumberEntry("TextGenLynxaddr", "UpDownGenLynxaddr");
     TextGenLynxaddr = flexAddress->text;
-    TextGenLynxaddr->setToolTip(Lang::tr("The first Lynx address of the module; addresses come in groups of 4"));
+    TextGenLynxaddr->setToolTip(
+        Lang::tr("The first Lynx address of the module; addresses come in groups of 4"));
     UpDownGenLynxaddr = flexAddress->upDown;
     UpDownGenLynxaddr->setSingleStep(4);
     nameAfter(LabelGenXA_4, TextGenLynxaddr);
@@ -218,7 +225,8 @@ QGroupBox* GeneralPage::buildAddressing()
     }
     grid->addWidget(mask, 3, 0, 1, 3);
 
-    grid->addLayout(readWriteRow("CommandGenAddr", "Read", "Write", CommandGenAddrRead, CommandGenAddrWrite),
+    grid->addLayout(readWriteRow("CommandGenAddr", Lang::tr("Read"), Lang::tr("Write"), CommandGenAddrRead,
+                                 CommandGenAddrWrite),
                     4, 0, 1, 3);
     grid->setColumnStretch(2, 1);
     return frame;
@@ -241,8 +249,8 @@ QGroupBox* GeneralPage::buildHardware()
     tabOrder({ChkGenHWCSink[0], ChkGenHWCSink[1], ChkGenHWCSink[2], ChkGenHWCSink[3], ChkGenHWCSource[0],
               ChkGenHWCSource[1], ChkGenHWCSource[2], ChkGenHWCSource[3]});
 
-    column->addLayout(
-        readWriteRow("CommandGenHWC", "Read Config", "Write Config", CommandGenHWCRead, CommandGenHWCWrite));
+    column->addLayout(readWriteRow("CommandGenHWC", Lang::tr("Read Config"), Lang::tr("Write Config"),
+                                   CommandGenHWCRead, CommandGenHWCWrite));
     return frame;
 }
 
@@ -288,10 +296,16 @@ void GeneralPage::placeHardwareBoxes()
 QGroupBox* GeneralPage::buildLeds()
 {
     const auto [frame, grid] = frameWith(Lang::tr("LED Control"), "FrameGenLC");
-    const char* green[8] = {QT_TRANSLATE_NOOP("Lang", "Basic DCC Packet"), QT_TRANSLATE_NOOP("Lang", "eXtd DCC Packet"), QT_TRANSLATE_NOOP("Lang", "Lynx Message"), QT_TRANSLATE_NOOP("Lang", "Kestrel Message"),
-                            QT_TRANSLATE_NOOP("Lang", "Green 4"),          QT_TRANSLATE_NOOP("Lang", "Green 5"),         QT_TRANSLATE_NOOP("Lang", "Green 6"),      QT_TRANSLATE_NOOP("Lang", "Idle Flash")};
-    const char* orange[8] = {QT_TRANSLATE_NOOP("Lang", "DCC Checksum Error"), QT_TRANSLATE_NOOP("Lang", "Orange 1"), QT_TRANSLATE_NOOP("Lang", "Orange 2"), QT_TRANSLATE_NOOP("Lang", "Orange 3"),
-                             QT_TRANSLATE_NOOP("Lang", "Orange 4"),           QT_TRANSLATE_NOOP("Lang", "Orange 5"), QT_TRANSLATE_NOOP("Lang", "Orange 6"), QT_TRANSLATE_NOOP("Lang", "All Received Datagrams")};
+    const char* green[8] = {
+        QT_TRANSLATE_NOOP("Lang", "Basic DCC Packet"), QT_TRANSLATE_NOOP("Lang", "eXtd DCC Packet"),
+        QT_TRANSLATE_NOOP("Lang", "Lynx Message"),     QT_TRANSLATE_NOOP("Lang", "Kestrel Message"),
+        QT_TRANSLATE_NOOP("Lang", "Green 4"),          QT_TRANSLATE_NOOP("Lang", "Green 5"),
+        QT_TRANSLATE_NOOP("Lang", "Green 6"),          QT_TRANSLATE_NOOP("Lang", "Idle Flash")};
+    const char* orange[8] = {
+        QT_TRANSLATE_NOOP("Lang", "DCC Checksum Error"), QT_TRANSLATE_NOOP("Lang", "Orange 1"),
+        QT_TRANSLATE_NOOP("Lang", "Orange 2"),           QT_TRANSLATE_NOOP("Lang", "Orange 3"),
+        QT_TRANSLATE_NOOP("Lang", "Orange 4"),           QT_TRANSLATE_NOOP("Lang", "Orange 5"),
+        QT_TRANSLATE_NOOP("Lang", "Orange 6"),           QT_TRANSLATE_NOOP("Lang", "All Received Datagrams")};
     auto* greenHead = new QLabel(Lang::tr("<b>Green LED</b>"));
     auto* orangeHead = new QLabel(Lang::tr("<b>Orange LED</b>"));
     grid->addWidget(greenHead, 0, 0);
@@ -302,9 +316,9 @@ QGroupBox* GeneralPage::buildLeds()
         grid->addWidget(CheckLCGreen[i], i + 1, 0);
         grid->addWidget(CheckLCOrange[i], i + 1, 1);
     }
-    grid->addLayout(
-        readWriteRow("CommandLC", "Read Settings", "Write Settings", CommandLCRead, CommandLCWrite), 9, 0, 1,
-        2);
+    grid->addLayout(readWriteRow("CommandLC", Lang::tr("Read Settings"), Lang::tr("Write Settings"),
+                                 CommandLCRead, CommandLCWrite),
+                    9, 0, 1, 2);
     return frame;
 }
 
@@ -337,16 +351,19 @@ QGroupBox* GeneralPage::buildSerialPort()
             named(new QRadioButton(Lang::tr(dataCaptions[i])), indexed("OptionGenSerialDatabits", i));
         databitsGroup->addButton(OptionGenSerialDatabits[i], i);
         data->layout()->addWidget(OptionGenSerialDatabits[i]);
-        OptionGenSerialStop[i] = named(new QRadioButton(Lang::tr(stopCaptions[i])), indexed("OptionGenSerialStop", i));
+        OptionGenSerialStop[i] =
+            named(new QRadioButton(Lang::tr(stopCaptions[i])), indexed("OptionGenSerialStop", i));
         stopGroup->addButton(OptionGenSerialStop[i], i);
         stop->layout()->addWidget(OptionGenSerialStop[i]);
     }
     // Field value 1 of the parity has no button.
     OptionGenSerialParity = {};
-    const std::pair<int, const char*> parities[3] = {{0, QT_TRANSLATE_NOOP("Lang", "None")}, {2, QT_TRANSLATE_NOOP("Lang", "Even")}, {3, QT_TRANSLATE_NOOP("Lang", "Odd")}};
+    const std::pair<int, const char*> parities[3] = {{0, QT_TRANSLATE_NOOP("Lang", "None")},
+                                                     {2, QT_TRANSLATE_NOOP("Lang", "Even")},
+                                                     {3, QT_TRANSLATE_NOOP("Lang", "Odd")}};
     for (const auto& [index, caption] : parities) {
         OptionGenSerialParity[index] =
-            named(new QRadioButton(caption), indexed("OptionGenSerialParity", index));
+            named(new QRadioButton(Lang::tr(caption)), indexed("OptionGenSerialParity", index));
         parityGroup->addButton(OptionGenSerialParity[index], index);
         parity->layout()->addWidget(OptionGenSerialParity[index]);
     }
@@ -356,8 +373,8 @@ QGroupBox* GeneralPage::buildSerialPort()
     options->addWidget(parity);
     grid->addLayout(options, 1, 0, 1, 4);
 
-    grid->addLayout(readWriteRow("CommandGenSerial", "Read Settings", "Write Settings", CommandGenSerialRead,
-                                 CommandGenSerialWrite),
+    grid->addLayout(readWriteRow("CommandGenSerial", Lang::tr("Read Settings"), Lang::tr("Write Settings"),
+                                 CommandGenSerialRead, CommandGenSerialWrite),
                     2, 0, 1, 4);
     grid->setColumnStretch(3, 1);
     return frame;
@@ -367,7 +384,8 @@ QGroupBox* GeneralPage::buildErase()
 {
     const auto [frame, row] = frameWith<QHBoxLayout>(Lang::tr("Configuration Memory"), "FrameGenErase");
     CommandGenEraseFlash = button(Lang::tr("Erase Flash"), "CommandGenEraseFlash");
-    CommandGenEraseFlash->setToolTip(Lang::tr("Erases the whole configuration of the module (takes up to 45 seconds)"));
+    CommandGenEraseFlash->setToolTip(
+        Lang::tr("Erases the whole configuration of the module (takes up to 45 seconds)"));
     row->addWidget(CommandGenEraseFlash);
     row->addStretch();
     return frame;
@@ -381,7 +399,9 @@ void GeneralPage::bind()
     Bindings& b = bindings;
     const auto base = [this] { return session.config.NumberingBase; };
 
-    b.display([this, &g] { LabelGenVersionString->setText(latin1(g.LabelGenVersionString)); });
+    b.display([this, &g] {
+        LabelGenVersionString->setText(translated("GeneralSettings", g.LabelGenVersionString));
+    });
     // The module stores single-byte characters of 0..127: only printable ones are taken.
     TextGenIDString->setValidator(
         new QRegularExpressionValidator(QRegularExpression("[\\x20-\\x7e]*"), TextGenIDString));

@@ -129,7 +129,8 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     layoutPage->onModuleChosen = [this](const FoundModule& m) { chooseModule(m); };
     // Each tab keeps its English name, which the user guide's sections are headed by.
     int tab = 0;
-    for (const char* english : {"General", "Event Control", "Pin Configuration", "Aspects", "Pin Overview", "Layout"})
+    for (const char* english :
+         {"General", "Event Control", "Pin Configuration", "Aspects", "Pin Overview", "Layout"})
         tabs->tabBar()->setTabData(tab++, QString(english));
     layout->addWidget(tabs, 1);
     // One pin selection for the whole window: a pin chosen on one page is shown on all.

@@ -85,7 +85,10 @@ QString Lang::chosen()
     return codes().contains(code) ? code : QString();
 }
 
-void Lang::choose(const QString& code) { QSettings("Kestrel", "Kestrel Config").setValue(kSettingsKey, code); }
+void Lang::choose(const QString& code)
+{
+    QSettings("Kestrel", "Kestrel Config").setValue(kSettingsKey, code);
+}
 
 QString translated(const char* context, const std::string& text)
 {

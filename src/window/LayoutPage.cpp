@@ -42,11 +42,13 @@ LayoutPage::LayoutPage(Session& s, RememberedSettings& k, QWidget* parent)
     CommandFindModules = captioned(new QPushButton(Lang::tr("Find Modules")), "CommandFindModules");
     CommandFindModules->setToolTip(
         Lang::tr("Asks every bus address of the route in use (0..15 directly, 0..31 through "
-        "the Corvid system) for its version and ID string; each address is given "
-        "500 ms to answer"));
-    CheckXaddressRange = captioned(new QCheckBox(Lang::tr("Also every eXtended address")), "CheckXaddressRange");
-    CheckXaddressRange->setToolTip(Lang::tr("Find Modules also asks eXtended addresses 0..95 on each address that "
-                                   "answered (about 48 s an address)"));
+                 "the Corvid system) for its version and ID string; each address is given "
+                 "500 ms to answer"));
+    CheckXaddressRange =
+        captioned(new QCheckBox(Lang::tr("Also every eXtended address")), "CheckXaddressRange");
+    CheckXaddressRange->setToolTip(
+        Lang::tr("Find Modules also asks eXtended addresses 0..95 on each address that "
+                 "answered (about 48 s an address)"));
     CommandBackUpAll = captioned(new QPushButton(Lang::tr("Back Up All")), "CommandBackUpAll");
     CommandBackUpAll->setToolTip(Lang::tr("Read All of each module in the list, kept with its backups"));
     CommandCheckAll = captioned(new QPushButton(Lang::tr("Check All")), "CommandCheckAll");
@@ -56,9 +58,9 @@ LayoutPage::LayoutPage(Session& s, RememberedSettings& k, QWidget* parent)
     TableLayout = named(new QTableWidget(0, Columns), "TableLayout");
     TableLayout->setAccessibleName(Lang::tr("Modules of the layout"));
     caption->setBuddy(TableLayout);
-    TableLayout->setHorizontalHeaderLabels(
-        {Lang::tr("Route"), Lang::tr("Address"), Lang::tr("eXtended"), Lang::tr("Version"), Lang::tr("ID String"),
-         Lang::tr("Newest Backup"), Lang::tr("State")});
+    TableLayout->setHorizontalHeaderLabels({Lang::tr("Route"), Lang::tr("Address"), Lang::tr("eXtended"),
+                                            Lang::tr("Version"), Lang::tr("ID String"),
+                                            Lang::tr("Newest Backup"), Lang::tr("State")});
     TableLayout->verticalHeader()->hide();
     TableLayout->setEditTriggers(QAbstractItemView::NoEditTriggers);
     TableLayout->setSelectionBehavior(QAbstractItemView::SelectRows);

@@ -1,6 +1,6 @@
 #include "window/LinkArea.h"
-#include "window/Language.h"
 #include "window/Bindings.h"
+#include "window/Language.h"
 #include "window/Widgets.h"
 
 #include <QCheckBox>
@@ -79,8 +79,9 @@ LinkArea::LinkArea(Session& session, CorvidControl& corvid, Guard& guard, Rememb
     grid->addWidget(address, 0, 4, Qt::AlignLeft);
 
     CheckXaddress = named(new QCheckBox(Lang::tr("Use eXtended Addr")), "CheckXaddress");
-    auto* xAddress = addressEntry({LabelXaddress, QT_TRANSLATE_NOOP("Lang", "eXtended address"), "LabelXaddress"},
-                                  {txtXaddr, "txtXaddr"}, {UpDownXaddr, "UpDownXaddr"});
+    auto* xAddress =
+        addressEntry({LabelXaddress, QT_TRANSLATE_NOOP("Lang", "eXtended address"), "LabelXaddress"},
+                     {txtXaddr, "txtXaddr"}, {UpDownXaddr, "UpDownXaddr"});
     UpDownXaddr->setAccessibleName(txtXaddr->accessibleName());
     grid->addWidget(CheckXaddress, 1, 3);
     grid->addWidget(LabelXaddress, 2, 3);
@@ -153,7 +154,7 @@ void LinkArea::refresh()
     UpDownXaddr->setValue(s.TargetXAddress + base);
     txtXaddr->setText(QString::fromStdString(lc.xAddressText()));
     CheckXaddress->setChecked(s.CheckXaddress);
-    LabelAddress->setText(QString::fromStdString(lc.addressLabel()));
+    LabelAddress->setText(translated("LinkControl", lc.addressLabel()));
     nameAfter(LabelAddress, TextAddress); // the caption names the address of the route in use
     UpDownAddress->setAccessibleName(TextAddress->accessibleName());
     LabelXaddress->setVisible(s.CheckXaddress);

@@ -1,8 +1,8 @@
 #include "window/LogWindows.h"
-#include "window/Language.h"
 #include "window/Bindings.h"
 #include "window/JobRunner.h"
 #include "window/KestrelConfig.h"
+#include "window/Language.h"
 #include "window/Widgets.h"
 
 #include <QDialog>
@@ -31,11 +31,12 @@ QVBoxLayout* textWindow(QDialog*& window, QWidget* parent, const char* name, con
 QDialog* makeVerificationWindow(QWidget* parent, QPlainTextEdit*& text, QPushButton*& showDifferences)
 {
     QDialog* window = nullptr;
-    QVBoxLayout* l = textWindow(window, parent, "frmKestrelVerification", Lang::tr("Kestrel Verification"), text,
-                                "txtVerification", Lang::tr("Verification report"));
+    QVBoxLayout* l = textWindow(window, parent, "frmKestrelVerification", Lang::tr("Kestrel Verification"),
+                                text, "txtVerification", Lang::tr("Verification report"));
     showDifferences = named(new QPushButton(Lang::tr("Show Differences")), "CommandShowDifferences");
     showDifferences->setAccessibleName(Lang::tr("Show Differences"));
-    showDifferences->setToolTip(Lang::tr("Reads the module beside the configuration and lists every difference"));
+    showDifferences->setToolTip(
+        Lang::tr("Reads the module beside the configuration and lists every difference"));
     l->addWidget(showDifferences);
     window->resize(560, 420);
     return window;

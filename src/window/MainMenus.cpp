@@ -53,16 +53,19 @@ void MainMenus::build(KestrelConfig& w)
     }
     w.actionRestoreBackup = add(file, Lang::tr("&Restore from backup..."), [&w] { w.restoreFromBackup(); });
     file->addSeparator();
-    add(file, Lang::tr("Reload &Device Definitions..."), [&w] { w.aspectsPage->reloadDeviceDefinitions(false); });
-    add(file, Lang::tr("A&ppend Device Definitions..."), [&w] { w.aspectsPage->reloadDeviceDefinitions(true); });
+    add(file, Lang::tr("Reload &Device Definitions..."),
+        [&w] { w.aspectsPage->reloadDeviceDefinitions(false); });
+    add(file, Lang::tr("A&ppend Device Definitions..."),
+        [&w] { w.aspectsPage->reloadDeviceDefinitions(true); });
     file->addSeparator();
     w.actionForgetSettings = add(file, Lang::tr("&Forget Remembered Settings"), [&w] {
         w.forgetSettings = true;
         RememberedSettings::forget();
         w.kept.recent.clear();
         w.files->showRecent();
-        w.LabelStatusJob->setText(Lang::tr("The program starts afresh next time: port, addresses, window and files "
-                                  "are forgotten"));
+        w.LabelStatusJob->setText(
+            Lang::tr("The program starts afresh next time: port, addresses, window and files "
+                     "are forgotten"));
     });
     add(
         file, Lang::tr("E&xit"), [&w] { w.close(); }, QKeySequence::Quit);
@@ -84,7 +87,8 @@ void MainMenus::build(KestrelConfig& w)
     auto press = [](QAbstractButton* b) { return [b] { b->click(); }; };
     add(module, Lang::tr("Request &Version"), press(w.CommandGenVersion));
     add(module, Lang::tr("&Read All"), press(w.CommandReadAll), QKeySequence("Ctrl+R"));
-    add(module, Lang::tr("&Write All"), press(w.CommandWriteAll)); // no key: a write starts only from a choice
+    add(module, Lang::tr("&Write All"),
+        press(w.CommandWriteAll)); // no key: a write starts only from a choice
     add(module, Lang::tr("Write Chan&ges"), press(w.CommandWriteChanges));
     add(module, Lang::tr("Verify &All"), press(w.CommandVerifyAll));
     add(module, Lang::tr("Compare wi&th Module..."), press(w.CommandCompare));
@@ -167,13 +171,13 @@ void MainMenus::about(QWidget* parent)
     box.setText(QString("<b>Kestrel Config %1</b>").arg(KESTREL_VERSION));
     box.setInformativeText(
         Lang::tr("Reads, edits, writes back and verifies what a Kestrel accessory module stores.<br><br>"
-                "Build: %1, Qt %2<br><br>"
-                "The user guide (Help &gt; User Guide) is also a file: "
-                "/usr/share/doc/kestrel-config/user-guide.md when installed from the Debian package, "
-                "user-guide.md in the program's folder on Windows (C:\\Program Files\\Kestrel Config "
-                "when installed). Its section \"Data files\" describes the data-file format, and "
-                "\"Readable configurations and differences\" every item of it; on Linux the manual page "
-                "kestrel-cli(1) describes the format too.")
+                 "Build: %1, Qt %2<br><br>"
+                 "The user guide (Help &gt; User Guide) is also a file: "
+                 "/usr/share/doc/kestrel-config/user-guide.md when installed from the Debian package, "
+                 "user-guide.md in the program's folder on Windows (C:\\Program Files\\Kestrel Config "
+                 "when installed). Its section \"Data files\" describes the data-file format, and "
+                 "\"Readable configurations and differences\" every item of it; on Linux the manual page "
+                 "kestrel-cli(1) describes the format too.")
             .arg(QString(KESTREL_BUILD_TYPE).isEmpty() ? Lang::tr("default") : QString(KESTREL_BUILD_TYPE),
                  qVersion()));
     box.exec();

@@ -28,7 +28,8 @@
 namespace kestrel {
 
 namespace {
-const char* const kDynamicTip = QT_TRANSLATE_NOOP("Lang", "If checked, use active dynamic parameters, else go directly to position");
+const char* const kDynamicTip =
+    QT_TRANSLATE_NOOP("Lang", "If checked, use active dynamic parameters, else go directly to position");
 
 // A caption and its box in the next row of a two-column grid.
 void addField(QGridLayout* grid, int row, int column, const QString& caption, QLineEdit* box)
@@ -103,20 +104,25 @@ PinConfigPage::PinConfigPage(Session& s, Guard* sharedGuard, QWidget* parent)
     SSTabPCFG->addTab(buildServoPage(), Lang::tr("Servo"));
     SSTabPCFG->addTab(buildPwmPage(), Lang::tr("PWM"));
     SSTabPCFG->addTab(buildInputPage(), Lang::tr("Input"));
-    static const char* const modeTips[4] = {QT_TRANSLATE_NOOP("Lang", "the pin no longer drives anything"), QT_TRANSLATE_NOOP("Lang", "the pin drives a servo"),
-                                            QT_TRANSLATE_NOOP("Lang", "the pin drives a PWM output"), QT_TRANSLATE_NOOP("Lang", "the pin reads an input")};
+    static const char* const modeTips[4] = {QT_TRANSLATE_NOOP("Lang", "the pin no longer drives anything"),
+                                            QT_TRANSLATE_NOOP("Lang", "the pin drives a servo"),
+                                            QT_TRANSLATE_NOOP("Lang", "the pin drives a PWM output"),
+                                            QT_TRANSLATE_NOOP("Lang", "the pin reads an input")};
     for (int i = 0; i < 4; ++i)
         SSTabPCFG->setTabToolTip(i,
                                  Lang::tr("Picking this page changes the pin's mode: %1. It asks first when "
-                                         "the pin's parameters would be replaced.")
+                                          "the pin's parameters would be replaced.")
                                      .arg(Lang::tr(modeTips[i])));
     layout->addWidget(SSTabPCFG, 1);
 
     auto* transfer = named(new QGroupBox(Lang::tr("Pin Configuration")), "FramePCFGTransfer");
     auto* row = new QHBoxLayout(transfer);
-    const char* getCaptions[2] = {QT_TRANSLATE_NOOP("Lang", "Get Pin Config"), QT_TRANSLATE_NOOP("Lang", "Re&ad Pin Config")};
-    const char* setCaptions[2] = {QT_TRANSLATE_NOOP("Lang", "Set Pin Config"), QT_TRANSLATE_NOOP("Lang", "Write Pin Config")};
-    const char* getTips[2] = {QT_TRANSLATE_NOOP("Lang", "Gets the active parameters"), QT_TRANSLATE_NOOP("Lang", "Reads the parameters from Flash memory")};
+    const char* getCaptions[2] = {QT_TRANSLATE_NOOP("Lang", "Get Pin Config"),
+                                  QT_TRANSLATE_NOOP("Lang", "Re&ad Pin Config")};
+    const char* setCaptions[2] = {QT_TRANSLATE_NOOP("Lang", "Set Pin Config"),
+                                  QT_TRANSLATE_NOOP("Lang", "Write Pin Config")};
+    const char* getTips[2] = {QT_TRANSLATE_NOOP("Lang", "Gets the active parameters"),
+                              QT_TRANSLATE_NOOP("Lang", "Reads the parameters from Flash memory")};
     const char* setTips[2] = {QT_TRANSLATE_NOOP("Lang", "Sets Active Servo parameters (not permanent)"),
                               QT_TRANSLATE_NOOP("Lang", "Writes Servo Parameters to Flash memory")};
     for (int i = 0; i < 2; ++i) {
@@ -197,8 +203,8 @@ QWidget* PinConfigPage::buildServoPage()
     CheckSrvDynamic->setToolTip(Lang::tr(kDynamicTip));
     CommandStopSrv = named(new QPushButton(Lang::tr("&Jump")), "CommandStopSrv");
     CommandStopSrv->setToolTip(Lang::tr("Jump to target position immediately, override dynamic parameters"));
-    layout->addWidget(liveFrame(Lang::tr("Servo Position"), "FrameSrvLive", "Position", TextPosition, SliderServo,
-                                CommandSrvLevel, CheckSrvDynamic, CommandStopSrv),
+    layout->addWidget(liveFrame(Lang::tr("Servo Position"), "FrameSrvLive", "Position", TextPosition,
+                                SliderServo, CommandSrvLevel, CheckSrvDynamic, CommandStopSrv),
                       0, 0);
 
     auto* params = named(new QGroupBox(Lang::tr("Servo Parameters")), "FrameSrvParams");
@@ -246,7 +252,8 @@ QWidget* PinConfigPage::buildServoPage()
     auto* flagRow = new QHBoxLayout(flags);
     ChkSrvAutoSuspend = named(new QCheckBox(Lang::tr("Auto Suspend")), "ChkSrvAutoSuspend");
     ChkSrvSuspended = named(new QCheckBox(Lang::tr("Suspended")), "ChkSrvSuspended");
-    ChkSrvSuspended->setToolTip(Lang::tr("If checked, the servo is not activated until the first position is sent"));
+    ChkSrvSuspended->setToolTip(
+        Lang::tr("If checked, the servo is not activated until the first position is sent"));
     ChkSrvInitialized = named(new QCheckBox(Lang::tr("Servo Initialised")), "ChkSrvInitialized");
     for (QCheckBox* box : {ChkSrvAutoSuspend, ChkSrvSuspended, ChkSrvInitialized}) {
         flagRow->addWidget(box);
@@ -290,8 +297,8 @@ QWidget* PinConfigPage::buildPwmPage()
     CommandPWMJump->setToolTip(Lang::tr("Jump to the level immediately, without the slow change"));
     auto* left = new QVBoxLayout;
     left->addWidget(CheckPWMInverted);
-    left->addWidget(liveFrame(Lang::tr("PWM Level"), "FramePWMLive", "Level", TextPWMLevel, SliderPWM, CommandPWMLevel,
-                              CheckPWMSlow, CommandPWMJump));
+    left->addWidget(liveFrame(Lang::tr("PWM Level"), "FramePWMLive", "Level", TextPWMLevel, SliderPWM,
+                              CommandPWMLevel, CheckPWMSlow, CommandPWMJump));
 
     auto* modes = new QHBoxLayout;
     auto* driveFrame = named(new QGroupBox(Lang::tr("Drive Mode")), "FramePWMDriveMode");
@@ -300,7 +307,8 @@ QWidget* PinConfigPage::buildPwmPage()
     auto* accelGroup = new QButtonGroup(this);
     auto* driveLayout = new QVBoxLayout(driveFrame);
     auto* accelLayout = new QVBoxLayout(accelFrame);
-    const char* modeCaptions[2] = {QT_TRANSLATE_NOOP("Lang", "Linear"), QT_TRANSLATE_NOOP("Lang", "Logaritmic")};
+    const char* modeCaptions[2] = {QT_TRANSLATE_NOOP("Lang", "Linear"),
+                                   QT_TRANSLATE_NOOP("Lang", "Logaritmic")};
     for (int i = 0; i < 2; ++i) {
         OptionPWMDriveMode[i] =
             named(new QRadioButton(Lang::tr(modeCaptions[i])), QString("OptionPWMDriveMode_%1").arg(i));

@@ -21,9 +21,9 @@ PinOverviewPage::PinOverviewPage(Session& s, QWidget* parent) : QWidget(parent),
     TablePinOverview = new QTableWidget(kPinCount, Columns, this);
     TablePinOverview->setObjectName("TablePinOverview");
     TablePinOverview->setAccessibleName(Lang::tr("Pin overview"));
-    TablePinOverview->setHorizontalHeaderLabels(
-        {Lang::tr("Pin"), Lang::tr("Description"), Lang::tr("Mode"), Lang::tr("Layout"), Lang::tr("Device"), Lang::tr("DCC"),
-         Lang::tr("eXtd DCC"), Lang::tr("Serial")});
+    TablePinOverview->setHorizontalHeaderLabels({Lang::tr("Pin"), Lang::tr("Description"), Lang::tr("Mode"),
+                                                 Lang::tr("Layout"), Lang::tr("Device"), Lang::tr("DCC"),
+                                                 Lang::tr("eXtd DCC"), Lang::tr("Serial")});
     TablePinOverview->verticalHeader()->hide();
     TablePinOverview->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     TablePinOverview->setEditTriggers(QAbstractItemView::NoEditTriggers);

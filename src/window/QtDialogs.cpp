@@ -58,13 +58,12 @@ namespace {
 int showBox(QMessageBox& box)
 {
     // Every answer has its letter (Alt+S, Alt+D, ...).
-    for (auto [which, caption] :
-         {std::pair{QMessageBox::Save, QT_TRANSLATE_NOOP("Lang", "&Save")},
-          std::pair{QMessageBox::Discard, QT_TRANSLATE_NOOP("Lang", "&Discard")},
-          std::pair{QMessageBox::Cancel, QT_TRANSLATE_NOOP("Lang", "&Cancel")},
-          std::pair{QMessageBox::Yes, QT_TRANSLATE_NOOP("Lang", "&Yes")},
-          std::pair{QMessageBox::No, QT_TRANSLATE_NOOP("Lang", "&No")},
-          std::pair{QMessageBox::Ok, QT_TRANSLATE_NOOP("Lang", "&OK")}})
+    for (auto [which, caption] : {std::pair{QMessageBox::Save, QT_TRANSLATE_NOOP("Lang", "&Save")},
+                                  std::pair{QMessageBox::Discard, QT_TRANSLATE_NOOP("Lang", "&Discard")},
+                                  std::pair{QMessageBox::Cancel, QT_TRANSLATE_NOOP("Lang", "&Cancel")},
+                                  std::pair{QMessageBox::Yes, QT_TRANSLATE_NOOP("Lang", "&Yes")},
+                                  std::pair{QMessageBox::No, QT_TRANSLATE_NOOP("Lang", "&No")},
+                                  std::pair{QMessageBox::Ok, QT_TRANSLATE_NOOP("Lang", "&OK")}})
         if (QAbstractButton* button = box.button(which))
             button->setText(Lang::tr(caption));
     // The keyboard goes back where it was when the box closes, also after two in a row.
@@ -105,8 +104,8 @@ Answer QtDialogs::ask(const std::string& text, Buttons buttons, Icon icon)
         set = QMessageBox::Yes | QMessageBox::No;
     else if (buttons == Buttons::SaveDiscardCancel)
         set = QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel;
-    QMessageBox box(qtIcon(icon), QApplication::applicationDisplayName(), translated("Messages", text),
-                    set, owner());
+    QMessageBox box(qtIcon(icon), QApplication::applicationDisplayName(), translated("Messages", text), set,
+                    owner());
     box.setObjectName("dlgQuestion");
     const int clicked = showBox(box);
     static const std::pair<QMessageBox::StandardButton, Answer> answers[] = {

@@ -34,7 +34,8 @@ TrafficMonitor::TrafficMonitor(Link& link, QWidget* parent) : QDialog(parent), l
     setWindowTitle(Lang::tr("Traffic Monitor"));
 
     grdMonitor = named(new QTableWidget(0, 4), "grdMonitor");
-    grdMonitor->setHorizontalHeaderLabels({Lang::tr("Time"), Lang::tr("Dir"), Lang::tr("Bytes"), Lang::tr("Decoded")});
+    grdMonitor->setHorizontalHeaderLabels(
+        {Lang::tr("Time"), Lang::tr("Dir"), Lang::tr("Bytes"), Lang::tr("Decoded")});
     grdMonitor->setAccessibleName("Frames");
     grdMonitor->setEditTriggers(QAbstractItemView::NoEditTriggers);
     grdMonitor->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -185,7 +186,8 @@ void TrafficMonitor::clear()
 
 void TrafficMonitor::save()
 {
-    const std::string path = link.dialogs().saveFileName(Lang::tr("Save Traffic").toStdString(), Lang::tr("Text files").toStdString() + "|*.txt", "");
+    const std::string path = link.dialogs().saveFileName(Lang::tr("Save Traffic").toStdString(),
+                                                         Lang::tr("Text files").toStdString() + "|*.txt", "");
     if (path.empty())
         return;
     std::string text;
