@@ -24,7 +24,6 @@ namespace kestrel {
 
 namespace {
 
-const QString kAllCommands = "All commands";
 
 } // namespace
 
@@ -50,8 +49,7 @@ TrafficMonitor::TrafficMonitor(Link& link, QWidget* parent) : QDialog(parent), l
     grdMonitor->setColumnWidth(2, 42 * digit);
 
     cboMonitorFilter = named(new QComboBox, "cboMonitorFilter");
-    cboMonitorFilter->addItem(kAllCommands);
-    cboMonitorFilter->setItemText(0, Lang::tr("All commands"));
+    cboMonitorFilter->addItem(Lang::tr("All commands")); // the first item, every frame
     cboMonitorFilter->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     cboMonitorFilter->setAccessibleName(Lang::tr("Filter"));
     lblMonitorFilter = named(new QLabel(Lang::tr("&Filter:")), "lblMonitorFilter");
