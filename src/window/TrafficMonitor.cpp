@@ -22,11 +22,6 @@
 
 namespace kestrel {
 
-namespace {
-
-
-} // namespace
-
 TrafficMonitor::TrafficMonitor(Link& link, QWidget* parent) : QDialog(parent), link(link)
 {
     setObjectName("frmTrafficMonitor");
