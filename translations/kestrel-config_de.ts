@@ -2,6 +2,33 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
+    <name>EventPatternTool</name>
+    <message>
+        <source>Enable Off-Event</source>
+        <translation>&amp;Aus-Ereignis freigeben</translation>
+    </message>
+    <message>
+        <source>Disable Off-Event</source>
+        <translation>Aus-Ereignis &amp;sperren</translation>
+    </message>
+    <message>
+        <source>Execute Off-Event</source>
+        <translation>Aus-Ereignis aus&amp;führen</translation>
+    </message>
+    <message>
+        <source>Enable On-Event</source>
+        <translation>Ein-Ereignis frei&amp;geben</translation>
+    </message>
+    <message>
+        <source>Disable On-Event</source>
+        <translation>Ein-Ereignis spe&amp;rren</translation>
+    </message>
+    <message>
+        <source>Execute On-Event</source>
+        <translation>Ein-Ereignis ausfü&amp;hren</translation>
+    </message>
+</context>
+<context>
     <name>GeneralSettings</name>
     <message>
         <source>Unknown</source>
@@ -43,7 +70,7 @@
         <translation>Pin</translation>
     </message>
     <message>
-        <source>The pin's description, kept in the configuration</source>
+        <source>The pin&apos;s description, kept in the configuration</source>
         <translation>Die Beschreibung des Pins, in der Konfiguration gespeichert</translation>
     </message>
     <message>
@@ -51,7 +78,7 @@
         <translation>Der erste Pin des Bausteins, zu dem dieser Pin gehört</translation>
     </message>
     <message>
-        <source>The device's name, kept by its first pin</source>
+        <source>The device&apos;s name, kept by its first pin</source>
         <translation>Der Name des Bausteins, beim ersten Pin gespeichert</translation>
     </message>
     <message>
@@ -167,15 +194,15 @@
         <translation>Details zeigen</translation>
     </message>
     <message>
-        <source>Shows or hides the transfer buttons, the step headings and the pin configuration's parameter buttons</source>
+        <source>Shows or hides the transfer buttons, the step headings and the pin configuration&apos;s parameter buttons</source>
         <translation>Zeigt oder verbirgt die Übertragungsknöpfe, die Schrittüberschriften und die Parameterknöpfe der Pin-Konfiguration</translation>
     </message>
     <message>
-        <source>Read Asp's</source>
+        <source>Read Asp&apos;s</source>
         <translation>Signalb. lesen</translation>
     </message>
     <message>
-        <source>Write Asp's</source>
+        <source>Write Asp&apos;s</source>
         <translation>Signalb. schreiben</translation>
     </message>
     <message>
@@ -287,7 +314,7 @@
         <translation>Pin-Konfigurationen mitschreiben</translation>
     </message>
     <message>
-        <source>Also writes each pin's servo, PWM or input parameters to flash</source>
+        <source>Also writes each pin&apos;s servo, PWM or input parameters to flash</source>
         <translation>Schreibt auch die Servo-, PWM- oder Eingangsparameter jedes Pins in den Flash</translation>
     </message>
     <message>
@@ -375,7 +402,7 @@
         <translation>Ü&amp;bernehmen</translation>
     </message>
     <message>
-        <source>Takes the items chosen "take the module's" into the configuration</source>
+        <source>Takes the items chosen &quot;take the module&apos;s&quot; into the configuration</source>
         <translation>Übernimmt die Einträge mit der Wahl „vom Modul übernehmen“ in die Konfiguration</translation>
     </message>
     <message>
@@ -395,7 +422,7 @@
         <translation>Eigenes behalten</translation>
     </message>
     <message>
-        <source>take the module's</source>
+        <source>take the module&apos;s</source>
         <translation>vom Modul übernehmen</translation>
     </message>
     <message>
@@ -517,22 +544,6 @@
     <message>
         <source> (compact)</source>
         <translation> (kompakt)</translation>
-    </message>
-    <message>
-        <source>Restored the backup </source>
-        <translation>Sicherung wiederhergestellt: </translation>
-    </message>
-    <message>
-        <source>Loaded </source>
-        <translation>Geladen: </translation>
-    </message>
-    <message>
-        <source>Load stopped at a fault in </source>
-        <translation>Laden bei einem Fehler abgebrochen in </translation>
-    </message>
-    <message>
-        <source>Nothing was loaded from </source>
-        <translation>Nichts wurde geladen aus </translation>
     </message>
     <message>
         <source>Re&amp;quest Version</source>
@@ -1191,8 +1202,8 @@
         <translation>Über Kestrel Config</translation>
     </message>
     <message>
-        <source>Reads, edits, writes back and verifies what a Kestrel accessory module stores.&lt;br&gt;&lt;br&gt;Build: %1, Qt %2&lt;br&gt;&lt;br&gt;The user guide (Help &amp;gt; User Guide) is also a file: /usr/share/doc/kestrel-config/user-guide.md when installed from the Debian package, user-guide.md in the program's folder on Windows (C:\Program Files\Kestrel Config when installed). Its section "Data files" describes the data-file format, and "Readable configurations and differences" every item of it; on Linux the manual page kestrel-cli(1) describes the format too.</source>
-        <translation>Liest, bearbeitet, schreibt zurück und prüft, was ein Kestrel-Zubehörmodul speichert.&lt;br&gt;&lt;br&gt;Build: %1, Qt %2&lt;br&gt;&lt;br&gt;Das Benutzerhandbuch (Hilfe &amp;gt; Benutzerhandbuch, auf Englisch) ist auch eine Datei: /usr/share/doc/kestrel-config/user-guide.md bei Installation aus dem Debian-Paket, user-guide.md im Programmordner unter Windows (C:\Program Files\Kestrel Config bei Installation). Sein Abschnitt "Data files" beschreibt das Format der Datendateien und "Readable configurations and differences" jeden ihrer Einträge; unter Linux beschreibt auch die Handbuchseite kestrel-cli(1) das Format.</translation>
+        <source>Reads, edits, writes back and verifies what a Kestrel accessory module stores.&lt;br&gt;&lt;br&gt;Build: %1, Qt %2&lt;br&gt;&lt;br&gt;The user guide (Help &amp;gt; User Guide) is also a file: /usr/share/doc/kestrel-config/user-guide.md when installed from the Debian package, user-guide.md in the program&apos;s folder on Windows (C:\Program Files\Kestrel Config when installed). Its section &quot;Data files&quot; describes the data-file format, and &quot;Readable configurations and differences&quot; every item of it; on Linux the manual page kestrel-cli(1) describes the format too.</source>
+        <translation>Liest, bearbeitet, schreibt zurück und prüft, was ein Kestrel-Zubehörmodul speichert.&lt;br&gt;&lt;br&gt;Build: %1, Qt %2&lt;br&gt;&lt;br&gt;Das Benutzerhandbuch (Hilfe &amp;gt; Benutzerhandbuch, auf Englisch) ist auch eine Datei: /usr/share/doc/kestrel-config/user-guide.md bei Installation aus dem Debian-Paket, user-guide.md im Programmordner unter Windows (C:\Program Files\Kestrel Config bei Installation). Sein Abschnitt &quot;Data files&quot; beschreibt das Format der Datendateien und &quot;Readable configurations and differences&quot; jeden ihrer Einträge; unter Linux beschreibt auch die Handbuchseite kestrel-cli(1) das Format.</translation>
     </message>
     <message>
         <source>default</source>
@@ -1243,7 +1254,7 @@
         <translation>der Pin liest einen Eingang</translation>
     </message>
     <message>
-        <source>Picking this page changes the pin's mode: %1. It asks first when the pin's parameters would be replaced.</source>
+        <source>Picking this page changes the pin&apos;s mode: %1. It asks first when the pin&apos;s parameters would be replaced.</source>
         <translation>Die Wahl dieser Seite ändert die Betriebsart des Pins: %1. Es wird vorher gefragt, wenn die Parameter des Pins ersetzt würden.</translation>
     </message>
     <message>
@@ -1539,8 +1550,8 @@
         <translation>Arbeitet ... Bitte WARTEN</translation>
     </message>
     <message>
-        <source>The serial port; "sim" is a simulated layout built into the program, "sim (Corvid)" the same behind a simulated Corvid system. Return or a choice from the list opens it.</source>
-        <translation>Die serielle Schnittstelle; "sim" ist eine im Programm eingebaute simulierte Anlage, "sim (Corvid)" dieselbe hinter einem simulierten Corvid-System. Eingabetaste oder eine Wahl aus der Liste öffnet sie.</translation>
+        <source>The serial port; &quot;sim&quot; is a simulated layout built into the program, &quot;sim (Corvid)&quot; the same behind a simulated Corvid system. Return or a choice from the list opens it.</source>
+        <translation>Die serielle Schnittstelle; &quot;sim&quot; ist eine im Programm eingebaute simulierte Anlage, &quot;sim (Corvid)&quot; dieselbe hinter einem simulierten Corvid-System. Eingabetaste oder eine Wahl aus der Liste öffnet sie.</translation>
     </message>
     <message>
         <source>Reads this pin from the module: aspects, addresses and pin configuration</source>
@@ -1551,19 +1562,19 @@
         <translation>Schreibt diesen Pin in das Modul: Signalbilder und Adressen</translation>
     </message>
     <message>
-        <source>Reads every pin of this pin's device from the module</source>
+        <source>Reads every pin of this pin&apos;s device from the module</source>
         <translation>Liest jeden Pin des Bausteins dieses Pins aus dem Modul</translation>
     </message>
     <message>
-        <source>Writes every pin of this pin's device to the module</source>
+        <source>Writes every pin of this pin&apos;s device to the module</source>
         <translation>Schreibt jeden Pin des Bausteins dieses Pins in das Modul</translation>
     </message>
     <message>
-        <source>Reads this pin's aspects, initial aspect and addresses from the module</source>
+        <source>Reads this pin&apos;s aspects, initial aspect and addresses from the module</source>
         <translation>Liest die Signalbilder, das Anfangs-Signalbild und die Adressen dieses Pins aus dem Modul</translation>
     </message>
     <message>
-        <source>Writes this pin's aspects, initial aspect and addresses to the module</source>
+        <source>Writes this pin&apos;s aspects, initial aspect and addresses to the module</source>
         <translation>Schreibt die Signalbilder, das Anfangs-Signalbild und die Adressen dieses Pins in das Modul</translation>
     </message>
     <message>
@@ -1575,7 +1586,7 @@
         <translation>Legt den gewählten Baustein auf die Pins, seinen ersten Pin auf diesen Pin</translation>
     </message>
     <message>
-        <source>Saves this pin's device to a definitions file of its own</source>
+        <source>Saves this pin&apos;s device to a definitions file of its own</source>
         <translation>Speichert den Baustein dieses Pins in eine eigene Definitionsdatei</translation>
     </message>
     <message>
@@ -1606,6 +1617,236 @@
         <source>Write Settings</source>
         <translation>Einstellungen schreiben</translation>
     </message>
+    <message>
+        <source>choosing %1 in %2</source>
+        <translation>Wahl von %1 in %2</translation>
+    </message>
+    <message>
+        <source>checking %1</source>
+        <translation>Ankreuzen von %1</translation>
+    </message>
+    <message>
+        <source>unchecking %1</source>
+        <translation>Abwählen von %1</translation>
+    </message>
+    <message>
+        <source>typing in %1</source>
+        <translation>Eingabe in %1</translation>
+    </message>
+    <message>
+        <source>choosing %1</source>
+        <translation>Wahl von %1</translation>
+    </message>
+    <message>
+        <source>choosing a step in the timeline</source>
+        <translation>Wahl eines Schritts in der Zeitleiste</translation>
+    </message>
+    <message>
+        <source>Time tool</source>
+        <translation>Zeit-Werkzeug</translation>
+    </message>
+    <message>
+        <source>Pattern tool</source>
+        <translation>Muster-Werkzeug</translation>
+    </message>
+    <message>
+        <source>Event pattern tool</source>
+        <translation>Ereignismuster-Werkzeug</translation>
+    </message>
+    <message>
+        <source>Level tool</source>
+        <translation>Stufen-Werkzeug</translation>
+    </message>
+    <message>
+        <source>Aspect %1: %2</source>
+        <translation>Signalbild %1: %2</translation>
+    </message>
+    <message>
+        <source>no steps</source>
+        <translation>keine Schritte</translation>
+    </message>
+    <message>
+        <source>step %1, %2</source>
+        <translation>Schritt %1, %2</translation>
+    </message>
+    <message>
+        <source>, does not wait</source>
+        <translation>, wartet nicht</translation>
+    </message>
+    <message>
+        <source>, time too long for the module (%1)</source>
+        <translation>, Zeit zu lang für das Modul (%1)</translation>
+    </message>
+    <message>
+        <source>, jumps to aspect %1 step %2</source>
+        <translation>, springt zu Signalbild %1 Schritt %2</translation>
+    </message>
+    <message>
+        <source>Aspect %1, </source>
+        <translation>Signalbild %1, </translation>
+    </message>
+    <message>
+        <source> (incomplete)</source>
+        <translation> (unvollständig)</translation>
+    </message>
+    <message>
+        <source>changing %1</source>
+        <translation>Ändern von %1</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Pin tool</source>
+        <translation>Pin-Werkzeug</translation>
+    </message>
+    <message>
+        <source>Aspect tool</source>
+        <translation>Signalbild-Werkzeug</translation>
+    </message>
+    <message>
+        <source>Step tool</source>
+        <translation>Schritt-Werkzeug</translation>
+    </message>
+    <message>
+        <source>The configuration has changes that are not saved.<byte value="xd"/>
+%1 would lose them. Save them first?</source>
+        <translation>Die Konfiguration hat ungespeicherte Änderungen.<byte value="xd"/>
+%1 würde sie verwerfen. Zuerst speichern?</translation>
+    </message>
+    <message>
+        <source> has changed on disk since it was loaded or saved here.<byte value="xd"/>
+Replace it with the configuration shown?</source>
+        <translation> wurde auf dem Datenträger geändert, seit es hier geladen oder gespeichert wurde.<byte value="xd"/>
+Mit der gezeigten Konfiguration ersetzen?</translation>
+    </message>
+    <message>
+        <source>The backups folder is the program&apos;s own: choose another folder for the file.</source>
+        <translation>Der Sicherungsordner gehört dem Programm: bitte einen anderen Ordner für die Datei wählen.</translation>
+    </message>
+    <message>
+        <source>; it does not hold everything shown, so the work is still unsaved</source>
+        <translation>; sie enthält nicht alles Gezeigte, daher ist die Arbeit noch ungespeichert</translation>
+    </message>
+    <message>
+        <source>Restoring a backup</source>
+        <translation>Das Wiederherstellen einer Sicherung</translation>
+    </message>
+    <message>
+        <source>Loading a file</source>
+        <translation>Das Laden einer Datei</translation>
+    </message>
+    <message>
+        <source>Restore from Backup</source>
+        <translation>Aus Sicherung wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Load File</source>
+        <translation>Datei laden</translation>
+    </message>
+    <message>
+        <source>Restored the backup %1 as an untitled configuration</source>
+        <translation>Sicherung %1 als unbenannte Konfiguration wiederhergestellt</translation>
+    </message>
+    <message>
+        <source>Loaded %1</source>
+        <translation>%1 geladen</translation>
+    </message>
+    <message>
+        <source>Load stopped at a fault in %1: the pages show what was read before it</source>
+        <translation>Laden bei einem Fehler in %1 abgebrochen: die Seiten zeigen, was davor gelesen wurde</translation>
+    </message>
+    <message>
+        <source>Nothing was loaded from %1</source>
+        <translation>Aus %1 wurde nichts geladen</translation>
+    </message>
+    <message>
+        <source>; the backup was not saved: %1</source>
+        <translation>; die Sicherung wurde nicht gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>ID string cut to 12 characters: </source>
+        <translation>ID-Text auf 12 Zeichen gekürzt: </translation>
+    </message>
+    <message>
+        <source>KestrelConfig CalcTime</source>
+        <translation>KestrelConfig Zeit berechnen</translation>
+    </message>
+    <message>
+        <source>LynxConfig Calculate Pattern</source>
+        <translation>LynxConfig Muster berechnen</translation>
+    </message>
+    <message>
+        <source>KestrelConfig CalcETImap</source>
+        <translation>KestrelConfig ETImap berechnen</translation>
+    </message>
+    <message>
+        <source>LynxConfig Calculate Level</source>
+        <translation>LynxConfig Stufe berechnen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; writes to the module. Write now?</source>
+        <translation>&quot;%1&quot; schreibt in das Modul. Jetzt schreiben?</translation>
+    </message>
+    <message>
+        <source>Closing the window</source>
+        <translation>Das Schließen des Fensters</translation>
+    </message>
+    <message>
+        <source>Reading the module</source>
+        <translation>Das Lesen des Moduls</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>direct</source>
+        <translation>direkt</translation>
+    </message>
+    <message>
+        <source>Read All</source>
+        <translation>Alles lesen</translation>
+    </message>
+    <message>
+        <source>; the file held another module, so the configuration is now untitled</source>
+        <translation>; die Datei enthielt ein anderes Modul, daher ist die Konfiguration jetzt unbenannt</translation>
+    </message>
+    <message>
+        <source>Write All</source>
+        <translation>Alles schreiben</translation>
+    </message>
+    <message>
+        <source>Verify All</source>
+        <translation>Alles prüfen</translation>
+    </message>
+    <message>
+        <source>Read Pin</source>
+        <translation>Pin lesen</translation>
+    </message>
+    <message>
+        <source>Read All Pins</source>
+        <translation>Alle Pins lesen</translation>
+    </message>
+    <message>
+        <source>Write All Pins</source>
+        <translation>Alle Pins schreiben</translation>
+    </message>
+    <message>
+        <source>Write Changes</source>
+        <translation>Änderungen schreiben</translation>
+    </message>
+    <message>
+        <source>Take from Module</source>
+        <translation>Vom Modul übernehmen</translation>
+    </message>
+    <message>
+        <source>Pin %1 becomes %2: its %3 parameters are replaced by cleared ones.<byte value="xd"/>
+Change the pin&apos;s mode?</source>
+        <translation>Pin %1 wird %2: seine %3-Parameter werden durch gelöschte ersetzt.<byte value="xd"/>
+Betriebsart des Pins ändern?</translation>
+    </message>
 </context>
 <context>
     <name>LinkControl</name>
@@ -1616,6 +1857,140 @@
     <message>
         <source>Module Address</source>
         <translation>Moduladresse</translation>
+    </message>
+</context>
+<context>
+    <name>Messages</name>
+    <message>
+        <source>Your system does not support this function</source>
+        <translation>Ihr System unterstützt diese Funktion nicht</translation>
+    </message>
+    <message>
+        <source>Select communications port</source>
+        <translation>Bitte die Schnittstelle wählen</translation>
+    </message>
+    <message>
+        <source>eXtended Addressing is intended for<byte value="xd"/>
+experienced users only!</source>
+        <translation>eXtended-Adressierung ist nur für<byte value="xd"/>
+erfahrene Benutzer gedacht!</translation>
+    </message>
+    <message>
+        <source>Nothing to Paste</source>
+        <translation>Nichts zum Einfügen</translation>
+    </message>
+    <message>
+        <source>Nothing to write: the module holds this configuration.</source>
+        <translation>Nichts zu schreiben: das Modul enthält diese Konfiguration.</translation>
+    </message>
+    <message>
+        <source>No valid response</source>
+        <translation>Keine gültige Antwort</translation>
+    </message>
+    <message>
+        <source>Invalid configuration file</source>
+        <translation>Ungültige Konfigurationsdatei</translation>
+    </message>
+    <message>
+        <source>Invalid definition file</source>
+        <translation>Ungültige Definitionsdatei</translation>
+    </message>
+    <message>
+        <source>No match found</source>
+        <translation>Nichts Passendes gefunden</translation>
+    </message>
+    <message>
+        <source>Help tool not available for this box with the selected command</source>
+        <translation>Für dieses Feld gibt es mit dem gewählten Befehl kein Hilfswerkzeug</translation>
+    </message>
+    <message>
+        <source>Can not find Device Configuration file at standard location</source>
+        <translation>Die Bausteindefinitionsdatei ist am Standardort nicht zu finden</translation>
+    </message>
+    <message>
+        <source>Load Device Definitions</source>
+        <translation>Bausteindefinitionen laden</translation>
+    </message>
+    <message>
+        <source>No Device Configuration available</source>
+        <translation>Keine Bausteindefinitionen verfügbar</translation>
+    </message>
+    <message>
+        <source>No Device Configuration file selected</source>
+        <translation>Keine Bausteindefinitionsdatei gewählt</translation>
+    </message>
+    <message>
+        <source>Select Devicename to load</source>
+        <translation>Bitte den zu ladenden Baustein wählen</translation>
+    </message>
+    <message>
+        <source>Referral is not a device</source>
+        <translation>Der Verweis ist kein Baustein</translation>
+    </message>
+    <message>
+        <source>Save Device</source>
+        <translation>Baustein speichern</translation>
+    </message>
+    <message>
+        <source>Function not supported by Device</source>
+        <translation>Funktion vom Baustein nicht unterstützt</translation>
+    </message>
+    <message>
+        <source>Lynx Flexible Addressing is a complex concept !!<byte value="xd"/>
+It should only be activated by experienced users<byte value="xd"/>
+that understand the details very well !</source>
+        <translation>Lynx-Flex-Adressierung ist ein anspruchsvolles Konzept!<byte value="xd"/>
+Sie sollte nur von erfahrenen Benutzern eingeschaltet werden,<byte value="xd"/>
+die die Einzelheiten sehr gut verstehen!</translation>
+    </message>
+    <message>
+        <source>Save Configuration</source>
+        <translation>Konfiguration speichern</translation>
+    </message>
+    <message>
+        <source>Load Configuration</source>
+        <translation>Konfiguration laden</translation>
+    </message>
+</context>
+<context>
+    <name>PinMode</name>
+    <message>
+        <source>Not configured</source>
+        <translation>Nicht konfiguriert</translation>
+    </message>
+    <message>
+        <source>Servo</source>
+        <translation>Servo</translation>
+    </message>
+    <message>
+        <source>PWM</source>
+        <translation>PWM</translation>
+    </message>
+    <message>
+        <source>PWM, Inverted</source>
+        <translation>PWM, umgekehrt</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>Eingang</translation>
+    </message>
+    <message>
+        <source>Input, Inverted</source>
+        <translation>Eingang, umgekehrt</translation>
+    </message>
+</context>
+<context>
+    <name>PinOverview</name>
+    <message>
+        <source>No addr in use</source>
+        <translation>Keine Adr. belegt</translation>
+    </message>
+</context>
+<context>
+    <name>StepTable</name>
+    <message>
+        <source>Fade</source>
+        <translation>Überblenden</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,33 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl_NL">
 <context>
+    <name>EventPatternTool</name>
+    <message>
+        <source>Enable Off-Event</source>
+        <translation>&amp;Uit-gebeurtenis inschakelen</translation>
+    </message>
+    <message>
+        <source>Disable Off-Event</source>
+        <translation>Uit-gebeurtenis &amp;blokkeren</translation>
+    </message>
+    <message>
+        <source>Execute Off-Event</source>
+        <translation>Uit-gebeurtenis uit&amp;voeren</translation>
+    </message>
+    <message>
+        <source>Enable On-Event</source>
+        <translation>&amp;Aan-gebeurtenis inschakelen</translation>
+    </message>
+    <message>
+        <source>Disable On-Event</source>
+        <translation>Aan-gebeurtenis bl&amp;okkeren</translation>
+    </message>
+    <message>
+        <source>Execute On-Event</source>
+        <translation>Aan-gebeurtenis uitvoe&amp;ren</translation>
+    </message>
+</context>
+<context>
     <name>GeneralSettings</name>
     <message>
         <source>Unknown</source>
@@ -43,7 +70,7 @@
         <translation>Pin</translation>
     </message>
     <message>
-        <source>The pin's description, kept in the configuration</source>
+        <source>The pin&apos;s description, kept in the configuration</source>
         <translation>De beschrijving van de pin, bewaard in de configuratie</translation>
     </message>
     <message>
@@ -51,7 +78,7 @@
         <translation>De eerste pin van het apparaat waartoe deze pin behoort</translation>
     </message>
     <message>
-        <source>The device's name, kept by its first pin</source>
+        <source>The device&apos;s name, kept by its first pin</source>
         <translation>De naam van het apparaat, bewaard bij de eerste pin</translation>
     </message>
     <message>
@@ -167,15 +194,15 @@
         <translation>Details tonen</translation>
     </message>
     <message>
-        <source>Shows or hides the transfer buttons, the step headings and the pin configuration's parameter buttons</source>
+        <source>Shows or hides the transfer buttons, the step headings and the pin configuration&apos;s parameter buttons</source>
         <translation>Toont of verbergt de overdrachtknoppen, de stapkoppen en de parameterknoppen van de pinconfiguratie</translation>
     </message>
     <message>
-        <source>Read Asp's</source>
+        <source>Read Asp&apos;s</source>
         <translation>Seinb. lezen</translation>
     </message>
     <message>
-        <source>Write Asp's</source>
+        <source>Write Asp&apos;s</source>
         <translation>Seinb. schrijven</translation>
     </message>
     <message>
@@ -287,7 +314,7 @@
         <translation>Ook pinconfiguraties schrijven</translation>
     </message>
     <message>
-        <source>Also writes each pin's servo, PWM or input parameters to flash</source>
+        <source>Also writes each pin&apos;s servo, PWM or input parameters to flash</source>
         <translation>Schrijft ook de servo-, PWM- of ingangsparameters van elke pin naar het flashgeheugen</translation>
     </message>
     <message>
@@ -375,7 +402,7 @@
         <translation>&amp;Toepassen</translation>
     </message>
     <message>
-        <source>Takes the items chosen "take the module's" into the configuration</source>
+        <source>Takes the items chosen &quot;take the module&apos;s&quot; into the configuration</source>
         <translation>Neemt de onderdelen met de keuze „van de module overnemen” op in de configuratie</translation>
     </message>
     <message>
@@ -395,7 +422,7 @@
         <translation>het mijne houden</translation>
     </message>
     <message>
-        <source>take the module's</source>
+        <source>take the module&apos;s</source>
         <translation>van de module overnemen</translation>
     </message>
     <message>
@@ -517,22 +544,6 @@
     <message>
         <source> (compact)</source>
         <translation> (compact)</translation>
-    </message>
-    <message>
-        <source>Restored the backup </source>
-        <translation>Reservekopie hersteld: </translation>
-    </message>
-    <message>
-        <source>Loaded </source>
-        <translation>Geladen: </translation>
-    </message>
-    <message>
-        <source>Load stopped at a fault in </source>
-        <translation>Laden gestopt bij een fout in </translation>
-    </message>
-    <message>
-        <source>Nothing was loaded from </source>
-        <translation>Er is niets geladen uit </translation>
     </message>
     <message>
         <source>Re&amp;quest Version</source>
@@ -1191,8 +1202,8 @@
         <translation>Over Kestrel Config</translation>
     </message>
     <message>
-        <source>Reads, edits, writes back and verifies what a Kestrel accessory module stores.&lt;br&gt;&lt;br&gt;Build: %1, Qt %2&lt;br&gt;&lt;br&gt;The user guide (Help &amp;gt; User Guide) is also a file: /usr/share/doc/kestrel-config/user-guide.md when installed from the Debian package, user-guide.md in the program's folder on Windows (C:\Program Files\Kestrel Config when installed). Its section "Data files" describes the data-file format, and "Readable configurations and differences" every item of it; on Linux the manual page kestrel-cli(1) describes the format too.</source>
-        <translation>Leest, bewerkt, schrijft terug en controleert wat een Kestrel-accessoiremodule bewaart.&lt;br&gt;&lt;br&gt;Build: %1, Qt %2&lt;br&gt;&lt;br&gt;De gebruikershandleiding (Help &amp;gt; Gebruikershandleiding, in het Engels) is ook een bestand: /usr/share/doc/kestrel-config/user-guide.md bij installatie uit het Debian-pakket, user-guide.md in de programmamap onder Windows (C:\Program Files\Kestrel Config bij installatie). Het hoofdstuk "Data files" beschrijft de indeling van de gegevensbestanden en "Readable configurations and differences" elk onderdeel ervan; onder Linux beschrijft ook de handleidingpagina kestrel-cli(1) de indeling.</translation>
+        <source>Reads, edits, writes back and verifies what a Kestrel accessory module stores.&lt;br&gt;&lt;br&gt;Build: %1, Qt %2&lt;br&gt;&lt;br&gt;The user guide (Help &amp;gt; User Guide) is also a file: /usr/share/doc/kestrel-config/user-guide.md when installed from the Debian package, user-guide.md in the program&apos;s folder on Windows (C:\Program Files\Kestrel Config when installed). Its section &quot;Data files&quot; describes the data-file format, and &quot;Readable configurations and differences&quot; every item of it; on Linux the manual page kestrel-cli(1) describes the format too.</source>
+        <translation>Leest, bewerkt, schrijft terug en controleert wat een Kestrel-accessoiremodule bewaart.&lt;br&gt;&lt;br&gt;Build: %1, Qt %2&lt;br&gt;&lt;br&gt;De gebruikershandleiding (Help &amp;gt; Gebruikershandleiding, in het Engels) is ook een bestand: /usr/share/doc/kestrel-config/user-guide.md bij installatie uit het Debian-pakket, user-guide.md in de programmamap onder Windows (C:\Program Files\Kestrel Config bij installatie). Het hoofdstuk &quot;Data files&quot; beschrijft de indeling van de gegevensbestanden en &quot;Readable configurations and differences&quot; elk onderdeel ervan; onder Linux beschrijft ook de handleidingpagina kestrel-cli(1) de indeling.</translation>
     </message>
     <message>
         <source>default</source>
@@ -1243,7 +1254,7 @@
         <translation>de pin leest een ingang</translation>
     </message>
     <message>
-        <source>Picking this page changes the pin's mode: %1. It asks first when the pin's parameters would be replaced.</source>
+        <source>Picking this page changes the pin&apos;s mode: %1. It asks first when the pin&apos;s parameters would be replaced.</source>
         <translation>Het kiezen van deze pagina wijzigt de modus van de pin: %1. Er wordt eerst gevraagd wanneer de parameters van de pin vervangen zouden worden.</translation>
     </message>
     <message>
@@ -1539,8 +1550,8 @@
         <translation>Bezig ... Even WACHTEN</translation>
     </message>
     <message>
-        <source>The serial port; "sim" is a simulated layout built into the program, "sim (Corvid)" the same behind a simulated Corvid system. Return or a choice from the list opens it.</source>
-        <translation>De seriële poort; "sim" is een in het programma ingebouwde gesimuleerde baan, "sim (Corvid)" dezelfde achter een gesimuleerd Corvid-systeem. Enter of een keuze uit de lijst opent hem.</translation>
+        <source>The serial port; &quot;sim&quot; is a simulated layout built into the program, &quot;sim (Corvid)&quot; the same behind a simulated Corvid system. Return or a choice from the list opens it.</source>
+        <translation>De seriële poort; &quot;sim&quot; is een in het programma ingebouwde gesimuleerde baan, &quot;sim (Corvid)&quot; dezelfde achter een gesimuleerd Corvid-systeem. Enter of een keuze uit de lijst opent hem.</translation>
     </message>
     <message>
         <source>Reads this pin from the module: aspects, addresses and pin configuration</source>
@@ -1551,19 +1562,19 @@
         <translation>Schrijft deze pin naar de module: seinbeelden en adressen</translation>
     </message>
     <message>
-        <source>Reads every pin of this pin's device from the module</source>
+        <source>Reads every pin of this pin&apos;s device from the module</source>
         <translation>Leest elke pin van het apparaat van deze pin uit de module</translation>
     </message>
     <message>
-        <source>Writes every pin of this pin's device to the module</source>
+        <source>Writes every pin of this pin&apos;s device to the module</source>
         <translation>Schrijft elke pin van het apparaat van deze pin naar de module</translation>
     </message>
     <message>
-        <source>Reads this pin's aspects, initial aspect and addresses from the module</source>
+        <source>Reads this pin&apos;s aspects, initial aspect and addresses from the module</source>
         <translation>Leest de seinbeelden, het beginseinbeeld en de adressen van deze pin uit de module</translation>
     </message>
     <message>
-        <source>Writes this pin's aspects, initial aspect and addresses to the module</source>
+        <source>Writes this pin&apos;s aspects, initial aspect and addresses to the module</source>
         <translation>Schrijft de seinbeelden, het beginseinbeeld en de adressen van deze pin naar de module</translation>
     </message>
     <message>
@@ -1575,7 +1586,7 @@
         <translation>Plaatst het gekozen apparaat op de pins, zijn eerste pin op deze pin</translation>
     </message>
     <message>
-        <source>Saves this pin's device to a definitions file of its own</source>
+        <source>Saves this pin&apos;s device to a definitions file of its own</source>
         <translation>Slaat het apparaat van deze pin op in een eigen definitiebestand</translation>
     </message>
     <message>
@@ -1606,6 +1617,236 @@
         <source>Write Settings</source>
         <translation>Instellingen schrijven</translation>
     </message>
+    <message>
+        <source>choosing %1 in %2</source>
+        <translation>kiezen van %1 in %2</translation>
+    </message>
+    <message>
+        <source>checking %1</source>
+        <translation>aanvinken van %1</translation>
+    </message>
+    <message>
+        <source>unchecking %1</source>
+        <translation>uitvinken van %1</translation>
+    </message>
+    <message>
+        <source>typing in %1</source>
+        <translation>typen in %1</translation>
+    </message>
+    <message>
+        <source>choosing %1</source>
+        <translation>kiezen van %1</translation>
+    </message>
+    <message>
+        <source>choosing a step in the timeline</source>
+        <translation>kiezen van een stap in de tijdlijn</translation>
+    </message>
+    <message>
+        <source>Time tool</source>
+        <translation>Tijdgereedschap</translation>
+    </message>
+    <message>
+        <source>Pattern tool</source>
+        <translation>Patroongereedschap</translation>
+    </message>
+    <message>
+        <source>Event pattern tool</source>
+        <translation>Gebeurtenispatroongereedschap</translation>
+    </message>
+    <message>
+        <source>Level tool</source>
+        <translation>Niveaugereedschap</translation>
+    </message>
+    <message>
+        <source>Aspect %1: %2</source>
+        <translation>Seinbeeld %1: %2</translation>
+    </message>
+    <message>
+        <source>no steps</source>
+        <translation>geen stappen</translation>
+    </message>
+    <message>
+        <source>step %1, %2</source>
+        <translation>stap %1, %2</translation>
+    </message>
+    <message>
+        <source>, does not wait</source>
+        <translation>, wacht niet</translation>
+    </message>
+    <message>
+        <source>, time too long for the module (%1)</source>
+        <translation>, tijd te lang voor de module (%1)</translation>
+    </message>
+    <message>
+        <source>, jumps to aspect %1 step %2</source>
+        <translation>, springt naar seinbeeld %1 stap %2</translation>
+    </message>
+    <message>
+        <source>Aspect %1, </source>
+        <translation>Seinbeeld %1, </translation>
+    </message>
+    <message>
+        <source> (incomplete)</source>
+        <translation> (onvolledig)</translation>
+    </message>
+    <message>
+        <source>changing %1</source>
+        <translation>wijzigen van %1</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Bewerking</translation>
+    </message>
+    <message>
+        <source>Pin tool</source>
+        <translation>Pingereedschap</translation>
+    </message>
+    <message>
+        <source>Aspect tool</source>
+        <translation>Seinbeeldgereedschap</translation>
+    </message>
+    <message>
+        <source>Step tool</source>
+        <translation>Stapgereedschap</translation>
+    </message>
+    <message>
+        <source>The configuration has changes that are not saved.<byte value="xd"/>
+%1 would lose them. Save them first?</source>
+        <translation>De configuratie heeft wijzigingen die niet zijn opgeslagen.<byte value="xd"/>
+%1 zou ze verliezen. Eerst opslaan?</translation>
+    </message>
+    <message>
+        <source> has changed on disk since it was loaded or saved here.<byte value="xd"/>
+Replace it with the configuration shown?</source>
+        <translation> is op de schijf gewijzigd sinds het hier geladen of opgeslagen is.<byte value="xd"/>
+Vervangen door de getoonde configuratie?</translation>
+    </message>
+    <message>
+        <source>The backups folder is the program&apos;s own: choose another folder for the file.</source>
+        <translation>De map met reservekopieën is van het programma zelf: kies een andere map voor het bestand.</translation>
+    </message>
+    <message>
+        <source>; it does not hold everything shown, so the work is still unsaved</source>
+        <translation>; het bevat niet alles wat getoond wordt, dus het werk is nog niet opgeslagen</translation>
+    </message>
+    <message>
+        <source>Restoring a backup</source>
+        <translation>Het herstellen van een reservekopie</translation>
+    </message>
+    <message>
+        <source>Loading a file</source>
+        <translation>Het laden van een bestand</translation>
+    </message>
+    <message>
+        <source>Restore from Backup</source>
+        <translation>Herstellen uit reservekopie</translation>
+    </message>
+    <message>
+        <source>Load File</source>
+        <translation>Bestand laden</translation>
+    </message>
+    <message>
+        <source>Restored the backup %1 as an untitled configuration</source>
+        <translation>Reservekopie %1 hersteld als naamloze configuratie</translation>
+    </message>
+    <message>
+        <source>Loaded %1</source>
+        <translation>%1 geladen</translation>
+    </message>
+    <message>
+        <source>Load stopped at a fault in %1: the pages show what was read before it</source>
+        <translation>Laden gestopt bij een fout in %1: de pagina&apos;s tonen wat daarvoor gelezen is</translation>
+    </message>
+    <message>
+        <source>Nothing was loaded from %1</source>
+        <translation>Uit %1 is niets geladen</translation>
+    </message>
+    <message>
+        <source>; the backup was not saved: %1</source>
+        <translation>; de reservekopie is niet opgeslagen: %1</translation>
+    </message>
+    <message>
+        <source>ID string cut to 12 characters: </source>
+        <translation>ID-tekst ingekort tot 12 tekens: </translation>
+    </message>
+    <message>
+        <source>KestrelConfig CalcTime</source>
+        <translation>KestrelConfig tijd berekenen</translation>
+    </message>
+    <message>
+        <source>LynxConfig Calculate Pattern</source>
+        <translation>LynxConfig patroon berekenen</translation>
+    </message>
+    <message>
+        <source>KestrelConfig CalcETImap</source>
+        <translation>KestrelConfig ETImap berekenen</translation>
+    </message>
+    <message>
+        <source>LynxConfig Calculate Level</source>
+        <translation>LynxConfig niveau berekenen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; writes to the module. Write now?</source>
+        <translation>&quot;%1&quot; schrijft naar de module. Nu schrijven?</translation>
+    </message>
+    <message>
+        <source>Closing the window</source>
+        <translation>Het sluiten van het venster</translation>
+    </message>
+    <message>
+        <source>Reading the module</source>
+        <translation>Het lezen van de module</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>geen</translation>
+    </message>
+    <message>
+        <source>direct</source>
+        <translation>rechtstreeks</translation>
+    </message>
+    <message>
+        <source>Read All</source>
+        <translation>Alles lezen</translation>
+    </message>
+    <message>
+        <source>; the file held another module, so the configuration is now untitled</source>
+        <translation>; het bestand bevatte een andere module, dus de configuratie is nu naamloos</translation>
+    </message>
+    <message>
+        <source>Write All</source>
+        <translation>Alles schrijven</translation>
+    </message>
+    <message>
+        <source>Verify All</source>
+        <translation>Alles controleren</translation>
+    </message>
+    <message>
+        <source>Read Pin</source>
+        <translation>Pin lezen</translation>
+    </message>
+    <message>
+        <source>Read All Pins</source>
+        <translation>Alle pins lezen</translation>
+    </message>
+    <message>
+        <source>Write All Pins</source>
+        <translation>Alle pins schrijven</translation>
+    </message>
+    <message>
+        <source>Write Changes</source>
+        <translation>Wijzigingen schrijven</translation>
+    </message>
+    <message>
+        <source>Take from Module</source>
+        <translation>Van de module overnemen</translation>
+    </message>
+    <message>
+        <source>Pin %1 becomes %2: its %3 parameters are replaced by cleared ones.<byte value="xd"/>
+Change the pin&apos;s mode?</source>
+        <translation>Pin %1 wordt %2: zijn %3-parameters worden vervangen door gewiste.<byte value="xd"/>
+De modus van de pin wijzigen?</translation>
+    </message>
 </context>
 <context>
     <name>LinkControl</name>
@@ -1616,6 +1857,140 @@
     <message>
         <source>Module Address</source>
         <translation>Moduleadres</translation>
+    </message>
+</context>
+<context>
+    <name>Messages</name>
+    <message>
+        <source>Your system does not support this function</source>
+        <translation>Uw systeem ondersteunt deze functie niet</translation>
+    </message>
+    <message>
+        <source>Select communications port</source>
+        <translation>Kies de communicatiepoort</translation>
+    </message>
+    <message>
+        <source>eXtended Addressing is intended for<byte value="xd"/>
+experienced users only!</source>
+        <translation>eXtended-adressering is alleen bedoeld<byte value="xd"/>
+voor ervaren gebruikers!</translation>
+    </message>
+    <message>
+        <source>Nothing to Paste</source>
+        <translation>Niets om te plakken</translation>
+    </message>
+    <message>
+        <source>Nothing to write: the module holds this configuration.</source>
+        <translation>Niets te schrijven: de module bevat deze configuratie.</translation>
+    </message>
+    <message>
+        <source>No valid response</source>
+        <translation>Geen geldig antwoord</translation>
+    </message>
+    <message>
+        <source>Invalid configuration file</source>
+        <translation>Ongeldig configuratiebestand</translation>
+    </message>
+    <message>
+        <source>Invalid definition file</source>
+        <translation>Ongeldig definitiebestand</translation>
+    </message>
+    <message>
+        <source>No match found</source>
+        <translation>Geen overeenkomst gevonden</translation>
+    </message>
+    <message>
+        <source>Help tool not available for this box with the selected command</source>
+        <translation>Voor dit vak is er met de gekozen instructie geen hulpgereedschap</translation>
+    </message>
+    <message>
+        <source>Can not find Device Configuration file at standard location</source>
+        <translation>Het apparaatdefinitiebestand is niet te vinden op de standaardplaats</translation>
+    </message>
+    <message>
+        <source>Load Device Definitions</source>
+        <translation>Apparaatdefinities laden</translation>
+    </message>
+    <message>
+        <source>No Device Configuration available</source>
+        <translation>Geen apparaatdefinities beschikbaar</translation>
+    </message>
+    <message>
+        <source>No Device Configuration file selected</source>
+        <translation>Geen apparaatdefinitiebestand gekozen</translation>
+    </message>
+    <message>
+        <source>Select Devicename to load</source>
+        <translation>Kies het te laden apparaat</translation>
+    </message>
+    <message>
+        <source>Referral is not a device</source>
+        <translation>De verwijzing is geen apparaat</translation>
+    </message>
+    <message>
+        <source>Save Device</source>
+        <translation>Apparaat opslaan</translation>
+    </message>
+    <message>
+        <source>Function not supported by Device</source>
+        <translation>Functie niet ondersteund door het apparaat</translation>
+    </message>
+    <message>
+        <source>Lynx Flexible Addressing is a complex concept !!<byte value="xd"/>
+It should only be activated by experienced users<byte value="xd"/>
+that understand the details very well !</source>
+        <translation>Lynx-flexadressering is een ingewikkeld concept!<byte value="xd"/>
+Het mag alleen worden ingeschakeld door ervaren gebruikers<byte value="xd"/>
+die de details zeer goed begrijpen!</translation>
+    </message>
+    <message>
+        <source>Save Configuration</source>
+        <translation>Configuratie opslaan</translation>
+    </message>
+    <message>
+        <source>Load Configuration</source>
+        <translation>Configuratie laden</translation>
+    </message>
+</context>
+<context>
+    <name>PinMode</name>
+    <message>
+        <source>Not configured</source>
+        <translation>Niet geconfigureerd</translation>
+    </message>
+    <message>
+        <source>Servo</source>
+        <translation>Servo</translation>
+    </message>
+    <message>
+        <source>PWM</source>
+        <translation>PWM</translation>
+    </message>
+    <message>
+        <source>PWM, Inverted</source>
+        <translation>PWM, omgekeerd</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>Ingang</translation>
+    </message>
+    <message>
+        <source>Input, Inverted</source>
+        <translation>Ingang, omgekeerd</translation>
+    </message>
+</context>
+<context>
+    <name>PinOverview</name>
+    <message>
+        <source>No addr in use</source>
+        <translation>Geen adres in gebruik</translation>
+    </message>
+</context>
+<context>
+    <name>StepTable</name>
+    <message>
+        <source>Fade</source>
+        <translation>Overvloeien</translation>
     </message>
 </context>
 <context>

@@ -121,8 +121,9 @@ void LinkControl::UpDownXaddr_Change(int shownValue) { link.settings.TargetXAddr
 bool LinkControl::CheckXaddress_Click(bool checked)
 {
     if (checked) {
-        const Answer a = link.dialogs().ask("eXtended Addressing is intended for\r\nexperienced users only!",
-                                            Buttons::OkCancel, Icon::Warning);
+        const Answer a = link.dialogs().ask(
+            KC_TRANSLATABLE("Messages", "eXtended Addressing is intended for\r\nexperienced users only!"),
+            Buttons::OkCancel, Icon::Warning);
         if (a != Answer::Ok)
             checked = false;
     }

@@ -63,7 +63,9 @@ void AspectTimeline::showTimeline(Timeline timeline, int currentAspect, int curr
         QStringList steps;
         for (const TimelineBlock& b : row.blocks)
             steps << describe(b);
-        rows << QString("Aspect %1: %2").arg(row.aspect).arg(steps.isEmpty() ? "no steps" : steps.join("; "));
+        rows << Lang::tr("Aspect %1: %2")
+                    .arg(row.aspect)
+                    .arg(steps.isEmpty() ? Lang::tr("no steps") : steps.join("; "));
     }
     setAccessibleDescription(rows.join(". "));
     if (resized)
@@ -114,15 +116,15 @@ QSize AspectTimeline::minimumSizeHint() const { return {240, sizeHint().height()
 
 QString AspectTimeline::describe(const TimelineBlock& b) const
 {
-    QString text = QString("step %1, %2").arg(b.step).arg(latin1(b.name));
+    QString text = Lang::tr("step %1, %2").arg(b.step).arg(latin1(b.name));
     if (!b.key.empty())
         text += " " + latin1(b.key);
     if (!b.waits())
-        text += ", does not wait";
+        text += Lang::tr(", does not wait");
     if (b.overflow)
-        text += QString(", time too long for the module (%1)").arg(kTimeOverflow);
+        text += Lang::tr(", time too long for the module (%1)").arg(kTimeOverflow);
     if (b.jumpAspect >= 0)
-        text += QString(", jumps to aspect %1 step %2").arg(b.jumpAspect).arg(b.jumpStep);
+        text += Lang::tr(", jumps to aspect %1 step %2").arg(b.jumpAspect).arg(b.jumpStep);
     return text;
 }
 
@@ -252,7 +254,7 @@ bool AspectTimeline::event(QEvent* e)
         } else {
             const TimelineRow& row = shown.rows[static_cast<std::size_t>(r)];
             QToolTip::showText(help->globalPos(),
-                               QString("Aspect %1, ").arg(row.aspect) +
+                               Lang::tr("Aspect %1, ").arg(row.aspect) +
                                    describe(row.blocks[static_cast<std::size_t>(i)]),
                                this);
         }

@@ -272,7 +272,7 @@ QWidget* AspectsPage::buildAspectArea()
 
         connect(ComboPAspInst[r], &QComboBox::activated, this, [this, r](int index) {
             const int code = ComboPAspInst[r]->itemData(index).toInt();
-            const QString name = QString("choosing %1 in %2")
+            const QString name = Lang::tr("choosing %1 in %2")
                                      .arg(ComboPAspInst[r]->itemText(index), controlName(ComboPAspInst[r]));
             bindings.edit(name, [&] {
                 const RowEdit e = setInstruction(session.config, r, code);
@@ -282,11 +282,13 @@ QWidget* AspectsPage::buildAspectArea()
             bindings.show();
         });
         connect(CheckPAspFade[r], &QCheckBox::clicked, this, [this, r](bool checked) {
-            bindings.edit((checked ? "checking " : "unchecking ") + controlName(CheckPAspFade[r]), [&] {
-                const RowEdit e = setFade(session.config, r, checked);
-                view.rows[r] = e.row;
-                view.headings = e.headings;
-            });
+            bindings.edit((checked ? Lang::tr("checking %1") : Lang::tr("unchecking %1"))
+                              .arg(controlName(CheckPAspFade[r])),
+                          [&] {
+                              const RowEdit e = setFade(session.config, r, checked);
+                              view.rows[r] = e.row;
+                              view.headings = e.headings;
+                          });
             bindings.show();
         });
     }
@@ -432,7 +434,7 @@ void AspectsPage::bind()
     // Only the device's head keeps its name; on a member the box shows the head's and is closed.
     connect(TextDeviceDescription, &QLineEdit::textChanged, this, [this, &c](const QString& typed) {
         bindings.edit(
-            "typing in " + controlName(TextDeviceDescription),
+            Lang::tr("typing in %1").arg(controlName(TextDeviceDescription)),
             [&] {
                 if (setDeviceDescription(c, fromLatin1(typed)))
                     view.deviceDescription = fromLatin1(typed);
@@ -493,7 +495,7 @@ void AspectsPage::bind()
     });
 
     connect(OptionPAspConfGroup, &QButtonGroup::idClicked, this, [this](int option) {
-        bindings.edit("choosing " + controlName(OptionPAspConf[option]),
+        bindings.edit(Lang::tr("choosing %1").arg(controlName(OptionPAspConf[option])),
                       [&] { view = changeLayout(session.config, option); });
         bindings.show();
     });
@@ -514,7 +516,7 @@ void AspectsPage::showRow(int r)
     {
         const QSignalBlocker block(CheckPAspFade[r]);
         CheckPAspFade[r]->setChecked(row.fadeChecked);
-        CheckPAspFade[r]->setText(latin1(row.fadeCaption));
+        CheckPAspFade[r]->setText(translated("StepTable", row.fadeCaption));
         CheckPAspFade[r]->setVisible(visible && row.fadeVisible);
     }
     QLineEdit* boxes[4] = {TextPAspOffset[r], TextPAspPar1[r], TextPAspPar2[r], TextPAspPar3[r]};
@@ -559,7 +561,7 @@ void AspectsPage::showTimeline()
 void AspectsPage::TimelinePAsp_Click(int aspect, int stepIndex)
 {
     commitPending();
-    guard("choosing a step in the timeline", [this, aspect, stepIndex] {
+    guard(Lang::tr("choosing a step in the timeline").toStdString(), [this, aspect, stepIndex] {
         if (aspect != session.config.CurrentAspect)
             selectAspect(session.config, std::to_string(aspect));
         selectStepRow(session.config, stepIndex);
@@ -651,21 +653,21 @@ void AspectsPage::helpTool(int row, HelpBox box)
             return;
         case HelpToolKind::Time:
             kept(dlgCT, this)->run(st);
-            guard.name("Time tool");
+            guard.name(Lang::tr("Time tool").toStdString());
             break;
         case HelpToolKind::Pattern:
             kept(dlgKestrelCalcPattern, this)->run(st);
-            guard.name("Pattern tool");
+            guard.name(Lang::tr("Pattern tool").toStdString());
             break;
         case HelpToolKind::EventPattern:
             kept(dlgKestrelCalcEventPattern, this)->run(st);
-            guard.name("Event pattern tool");
+            guard.name(Lang::tr("Event pattern tool").toStdString());
             break;
         case HelpToolKind::Level: {
             const int p = box == HelpBox::Par1 ? 1 : box == HelpBox::Par2 ? 2 : 3;
             int value = static_cast<int>(valInt(view.rows[row].parameters[p].text));
             kept(dlgKestrelCalcLevel, this);
-            guard.name("Level tool");
+            guard.name(Lang::tr("Level tool").toStdString());
             if (dlgKestrelCalcLevel->run(value))
                 setParameter(session.config, row, p, std::to_string(value)); // within the box's range
             break;

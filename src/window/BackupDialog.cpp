@@ -30,7 +30,9 @@ BackupDialog::BackupDialog(std::vector<BackupEntry> entries, QWidget* parent)
     for (int row = 0; row < tableBackups->rowCount(); ++row) {
         const BackupEntry& e = backups[static_cast<std::size_t>(row)];
         int column = 0;
-        for (const std::string& text : {e.incomplete ? e.when + " (incomplete)" : e.when, e.id, e.version}) {
+        for (const std::string& text :
+             {e.incomplete ? e.when + Lang::tr(" (incomplete)").toLatin1().toStdString() : e.when, e.id,
+              e.version}) {
             auto* item = new QTableWidgetItem(QString::fromLatin1(text.c_str()));
             if (e.incomplete)
                 item->setToolTip(Lang::tr(

@@ -109,8 +109,8 @@ void EditHistory::record(const EditState& before, const std::string& name, const
     auto was = latest && *latest == before ? latest : std::make_shared<const EditState>(before);
     latest =
         std::make_shared<const EditState>(EditState{session.config, session.general, session.eventControl});
-    steps->push(new ConfigurationStep(QString::fromStdString(name.empty() ? "Edit" : name), std::move(was),
-                                      latest, control, editRun,
+    steps->push(new ConfigurationStep(name.empty() ? Lang::tr("Edit") : QString::fromStdString(name),
+                                      std::move(was), latest, control, editRun,
                                       [this](const ConfigurationStep::State& s) { restore(s); }));
 }
 

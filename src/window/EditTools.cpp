@@ -112,7 +112,7 @@ QLabel* ToolDialog::layOut(std::initializer_list<QPushButton*> commands, QPushBu
 // ---- pin tool
 
 EditPinDialog::EditPinDialog(Session& s, QWidget* parent)
-    : ToolDialog("dlgEditPin", "Pin tool", parent), session(s)
+    : ToolDialog("dlgEditPin", Lang::tr("Pin tool"), parent), session(s)
 {
     std::tie(CommandCopyPin, CommandPastePin, CommandClearPin) =
         clipboardButtons(tool, session, "Pin", {"CommandCopyPin", "CommandPastePin", "CommandClearPin"});
@@ -129,7 +129,7 @@ void EditPinDialog::run()
 // ---- aspect tool
 
 EditAspectDialog::EditAspectDialog(Session& s, QWidget* parent)
-    : ToolDialog("dlgEditAspect", "Aspect tool", parent), session(s)
+    : ToolDialog("dlgEditAspect", Lang::tr("Aspect tool"), parent), session(s)
 {
     std::tie(CommandCopy, CommandPaste, CommandClear) =
         clipboardButtons(tool, session, "Aspect", {"CommandCopy", "CommandPaste", "CommandClear"});
@@ -151,7 +151,7 @@ void EditAspectDialog::run()
 // ---- step tool
 
 EditStepDialog::EditStepDialog(Session& s, QWidget* parent)
-    : ToolDialog("dlgEditStep", "Step tool", parent), session(s)
+    : ToolDialog("dlgEditStep", Lang::tr("Step tool"), parent), session(s)
 {
     commandInsert = commandButton(Lang::tr("&Insert Step"), "commandInsert", [this] {
         insertStep(session.config);

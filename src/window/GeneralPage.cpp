@@ -407,7 +407,8 @@ void GeneralPage::bind()
         new QRegularExpressionValidator(QRegularExpression("[\\x20-\\x7e]*"), TextGenIDString));
     b.text(TextGenIDString, g.TextGenIDString);
     connect(TextGenIDString, &QLineEdit::editingFinished, this, [this] {
-        guard(("typing in " + controlName(TextGenIDString)).toStdString(), [this] { cutIDString(); });
+        guard(Lang::tr("typing in %1").arg(controlName(TextGenIDString)).toStdString(),
+              [this] { cutIDString(); });
     });
 
     const auto dccEntry = [&b](QLineEdit* box, std::string& field) {
@@ -485,7 +486,8 @@ void GeneralPage::cutIDString()
         return;
     id.resize(kIdStringLength);
     refresh();
-    session.dialogs().message("ID string cut to 12 characters: " + id, Icon::Information);
+    session.dialogs().message(Lang::tr("ID string cut to 12 characters: ").toLatin1().toStdString() + id,
+                              Icon::Information);
 }
 
 void GeneralPage::refresh() { bindings.show(); }

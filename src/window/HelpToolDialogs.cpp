@@ -76,7 +76,8 @@ void HelpToolDialog::addOkCancel(QVBoxLayout* layout)
 
 // ---- time tool
 
-TimeToolDialog::TimeToolDialog(QWidget* parent) : HelpToolDialog("dlgCT", "KestrelConfig CalcTime", parent)
+TimeToolDialog::TimeToolDialog(QWidget* parent)
+    : HelpToolDialog("dlgCT", Lang::tr("KestrelConfig CalcTime"), parent)
 {
     auto* base = new NumberEntry("TextCTBase", "UpDownCTBase", 2);
     TextCTBase = base->text;
@@ -189,7 +190,7 @@ void TimeToolDialog::showTool() const
 // ---- pattern tool
 
 PatternToolDialog::PatternToolDialog(QWidget* parent)
-    : HelpToolDialog("dlgKestrelCalcPattern", "LynxConfig Calculate Pattern", parent)
+    : HelpToolDialog("dlgKestrelCalcPattern", Lang::tr("LynxConfig Calculate Pattern"), parent)
 {
     auto* boxes = new QGridLayout;
     for (int i = 0; i < 7; ++i) {
@@ -268,7 +269,7 @@ void PatternToolDialog::showTool()
 // ---- event-pattern tool
 
 EventPatternToolDialog::EventPatternToolDialog(QWidget* parent)
-    : HelpToolDialog("dlgKestrelCalcEventPattern", "KestrelConfig CalcETImap", parent)
+    : HelpToolDialog("dlgKestrelCalcEventPattern", Lang::tr("KestrelConfig CalcETImap"), parent)
 {
     auto* inputs = new QGroupBox(Lang::tr("Event inputs"));
     auto* inputsLayout = new QVBoxLayout(inputs);
@@ -298,7 +299,11 @@ EventPatternToolDialog::EventPatternToolDialog(QWidget* parent)
     });
     const int mnemonic[6] = {0, 0, 1, 1, 2, 4};
     for (int k = 0; k < 6; ++k) {
-        const QString caption = latin1(EventPatternTool::optionCaptions()[k]).insert(mnemonic[k], '&');
+        // A translation carries its own letter.
+        const std::string& english = EventPatternTool::optionCaptions()[k];
+        QString caption = translated("EventPatternTool", english);
+        if (caption == latin1(english))
+            caption.insert(mnemonic[k], '&');
         optEvent[k] = named(new QRadioButton(caption), QString("optEvent_%1").arg(k));
         options->addButton(optEvent[k]);
         actionsLayout->addWidget(optEvent[k], 1 + k % 3, k / 3);
@@ -347,7 +352,7 @@ void EventPatternToolDialog::showTool()
 // ---- level tool
 
 LevelToolDialog::LevelToolDialog(QWidget* parent)
-    : HelpToolDialog("dlgKestrelCalcLevel", "LynxConfig Calculate Level", parent)
+    : HelpToolDialog("dlgKestrelCalcLevel", Lang::tr("LynxConfig Calculate Level"), parent)
 {
     txtParameter = numberBox("txtParameter", 3);
     txtLevel = numberBox("txtLevel", 2);

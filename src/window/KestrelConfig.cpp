@@ -283,7 +283,7 @@ void KestrelConfig::closeEvent(QCloseEvent* event)
         return;
     }
     bool leave = false;
-    (*guard)([&] { leave = keepChangesSafe("Closing the window"); });
+    (*guard)([&] { leave = keepChangesSafe(QT_TRANSLATE_NOOP("Lang", "Closing the window")); });
     if (leave) {
         WindowSettings::save(*this);
         event->accept();
@@ -327,7 +327,7 @@ void KestrelConfig::restoreFromBackup() { files->restoreFromBackup(); }
 
 void KestrelConfig::CommandReadAll_Click()
 {
-    if (keepChangesSafe("Reading the module"))
+    if (keepChangesSafe(QT_TRANSLATE_NOOP("Lang", "Reading the module")))
         startJob(Jobs::ReadAll);
 }
 

@@ -162,20 +162,20 @@ void LayoutPage::refresh()
     TableLayout->setRowCount(int(list.size()));
     for (int row = 0; row < int(list.size()); ++row) {
         const LayoutEntry& e = list[std::size_t(row)];
-        std::string newest = "none";
+        std::string newest = Lang::tr("none").toLatin1().toStdString();
         for (const BackupEntry& b : backups) // the complete ones first, newest first
             if (b.id == e.module.id) {
-                newest = b.incomplete ? b.when + " (incomplete)" : b.when;
+                newest = b.incomplete ? b.when + Lang::tr(" (incomplete)").toLatin1().toStdString() : b.when;
                 break;
             }
-        const std::string cells[Columns] = {e.module.corvid ? "Corvid" : "direct",
-                                            std::to_string(e.module.address + base),
-                                            e.module.xaddress ? std::to_string(*e.module.xaddress + base)
-                                                              : "",
-                                            e.module.version,
-                                            e.module.id,
-                                            newest,
-                                            stateText(e)};
+        const std::string cells[Columns] = {
+            e.module.corvid ? std::string("Corvid") : Lang::tr("direct").toLatin1().toStdString(),
+            std::to_string(e.module.address + base),
+            e.module.xaddress ? std::to_string(*e.module.xaddress + base) : "",
+            e.module.version,
+            e.module.id,
+            newest,
+            stateText(e)};
         for (int c = 0; c < Columns; ++c) {
             QTableWidgetItem* item = TableLayout->item(row, c);
             if (!item)

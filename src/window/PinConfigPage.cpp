@@ -170,7 +170,9 @@ QCheckBox* PinConfigPage::invertedBox(const QString& name, ModePage page)
 {
     auto* box = named(new QCheckBox(Lang::tr("Inverted")), name);
     connect(box, &QCheckBox::clicked, this, [this, box, page](bool checked) {
-        guard((checked ? "checking " : "unchecking ") + controlName(box).toStdString(),
+        guard((checked ? Lang::tr("checking %1") : Lang::tr("unchecking %1"))
+                  .arg(controlName(box))
+                  .toStdString(),
               [&] { setInverted(pin(), page, checked); });
     });
     return box;
@@ -244,8 +246,9 @@ QWidget* PinConfigPage::buildServoPage()
         rangeGroup->addButton(OptionServoRange[i], i);
         ranges->addWidget(OptionServoRange[i]);
     }
-    connect(rangeGroup, &QButtonGroup::idClicked, this,
-            [this](int id) { servoFlagsChanged("choosing " + controlName(OptionServoRange[id])); });
+    connect(rangeGroup, &QButtonGroup::idClicked, this, [this](int id) {
+        servoFlagsChanged(Lang::tr("choosing %1").arg(controlName(OptionServoRange[id])));
+    });
     side->addWidget(rangeFrame);
 
     auto* flags = named(new QGroupBox(Lang::tr("Servo State")), "FrameSrvFlags");
@@ -258,7 +261,8 @@ QWidget* PinConfigPage::buildServoPage()
     for (QCheckBox* box : {ChkSrvAutoSuspend, ChkSrvSuspended, ChkSrvInitialized}) {
         flagRow->addWidget(box);
         connect(box, &QCheckBox::clicked, this, [this, box](bool checked) {
-            servoFlagsChanged((checked ? "checking " : "unchecking ") + controlName(box));
+            servoFlagsChanged(
+                (checked ? Lang::tr("checking %1") : Lang::tr("unchecking %1")).arg(controlName(box)));
         });
     }
     side->addWidget(flags);
@@ -321,10 +325,12 @@ QWidget* PinConfigPage::buildPwmPage()
         driveLayout->addWidget(OptionPWMDriveMode[i]);
         accelLayout->addWidget(OptionPWMAccelMode[i]);
     }
-    connect(driveGroup, &QButtonGroup::idClicked, this,
-            [this](int id) { pwmModesChanged("choosing " + controlName(OptionPWMDriveMode[id])); });
-    connect(accelGroup, &QButtonGroup::idClicked, this,
-            [this](int id) { pwmModesChanged("choosing " + controlName(OptionPWMAccelMode[id])); });
+    connect(driveGroup, &QButtonGroup::idClicked, this, [this](int id) {
+        pwmModesChanged(Lang::tr("choosing %1").arg(controlName(OptionPWMDriveMode[id])));
+    });
+    connect(accelGroup, &QButtonGroup::idClicked, this, [this](int id) {
+        pwmModesChanged(Lang::tr("choosing %1").arg(controlName(OptionPWMAccelMode[id])));
+    });
     modes->addWidget(driveFrame);
     modes->addWidget(accelFrame);
     modes->addStretch();
@@ -477,7 +483,7 @@ void PinConfigPage::commitField(PinField field)
     const std::string typed = box->text().toLatin1().toStdString();
     box->setModified(false);
     const QSignalBlocker block(box);
-    guard(("typing in " + controlName(box)).toStdString(),
+    guard(Lang::tr("typing in %1").arg(controlName(box)).toStdString(),
           [&] { box->setText(latin1(takePinField(pin(), field, typed))); });
     shown[box] = box->text();
 }
@@ -529,17 +535,19 @@ void PinConfigPage::SSTabPCFG_Click(int page)
     // The page chosen by hand gives the pin its mode (choosePage); Cancel of the question
     // goes back to the pin's own page.
     if (choosingClearsParameters(pin())) {
-        const std::string question =
-            "Pin " + std::to_string(session.config.CurrentPin + session.config.NumberingBase) + " becomes " +
-            SSTabPCFG->tabText(page).toStdString() + ": its " + SSTabPCFG->tabText(shownPage).toStdString() +
-            " parameters are replaced by cleared ones.\r\nChange the pin's mode?";
+        const std::string question = Lang::tr("Pin %1 becomes %2: its %3 parameters are replaced by cleared "
+                                              "ones.\r\nChange the pin's mode?")
+                                         .arg(session.config.CurrentPin + session.config.NumberingBase)
+                                         .arg(SSTabPCFG->tabText(page), SSTabPCFG->tabText(shownPage))
+                                         .toLatin1()
+                                         .toStdString();
         if (session.dialogs().ask(question, Buttons::OkCancel, Icon::Question) != Answer::Ok) {
             const QSignalBlocker block(SSTabPCFG);
             SSTabPCFG->setCurrentIndex(shownPage);
             return;
         }
     }
-    guard("choosing " + SSTabPCFG->tabText(page).remove(QChar('&')).toStdString(),
+    guard(Lang::tr("choosing %1").arg(SSTabPCFG->tabText(page).remove(QChar('&'))).toStdString(),
           [&] { choosePage(pin(), static_cast<ModePage>(page)); });
     refresh();
 }

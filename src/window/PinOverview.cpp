@@ -56,7 +56,9 @@ void PinOverviewPage::refresh() const
                     item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
                 TablePinOverview->setItem(p, c, item);
             }
-            item->setText(latin1(*texts[c]));
+            // The mode and "No addr in use" in the user's language; numbers and names as they are.
+            item->setText(c == Mode ? translated("PinMode", *texts[c])
+                                    : translated("PinOverview", *texts[c]));
         }
     }
     const int current = session.config.CurrentPin;

@@ -179,8 +179,9 @@ void TrafficMonitor::clear()
 
 void TrafficMonitor::save()
 {
-    const std::string path = link.dialogs().saveFileName(Lang::tr("Save Traffic").toStdString(),
-                                                         Lang::tr("Text files").toStdString() + "|*.txt", "");
+    const std::string path =
+        link.dialogs().saveFileName(Lang::tr("Save Traffic").toLatin1().toStdString(),
+                                    Lang::tr("Text files").toLatin1().toStdString() + "|*.txt", "");
     if (path.empty())
         return;
     std::string text;
