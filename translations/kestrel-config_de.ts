@@ -443,7 +443,7 @@
     </message>
     <message>
         <source>Redo</source>
-        <translation>Wiederholen</translation>
+        <translation>Wiederherstellen</translation>
     </message>
     <message>
         <source>Pin %1</source>
@@ -1067,7 +1067,7 @@
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation>&amp;Beenden</translation>
+        <translation>B&amp;eenden</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -1095,7 +1095,7 @@
     </message>
     <message>
         <source>&amp;Erase Flash...</source>
-        <translation>Flash &amp;löschen...</translation>
+        <translation>Flash l&amp;öschen...</translation>
     </message>
     <message>
         <source>Read &amp;Pin</source>
@@ -1846,6 +1846,14 @@ Mit der gezeigten Konfiguration ersetzen?</translation>
 Change the pin&apos;s mode?</source>
         <translation>Pin %1 wird %2: seine %3-Parameter werden durch gelöschte ersetzt.<byte value="xd"/>
 Betriebsart des Pins ändern?</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>%1 rückgängig machen</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>%1 wiederherstellen</translation>
     </message>
 </context>
 <context>

@@ -443,7 +443,7 @@
     </message>
     <message>
         <source>Redo</source>
-        <translation>Opnieuw</translation>
+        <translation>Opnieuw uitvoeren</translation>
     </message>
     <message>
         <source>Pin %1</source>
@@ -1846,6 +1846,14 @@ Vervangen door de getoonde configuratie?</translation>
 Change the pin&apos;s mode?</source>
         <translation>Pin %1 wordt %2: zijn %3-parameters worden vervangen door gewiste.<byte value="xd"/>
 De modus van de pin wijzigen?</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>%1 ongedaan maken</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>%1 opnieuw uitvoeren</translation>
     </message>
 </context>
 <context>

@@ -81,6 +81,17 @@ EditHistory::EditHistory(Session& session, std::function<void()> commit, std::fu
     steps->setUndoLimit(100);
     undoEntry = steps->createUndoAction(this, Lang::tr("Undo"));
     redoEntry = steps->createRedoAction(this, Lang::tr("Redo"));
+    // The entries name the step in the user's language ("Undo typing in Description"),
+    // after Qt's own wording of them.
+    const auto wording = [](QAction* entry, const QString& none, const QString& named) {
+        return [entry, none, named](const QString& step) {
+            entry->setText(step.isEmpty() ? none : named.arg(step));
+        };
+    };
+    connect(steps, &QUndoStack::undoTextChanged, undoEntry,
+            wording(undoEntry, Lang::tr("Undo"), Lang::tr("Undo %1")));
+    connect(steps, &QUndoStack::redoTextChanged, redoEntry,
+            wording(redoEntry, Lang::tr("Redo"), Lang::tr("Redo %1")));
     undoEntry->setShortcuts(QKeySequence::Undo);
     redoEntry->setShortcuts({QKeySequence("Ctrl+Shift+Z"), QKeySequence("Ctrl+Y")});
     // A typed but unfinished entry is taken first.
