@@ -1857,6 +1857,21 @@ Betriebsart des Pins ändern?</translation>
     </message>
 </context>
 <context>
+    <name>LayoutList</name>
+    <message>
+        <source>holds its newest backup</source>
+        <translation>enthält seine neueste Sicherung</translation>
+    </message>
+    <message>
+        <source>did not answer</source>
+        <translation>hat nicht geantwortet</translation>
+    </message>
+    <message>
+        <source>not checked</source>
+        <translation>nicht geprüft</translation>
+    </message>
+</context>
+<context>
     <name>LinkControl</name>
     <message>
         <source>Channel Number</source>

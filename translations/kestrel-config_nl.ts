@@ -1857,6 +1857,21 @@ De modus van de pin wijzigen?</translation>
     </message>
 </context>
 <context>
+    <name>LayoutList</name>
+    <message>
+        <source>holds its newest backup</source>
+        <translation>bevat zijn nieuwste reservekopie</translation>
+    </message>
+    <message>
+        <source>did not answer</source>
+        <translation>heeft niet geantwoord</translation>
+    </message>
+    <message>
+        <source>not checked</source>
+        <translation>niet gecontroleerd</translation>
+    </message>
+</context>
+<context>
     <name>LinkControl</name>
     <message>
         <source>Channel Number</source>
