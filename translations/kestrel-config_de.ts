@@ -1974,6 +1974,36 @@ die die Einzelheiten sehr gut verstehen!</translation>
         <source>Load Configuration</source>
         <translation>Konfiguration laden</translation>
     </message>
+    <message>
+        <source>Your Corvid system supports Kestrel Tunneling<byte value="xd"/>
+We recommend to use the Corvid Tunneling option instead<byte value="xd"/>
+Do you still want to activate Transparant Mode?</source>
+        <translation>Ihr Corvid-System unterstützt den Kestrel-Tunnel<byte value="xd"/>
+Wir empfehlen, stattdessen die Option Corvid-Tunnel zu benutzen<byte value="xd"/>
+Möchten Sie den Transparentmodus trotzdem aktivieren?</translation>
+    </message>
+    <message>
+        <source>WARNING !!<byte value="xd"/>
+This operation will erase the Kestrel Configuration Memory<byte value="xd"/>
+Continue?</source>
+        <translation>ACHTUNG!<byte value="xd"/>
+Dieser Vorgang löscht den Konfigurationsspeicher des Kestrel-Moduls<byte value="xd"/>
+Fortfahren?</translation>
+    </message>
+    <message>
+        <source>WARNING !!<byte value="xd"/>
+This operation will erase the Kestrel Configuration Memory<byte value="xd"/>
+The green LED on the Kestrel will be ON during this process<byte value="xd"/>
+The erase process may take up to 45 seconds, please be patient<byte value="xd"/>
+<byte value="xd"/>
+Do you want to cancel this operation?</source>
+        <translation>ACHTUNG!<byte value="xd"/>
+Dieser Vorgang löscht den Konfigurationsspeicher des Kestrel-Moduls<byte value="xd"/>
+Die grüne LED des Moduls leuchtet währenddessen<byte value="xd"/>
+Das Löschen kann bis zu 45 Sekunden dauern, bitte Geduld<byte value="xd"/>
+<byte value="xd"/>
+Möchten Sie diesen Vorgang abbrechen?</translation>
+    </message>
 </context>
 <context>
     <name>PinMode</name>

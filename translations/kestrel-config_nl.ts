@@ -1974,6 +1974,36 @@ die de details zeer goed begrijpen!</translation>
         <source>Load Configuration</source>
         <translation>Configuratie laden</translation>
     </message>
+    <message>
+        <source>Your Corvid system supports Kestrel Tunneling<byte value="xd"/>
+We recommend to use the Corvid Tunneling option instead<byte value="xd"/>
+Do you still want to activate Transparant Mode?</source>
+        <translation>Uw Corvid-systeem ondersteunt de Kestrel-tunnel<byte value="xd"/>
+Wij raden aan in plaats daarvan de optie Corvid-tunnel te gebruiken<byte value="xd"/>
+Wilt u de transparante modus toch activeren?</translation>
+    </message>
+    <message>
+        <source>WARNING !!<byte value="xd"/>
+This operation will erase the Kestrel Configuration Memory<byte value="xd"/>
+Continue?</source>
+        <translation>WAARSCHUWING!<byte value="xd"/>
+Deze handeling wist het configuratiegeheugen van de Kestrel-module<byte value="xd"/>
+Doorgaan?</translation>
+    </message>
+    <message>
+        <source>WARNING !!<byte value="xd"/>
+This operation will erase the Kestrel Configuration Memory<byte value="xd"/>
+The green LED on the Kestrel will be ON during this process<byte value="xd"/>
+The erase process may take up to 45 seconds, please be patient<byte value="xd"/>
+<byte value="xd"/>
+Do you want to cancel this operation?</source>
+        <translation>WAARSCHUWING!<byte value="xd"/>
+Deze handeling wist het configuratiegeheugen van de Kestrel-module<byte value="xd"/>
+De groene led van de module brandt gedurende dit proces<byte value="xd"/>
+Het wissen kan tot 45 seconden duren, even geduld a.u.b.<byte value="xd"/>
+<byte value="xd"/>
+Wilt u deze handeling annuleren?</translation>
+    </message>
 </context>
 <context>
     <name>PinMode</name>

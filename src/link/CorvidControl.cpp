@@ -73,10 +73,11 @@ bool CorvidControl::cmdSetTM_Click()
     const auto& r = link.state.ReplyBuffer;
     if (systemVersionValid() && versionFrom(r[3], r[4]) >= 3200) {
         poll();
-        const Answer a = link.dialogs().ask("Your Corvid system supports Kestrel Tunneling\r\n"
-                                            "We recommend to use the Corvid Tunneling option instead\r\n"
-                                            "Do you still want to activate Transparant Mode?",
-                                            Buttons::YesNo, Icon::Question);
+        const Answer a = link.dialogs().ask(
+            KC_TRANSLATABLE("Messages", "Your Corvid system supports Kestrel Tunneling\r\n"
+                                        "We recommend to use the Corvid Tunneling option instead\r\n"
+                                        "Do you still want to activate Transparant Mode?"),
+            Buttons::YesNo, Icon::Question);
         if (a != Answer::Yes)
             return false;
     }
