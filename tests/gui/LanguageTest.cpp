@@ -76,70 +76,14 @@ Texts visibleTexts()
 // step table's parameter captions, and words that are the same in the language.
 bool staysTheSame(const QString& text)
 {
-    static const QStringList same{"Kestrel Config",
-                                  "Corvid",
-                                  "sim",
-                                  "DCC",
-                                  "eXtd DCC",
-                                  "ID",
-                                  "PWM",
-                                  "&OK",
-                                  "OK",
-                                  "Baud",
-                                  "Pin",
-                                  "Pins",
-                                  "Servo",
-                                  "Parameter",
-                                  "&Parameter",
-                                  "Filter",
-                                  "&Filter:",
-                                  "Bytes",
-                                  "eXtended",
-                                  "Port",
-                                  "Port:",
-                                  "Addresses:",
-                                  "Adressen:",
-                                  "Bitrate",
-                                  "Linear",
-                                  "Dynamisch",
-                                  "Original",
-                                  "Pause",
-                                  "&Pause",
-                                  "Baud",
-                                  "Version",
-                                  "Date",
-                                  "Datum",
-                                  "Basis",
-                                  "&Basis",
-                                  "&Help",
-                                  "Even",
-                                  "Module",
-                                  "&Module",
-                                  "Route",
-                                  "Even",
-                                  "&Springen",
-                                  "Spr&ingen",
-                                  "System",
-                                  "Filter",
-                                  "Orange 1",
-                                  "Orange 2",
-                                  "Orange 3",
-                                  "Orange 4",
-                                  "Orange 5",
-                                  "Orange 6",
-                                  "<b>Orange LED</b>",
-                                  "Status",
-                                  "-",
-                                  "P.O.",
-                                  "T(/60)",
-                                  "Asp#",
-                                  "Ins#",
-                                  "English",
-                                  "Deutsch",
-                                  "Nederlands"};
+    static const QStringList same = QString("Kestrel Config|Corvid|sim|sim (Corvid)|ID|OK|&OK|DCC|eXtd DCC|"
+                                            "eXtended|PWM|Servo|Baud|Pin|Port:|Bitrate|Version|Route|Module|"
+                                            "&Module|&Help|Even|System|English|Deutsch|Nederlands|"
+                                            "<b>Orange LED</b>|P.O.|T(/60)|Patt.|ETImap|Asp#|Ins#")
+                                        .split('|');
     static const QRegularExpression noWords(
         "^[^A-Za-z]*$|^(Pin|Port) [0-9]+|^Kestrel Config |^[0-9.]+ ?[a-z]*$|"
-        "^[0-9]+k[0-9]$|^Pin\\s|^Kestrel standard devices");
+        "^[0-9]+k[0-9]$|^Pin\\s|^Orange [0-9]$|^Kestrel standard devices");
     return same.contains(text) || noWords.match(text).hasMatch();
 }
 
