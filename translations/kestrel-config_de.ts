@@ -1855,6 +1855,14 @@ Betriebsart des Pins ändern?</translation>
         <source>Redo %1</source>
         <translation>%1 wiederherstellen</translation>
     </message>
+    <message>
+        <source>Kestrel Config Data</source>
+        <translation>Kestrel-Config-Daten</translation>
+    </message>
+    <message>
+        <source>Kestrel Device Definitions</source>
+        <translation>Kestrel-Bausteindefinitionen</translation>
+    </message>
 </context>
 <context>
     <name>LayoutList</name>

@@ -1855,6 +1855,14 @@ De modus van de pin wijzigen?</translation>
         <source>Redo %1</source>
         <translation>%1 opnieuw uitvoeren</translation>
     </message>
+    <message>
+        <source>Kestrel Config Data</source>
+        <translation>Kestrel Config-gegevens</translation>
+    </message>
+    <message>
+        <source>Kestrel Device Definitions</source>
+        <translation>Kestrel-apparaatdefinities</translation>
+    </message>
 </context>
 <context>
     <name>LayoutList</name>

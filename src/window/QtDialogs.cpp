@@ -23,13 +23,18 @@ QMessageBox::Icon qtIcon(Icon icon)
     return icons[static_cast<int>(icon)];
 }
 
+// The kinds of file the filters name, in the user's language where the filter shows them.
+[[maybe_unused]] const char* const kFileKinds[] = {QT_TRANSLATE_NOOP("Lang", "Kestrel Config Data"),
+                                                   QT_TRANSLATE_NOOP("Lang", "Kestrel Device Definitions")};
+
 // "Kestrel Config Data|*.dat" -> "Kestrel Config Data (*.dat)"
 QString qtFilter(const std::string& filter)
 {
     const QStringList parts = QString::fromLatin1(filter.c_str()).split('|');
     QStringList out;
     for (int i = 0; i + 1 < parts.size(); i += 2)
-        out << parts[i] + " (" + parts[i + 1] + ")";
+        out << QCoreApplication::translate("Lang", parts[i].toLatin1().constData()) + " (" + parts[i + 1] +
+                   ")";
     return out.join(";;");
 }
 } // namespace
