@@ -1863,6 +1863,66 @@ Betriebsart des Pins ändern?</translation>
         <source>Kestrel Device Definitions</source>
         <translation>Kestrel-Bausteindefinitionen</translation>
     </message>
+    <message>
+        <source>%1 aspects</source>
+        <translation>%1 Signalbilder</translation>
+    </message>
+    <message>
+        <source>Parameter %1, step %2</source>
+        <translation>Parameter %1, Schritt %2</translation>
+    </message>
+    <message>
+        <source>%1, step %2</source>
+        <translation>%1, Schritt %2</translation>
+    </message>
+    <message>
+        <source>Parameter %1</source>
+        <translation>Parameter %1</translation>
+    </message>
+    <message>
+        <source>Event-On input %1</source>
+        <translation>Ein-Ereignis Eingang %1</translation>
+    </message>
+    <message>
+        <source>Event-Off input %1</source>
+        <translation>Aus-Ereignis Eingang %1</translation>
+    </message>
+    <message>
+        <source>%1 input %2</source>
+        <translation>%1 Eingang %2</translation>
+    </message>
+    <message>
+        <source>Group mask %1</source>
+        <translation>Gruppenmaske %1</translation>
+    </message>
+    <message>
+        <source>%1 pins %2</source>
+        <translation>%1 Pins %2</translation>
+    </message>
+    <message>
+        <source>Sink driver</source>
+        <translation>Senkentreiber</translation>
+    </message>
+    <message>
+        <source>Source driver</source>
+        <translation>Quellentreiber</translation>
+    </message>
+    <message>
+        <source>Range %1</source>
+        <translation>Bereich %1</translation>
+    </message>
+    <message>
+        <source>%1 drive mode</source>
+        <translation>Ansteuerart %1</translation>
+    </message>
+    <message>
+        <source>%1 acceleration mode</source>
+        <translation>Beschleunigungsart %1</translation>
+    </message>
+    <message>
+        <source>Frames</source>
+        <translation>Rahmen</translation>
+    </message>
 </context>
 <context>
     <name>LayoutList</name>

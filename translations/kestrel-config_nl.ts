@@ -1863,6 +1863,66 @@ De modus van de pin wijzigen?</translation>
         <source>Kestrel Device Definitions</source>
         <translation>Kestrel-apparaatdefinities</translation>
     </message>
+    <message>
+        <source>%1 aspects</source>
+        <translation>%1 seinbeelden</translation>
+    </message>
+    <message>
+        <source>Parameter %1, step %2</source>
+        <translation>Parameter %1, stap %2</translation>
+    </message>
+    <message>
+        <source>%1, step %2</source>
+        <translation>%1, stap %2</translation>
+    </message>
+    <message>
+        <source>Parameter %1</source>
+        <translation>Parameter %1</translation>
+    </message>
+    <message>
+        <source>Event-On input %1</source>
+        <translation>Aan-gebeurtenis ingang %1</translation>
+    </message>
+    <message>
+        <source>Event-Off input %1</source>
+        <translation>Uit-gebeurtenis ingang %1</translation>
+    </message>
+    <message>
+        <source>%1 input %2</source>
+        <translation>%1 ingang %2</translation>
+    </message>
+    <message>
+        <source>Group mask %1</source>
+        <translation>Groepsmasker %1</translation>
+    </message>
+    <message>
+        <source>%1 pins %2</source>
+        <translation>%1 pins %2</translation>
+    </message>
+    <message>
+        <source>Sink driver</source>
+        <translation>Sink-driver</translation>
+    </message>
+    <message>
+        <source>Source driver</source>
+        <translation>Source-driver</translation>
+    </message>
+    <message>
+        <source>Range %1</source>
+        <translation>Bereik %1</translation>
+    </message>
+    <message>
+        <source>%1 drive mode</source>
+        <translation>Aanstuurwijze %1</translation>
+    </message>
+    <message>
+        <source>%1 acceleration mode</source>
+        <translation>Versnellingswijze %1</translation>
+    </message>
+    <message>
+        <source>Frames</source>
+        <translation>Frames</translation>
+    </message>
 </context>
 <context>
     <name>LayoutList</name>

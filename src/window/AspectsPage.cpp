@@ -137,7 +137,7 @@ QWidget* AspectsPage::buildPinArea()
     const char* captions[3] = {"0", "4", "12"};
     for (int i = 0; i < 3; ++i) {
         OptionPAspConf[i] = named(new QRadioButton(captions[i]), indexed("OptionPAspConf", i));
-        OptionPAspConf[i]->setAccessibleName(QString("%1 aspects").arg(captions[i]));
+        OptionPAspConf[i]->setAccessibleName(Lang::tr("%1 aspects").arg(captions[i]));
         OptionPAspConfGroup->addButton(OptionPAspConf[i], i);
         layoutRow->addWidget(OptionPAspConf[i]);
     }
@@ -254,7 +254,7 @@ QWidget* AspectsPage::buildAspectArea()
         // Named after the instruction's captions once a program is shown.
         QLineEdit* parameters[4] = {TextPAspOffset[r], TextPAspPar1[r], TextPAspPar2[r], TextPAspPar3[r]};
         for (int p = 0; p < 4; ++p)
-            parameters[p]->setAccessibleName(QString("Parameter %1, step %2").arg(p).arg(r));
+            parameters[p]->setAccessibleName(Lang::tr("Parameter %1, step %2").arg(p).arg(r));
         for (QLineEdit* box : {TextPAspPar1[r], TextPAspPar2[r], TextPAspPar3[r]}) {
             box->setToolTip(Lang::tr(kHelpTip));
             box->setAccessibleDescription(Lang::tr(kHelpKey));
@@ -525,8 +525,8 @@ void AspectsPage::showRow(int r)
         boxes[p]->setEnabled(row.parameters[p].used);
         const std::string& caption = info.caption(p);
         boxes[p]->setAccessibleName(
-            QString("%1, step %2")
-                .arg(caption.empty() ? QString("Parameter %1").arg(p) : latin1(caption))
+            Lang::tr("%1, step %2")
+                .arg(caption.empty() ? Lang::tr("Parameter %1").arg(p) : latin1(caption))
                 .arg(r));
     }
     if (!row.timeText.empty())

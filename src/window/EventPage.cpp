@@ -76,9 +76,9 @@ EventPage::EventPage(Session& s, std::function<void(JobName job)> start, Guard* 
             2, 1 + i);
         // Named after the row and the column's input: "Event-On input 2".
         for (QWidget* w : {static_cast<QWidget*>(TextECon[i]), static_cast<QWidget*>(UpDownECon[i])})
-            w->setAccessibleName(QString("Event-On input %1").arg(i + 1));
+            w->setAccessibleName(Lang::tr("Event-On input %1").arg(i + 1));
         for (QWidget* w : {static_cast<QWidget*>(TextECoff[i]), static_cast<QWidget*>(UpDownECoff[i])})
-            w->setAccessibleName(QString("Event-Off input %1").arg(i + 1));
+            w->setAccessibleName(Lang::tr("Event-Off input %1").arg(i + 1));
     }
     table->setRowMinimumHeight(3, 10);
     table->addWidget(new QLabel(Lang::tr("InitialEvent_ON Enable")), 4, 0);
@@ -86,8 +86,8 @@ EventPage::EventPage(Session& s, std::function<void(JobName job)> start, Guard* 
     for (int i = 0; i < 8; ++i) {
         CheckInitEE[i] = named(new QCheckBox, QString("CheckInitEE_%1").arg(i));
         CheckInitEE[i]->setAccessibleName(
-            QString("%1 input %2")
-                .arg(i < 4 ? "InitialEvent_ON Enable" : "Initial Event_OFF Enable")
+            Lang::tr("%1 input %2")
+                .arg(i < 4 ? Lang::tr("InitialEvent_ON Enable") : Lang::tr("Initial Event_OFF Enable"))
                 .arg(i % 4 + 1));
         table->addWidget(CheckInitEE[i], 4 + i / 4, 1 + i % 4);
     }

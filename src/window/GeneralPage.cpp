@@ -220,7 +220,7 @@ QGroupBox* GeneralPage::buildAddressing()
     auto* maskGrid = new QGridLayout(mask);
     for (int i = 0; i < 16; ++i) {
         CheckGenXGM[i] = named(new QCheckBox(QString::number(i)), indexed("CheckGenXGM", i));
-        CheckGenXGM[i]->setAccessibleName(QString("Group mask %1").arg(i));
+        CheckGenXGM[i]->setAccessibleName(Lang::tr("Group mask %1").arg(i));
         maskGrid->addWidget(CheckGenXGM[i], i / 4, i % 4);
     }
     grid->addWidget(mask, 3, 0, 1, 3);
@@ -282,8 +282,8 @@ void GeneralPage::placeHardwareBoxes()
         for (int g = 0; g < 4; ++g) {
             QCheckBox* b = r == 0 ? ChkGenHWCSink[g] : ChkGenHWCSource[g];
             // Named after its row and column: "Sink driver pins 8..15".
-            b->setAccessibleName(QString("%1 pins %2")
-                                     .arg(r == 0 ? "Sink driver" : "Source driver")
+            b->setAccessibleName(Lang::tr("%1 pins %2")
+                                     .arg(r == 0 ? Lang::tr("Sink driver") : Lang::tr("Source driver"))
                                      .arg(g + 1 < words.size() ? words[g + 1] : QString::number(g)));
             b->setGeometry(shift + middles[g] - box.width() / 2, y + (rowHeight - box.height()) / 2,
                            box.width(), box.height());

@@ -242,7 +242,7 @@ QWidget* PinConfigPage::buildServoPage()
     for (int i = 0; i < 5; ++i) {
         OptionServoRange[i] =
             named(new QRadioButton(QString::number(i)), QString("OptionServoRange_%1").arg(i));
-        OptionServoRange[i]->setAccessibleName(QString("Range %1").arg(i));
+        OptionServoRange[i]->setAccessibleName(Lang::tr("Range %1").arg(i));
         rangeGroup->addButton(OptionServoRange[i], i);
         ranges->addWidget(OptionServoRange[i]);
     }
@@ -318,8 +318,9 @@ QWidget* PinConfigPage::buildPwmPage()
             named(new QRadioButton(Lang::tr(modeCaptions[i])), QString("OptionPWMDriveMode_%1").arg(i));
         OptionPWMAccelMode[i] =
             named(new QRadioButton(Lang::tr(modeCaptions[i])), QString("OptionPWMAccelMode_%1").arg(i));
-        OptionPWMDriveMode[i]->setAccessibleName(QString("%1 drive mode").arg(modeCaptions[i]));
-        OptionPWMAccelMode[i]->setAccessibleName(QString("%1 acceleration mode").arg(modeCaptions[i]));
+        OptionPWMDriveMode[i]->setAccessibleName(Lang::tr("%1 drive mode").arg(Lang::tr(modeCaptions[i])));
+        OptionPWMAccelMode[i]->setAccessibleName(
+            Lang::tr("%1 acceleration mode").arg(Lang::tr(modeCaptions[i])));
         driveGroup->addButton(OptionPWMDriveMode[i], i);
         accelGroup->addButton(OptionPWMAccelMode[i], i);
         driveLayout->addWidget(OptionPWMDriveMode[i]);

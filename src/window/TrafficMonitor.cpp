@@ -30,7 +30,7 @@ TrafficMonitor::TrafficMonitor(Link& link, QWidget* parent) : QDialog(parent), l
     grdMonitor = named(new QTableWidget(0, 4), "grdMonitor");
     grdMonitor->setHorizontalHeaderLabels(
         {Lang::tr("Time"), Lang::tr("Dir"), Lang::tr("Bytes"), Lang::tr("Decoded")});
-    grdMonitor->setAccessibleName("Frames");
+    grdMonitor->setAccessibleName(Lang::tr("Frames"));
     grdMonitor->setEditTriggers(QAbstractItemView::NoEditTriggers);
     grdMonitor->setSelectionBehavior(QAbstractItemView::SelectRows);
     grdMonitor->setWordWrap(false);
