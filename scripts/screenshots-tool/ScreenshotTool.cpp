@@ -7,6 +7,7 @@
 #include "window/EditTools.h"
 #include "window/HelpToolDialogs.h"
 #include "window/KestrelConfig.h"
+#include "window/Language.h"
 #include "window/LayoutPage.h"
 #include "window/TrafficMonitor.h"
 
@@ -150,11 +151,16 @@ int main(int argc, char** argv)
     const QCommandLineOption screenshots(
         "screenshots",
         "Read All from the simulated module, save a picture of every page and tool, then quit.", "FOLDER");
-    parser.addOptions({fresh, size, screenshot, screenshots});
+    // The documentation's pictures are English whatever the system's language.
+    const QCommandLineOption language("language", "The window's language (de, nl; English when not given).",
+                                      "CODE");
+    parser.addOptions({fresh, size, screenshot, screenshots, language});
     parser.addHelpOption();
     parser.process(app);
     if (parser.isSet(fresh))
         QSettings("Kestrel", "Kestrel Config").clear();
+    if (parser.isSet(language))
+        kestrel::Lang::install(parser.value(language));
     kestrel::KestrelConfig window;
     if (const QStringList wh = parser.value(size).split('x'); wh.size() == 2)
         window.resize(wh[0].toInt(), wh[1].toInt());

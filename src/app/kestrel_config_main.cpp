@@ -1,5 +1,6 @@
 #include "platform/WindowStart.h"
 #include "window/KestrelConfig.h"
+#include "window/Language.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -72,6 +73,8 @@ int main(int argc, char** argv)
     QApplication::setWindowIcon(QIcon(":/kestrel-config.svg"));
     if (parser.isSet(fresh))
         QSettings("Kestrel", "Kestrel Config").clear();
+    // The window in the language chosen in View > Language, else the system's.
+    kestrel::Lang::install(kestrel::Lang::chosen());
     kestrel::KestrelConfig window;
     if (const QStringList wh = parser.value(size).split('x'); wh.size() == 2)
         window.resize(wh[0].toInt(), wh[1].toInt());

@@ -1,4 +1,5 @@
 #include "files/ConfigurationFile.h"
+#include "base/Translatable.h"
 
 #include "base/ProgramFault.h"
 #include "base/Text.h"
@@ -533,7 +534,7 @@ LoadResult readConfigurationText(const std::string& text, Configuration& config,
     const std::string keyword = kConfigFileKeyword;
     const std::string header = in.firstItem();
     if (header.size() != keyword.size() + 5 || header.compare(0, keyword.size(), keyword) != 0) {
-        dialogs.message("Invalid configuration file", Icon::Warning);
+        dialogs.message(KC_TRANSLATABLE("Messages", "Invalid configuration file"), Icon::Warning);
         return LoadResult::InvalidHeader;
     }
     const double version = val(header.substr(header.size() - 4));

@@ -1,4 +1,5 @@
 #include "files/DeviceDefinitions.h"
+#include "base/Translatable.h"
 
 #include "base/UserDialogs.h"
 #include "files/FileRecords.h"
@@ -35,7 +36,7 @@ ListLoad readDeviceListText(DeviceList& list, const std::string& text, const std
     const std::string keyword = kDeviceFileKeyword;
     const std::string header = in.firstItem();
     if (header.compare(0, keyword.size(), keyword) != 0) {
-        dialogs.message("Invalid definition file", Icon::Warning);
+        dialogs.message(KC_TRANSLATABLE("Messages", "Invalid definition file"), Icon::Warning);
         return ListLoad::Invalid;
     }
     const std::string version = header.size() > keyword.size() + 1 ? header.substr(keyword.size() + 1) : "";
@@ -232,12 +233,12 @@ bool loadDeviceFromText(const std::string& text, const std::string& name, Config
     // Find the block: items until a "Dev" with this name.
     for (;;) {
         if (in.atEnd()) {
-            dialogs.message("No match found", Icon::Warning);
+            dialogs.message(KC_TRANSLATABLE("Messages", "No match found"), Icon::Warning);
             return false;
         }
         const std::string item = in.next();
         if (item == "End") {
-            dialogs.message("No match found", Icon::Warning);
+            dialogs.message(KC_TRANSLATABLE("Messages", "No match found"), Icon::Warning);
             return false;
         }
         if (item == "Dev" && !in.atEnd() && in.next() == name)

@@ -1,4 +1,5 @@
 #include "forms/AspectEditor.h"
+#include "base/Translatable.h"
 
 #include "base/ProgramFault.h"
 #include "base/Text.h"
@@ -261,7 +262,7 @@ void AspectTool::copy(const Configuration& config)
 bool AspectTool::paste(Configuration& config, UserDialogs& dialogs) const
 {
     if (!filled) {
-        dialogs.message("Nothing to Paste");
+        dialogs.message(KC_TRANSLATABLE("Messages", "Nothing to Paste"));
         return false;
     }
     selectedAspect(config) = clipboard;
@@ -364,7 +365,8 @@ HelpToolKind helpToolFor(const StepRecord& step, HelpBox box, UserDialogs& dialo
         if (info.used(parameter) && info.caption(parameter) == "Level" && lowest <= 0 && highest >= 127)
             return HelpToolKind::Level;
     }
-    dialogs.message("Help tool not available for this box with the selected command");
+    dialogs.message(
+        KC_TRANSLATABLE("Messages", "Help tool not available for this box with the selected command"));
     return HelpToolKind::None;
 }
 

@@ -1,4 +1,5 @@
 #include "forms/DevicesForm.h"
+#include "base/Translatable.h"
 
 #include "base/UserDialogs.h"
 #include "files/TextFile.h"
@@ -24,11 +25,13 @@ void loadStandardDeviceList(DeviceList& list, const std::string& programFolder, 
     const std::string standard = standardDeviceFile(programFolder);
     if (readDeviceList(list, standard, ListMode::Replace, dialogs) != ListLoad::CannotOpen)
         return;
-    dialogs.message("Can not find Device Configuration file at standard location", Icon::Warning);
-    const std::string chosen =
-        dialogs.openFileName("Load Device Definitions", kDeviceFileFilter, kStandardDeviceFile);
+    dialogs.message(
+        KC_TRANSLATABLE("Messages", "Can not find Device Configuration file at standard location"),
+        Icon::Warning);
+    const std::string chosen = dialogs.openFileName(KC_TRANSLATABLE("Messages", "Load Device Definitions"),
+                                                    kDeviceFileFilter, kStandardDeviceFile);
     if (chosen.empty() || readDeviceList(list, chosen, ListMode::Replace, dialogs) == ListLoad::CannotOpen)
-        dialogs.message("No Device Configuration available", Icon::Warning);
+        dialogs.message(KC_TRANSLATABLE("Messages", "No Device Configuration available"), Icon::Warning);
 }
 
 void CommandReloadDD_MouseDown(DeviceList& list, UserDialogs& dialogs, int button, int shift)
@@ -36,15 +39,16 @@ void CommandReloadDD_MouseDown(DeviceList& list, UserDialogs& dialogs, int butto
     if (button != 1)
         return;
     const ListMode mode = shift == 1 ? ListMode::Append : ListMode::Replace;
-    const std::string path = dialogs.openFileName("Load Device Definitions", kDeviceFileFilter, "");
+    const std::string path =
+        dialogs.openFileName(KC_TRANSLATABLE("Messages", "Load Device Definitions"), kDeviceFileFilter, "");
     if (readDeviceList(list, path, mode, dialogs) == ListLoad::CannotOpen)
-        dialogs.message("No Device Configuration file selected", Icon::Warning);
+        dialogs.message(KC_TRANSLATABLE("Messages", "No Device Configuration file selected"), Icon::Warning);
 }
 
 bool CommandPAspPreLoad_Click(const DeviceList& list, Configuration& config, UserDialogs& dialogs)
 {
     if (list.selected < 0 || list.selected >= static_cast<int>(list.cboDevice.size())) {
-        dialogs.message("Select Devicename to load", Icon::Warning);
+        dialogs.message(KC_TRANSLATABLE("Messages", "Select Devicename to load"), Icon::Warning);
         return false;
     }
     const std::string& path = list.paths[list.selected];
@@ -61,10 +65,11 @@ bool CommandSaveDevice_Click(Configuration& config, UserDialogs& dialogs)
 {
     const int head = deviceHead(config, config.CurrentPin);
     if (config.pin(head).DeviceOffset != 0) {
-        dialogs.message("Referral is not a device", Icon::Warning);
+        dialogs.message(KC_TRANSLATABLE("Messages", "Referral is not a device"), Icon::Warning);
         return false;
     }
-    const std::string path = dialogs.saveFileName("Save Device", kDeviceFileFilter, "");
+    const std::string path =
+        dialogs.saveFileName(KC_TRANSLATABLE("Messages", "Save Device"), kDeviceFileFilter, "");
     if (path.empty())
         return false;
     std::string error;

@@ -1,4 +1,5 @@
 #include "forms/EventControlForm.h"
+#include "base/Translatable.h"
 
 #include "base/ProgramFault.h"
 #include "base/Text.h"
@@ -38,7 +39,8 @@ bool ReadSingleEvents(Session& session)
             break;
         }
         if (r == EventRead::WrongReply)
-            session.dialogs().message("Function not supported by Device", Icon::None);
+            session.dialogs().message(KC_TRANSLATABLE("Messages", "Function not supported by Device"),
+                                      Icon::None);
     }
     ShowEventPin(session);
     return ok;

@@ -1,4 +1,5 @@
 #include "forms/GeneralForm.h"
+#include "base/Translatable.h"
 
 #include "base/Text.h"
 #include "session/Session.h"
@@ -11,10 +12,11 @@ void CheckGenLynxaddr_Click(Session& session)
 {
     auto& g = session.general;
     if (g.CheckGenLynxaddr == 1 && !g.SuppressAddrWarning) {
-        const Answer a = session.dialogs().ask("Lynx Flexible Addressing is a complex concept !!\r\n"
-                                               "It should only be activated by experienced users\r\n"
-                                               "that understand the details very well !",
-                                               Buttons::OkCancel, Icon::Warning);
+        const Answer a = session.dialogs().ask(
+            KC_TRANSLATABLE("Messages", "Lynx Flexible Addressing is a complex concept !!\r\n"
+                                        "It should only be activated by experienced users\r\n"
+                                        "that understand the details very well !"),
+            Buttons::OkCancel, Icon::Warning);
         if (a != Answer::Ok)
             g.CheckGenLynxaddr = 0;
     }

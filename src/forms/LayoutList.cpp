@@ -1,4 +1,5 @@
 #include "forms/LayoutList.h"
+#include "base/Translatable.h"
 
 #include <algorithm>
 #include <charconv>
@@ -54,15 +55,15 @@ std::string stateText(const LayoutEntry& e)
 {
     switch (e.state) {
     case LayoutState::Holds:
-        return "holds its newest backup";
+        return KC_TRANSLATABLE("LayoutList", "holds its newest backup");
     case LayoutState::Differs:
         return "differs (" + std::to_string(e.differing) + (e.differing == 1 ? " item)" : " items)");
     case LayoutState::NoAnswer:
-        return "did not answer";
+        return KC_TRANSLATABLE("LayoutList", "did not answer");
     case LayoutState::NotChecked:
         break;
     }
-    return "not checked";
+    return KC_TRANSLATABLE("LayoutList", "not checked");
 }
 
 std::vector<LayoutEntry> afterScan(const std::vector<LayoutEntry>& listed,

@@ -1,4 +1,5 @@
 #include "forms/MainWindowForm.h"
+#include "base/Translatable.h"
 
 #include <cctype>
 #include <cstdio>
@@ -14,7 +15,8 @@ std::string CommandSave_MouseDown(Session& session, int button, int shift,
     if (button != 1 || (shift != 0 && shift != 1))
         return {};
     const SaveForm form = shift == 1 ? SaveForm::Compact : SaveForm::Full;
-    std::string path = session.dialogs().saveFileName("Save Configuration", kConfigFileFilter, "");
+    std::string path = session.dialogs().saveFileName(KC_TRANSLATABLE("Messages", "Save Configuration"),
+                                                      kConfigFileFilter, "");
     if (path.empty() || (refused && refused(path)) || !saveConfigurationTo(session, path, form))
         return {};
     return path;
@@ -31,7 +33,8 @@ bool saveConfigurationTo(Session& session, const std::string& path, SaveForm for
 
 LoadOutcome CommandLoad_Click(Session& session)
 {
-    const std::string path = session.dialogs().openFileName("Load Configuration", kConfigFileFilter, "");
+    const std::string path = session.dialogs().openFileName(KC_TRANSLATABLE("Messages", "Load Configuration"),
+                                                            kConfigFileFilter, "");
     if (path.empty())
         return {};
     return loadConfigurationFrom(session, path);

@@ -1,4 +1,5 @@
 #include "forms/PinOverview.h"
+#include "base/Translatable.h"
 
 #include "base/Text.h"
 #include "forms/AspectEditor.h"
@@ -65,7 +66,7 @@ std::string addressText(const Configuration& config, const GeneralSettings& gene
 {
     const int count = addressCount(config.pin(pin), kind);
     if (count == 0)
-        return "No addr in use";
+        return KC_TRANSLATABLE("PinOverview", "No addr in use");
     const long first = baseAddress(general, kind) + firstIndexOf(config, pin, kind);
     const long last = first + count - 1;
     const long shown = kind == AddressKind::Lynx ? config.NumberingBase : 0;

@@ -1,4 +1,5 @@
 #include "forms/WorkState.h"
+#include "base/Translatable.h"
 #include "base/UserDialogs.h"
 #include "files/ConfigurationFile.h"
 #include "files/TextFile.h"
@@ -118,12 +119,12 @@ std::string moduleStateText(const ModuleImage* image, const Configuration& confi
                             const GeneralSettings& general)
 {
     if (!image)
-        return "What the module holds is not known";
+        return KC_TRANSLATABLE("WorkState", "What the module holds is not known");
     const std::size_t n = differences(withoutFileOnly(image->config), image->general, withoutFileOnly(config),
                                       general, config.NumberingBase)
                               .size();
     if (n == 0)
-        return "The module holds what is shown";
+        return KC_TRANSLATABLE("WorkState", "The module holds what is shown");
     return "The module differs in " + std::to_string(n) + (n == 1 ? " item" : " items");
 }
 

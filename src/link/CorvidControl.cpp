@@ -1,9 +1,10 @@
 #include "link/CorvidControl.h"
+#include "base/Translatable.h"
 
 namespace kestrel {
 
 namespace {
-const char* kNotSupported = "Your system does not support this function";
+const char* kNotSupported = KC_TRANSLATABLE("Messages", "Your system does not support this function");
 }
 
 CorvidControl::CorvidControl(Link& l, LinkControl& c) : link(l), control(c) {}
@@ -30,7 +31,7 @@ bool CorvidControl::CheckCorvid_Click(bool checked)
     }
     if (!link.port().isOpen()) {
         link.settings.CheckCorvid = false;
-        link.dialogs().message("Select communications port", Icon::Warning);
+        link.dialogs().message(KC_TRANSLATABLE("Messages", "Select communications port"), Icon::Warning);
         return false;
     }
     link.state.CorvidToggle = 1;
@@ -64,7 +65,7 @@ bool CorvidControl::CheckCorvid_Click(bool checked)
 bool CorvidControl::cmdSetTM_Click()
 {
     if (!link.port().isOpen()) {
-        link.dialogs().message("Select communications port", Icon::Warning);
+        link.dialogs().message(KC_TRANSLATABLE("Messages", "Select communications port"), Icon::Warning);
         return false;
     }
     if (!poll() || !requestSystemVersion())
@@ -72,10 +73,11 @@ bool CorvidControl::cmdSetTM_Click()
     const auto& r = link.state.ReplyBuffer;
     if (systemVersionValid() && versionFrom(r[3], r[4]) >= 3200) {
         poll();
-        const Answer a = link.dialogs().ask("Your Corvid system supports Kestrel Tunneling\r\n"
-                                            "We recommend to use the Corvid Tunneling option instead\r\n"
-                                            "Do you still want to activate Transparant Mode?",
-                                            Buttons::YesNo, Icon::Question);
+        const Answer a = link.dialogs().ask(
+            KC_TRANSLATABLE("Messages", "Your Corvid system supports Kestrel Tunneling\r\n"
+                                        "We recommend to use the Corvid Tunneling option instead\r\n"
+                                        "Do you still want to activate Transparant Mode?"),
+            Buttons::YesNo, Icon::Question);
         if (a != Answer::Yes)
             return false;
     }

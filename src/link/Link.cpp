@@ -639,7 +639,7 @@ void Link::SendLynxMessage(int first, int d1, int d2, int d3)
 
 bool Link::GetVersion()
 {
-    VersionText = "Unknown";
+    VersionText = KC_TRANSLATABLE("GeneralSettings", "Unknown");
     setBidirectional(true);
     SendKestrelMessage(true, 2, {kGeneralRead, kItemVersionErase});
     bool ok = false;

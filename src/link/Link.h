@@ -1,5 +1,6 @@
 #pragma once
 #include "base/SerialPort.h"
+#include "base/Translatable.h"
 #include "base/UserDialogs.h"
 #include "link/Clock.h"
 #include "link/Progress.h"
@@ -143,7 +144,7 @@ public:
 
     // "Request Version": fills VersionText ("Unknown" or "a.b.c.d").
     bool GetVersion();
-    std::string VersionText = "Unknown";
+    std::string VersionText = KC_TRANSLATABLE("GeneralSettings", "Unknown");
 
     // Sets CheckKestrelBD and tells the observers when it changed.
     void setBidirectional(bool on);

@@ -1,4 +1,5 @@
 #include "link/LinkControl.h"
+#include "base/Translatable.h"
 #include "base/Wire.h"
 
 #include "base/Text.h"
@@ -120,8 +121,9 @@ void LinkControl::UpDownXaddr_Change(int shownValue) { link.settings.TargetXAddr
 bool LinkControl::CheckXaddress_Click(bool checked)
 {
     if (checked) {
-        const Answer a = link.dialogs().ask("eXtended Addressing is intended for\r\nexperienced users only!",
-                                            Buttons::OkCancel, Icon::Warning);
+        const Answer a = link.dialogs().ask(
+            KC_TRANSLATABLE("Messages", "eXtended Addressing is intended for\r\nexperienced users only!"),
+            Buttons::OkCancel, Icon::Warning);
         if (a != Answer::Ok)
             checked = false;
     }
@@ -131,7 +133,8 @@ bool LinkControl::CheckXaddress_Click(bool checked)
 
 std::string LinkControl::addressLabel() const
 {
-    return link.settings.CheckXaddress ? "Channel Number" : "Module Address";
+    return link.settings.CheckXaddress ? KC_TRANSLATABLE("LinkControl", "Channel Number")
+                                       : KC_TRANSLATABLE("LinkControl", "Module Address");
 }
 
 } // namespace kestrel

@@ -1,4 +1,5 @@
 #include "model/HelpTools.h"
+#include "base/Translatable.h"
 
 #include "base/ProgramFault.h"
 #include "base/Text.h"
@@ -147,9 +148,13 @@ void PatternTool::apply(StepRecord& step) const
 
 const std::array<std::string, 6>& EventPatternTool::optionCaptions()
 {
-    static const std::array<std::string, 6> captions = {"Enable Off-Event",  "Disable Off-Event",
-                                                        "Execute Off-Event", "Enable On-Event",
-                                                        "Disable On-Event",  "Execute On-Event"};
+    static const std::array<std::string, 6> captions = {
+        KC_TRANSLATABLE("EventPatternTool", "Enable Off-Event"),
+        KC_TRANSLATABLE("EventPatternTool", "Disable Off-Event"),
+        KC_TRANSLATABLE("EventPatternTool", "Execute Off-Event"),
+        KC_TRANSLATABLE("EventPatternTool", "Enable On-Event"),
+        KC_TRANSLATABLE("EventPatternTool", "Disable On-Event"),
+        KC_TRANSLATABLE("EventPatternTool", "Execute On-Event")};
     return captions;
 }
 

@@ -1,4 +1,5 @@
 #include "model/InstructionSet.h"
+#include "base/Translatable.h"
 
 #include "base/ProgramFault.h"
 
@@ -169,7 +170,7 @@ NormalisedStep normaliseStep(StepRecord& step)
         out.fadeCaption = "";
     } else {
         out.fadeVisible = true;
-        out.fadeCaption = "Fade";
+        out.fadeCaption = KC_TRANSLATABLE("StepTable", "Fade");
     }
     if (!info.Par0Used)
         step.Par0 = 0;

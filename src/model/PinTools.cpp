@@ -1,4 +1,5 @@
 #include "model/PinTools.h"
+#include "base/Translatable.h"
 
 #include "base/ProgramFault.h"
 #include "base/UserDialogs.h"
@@ -68,7 +69,7 @@ void PinTool::copy(const Configuration& config)
 bool PinTool::paste(Configuration& config, UserDialogs& dialogs) const
 {
     if (!filled) {
-        dialogs.message("Nothing to Paste");
+        dialogs.message(KC_TRANSLATABLE("Messages", "Nothing to Paste"));
         return false;
     }
     PinRecord pasted = clipboard;

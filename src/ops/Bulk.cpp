@@ -1,4 +1,5 @@
 #include "ops/Bulk.h"
+#include "base/Translatable.h"
 
 #include "ops/EventControl.h"
 #include "ops/GeneralCommands.h"
@@ -227,7 +228,9 @@ bool WriteChanges(Session& session, bool withPinConfig)
         }
         const auto frames = changedWrites(s, *s.moduleImage());
         if (frames.empty()) {
-            s.dialogs().message("Nothing to write: the module holds this configuration.", Icon::Information);
+            s.dialogs().message(
+                KC_TRANSLATABLE("Messages", "Nothing to write: the module holds this configuration."),
+                Icon::Information);
             return true;
         }
         const int total = static_cast<int>(frames.size());

@@ -1,4 +1,5 @@
 #include "ops/GeneralCommands.h"
+#include "base/Translatable.h"
 
 #include "base/Text.h"
 #include "ops/SendCheck.h"
@@ -275,18 +276,19 @@ bool WriteSerialPortSettings(Session& session) { return writeFamily(session, Gen
 bool EraseFlash(Session& session)
 {
     auto& ui = session.dialogs();
-    if (ui.ask("WARNING !!\r\n"
-               "This operation will erase the Kestrel Configuration Memory\r\n"
-               "Continue?",
+    if (ui.ask(KC_TRANSLATABLE("Messages", "WARNING !!\r\n"
+                                           "This operation will erase the Kestrel Configuration Memory\r\n"
+                                           "Continue?"),
                Buttons::OkCancel, Icon::Warning) != Answer::Ok)
         return false;
     // Worded so that OK means "yes, cancel": only Cancel goes on.
-    if (ui.ask("WARNING !!\r\n"
-               "This operation will erase the Kestrel Configuration Memory\r\n"
-               "The green LED on the Kestrel will be ON during this process\r\n"
-               "The erase process may take up to 45 seconds, please be patient\r\n"
-               "\r\n"
-               "Do you want to cancel this operation?",
+    if (ui.ask(KC_TRANSLATABLE("Messages",
+                               "WARNING !!\r\n"
+                               "This operation will erase the Kestrel Configuration Memory\r\n"
+                               "The green LED on the Kestrel will be ON during this process\r\n"
+                               "The erase process may take up to 45 seconds, please be patient\r\n"
+                               "\r\n"
+                               "Do you want to cancel this operation?"),
                Buttons::OkCancel, Icon::Warning) != Answer::Cancel)
         return false;
     auto& link = session.link;

@@ -1,4 +1,5 @@
 #include "ops/PinConfigTransfer.h"
+#include "base/Translatable.h"
 
 #include "ops/SendCheck.h"
 #include "session/Session.h"
@@ -18,7 +19,7 @@ bool ReadPinConfig(Session& session, int source, int pin)
     const int lengthField = reply.length();
     const int n = lengthField - 2;
     if (n < 1 || (r[2] != kReadFlashConfig && r[2] != kReadActiveConfig) || r[3] != pin || pin > 32) {
-        link.dialogs().message("No valid response");
+        link.dialogs().message(KC_TRANSLATABLE("Messages", "No valid response"));
         return false;
     }
     std::vector<int> bytes(r.begin() + 4, r.begin() + 4 + n);

@@ -1,4 +1,5 @@
 #include "ops/PinTransfer.h"
+#include "base/Translatable.h"
 
 #include "model/AddressIndex.h"
 #include "model/StepCodec.h"
@@ -15,7 +16,7 @@ namespace kestrel {
 
 namespace {
 
-const char* const kNoValidResponse = "No valid response";
+const char* const kNoValidResponse = KC_TRANSLATABLE("Messages", "No valid response");
 const char* const kAddrConfigInvalid = "Read Pin Address Configuration: Invalid Response";
 
 // The five step bytes of a kReadStep reply, after the echoed aspect and step.

@@ -1,4 +1,5 @@
 #include "pins/PinMode.h"
+#include "base/Translatable.h"
 
 namespace kestrel {
 
@@ -49,8 +50,12 @@ std::string modeName(int configMode)
     if (!mode)
         return "Unknown configuration: " + std::to_string(configMode);
     // By mode number, None to InputInverted.
-    static const char* const names[] = {"Not configured", "Servo", "PWM",
-                                        "PWM, Inverted",  "Input", "Input, Inverted"};
+    static const char* const names[] = {KC_TRANSLATABLE("PinMode", "Not configured"),
+                                        KC_TRANSLATABLE("PinMode", "Servo"),
+                                        KC_TRANSLATABLE("PinMode", "PWM"),
+                                        KC_TRANSLATABLE("PinMode", "PWM, Inverted"),
+                                        KC_TRANSLATABLE("PinMode", "Input"),
+                                        KC_TRANSLATABLE("PinMode", "Input, Inverted")};
     return names[modeByte(*mode)];
 }
 

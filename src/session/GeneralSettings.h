@@ -1,4 +1,5 @@
 #pragma once
+#include "base/Translatable.h"
 #include "base/Wire.h"
 #include "model/WireLimits.h"
 
@@ -52,7 +53,7 @@ struct GeneralSettings {
     bool CheckGenKestrelNativeVisible = true;
     bool CheckGenLynxaddrVisible = true;
 
-    std::string LabelGenVersionString = "Unknown";
+    std::string LabelGenVersionString = KC_TRANSLATABLE("GeneralSettings", "Unknown");
 
     bool operator==(const GeneralSettings&) const = default;
 };

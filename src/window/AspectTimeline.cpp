@@ -1,4 +1,5 @@
 #include "window/AspectTimeline.h"
+#include "window/Language.h"
 
 #include "model/StepDisplay.h"
 #include "window/Bindings.h"
@@ -27,7 +28,7 @@ const QColor kCurrentRow(0xf2, 0xf2, 0xe0);
 AspectTimeline::AspectTimeline(QWidget* parent) : QWidget(parent)
 {
     setObjectName("AspectTimeline");
-    setAccessibleName("Aspect timeline");
+    setAccessibleName(Lang::tr("Aspect timeline"));
     setFocusPolicy(Qt::NoFocus); // the step rows beside it take the keyboard
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
@@ -62,7 +63,9 @@ void AspectTimeline::showTimeline(Timeline timeline, int currentAspect, int curr
         QStringList steps;
         for (const TimelineBlock& b : row.blocks)
             steps << describe(b);
-        rows << QString("Aspect %1: %2").arg(row.aspect).arg(steps.isEmpty() ? "no steps" : steps.join("; "));
+        rows << Lang::tr("Aspect %1: %2")
+                    .arg(row.aspect)
+                    .arg(steps.isEmpty() ? Lang::tr("no steps") : steps.join("; "));
     }
     setAccessibleDescription(rows.join(". "));
     if (resized)
@@ -113,15 +116,15 @@ QSize AspectTimeline::minimumSizeHint() const { return {240, sizeHint().height()
 
 QString AspectTimeline::describe(const TimelineBlock& b) const
 {
-    QString text = QString("step %1, %2").arg(b.step).arg(latin1(b.name));
+    QString text = Lang::tr("step %1, %2").arg(b.step).arg(latin1(b.name));
     if (!b.key.empty())
         text += " " + latin1(b.key);
     if (!b.waits())
-        text += ", does not wait";
+        text += Lang::tr(", does not wait");
     if (b.overflow)
-        text += QString(", time too long for the module (%1)").arg(kTimeOverflow);
+        text += Lang::tr(", time too long for the module (%1)").arg(kTimeOverflow);
     if (b.jumpAspect >= 0)
-        text += QString(", jumps to aspect %1 step %2").arg(b.jumpAspect).arg(b.jumpStep);
+        text += Lang::tr(", jumps to aspect %1 step %2").arg(b.jumpAspect).arg(b.jumpStep);
     return text;
 }
 
@@ -155,7 +158,7 @@ void AspectTimeline::paintEvent(QPaintEvent*)
         if (row.aspect == aspect)
             p.fillRect(band, kCurrentRow);
         p.setPen(palette().text().color());
-        p.drawText(band.adjusted(4, 0, 0, 0), Qt::AlignVCenter, QString("Aspect %1").arg(row.aspect));
+        p.drawText(band.adjusted(4, 0, 0, 0), Qt::AlignVCenter, Lang::tr("Aspect %1").arg(row.aspect));
         for (int i = 0; i < static_cast<int>(row.blocks.size()); ++i) {
             const TimelineBlock& b = row.blocks[static_cast<std::size_t>(i)];
             const QRect box = blockRect(r, i);
@@ -251,7 +254,7 @@ bool AspectTimeline::event(QEvent* e)
         } else {
             const TimelineRow& row = shown.rows[static_cast<std::size_t>(r)];
             QToolTip::showText(help->globalPos(),
-                               QString("Aspect %1, ").arg(row.aspect) +
+                               Lang::tr("Aspect %1, ").arg(row.aspect) +
                                    describe(row.blocks[static_cast<std::size_t>(i)]),
                                this);
         }

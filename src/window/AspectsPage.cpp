@@ -1,4 +1,5 @@
 #include "window/AspectsPage.h"
+#include "window/Language.h"
 
 #include "base/Text.h"
 #include "forms/AspectTimeline.h"
@@ -55,14 +56,15 @@ QLineEdit* numberBox(const QString& name, int width = 44)
     return box;
 }
 
-const char* const kToolTip = "Click for copy/paste tools";
-const char* const kHelpTip = "Double-click for help-tool";
+const char* const kToolTip = QT_TRANSLATE_NOOP("Lang", "Click for copy/paste tools");
+const char* const kHelpTip = QT_TRANSLATE_NOOP("Lang", "Double-click for help-tool");
 constexpr int kPinRow = -2; // the rows of a context menu: the pin's, the aspect's, a step's
 constexpr int kAspectRow = -1;
-const char* const kTestTip = "The module has no command to test an aspect, so this is not available";
+const char* const kTestTip =
+    QT_TRANSLATE_NOOP("Lang", "The module has no command to test an aspect, so this is not available");
 
 // A button of the page with its tooltip.
-QPushButton* tippedButton(const char* caption, const char* name, const char* tip)
+QPushButton* tippedButton(const QString& caption, const char* name, const QString& tip)
 {
     auto* b = named(new QPushButton(caption), name);
     b->setToolTip(tip);
@@ -90,9 +92,9 @@ AspectsPage::AspectsPage(Session& s, DeviceList& list, std::function<void(JobNam
     layout->addWidget(buildAspectArea(), 1);
     layout->addWidget(buildDeviceArea());
 
-    actionPinTool = new QAction("&Pin Tool...", this);
-    actionAspectTool = new QAction("&Aspect Tool...", this);
-    actionStepTool = new QAction("&Step Tool...", this);
+    actionPinTool = new QAction(Lang::tr("&Pin Tool..."), this);
+    actionAspectTool = new QAction(Lang::tr("&Aspect Tool..."), this);
+    actionStepTool = new QAction(Lang::tr("&Step Tool..."), this);
     connect(actionPinTool, &QAction::triggered, this, &AspectsPage::LabelPAspOutput_Click);
     connect(actionAspectTool, &QAction::triggered, this, &AspectsPage::LabelPAspAspect_Click);
     connect(actionStepTool, &QAction::triggered, this, [this] { LabelPAspStep_Click(focusedStepRow()); });
@@ -108,57 +110,57 @@ AspectsPage::~AspectsPage() = default;
 
 QWidget* AspectsPage::buildPinArea()
 {
-    auto* frame = named(new QGroupBox("Pin"), "FramePAspPin");
+    auto* frame = named(new QGroupBox(Lang::tr("Pin")), "FramePAspPin");
     auto* grid = new QGridLayout(frame);
 
     NumberEntry* pin = entry("PAspOutput", TextPAspOutput, UpDownPAspOutput);
-    LabelPAspOutput = named(captionFor("Pin", TextPAspOutput), "LabelPAspOutput");
-    LabelPAspOutput->setToolTip(kToolTip);
+    LabelPAspOutput = named(captionFor(Lang::tr("Pin"), TextPAspOutput), "LabelPAspOutput");
+    LabelPAspOutput->setToolTip(Lang::tr(kToolTip));
     LabelPAspOutput->setCursor(Qt::PointingHandCursor);
     TextPAspDesc = named(new QLineEdit, "TextPAspDesc");
-    TextPAspDesc->setToolTip("The pin's description, kept in the configuration");
+    TextPAspDesc->setToolTip(Lang::tr("The pin's description, kept in the configuration"));
     TextDevicePin = named(new QLineEdit, "TextDevicePin");
     TextDevicePin->setReadOnly(true);
     TextDevicePin->setFixedWidth(44);
-    TextDevicePin->setToolTip("The first pin of the device this pin belongs to");
+    TextDevicePin->setToolTip(Lang::tr("The first pin of the device this pin belongs to"));
     TextDeviceDescription = named(new QLineEdit, "TextDeviceDescription");
-    TextDeviceDescription->setToolTip("The device's name, kept by its first pin");
+    TextDeviceDescription->setToolTip(Lang::tr("The device's name, kept by its first pin"));
 
     grid->addWidget(LabelPAspOutput, 0, 0);
     grid->addWidget(pin, 0, 1);
-    grid->addWidget(captionFor("Description", TextPAspDesc), 0, 2);
+    grid->addWidget(captionFor(Lang::tr("Description"), TextPAspDesc), 0, 2);
     grid->addWidget(TextPAspDesc, 0, 3, 1, 3);
-    grid->addWidget(captionFor("Device pin", TextDevicePin), 1, 0);
+    grid->addWidget(captionFor(Lang::tr("Device pin"), TextDevicePin), 1, 0);
     grid->addWidget(TextDevicePin, 1, 1);
-    grid->addWidget(captionFor("Device", TextDeviceDescription), 1, 2);
+    grid->addWidget(captionFor(Lang::tr("Device"), TextDeviceDescription), 1, 2);
     grid->addWidget(TextDeviceDescription, 1, 3, 1, 3);
 
     auto* layoutRow = new QHBoxLayout;
     OptionPAspConfGroup = new QButtonGroup(this);
-    auto* layoutLabel = new QLabel("Aspects");
+    auto* layoutLabel = new QLabel(Lang::tr("Aspects"));
     layoutRow->addWidget(layoutLabel);
     const char* captions[3] = {"0", "4", "12"};
     for (int i = 0; i < 3; ++i) {
         OptionPAspConf[i] = named(new QRadioButton(captions[i]), indexed("OptionPAspConf", i));
-        OptionPAspConf[i]->setAccessibleName(QString("%1 aspects").arg(captions[i]));
+        OptionPAspConf[i]->setAccessibleName(Lang::tr("%1 aspects").arg(captions[i]));
         OptionPAspConfGroup->addButton(OptionPAspConf[i], i);
         layoutRow->addWidget(OptionPAspConf[i]);
     }
     layoutRow->addSpacing(16);
-    LabelPASPAdrCnt = named(new QLabel("Addresses:"), "LabelPASPAdrCnt");
+    LabelPASPAdrCnt = named(new QLabel(Lang::tr("Addresses:")), "LabelPASPAdrCnt");
     layoutRow->addWidget(LabelPASPAdrCnt);
     NumberEntry* dcc = entry("PaspDCCn", TextPaspDCCn, UpDownPaspDCCn);
     NumberEntry* xdcc = entry("PAspXDCCn", TextPAspXDCCn, UpDownPAspXDCCn);
     NumberEntry* serial = entry("PaspLynxn", TextPaspLynxn, UpDownPaspLynxn);
-    layoutRow->addWidget(captionFor("DCC", TextPaspDCCn));
+    layoutRow->addWidget(captionFor(Lang::tr("DCC"), TextPaspDCCn));
     layoutRow->addWidget(dcc);
-    layoutRow->addWidget(captionFor("eXtd DCC", TextPAspXDCCn));
+    layoutRow->addWidget(captionFor(Lang::tr("eXtd DCC"), TextPAspXDCCn));
     layoutRow->addWidget(xdcc);
-    layoutRow->addWidget(captionFor("Serial", TextPaspLynxn));
+    layoutRow->addWidget(captionFor(Lang::tr("Serial"), TextPaspLynxn));
     layoutRow->addWidget(serial);
-    TextPaspDCCn->setAccessibleName("DCC addresses");
-    TextPAspXDCCn->setAccessibleName("eXtd DCC addresses");
-    TextPaspLynxn->setAccessibleName("Serial addresses");
+    TextPaspDCCn->setAccessibleName(Lang::tr("DCC addresses"));
+    TextPAspXDCCn->setAccessibleName(Lang::tr("eXtd DCC addresses"));
+    TextPaspLynxn->setAccessibleName(Lang::tr("Serial addresses"));
     for (auto [box, spin] :
          {std::pair{TextPAspOutput, UpDownPAspOutput}, std::pair{TextPaspDCCn, UpDownPaspDCCn},
           std::pair{TextPAspXDCCn, UpDownPAspXDCCn}, std::pair{TextPaspLynxn, UpDownPaspLynxn}})
@@ -168,14 +170,15 @@ QWidget* AspectsPage::buildPinArea()
 
     // The pin's own jobs, beside the pin they act on.
     auto* jobs = new QHBoxLayout;
-    CommandReadPin = tippedButton("Re&ad Pin", "CommandReadPin",
-                                  "Reads this pin from the module: aspects, addresses and pin configuration");
-    CommandWritePin =
-        tippedButton("Write Pin", "CommandWritePin", "Writes this pin to the module: aspects and addresses");
-    CommandReadDevice = tippedButton("Read Device", "CommandReadDevice",
-                                     "Reads every pin of this pin's device from the module");
-    CommandWriteDevice = tippedButton("Write Device", "CommandWriteDevice",
-                                      "Writes every pin of this pin's device to the module");
+    CommandReadPin =
+        tippedButton(Lang::tr("Re&ad Pin"), "CommandReadPin",
+                     Lang::tr("Reads this pin from the module: aspects, addresses and pin configuration"));
+    CommandWritePin = tippedButton(Lang::tr("Write Pin"), "CommandWritePin",
+                                   Lang::tr("Writes this pin to the module: aspects and addresses"));
+    CommandReadDevice = tippedButton(Lang::tr("Read Device"), "CommandReadDevice",
+                                     Lang::tr("Reads every pin of this pin's device from the module"));
+    CommandWriteDevice = tippedButton(Lang::tr("Write Device"), "CommandWriteDevice",
+                                      Lang::tr("Writes every pin of this pin's device to the module"));
     for (QPushButton* b : {CommandReadPin, CommandWritePin, CommandReadDevice, CommandWriteDevice})
         jobs->addWidget(b);
     jobs->addStretch();
@@ -193,19 +196,19 @@ QWidget* AspectsPage::buildPinArea()
 
 QWidget* AspectsPage::buildAspectArea()
 {
-    auto* frame = named(new QGroupBox("Aspect program"), "FramePAspAspect");
+    auto* frame = named(new QGroupBox(Lang::tr("Aspect program")), "FramePAspAspect");
     auto* layout = new QVBoxLayout(frame);
 
     auto* aspectRow = new QHBoxLayout;
     NumberEntry* aspect = entry("PAspAspect", TextPAspAspect, UpDownPAspAspect);
-    LabelPAspAspect = named(captionFor("Aspect", TextPAspAspect), "LabelPAspAspect");
-    LabelPAspAspect->setToolTip(kToolTip);
+    LabelPAspAspect = named(captionFor(Lang::tr("Aspect"), TextPAspAspect), "LabelPAspAspect");
+    LabelPAspAspect->setToolTip(Lang::tr(kToolTip));
     LabelPAspAspect->setCursor(Qt::PointingHandCursor);
     TextPAspAspDesc = named(new QLineEdit, "TextPAspAspDesc");
-    LabelPAspAspDesc = named(captionFor("Aspect description", TextPAspAspDesc), "LabelPAspAspDesc");
+    LabelPAspAspDesc = named(captionFor(Lang::tr("Aspect description"), TextPAspAspDesc), "LabelPAspAspDesc");
     NumberEntry* init = entry("PAspInit", TextPAspInit, UpDownPAspInit);
-    LabelPAspInit = named(captionFor("Initial aspect", TextPAspInit), "LabelPAspInit");
-    TextPAspInit->setToolTip("The aspect the pin shows after power-up; -1 for none");
+    LabelPAspInit = named(captionFor(Lang::tr("Initial aspect"), TextPAspInit), "LabelPAspInit");
+    TextPAspInit->setToolTip(Lang::tr("The aspect the pin shows after power-up; -1 for none"));
     UpDownPAspAspect->setAccessibleName(TextPAspAspect->accessibleName());
     UpDownPAspInit->setAccessibleName(TextPAspInit->accessibleName());
     aspectRow->addWidget(LabelPAspAspect);
@@ -221,14 +224,14 @@ QWidget* AspectsPage::buildAspectArea()
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(6);
     grid->setVerticalSpacing(2);
-    LabelPAspHStep = named(new QLabel("Step"), "LabelPAspHStep");
-    LabelPAspHInst = named(new QLabel("Instruction"), "LabelPAspHInst");
-    LabelPAspHFade = named(new QLabel("Fade"), "LabelPAspHFade");
+    LabelPAspHStep = named(new QLabel(Lang::tr("Step")), "LabelPAspHStep");
+    LabelPAspHInst = named(new QLabel(Lang::tr("Instruction")), "LabelPAspHInst");
+    LabelPAspHFade = named(new QLabel(Lang::tr("Fade")), "LabelPAspHFade");
     LabelPAspOffset = named(new QLabel, "LabelPAspOffset");
     LabelPAspHParam1 = named(new QLabel, "LabelPAspHParam1");
     LabelPASpHParam2 = named(new QLabel, "LabelPASpHParam2");
     LabelPAspHParam3 = named(new QLabel, "LabelPAspHParam3");
-    LabelPAspHTime = named(new QLabel("Time"), "LabelPAspHTime");
+    LabelPAspHTime = named(new QLabel(Lang::tr("Time")), "LabelPAspHTime");
     const QList<QLabel*> headings{LabelPAspHStep,   LabelPAspHInst,   LabelPAspHFade,   LabelPAspOffset,
                                   LabelPAspHParam1, LabelPASpHParam2, LabelPAspHParam3, LabelPAspHTime};
     for (int c = 0; c < headings.size(); ++c)
@@ -238,17 +241,17 @@ QWidget* AspectsPage::buildAspectArea()
     for (int r = 0; r < kStepRows; ++r) {
         const QString step = QString::number(r);
         LabelPAspStep[r] = named(new QLabel(step), indexed("LabelPAspStep", r));
-        LabelPAspStep[r]->setToolTip("Click to Insert/Delete step");
+        LabelPAspStep[r]->setToolTip(Lang::tr("Click to Insert/Delete step"));
         LabelPAspStep[r]->setCursor(Qt::PointingHandCursor);
         LabelPAspStep[r]->installEventFilter(this);
         ComboPAspInst[r] = named(new QComboBox, indexed("ComboPAspInst", r));
         for (const auto& item : items)
             ComboPAspInst[r]->addItem(latin1(item.name), item.code);
         ComboPAspInst[r]->setMaxVisibleItems(24);
-        ComboPAspInst[r]->setAccessibleName("Instruction, step " + step);
+        ComboPAspInst[r]->setAccessibleName(Lang::tr("Instruction, step ") + step);
         CheckPAspFade[r] = named(new QCheckBox, indexed("CheckPAspFade", r));
         CheckPAspFade[r]->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed); // the box, not the column
-        CheckPAspFade[r]->setAccessibleName("Fade, step " + step);
+        CheckPAspFade[r]->setAccessibleName(Lang::tr("Fade, step ") + step);
         TextPAspOffset[r] = numberBox(indexed("TextPAspOffset", r));
         TextPAspPar1[r] = numberBox(indexed("TextPAspPar1", r));
         TextPAspPar2[r] = numberBox(indexed("TextPAspPar2", r));
@@ -256,9 +259,9 @@ QWidget* AspectsPage::buildAspectArea()
         // Named after the instruction's captions once a program is shown.
         QLineEdit* parameters[4] = {TextPAspOffset[r], TextPAspPar1[r], TextPAspPar2[r], TextPAspPar3[r]};
         for (int p = 0; p < 4; ++p)
-            parameters[p]->setAccessibleName(QString("Parameter %1, step %2").arg(p).arg(r));
+            parameters[p]->setAccessibleName(Lang::tr("Parameter %1, step %2").arg(p).arg(r));
         LabelPAspTime[r] = named(new QLabel("00:00.00"), indexed("LabelPAspTime", r));
-        LabelPAspTime[r]->setToolTip(kHelpTip);
+        LabelPAspTime[r]->setToolTip(Lang::tr(kHelpTip));
         for (QWidget* w : std::initializer_list<QWidget*>{ComboPAspInst[r], CheckPAspFade[r],
                                                           TextPAspOffset[r], TextPAspPar1[r], TextPAspPar2[r],
                                                           TextPAspPar3[r], LabelPAspTime[r]})
@@ -270,7 +273,7 @@ QWidget* AspectsPage::buildAspectArea()
 
         connect(ComboPAspInst[r], &QComboBox::activated, this, [this, r](int index) {
             const int code = ComboPAspInst[r]->itemData(index).toInt();
-            const QString name = QString("choosing %1 in %2")
+            const QString name = Lang::tr("choosing %1 in %2")
                                      .arg(ComboPAspInst[r]->itemText(index), controlName(ComboPAspInst[r]));
             bindings.edit(name, [&] {
                 const RowEdit e = setInstruction(session.config, r, code);
@@ -279,10 +282,12 @@ QWidget* AspectsPage::buildAspectArea()
             bindings.show();
         });
         connect(CheckPAspFade[r], &QCheckBox::clicked, this, [this, r](bool checked) {
-            bindings.edit((checked ? "checking " : "unchecking ") + controlName(CheckPAspFade[r]), [&] {
-                const RowEdit e = setFade(session.config, r, checked);
-                view.rows[r] = e.row;
-            });
+            bindings.edit((checked ? Lang::tr("checking %1") : Lang::tr("unchecking %1"))
+                              .arg(controlName(CheckPAspFade[r])),
+                          [&] {
+                              const RowEdit e = setFade(session.config, r, checked);
+                              view.rows[r] = e.row;
+                          });
             bindings.show();
         });
     }
@@ -297,21 +302,23 @@ QWidget* AspectsPage::buildAspectArea()
     connect(TimelinePAsp, &AspectTimeline::stepClicked, this, &AspectsPage::TimelinePAsp_Click);
 
     auto* buttons = new QHBoxLayout;
-    CheckPAspShowDetails = named(new QCheckBox("Show Details"), "CheckPAspShowDetails");
+    CheckPAspShowDetails = named(new QCheckBox(Lang::tr("Show Details")), "CheckPAspShowDetails");
     CheckPAspShowDetails->setChecked(true);
-    CheckPAspShowDetails->setToolTip("Shows or hides the transfer buttons, the step headings and the "
-                                     "pin configuration's parameter buttons");
+    CheckPAspShowDetails->setToolTip(
+        Lang::tr("Shows or hides the transfer buttons, the step headings and the "
+                 "pin configuration's parameter buttons"));
     CommandPAspReadPin =
-        tippedButton("Read Asp's", "CommandPAspReadPin",
-                     "Reads this pin's aspects, initial aspect and addresses from the module");
+        tippedButton(Lang::tr("Read Asp's"), "CommandPAspReadPin",
+                     Lang::tr("Reads this pin's aspects, initial aspect and addresses from the module"));
     CommandPAspWritePin =
-        tippedButton("Write Asp's", "CommandPAspWritePin",
-                     "Writes this pin's aspects, initial aspect and addresses to the module");
-    CommandPAspWriteAspect = tippedButton("Write Aspect", "CommandPAspWriteAspect",
-                                          "Writes only the steps of the selected aspect to the module");
-    CommandPAspTestAspect = named(new QPushButton("Test Aspect"), "CommandPAspTestAspect");
+        tippedButton(Lang::tr("Write Asp's"), "CommandPAspWritePin",
+                     Lang::tr("Writes this pin's aspects, initial aspect and addresses to the module"));
+    CommandPAspWriteAspect =
+        tippedButton(Lang::tr("Write Aspect"), "CommandPAspWriteAspect",
+                     Lang::tr("Writes only the steps of the selected aspect to the module"));
+    CommandPAspTestAspect = named(new QPushButton(Lang::tr("Test Aspect")), "CommandPAspTestAspect");
     CommandPAspTestAspect->setEnabled(false);
-    CommandPAspTestAspect->setToolTip(kTestTip);
+    CommandPAspTestAspect->setToolTip(Lang::tr(kTestTip));
     buttons->addWidget(CheckPAspShowDetails);
     for (QPushButton* b :
          {CommandPAspReadPin, CommandPAspWritePin, CommandPAspWriteAspect, CommandPAspTestAspect})
@@ -329,17 +336,18 @@ QWidget* AspectsPage::buildAspectArea()
 
 QWidget* AspectsPage::buildDeviceArea()
 {
-    auto* frame = named(new QGroupBox("Device definitions"), "FramePAspDevice");
+    auto* frame = named(new QGroupBox(Lang::tr("Device definitions")), "FramePAspDevice");
     auto* row = new QHBoxLayout(frame);
     cboDevice = named(new QComboBox, "cboDevice");
     cboDevice->setMinimumWidth(220);
-    cboDevice->setAccessibleName("Device to load");
-    CommandPAspPreLoad = tippedButton("Load Device", "CommandPAspPreLoad",
-                                      "Places the chosen device on the pins, its first pin on this pin");
-    CommandSaveDevice = tippedButton("Save Device", "CommandSaveDevice",
-                                     "Saves this pin's device to a definitions file of its own");
-    CommandReloadDD = tippedButton("Reload &DD", "CommandReloadDD",
-                                   "Reload DD to load new file, Shift + Reload DD to append");
+    cboDevice->setAccessibleName(Lang::tr("Device to load"));
+    CommandPAspPreLoad =
+        tippedButton(Lang::tr("Load Device"), "CommandPAspPreLoad",
+                     Lang::tr("Places the chosen device on the pins, its first pin on this pin"));
+    CommandSaveDevice = tippedButton(Lang::tr("Save Device"), "CommandSaveDevice",
+                                     Lang::tr("Saves this pin's device to a definitions file of its own"));
+    CommandReloadDD = tippedButton(Lang::tr("Reload &DD"), "CommandReloadDD",
+                                   Lang::tr("Reload DD to load new file, Shift + Reload DD to append"));
     CommandReloadDD->setAutoDefault(true); // Return presses it as Space does
     CommandReloadDD->installEventFilter(this);
     lblDDVersion = named(new QLabel, "lblDDVersion");
@@ -425,7 +433,7 @@ void AspectsPage::bind()
     // Only the device's head keeps its name; on a member the box shows the head's and is closed.
     connect(TextDeviceDescription, &QLineEdit::textChanged, this, [this, &c](const QString& typed) {
         bindings.edit(
-            "typing in " + controlName(TextDeviceDescription),
+            Lang::tr("typing in %1").arg(controlName(TextDeviceDescription)),
             [&] {
                 if (setDeviceDescription(c, fromLatin1(typed)))
                     view.deviceDescription = fromLatin1(typed);
@@ -486,7 +494,7 @@ void AspectsPage::bind()
     });
 
     connect(OptionPAspConfGroup, &QButtonGroup::idClicked, this, [this](int option) {
-        bindings.edit("choosing " + controlName(OptionPAspConf[option]),
+        bindings.edit(Lang::tr("choosing %1").arg(controlName(OptionPAspConf[option])),
                       [&] { view = changeLayout(session.config, option); });
         bindings.show();
     });
@@ -507,7 +515,7 @@ void AspectsPage::showRow(int r)
     {
         const QSignalBlocker block(CheckPAspFade[r]);
         CheckPAspFade[r]->setChecked(row.fadeChecked);
-        CheckPAspFade[r]->setText(latin1(row.fadeCaption));
+        CheckPAspFade[r]->setText(translated("StepTable", row.fadeCaption));
         CheckPAspFade[r]->setVisible(visible && row.fadeVisible);
     }
     QLineEdit* boxes[4] = {TextPAspOffset[r], TextPAspPar1[r], TextPAspPar2[r], TextPAspPar3[r]};
@@ -518,8 +526,8 @@ void AspectsPage::showRow(int r)
         setTip(boxes[p], stepParameterTip(step(r), p, c.CurrentPin, c.NumberingBase));
         const std::string& caption = info.caption(p);
         boxes[p]->setAccessibleName(
-            QString("%1, step %2")
-                .arg(caption.empty() ? QString("Parameter %1").arg(p) : latin1(caption))
+            Lang::tr("%1, step %2")
+                .arg(caption.empty() ? Lang::tr("Parameter %1").arg(p) : latin1(caption))
                 .arg(r));
     }
     if (!row.timeText.empty())
@@ -561,7 +569,7 @@ void AspectsPage::showTimeline()
 void AspectsPage::TimelinePAsp_Click(int aspect, int stepIndex)
 {
     commitPending();
-    guard("choosing a step in the timeline", [this, aspect, stepIndex] {
+    guard(Lang::tr("choosing a step in the timeline").toStdString(), [this, aspect, stepIndex] {
         if (aspect != session.config.CurrentAspect)
             selectAspect(session.config, std::to_string(aspect));
         selectStepRow(session.config, stepIndex);
@@ -653,21 +661,21 @@ void AspectsPage::helpTool(int row, HelpBox box)
             return;
         case HelpToolKind::Time:
             kept(dlgCT, this)->run(st);
-            guard.name("Time tool");
+            guard.name(Lang::tr("Time tool").toStdString());
             break;
         case HelpToolKind::Pattern:
             kept(dlgKestrelCalcPattern, this)->run(st);
-            guard.name("Pattern tool");
+            guard.name(Lang::tr("Pattern tool").toStdString());
             break;
         case HelpToolKind::EventPattern:
             kept(dlgKestrelCalcEventPattern, this)->run(st);
-            guard.name("Event pattern tool");
+            guard.name(Lang::tr("Event pattern tool").toStdString());
             break;
         case HelpToolKind::Level: {
             const int p = box == HelpBox::Par1 ? 1 : box == HelpBox::Par2 ? 2 : 3;
             int value = static_cast<int>(valInt(view.rows[row].parameters[p].text));
             kept(dlgKestrelCalcLevel, this);
-            guard.name("Level tool");
+            guard.name(Lang::tr("Level tool").toStdString());
             if (dlgKestrelCalcLevel->run(value))
                 setParameter(session.config, row, p, std::to_string(value)); // within the box's range
             break;

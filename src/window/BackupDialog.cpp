@@ -1,4 +1,5 @@
 #include "window/BackupDialog.h"
+#include "window/Language.h"
 
 #include "window/Bindings.h"
 #include "window/Widgets.h"
@@ -16,11 +17,11 @@ BackupDialog::BackupDialog(std::vector<BackupEntry> entries, QWidget* parent)
     : QDialog(parent), backups(std::move(entries))
 {
     setObjectName("dlgBackups");
-    setWindowTitle("Restore from backup");
+    setWindowTitle(Lang::tr("Restore from backup"));
     auto* layout = new QVBoxLayout(this);
 
     tableBackups = named(new QTableWidget(static_cast<int>(backups.size()), 3), "tableBackups");
-    tableBackups->setHorizontalHeaderLabels({"Date", "ID", "Version"});
+    tableBackups->setHorizontalHeaderLabels({Lang::tr("Date"), Lang::tr("ID"), Lang::tr("Version")});
     tableBackups->setSelectionBehavior(QAbstractItemView::SelectRows);
     tableBackups->setSelectionMode(QAbstractItemView::SingleSelection);
     tableBackups->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -29,24 +30,26 @@ BackupDialog::BackupDialog(std::vector<BackupEntry> entries, QWidget* parent)
     for (int row = 0; row < tableBackups->rowCount(); ++row) {
         const BackupEntry& e = backups[static_cast<std::size_t>(row)];
         int column = 0;
-        for (const std::string& text : {e.incomplete ? e.when + " (incomplete)" : e.when, e.id, e.version}) {
+        for (const std::string& text :
+             {e.incomplete ? e.when + Lang::tr(" (incomplete)").toLatin1().toStdString() : e.when, e.id,
+              e.version}) {
             auto* item = new QTableWidgetItem(QString::fromLatin1(text.c_str()));
             if (e.incomplete)
-                item->setToolTip(
-                    "The read reported problems: this backup may hold values the module never sent");
+                item->setToolTip(Lang::tr(
+                    "The read reported problems: this backup may hold values the module never sent"));
             tableBackups->setItem(row, column++, item);
         }
     }
     tableBackups->resizeColumnsToContents();
     if (!backups.empty())
         tableBackups->selectRow(0);
-    layout->addWidget(captionFor("&Backups", tableBackups));
+    layout->addWidget(captionFor(Lang::tr("&Backups"), tableBackups));
     layout->addWidget(tableBackups);
 
-    CommandLoad = named(new QPushButton("&Load"), "CommandLoad");
-    CommandCancel = named(new QPushButton("&Cancel"), "CommandCancel");
-    CommandLoad->setAccessibleName("Load");
-    CommandCancel->setAccessibleName("Cancel");
+    CommandLoad = named(new QPushButton(Lang::tr("&Load")), "CommandLoad");
+    CommandCancel = named(new QPushButton(Lang::tr("&Cancel")), "CommandCancel");
+    CommandLoad->setAccessibleName(Lang::tr("Load"));
+    CommandCancel->setAccessibleName(Lang::tr("Cancel"));
     CommandLoad->setDefault(true);
     CommandLoad->setEnabled(!backups.empty());
     auto* buttons = new QDialogButtonBox;

@@ -1,6 +1,7 @@
 #include "window/Bindings.h"
 
 #include "window/Guard.h"
+#include "window/Language.h"
 
 #include <QAbstractButton>
 #include <QButtonGroup>
@@ -92,11 +93,11 @@ void Bindings::commitNow(const std::function<void()>& take, const std::function<
 
 void Bindings::check(QAbstractButton* box, int& field, std::function<void()> changed)
 {
-    QObject::connect(box, &QAbstractButton::toggled, box,
-                     [this, box, &field, changed = std::move(changed)](bool on) {
-                         commitNow([&field, on] { field = on ? 1 : 0; }, changed,
-                                   (on ? "checking " : "unchecking ") + controlName(box));
-                     });
+    QObject::connect(
+        box, &QAbstractButton::toggled, box, [this, box, &field, changed = std::move(changed)](bool on) {
+            commitNow([&field, on] { field = on ? 1 : 0; }, changed,
+                      (on ? Lang::tr("checking %1") : Lang::tr("unchecking %1")).arg(controlName(box)));
+        });
     items.push_back({[box, &field] {
                          const QSignalBlocker block(box);
                          box->setChecked(field == 1);
@@ -110,7 +111,7 @@ void Bindings::option(QButtonGroup* group, int& field, std::function<void()> cha
                      [this, group, &field, changed = std::move(changed)](int id, bool on) {
                          if (on)
                              commitNow([&field, id] { field = id; }, changed,
-                                       "choosing " + controlName(group->button(id)));
+                                       Lang::tr("choosing %1").arg(controlName(group->button(id))));
                      });
     items.push_back({[group, &field] {
                          // An exclusive group refuses to uncheck its checked button, and
@@ -134,7 +135,7 @@ void Bindings::combo(QComboBox* box, int& field, std::function<void()> changed)
     QObject::connect(box, &QComboBox::currentIndexChanged, box,
                      [this, box, &field, changed = std::move(changed)](int index) {
                          commitNow([&field, index] { field = index; }, changed,
-                                   QString("choosing %1 in %2").arg(box->itemText(index), controlName(box)));
+                                   Lang::tr("choosing %1 in %2").arg(box->itemText(index), controlName(box)));
                      });
     items.push_back({[box, &field] {
                          const QSignalBlocker block(box);
@@ -156,7 +157,7 @@ void Bindings::text(QLineEdit* box, std::function<std::string&()> field, std::fu
     QObject::connect(box, &QLineEdit::textChanged, box,
                      [this, box, field, changed = std::move(changed)](const QString& typed) {
                          commitNow([&field, typed] { field() = fromLatin1(typed); }, changed,
-                                   "typing in " + controlName(box), box);
+                                   Lang::tr("typing in %1").arg(controlName(box)), box);
                      });
     items.push_back({[box, field] {
                          const QString shown = latin1(field());
@@ -186,7 +187,8 @@ void Bindings::entry(QLineEdit* box, std::function<std::string()> show,
         const std::string typed = fromLatin1(*shown);
         // A spinner's steps follow each other as one change; a typed entry is a step of its own.
         const bool spun = spinning == box;
-        commitNow([&] { commit(typed); }, {}, (spun ? "changing " : "typing in ") + controlName(box),
+        commitNow([&] { commit(typed); }, {},
+                  (spun ? Lang::tr("changing %1") : Lang::tr("typing in %1")).arg(controlName(box)),
                   spun ? box : nullptr);
         showModel();
     };

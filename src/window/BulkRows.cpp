@@ -1,4 +1,5 @@
 #include "window/BulkRows.h"
+#include "window/Language.h"
 #include "window/Widgets.h"
 
 #include <QCheckBox>
@@ -10,28 +11,31 @@ namespace kestrel {
 
 BulkRows::BulkRows()
 {
-    CommandReadAll = named(new QPushButton("Read A&ll"), "CommandReadAll");
-    CommandWriteAll = named(new QPushButton("&Write All"), "CommandWriteAll");
-    CommandVerifyAll = named(new QPushButton("Verif&y All"), "CommandVerifyAll");
-    CommandWriteChanges = named(new QPushButton("Write Chan&ges"), "CommandWriteChanges");
+    CommandReadAll = named(new QPushButton(Lang::tr("Read A&ll")), "CommandReadAll");
+    CommandWriteAll = named(new QPushButton(Lang::tr("&Write All")), "CommandWriteAll");
+    CommandVerifyAll = named(new QPushButton(Lang::tr("Verif&y All")), "CommandVerifyAll");
+    CommandWriteChanges = named(new QPushButton(Lang::tr("Write Chan&ges")), "CommandWriteChanges");
     CommandWriteChanges->setToolTip(
-        "Writes only what differs from the module as it was last read, written or verified");
-    CommandCompare = named(new QPushButton("Compare wi&th Module"), "CommandCompare");
-    CommandCompare->setToolTip("Reads the module beside the configuration and lists every difference");
-    CheckWritePinConfig = named(new QCheckBox("Write pin configurations too"), "CheckWritePinConfig");
-    CheckWritePinConfig->setToolTip("Also writes each pin's servo, PWM or input parameters to flash");
+        Lang::tr("Writes only what differs from the module as it was last read, written or verified"));
+    CommandCompare = named(new QPushButton(Lang::tr("Compare wi&th Module")), "CommandCompare");
+    CommandCompare->setToolTip(
+        Lang::tr("Reads the module beside the configuration and lists every difference"));
+    CheckWritePinConfig =
+        named(new QCheckBox(Lang::tr("Write pin configurations too")), "CheckWritePinConfig");
+    CheckWritePinConfig->setToolTip(
+        Lang::tr("Also writes each pin's servo, PWM or input parameters to flash"));
     CheckWritePinConfig->setChecked(true); // so that what is written verifies
-    CommandSave = named(new QPushButton("&Save File"), "CommandSave");
-    CommandSave->setToolTip("Shift+Save File to save compact");
-    CommandLoad = named(new QPushButton("L&oad File"), "CommandLoad");
-    CommandReadAllPins = named(new QPushButton("Read All &Pins"), "CommandReadAllPins");
+    CommandSave = named(new QPushButton(Lang::tr("&Save File")), "CommandSave");
+    CommandSave->setToolTip(Lang::tr("Shift+Save File to save compact"));
+    CommandLoad = named(new QPushButton(Lang::tr("L&oad File")), "CommandLoad");
+    CommandReadAllPins = named(new QPushButton(Lang::tr("Read All &Pins")), "CommandReadAllPins");
     CommandReadAllPins->setToolTip(
-        "Reads the 32 pins from the module, without the general settings and events");
-    CommandWriteAllPins = named(new QPushButton("Write All Pi&ns"), "CommandWriteAllPins");
+        Lang::tr("Reads the 32 pins from the module, without the general settings and events"));
+    CommandWriteAllPins = named(new QPushButton(Lang::tr("Write All Pi&ns")), "CommandWriteAllPins");
     CommandWriteAllPins->setToolTip(
-        "Writes the 32 pins to the module, without the general settings and events");
-    CommandVerifyAllPins = named(new QPushButton("Ver&ify All Pins"), "CommandVerifyAllPins");
-    CommandVerifyAllPins->setToolTip("Compares the 32 pins of the module with the configuration");
+        Lang::tr("Writes the 32 pins to the module, without the general settings and events"));
+    CommandVerifyAllPins = named(new QPushButton(Lang::tr("Ver&ify All Pins")), "CommandVerifyAllPins");
+    CommandVerifyAllPins->setToolTip(Lang::tr("Compares the 32 pins of the module with the configuration"));
     module = new QHBoxLayout;
     for (QWidget* w :
          std::initializer_list<QWidget*>{CommandReadAll, CommandWriteAll, CommandWriteChanges,

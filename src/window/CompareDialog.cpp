@@ -1,4 +1,5 @@
 #include "window/CompareDialog.h"
+#include "window/Language.h"
 
 #include "window/Widgets.h"
 
@@ -17,10 +18,12 @@ namespace {
 constexpr int kKeepMine = 0;
 constexpr int kTakeModule = 1;
 
-const char* groupCaption(DiffGroup g)
+QString groupCaption(DiffGroup g)
 {
-    static const char* const captions[] = {"General settings", "Pins", "Aspects", "Events"}; // as DiffGroup
-    return captions[static_cast<int>(g)];
+    static const char* const captions[] = {
+        QT_TRANSLATE_NOOP("Lang", "General settings"), QT_TRANSLATE_NOOP("Lang", "Pins"),
+        QT_TRANSLATE_NOOP("Lang", "Aspects"), QT_TRANSLATE_NOOP("Lang", "Events")}; // as DiffGroup
+    return Lang::tr(captions[static_cast<int>(g)]);
 }
 
 } // namespace
@@ -28,25 +31,27 @@ const char* groupCaption(DiffGroup g)
 CompareDialog::CompareDialog(QWidget* parent) : QDialog(parent)
 {
     setObjectName("frmCompare");
-    setWindowTitle("Compare with Module");
+    setWindowTitle(Lang::tr("Compare with Module"));
     setWindowModality(Qt::WindowModal);
     auto* layout = new QVBoxLayout(this);
     LabelCompareSummary = named(new QLabel, "LabelCompareSummary");
     layout->addWidget(LabelCompareSummary);
     TreeCompare = named(new QTreeWidget, "TreeCompare");
-    TreeCompare->setAccessibleName("Differences");
-    TreeCompare->setHeaderLabels({"Item", "Module", "Configuration", "Choice"});
+    TreeCompare->setAccessibleName(Lang::tr("Differences"));
+    TreeCompare->setHeaderLabels(
+        {Lang::tr("Item"), Lang::tr("Module"), Lang::tr("Configuration"), Lang::tr("Choice")});
     TreeCompare->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     layout->addWidget(TreeCompare, 1);
 
     auto* buttons = new QHBoxLayout;
-    CommandTakeAllModule = named(new QPushButton("&Take All from Module"), "CommandTakeAllModule");
-    CommandKeepAllMine = named(new QPushButton("&Keep All Mine"), "CommandKeepAllMine");
-    CommandCompareApply = named(new QPushButton("&Apply"), "CommandCompareApply");
-    CommandCompareApply->setToolTip("Takes the items chosen \"take the module's\" into the configuration");
-    CommandCompareWrite = named(new QPushButton("Apply and &Write Changes"), "CommandCompareWrite");
-    CommandCompareWrite->setToolTip("Applies, then writes to the module what you kept");
-    CommandCompareClose = named(new QPushButton("&Close"), "CommandCompareClose");
+    CommandTakeAllModule = named(new QPushButton(Lang::tr("&Take All from Module")), "CommandTakeAllModule");
+    CommandKeepAllMine = named(new QPushButton(Lang::tr("&Keep All Mine")), "CommandKeepAllMine");
+    CommandCompareApply = named(new QPushButton(Lang::tr("&Apply")), "CommandCompareApply");
+    CommandCompareApply->setToolTip(
+        Lang::tr("Takes the items chosen \"take the module's\" into the configuration"));
+    CommandCompareWrite = named(new QPushButton(Lang::tr("Apply and &Write Changes")), "CommandCompareWrite");
+    CommandCompareWrite->setToolTip(Lang::tr("Applies, then writes to the module what you kept"));
+    CommandCompareClose = named(new QPushButton(Lang::tr("&Close")), "CommandCompareClose");
     for (QPushButton* b : {CommandTakeAllModule, CommandKeepAllMine, CommandCompareApply, CommandCompareWrite,
                            CommandCompareClose})
         buttons->addWidget(b);
@@ -81,16 +86,16 @@ void CompareDialog::showDifferences(std::vector<Difference> found, const Configu
             new QTreeWidgetItem(group, {QString::fromStdString(d.item), QString::fromStdString(d.first),
                                         QString::fromStdString(d.second)});
         auto* choice = named(new QComboBox, indexed("ComboCompareChoice", static_cast<int>(i)));
-        choice->addItems({"keep mine", "take the module's"});
+        choice->addItems({Lang::tr("keep mine"), Lang::tr("take the module's")});
         choice->setAccessibleName(QString::fromStdString(d.item));
         TreeCompare->setItemWidget(row, 3, choice);
         choices.push_back(choice);
     }
     const auto n = differences.size();
-    LabelCompareSummary->setText(n == 0 ? QString("The module holds this configuration: no differences.")
-                                        : QString("%1 difference%2 between the module and the configuration")
-                                              .arg(n)
-                                              .arg(n == 1 ? "" : "s"));
+    LabelCompareSummary->setText(
+        n == 0   ? Lang::tr("The module holds this configuration: no differences.")
+        : n == 1 ? Lang::tr("1 difference between the module and the configuration")
+                 : Lang::tr("%1 differences between the module and the configuration").arg(n));
     for (QPushButton* b :
          {CommandTakeAllModule, CommandKeepAllMine, CommandCompareApply, CommandCompareWrite})
         b->setEnabled(n > 0);

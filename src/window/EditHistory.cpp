@@ -1,5 +1,6 @@
 #include "window/EditHistory.h"
 #include "window/Bindings.h"
+#include "window/Language.h"
 
 #include <QAction>
 #include <QGroupBox>
@@ -78,8 +79,19 @@ EditHistory::EditHistory(Session& session, std::function<void()> commit, std::fu
       steps(new QUndoStack(this))
 {
     steps->setUndoLimit(100);
-    undoEntry = steps->createUndoAction(this, "Undo");
-    redoEntry = steps->createRedoAction(this, "Redo");
+    undoEntry = steps->createUndoAction(this, Lang::tr("Undo"));
+    redoEntry = steps->createRedoAction(this, Lang::tr("Redo"));
+    // The entries name the step in the user's language ("Undo typing in Description"),
+    // after Qt's own wording of them.
+    const auto wording = [](QAction* entry, const QString& none, const QString& named) {
+        return [entry, none, named](const QString& step) {
+            entry->setText(step.isEmpty() ? none : named.arg(step));
+        };
+    };
+    connect(steps, &QUndoStack::undoTextChanged, undoEntry,
+            wording(undoEntry, Lang::tr("Undo"), Lang::tr("Undo %1")));
+    connect(steps, &QUndoStack::redoTextChanged, redoEntry,
+            wording(redoEntry, Lang::tr("Redo"), Lang::tr("Redo %1")));
     undoEntry->setShortcuts(QKeySequence::Undo);
     redoEntry->setShortcuts({QKeySequence("Ctrl+Shift+Z"), QKeySequence("Ctrl+Y")});
     // A typed but unfinished entry is taken first.
@@ -108,8 +120,8 @@ void EditHistory::record(const EditState& before, const std::string& name, const
     auto was = latest && *latest == before ? latest : std::make_shared<const EditState>(before);
     latest =
         std::make_shared<const EditState>(EditState{session.config, session.general, session.eventControl});
-    steps->push(new ConfigurationStep(QString::fromStdString(name.empty() ? "Edit" : name), std::move(was),
-                                      latest, control, editRun,
+    steps->push(new ConfigurationStep(name.empty() ? Lang::tr("Edit") : QString::fromStdString(name),
+                                      std::move(was), latest, control, editRun,
                                       [this](const ConfigurationStep::State& s) { restore(s); }));
 }
 

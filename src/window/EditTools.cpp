@@ -1,4 +1,5 @@
 #include "window/EditTools.h"
+#include "window/Language.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -21,12 +22,12 @@ QPushButton* button(const QString& caption, const QString& name)
 
 QString pinText(const Configuration& config)
 {
-    return QString("Pin %1").arg(config.CurrentPin + config.NumberingBase);
+    return Lang::tr("Pin %1").arg(config.CurrentPin + config.NumberingBase);
 }
 
 QString aspectText(const Configuration& config)
 {
-    return pinText(config) + QString(", aspect %1").arg(config.CurrentAspect);
+    return pinText(config) + Lang::tr(", aspect %1").arg(config.CurrentAspect);
 }
 } // namespace
 
@@ -111,11 +112,12 @@ QLabel* ToolDialog::layOut(std::initializer_list<QPushButton*> commands, QPushBu
 // ---- pin tool
 
 EditPinDialog::EditPinDialog(Session& s, QWidget* parent)
-    : ToolDialog("dlgEditPin", "Pin tool", parent), session(s)
+    : ToolDialog("dlgEditPin", Lang::tr("Pin tool"), parent), session(s)
 {
     std::tie(CommandCopyPin, CommandPastePin, CommandClearPin) =
         clipboardButtons(tool, session, "Pin", {"CommandCopyPin", "CommandPastePin", "CommandClearPin"});
-    LabelTarget = layOut({CommandCopyPin, CommandPastePin, CommandClearPin}, commandCancel, "Ca&ncel");
+    LabelTarget =
+        layOut({CommandCopyPin, CommandPastePin, CommandClearPin}, commandCancel, Lang::tr("Ca&ncel"));
 }
 
 void EditPinDialog::run()
@@ -127,16 +129,17 @@ void EditPinDialog::run()
 // ---- aspect tool
 
 EditAspectDialog::EditAspectDialog(Session& s, QWidget* parent)
-    : ToolDialog("dlgEditAspect", "Aspect tool", parent), session(s)
+    : ToolDialog("dlgEditAspect", Lang::tr("Aspect tool"), parent), session(s)
 {
     std::tie(CommandCopy, CommandPaste, CommandClear) =
         clipboardButtons(tool, session, "Aspect", {"CommandCopy", "CommandPaste", "CommandClear"});
-    CommandClean = commandButton("Clean &Aspect", "CommandClean", [this] {
+    CommandClean = commandButton(Lang::tr("Clean &Aspect"), "CommandClean", [this] {
         tool.clean(session.config);
         return true;
     });
-    LabelTarget = layOut({CommandCopy, CommandPaste, CommandClear, CommandClean}, commandCancel, "Ca&ncel");
-    CommandClean->setToolTip("Clears the description and everything after the first empty step");
+    LabelTarget =
+        layOut({CommandCopy, CommandPaste, CommandClear, CommandClean}, commandCancel, Lang::tr("Ca&ncel"));
+    CommandClean->setToolTip(Lang::tr("Clears the description and everything after the first empty step"));
 }
 
 void EditAspectDialog::run()
@@ -148,22 +151,22 @@ void EditAspectDialog::run()
 // ---- step tool
 
 EditStepDialog::EditStepDialog(Session& s, QWidget* parent)
-    : ToolDialog("dlgEditStep", "Step tool", parent), session(s)
+    : ToolDialog("dlgEditStep", Lang::tr("Step tool"), parent), session(s)
 {
-    commandInsert = commandButton("&Insert Step", "commandInsert", [this] {
+    commandInsert = commandButton(Lang::tr("&Insert Step"), "commandInsert", [this] {
         insertStep(session.config);
         return true;
     });
-    commandDelete = commandButton("&Delete Step", "commandDelete", [this] {
+    commandDelete = commandButton(Lang::tr("&Delete Step"), "commandDelete", [this] {
         deleteStep(session.config);
         return true;
     });
-    LabelTarget = layOut({commandInsert, commandDelete}, commandCancel, "&Cancel");
+    LabelTarget = layOut({commandInsert, commandDelete}, commandCancel, Lang::tr("&Cancel"));
 }
 
 void EditStepDialog::run()
 {
-    LabelTarget->setText(aspectText(session.config) + QString(", step %1").arg(session.config.CurrentStep));
+    LabelTarget->setText(aspectText(session.config) + Lang::tr(", step %1").arg(session.config.CurrentStep));
     runModal();
 }
 

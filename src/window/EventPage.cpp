@@ -1,5 +1,6 @@
 #include "window/EventPage.h"
 #include "forms/EventControlForm.h"
+#include "window/Language.h"
 
 #include "base/Text.h"
 #include "window/Widgets.h"
@@ -38,16 +39,16 @@ EventPage::EventPage(Session& s, std::function<void(JobName job)> start, Guard* 
     auto* layout = new QVBoxLayout(scrolledContent(this));
 
     // One pin's entries and the enable maps, in one table whose columns are the inputs.
-    auto* frame = named(new QGroupBox("Event Control"), "FrameEC");
+    auto* frame = named(new QGroupBox(Lang::tr("Event Control")), "FrameEC");
     auto* frameLayout = new QVBoxLayout(frame);
 
     auto* pinRow = new QHBoxLayout;
     NumberEntry* pin = entry("ECpin", 0, kPinCount - 1, TextECpin, UpDownECpin);
-    CommandECReadSingle = named(new QPushButton("Rea&d"), "CommandECReadSingle");
-    CommandECWriteSingle = named(new QPushButton("Write"), "CommandECWriteSingle");
-    CommandECcopy = named(new QPushButton("Copy to &All"), "CommandECcopy");
-    pinRow->addWidget(captionFor("Pin", TextECpin));
-    UpDownECpin->setAccessibleName("Pin");
+    CommandECReadSingle = named(new QPushButton(Lang::tr("Rea&d")), "CommandECReadSingle");
+    CommandECWriteSingle = named(new QPushButton(Lang::tr("Write")), "CommandECWriteSingle");
+    CommandECcopy = named(new QPushButton(Lang::tr("Copy to &All")), "CommandECcopy");
+    pinRow->addWidget(captionFor(Lang::tr("Pin"), TextECpin));
+    UpDownECpin->setAccessibleName(Lang::tr("Pin"));
     pinRow->addWidget(pin);
     pinRow->addSpacing(16);
     pinRow->addWidget(CommandECReadSingle);
@@ -60,11 +61,11 @@ EventPage::EventPage(Session& s, std::function<void(JobName job)> start, Guard* 
     table->setHorizontalSpacing(12);
     for (int i = 0; i < kEventSlots; ++i) {
         LabelECinput[i] =
-            named(new QLabel(QString("Input %1").arg(i + 1)), QString("LabelECinput_%1").arg(i));
+            named(new QLabel(Lang::tr("Input %1").arg(i + 1)), QString("LabelECinput_%1").arg(i));
         table->addWidget(LabelECinput[i], 0, 1 + i);
     }
-    table->addWidget(new QLabel("ON:"), 1, 0);
-    LabelEC = named(new QLabel("OFF:"), "LabelEC");
+    table->addWidget(new QLabel(Lang::tr("ON:")), 1, 0);
+    LabelEC = named(new QLabel(Lang::tr("OFF:")), "LabelEC");
     table->addWidget(LabelEC, 2, 0);
     for (int i = 0; i < kEventSlots; ++i) {
         table->addWidget(
@@ -75,23 +76,23 @@ EventPage::EventPage(Session& s, std::function<void(JobName job)> start, Guard* 
             2, 1 + i);
         // Named after the row and the column's input: "Event-On input 2".
         for (QWidget* w : {static_cast<QWidget*>(TextECon[i]), static_cast<QWidget*>(UpDownECon[i])})
-            w->setAccessibleName(QString("Event-On input %1").arg(i + 1));
+            w->setAccessibleName(Lang::tr("Event-On input %1").arg(i + 1));
         for (QWidget* w : {static_cast<QWidget*>(TextECoff[i]), static_cast<QWidget*>(UpDownECoff[i])})
-            w->setAccessibleName(QString("Event-Off input %1").arg(i + 1));
+            w->setAccessibleName(Lang::tr("Event-Off input %1").arg(i + 1));
     }
     table->setRowMinimumHeight(3, 10);
-    table->addWidget(new QLabel("InitialEvent_ON Enable"), 4, 0);
-    table->addWidget(new QLabel("Initial Event_OFF Enable"), 5, 0);
+    table->addWidget(new QLabel(Lang::tr("InitialEvent_ON Enable")), 4, 0);
+    table->addWidget(new QLabel(Lang::tr("Initial Event_OFF Enable")), 5, 0);
     for (int i = 0; i < 8; ++i) {
         CheckInitEE[i] = named(new QCheckBox, QString("CheckInitEE_%1").arg(i));
         CheckInitEE[i]->setAccessibleName(
-            QString("%1 input %2")
-                .arg(i < 4 ? "InitialEvent_ON Enable" : "Initial Event_OFF Enable")
+            Lang::tr("%1 input %2")
+                .arg(i < 4 ? Lang::tr("InitialEvent_ON Enable") : Lang::tr("Initial Event_OFF Enable"))
                 .arg(i % 4 + 1));
         table->addWidget(CheckInitEE[i], 4 + i / 4, 1 + i % 4);
     }
-    CommandECInitRead = named(new QPushButton("Read Enable Map"), "CommandECInitRead");
-    CommandECInitWrite = named(new QPushButton("Write Ena&ble Map"), "CommandECInitWrite");
+    CommandECInitRead = named(new QPushButton(Lang::tr("Read Enable Map")), "CommandECInitRead");
+    CommandECInitWrite = named(new QPushButton(Lang::tr("Write Ena&ble Map")), "CommandECInitWrite");
     table->addWidget(CommandECInitRead, 4, 5);
     table->addWidget(CommandECInitWrite, 5, 5);
     table->setColumnStretch(6, 1);
@@ -114,11 +115,11 @@ EventPage::EventPage(Session& s, std::function<void(JobName job)> start, Guard* 
     layout->addWidget(frame);
 
     // The event control of every pin, as jobs.
-    auto* all = named(new QGroupBox("All Pins"), "FrameECAll");
+    auto* all = named(new QGroupBox(Lang::tr("All Pins")), "FrameECAll");
     auto* allRow = new QHBoxLayout(all);
-    CommandECRead = named(new QPushButton("Read All Events"), "CommandECRead");
-    CommandECWrite = named(new QPushButton("Write All Events"), "CommandECWrite");
-    CommandECVerify = named(new QPushButton("Verify Event Control"), "CommandECVerify");
+    CommandECRead = named(new QPushButton(Lang::tr("Read All Events")), "CommandECRead");
+    CommandECWrite = named(new QPushButton(Lang::tr("Write All Events")), "CommandECWrite");
+    CommandECVerify = named(new QPushButton(Lang::tr("Verify Event Control")), "CommandECVerify");
     allRow->addWidget(CommandECRead);
     allRow->addWidget(CommandECWrite);
     allRow->addWidget(CommandECVerify);

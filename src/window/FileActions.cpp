@@ -1,5 +1,6 @@
 #include "window/FileActions.h"
 #include "forms/MainWindowForm.h"
+#include "window/Language.h"
 
 #include "files/Backups.h"
 #include "files/ConfigurationFile.h"
@@ -31,9 +32,12 @@ bool FileActions::keepChangesSafe(const char* doing)
     window.commitAll();
     if (!unsaved())
         return true;
-    const Answer a = core.dialogs().ask(std::string("The configuration has changes that are not saved.\r\n") +
-                                            doing + " would lose them. Save them first?",
-                                        Buttons::SaveDiscardCancel, Icon::Warning);
+    const Answer a = core.dialogs().ask(
+        Lang::tr("The configuration has changes that are not saved.\r\n%1 would lose them. Save them first?")
+            .arg(Lang::tr(doing))
+            .toLatin1()
+            .toStdString(),
+        Buttons::SaveDiscardCancel, Icon::Warning);
     if (a == Answer::Discard)
         return true;
     if (a != Answer::Save)
@@ -49,8 +53,10 @@ void FileActions::save(const QString& path, bool compact)
         std::string written = path.toStdString();
         if (!written.empty() && written == work.file() && work.changedOnDisk() &&
             core.dialogs().ask(QFileInfo(path).fileName().toStdString() +
-                                   " has changed on disk since it was loaded or saved here.\r\n"
-                                   "Replace it with the configuration shown?",
+                                   Lang::tr(" has changed on disk since it was loaded or saved here.\r\n"
+                                            "Replace it with the configuration shown?")
+                                       .toLatin1()
+                                       .toStdString(),
                                Buttons::YesNo, Icon::Warning) != Answer::Yes)
             return;
         // The backups folder is never the user's file.
@@ -58,7 +64,9 @@ void FileActions::save(const QString& path, bool compact)
             if (!inBackups(QString::fromStdString(chosen)))
                 return false;
             core.dialogs().message(
-                "The backups folder is the program's own: choose another folder for the file.",
+                Lang::tr("The backups folder is the program's own: choose another folder for the file.")
+                    .toLatin1()
+                    .toStdString(),
                 Icon::Warning);
             return true;
         };
@@ -74,19 +82,23 @@ void FileActions::save(const QString& path, bool compact)
         else
             work.fileHolds(written, core.config, core.general);
         remember(name);
-        window.status->setText(QString("Saved %1%2").arg(name, compact ? " (compact)" : ""));
+        window.status->setText(
+            Lang::tr("Saved %1%2").arg(name, compact ? Lang::tr(" (compact)") : QString()));
         if (compact && unsaved())
-            window.status->setText(window.status->text() +
-                                   "; it does not hold everything shown, so the work is still unsaved");
+            window.status->setText(
+                window.status->text() +
+                Lang::tr("; it does not hold everything shown, so the work is still unsaved"));
     });
     window.updateState();
 }
 
 void FileActions::load(const QString& path, bool backup)
 {
-    if (!keepChangesSafe(backup ? "Restoring a backup" : "Loading a file"))
+    if (!keepChangesSafe(backup ? QT_TRANSLATE_NOOP("Lang", "Restoring a backup")
+                                : QT_TRANSLATE_NOOP("Lang", "Loading a file")))
         return;
-    guard(backup ? "Restore from Backup" : "Load File", [this, &path, backup] {
+    guard((backup ? Lang::tr("Restore from Backup") : Lang::tr("Load File")).toStdString(), [this, &path,
+                                                                                             backup] {
         const LoadOutcome loaded =
             path.isEmpty() ? CommandLoad_Click(core) : loadConfigurationFrom(core, path.toStdString());
         if (loaded.path.empty())
@@ -97,20 +109,21 @@ void FileActions::load(const QString& path, bool backup)
             // A backup stays the program's: the configuration from it is untitled.
             if (backup || inBackups(name)) {
                 work.untitled(&core.config, &core.general);
-                window.status->setText("Restored the backup " + name + " as an untitled configuration");
+                window.status->setText(
+                    Lang::tr("Restored the backup %1 as an untitled configuration").arg(name));
                 break;
             }
             work.fileHolds(loaded.path, core.config, core.general);
             remember(name);
-            window.status->setText("Loaded " + name);
+            window.status->setText(Lang::tr("Loaded %1").arg(name));
             break;
         case LoadResult::FormatError:
             work.untitled(); // what was read is not what the file holds
-            window.status->setText("Load stopped at a fault in " + name +
-                                   ": the pages show what was read before it");
+            window.status->setText(
+                Lang::tr("Load stopped at a fault in %1: the pages show what was read before it").arg(name));
             break;
         default:
-            window.status->setText("Nothing was loaded from " + name);
+            window.status->setText(Lang::tr("Nothing was loaded from %1").arg(name));
             break;
         }
     });
@@ -128,7 +141,7 @@ void FileActions::saveReadBackup()
     });
     if (saved.empty())
         window.status->setText(window.status->text() +
-                               "; the backup was not saved: " + QString::fromStdString(error));
+                               Lang::tr("; the backup was not saved: %1").arg(QString::fromStdString(error)));
 }
 
 void FileActions::restoreFromBackup()

@@ -1,5 +1,6 @@
 #include "window/GeneralPage.h"
 #include "forms/GeneralForm.h"
+#include "window/Language.h"
 
 #include "base/Text.h"
 #include "forms/AspectEditor.h"
@@ -50,10 +51,13 @@ QString pinLegend(int base)
     return legends[base == 1 ? 1 : 0];
 }
 
-QPushButton* button(const char* caption, const char* name) { return named(new QPushButton(caption), name); }
+QPushButton* button(const QString& caption, const char* name)
+{
+    return named(new QPushButton(caption), name);
+}
 
 // A frame's Read and Write buttons ("<prefix>Read", "<prefix>Write") in a row of their own.
-QHBoxLayout* readWriteRow(const QString& prefix, const char* read, const char* write,
+QHBoxLayout* readWriteRow(const QString& prefix, const QString& read, const QString& write,
                           QPushButton*& readButton, QPushButton*& writeButton)
 {
     readButton = named(new QPushButton(read), prefix + "Read");
@@ -67,7 +71,7 @@ QHBoxLayout* readWriteRow(const QString& prefix, const char* read, const char* w
 
 // A frame of the page and the layout of its controls.
 template <typename Layout = QGridLayout>
-std::pair<QGroupBox*, Layout*> frameWith(const char* title, const char* name)
+std::pair<QGroupBox*, Layout*> frameWith(const QString& title, const char* name)
 {
     auto* frame = named(new QGroupBox(title), name);
     return {frame, new Layout(frame)};
@@ -126,35 +130,36 @@ GeneralPage::GeneralPage(Session& s, Guard* sharedGuard, QWidget* parent)
 
 QGroupBox* GeneralPage::buildIdentity()
 {
-    const auto [frame, grid] = frameWith("Module", "FrameGenID");
-    CommandGenVersion = button("Re&quest Version", "CommandGenVersion");
-    LabelGenVersionString = named(new QLabel("Unknown"), "LabelGenVersionString");
+    const auto [frame, grid] = frameWith(Lang::tr("Module"), "FrameGenID");
+    CommandGenVersion = button(Lang::tr("Re&quest Version"), "CommandGenVersion");
+    LabelGenVersionString = named(new QLabel(Lang::tr("Unknown")), "LabelGenVersionString");
     LabelGenVersionString->setMinimumWidth(90);
     TextGenIDString = named(new QLineEdit, "TextGenIDString");
-    TextGenIDString->setToolTip("At most 12 characters, letters, digits and signs without accents");
+    TextGenIDString->setToolTip(Lang::tr("At most 12 characters, letters, digits and signs without accents"));
 
     TextGenIDString->setMinimumWidth(140);
     grid->addWidget(CommandGenVersion, 0, 0);
     grid->addWidget(LabelGenVersionString, 0, 1);
-    grid->addWidget(captionFor("ID String", TextGenIDString), 1, 0);
+    grid->addWidget(captionFor(Lang::tr("ID String"), TextGenIDString), 1, 0);
     grid->addWidget(TextGenIDString, 1, 1);
-    grid->addLayout(readWriteRow("CommandGenID", "Re&ad", "Write", CommandGenIDRead, CommandGenIDWrite), 2, 0,
-                    1, 2);
+    grid->addLayout(readWriteRow("CommandGenID", Lang::tr("Re&ad"), Lang::tr("Write"), CommandGenIDRead,
+                                 CommandGenIDWrite),
+                    2, 0, 1, 2);
     grid->setColumnStretch(1, 1);
     return frame;
 }
 
 QGroupBox* GeneralPage::buildDcc()
 {
-    const auto [frame, grid] = frameWith("DCC", "FrameGenDCC");
+    const auto [frame, grid] = frameWith(Lang::tr("DCC"), "FrameGenDCC");
     TextGenDCCAddress = numberBox("TextGenDCCAddress", 60);
     TextGenXDCCAddress = numberBox("TextGenXDCCAddress", 60);
-    grid->addWidget(captionFor("DCC Address", TextGenDCCAddress), 0, 0);
+    grid->addWidget(captionFor(Lang::tr("DCC Address"), TextGenDCCAddress), 0, 0);
     grid->addWidget(TextGenDCCAddress, 0, 1);
-    grid->addWidget(captionFor("eXtended DCC Address", TextGenXDCCAddress), 1, 0);
+    grid->addWidget(captionFor(Lang::tr("eXtended DCC Address"), TextGenXDCCAddress), 1, 0);
     grid->addWidget(TextGenXDCCAddress, 1, 1);
 
-    auto* period = named(new QGroupBox("Packet Repeat Period"), "FrameGenDCC_PRP");
+    auto* period = named(new QGroupBox(Lang::tr("Packet Repeat Period")), "FrameGenDCC_PRP");
     auto* periodRow = new QHBoxLayout(period);
     prpGroup = new QButtonGroup(this);
     const char* periods[4] = {"500ms", "250ms", "125ms", "62.5ms"};
@@ -165,26 +170,29 @@ QGroupBox* GeneralPage::buildDcc()
     }
     grid->addWidget(period, 2, 0, 1, 3);
 
-    ChkGenDCC_BPSI = named(new QCheckBox("Basic Packet State Invert"), "ChkGenDCC_BPSI");
-    ChkGenDCCAllow0 = named(new QCheckBox("Allow Address 0"), "ChkGenDCCAllow0");
+    ChkGenDCC_BPSI = named(new QCheckBox(Lang::tr("Basic Packet State Invert")), "ChkGenDCC_BPSI");
+    ChkGenDCCAllow0 = named(new QCheckBox(Lang::tr("Allow Address 0")), "ChkGenDCCAllow0");
     grid->addWidget(ChkGenDCC_BPSI, 3, 0, 1, 2);
     grid->addWidget(ChkGenDCCAllow0, 4, 0, 1, 2);
 
-    grid->addLayout(readWriteRow("CommandGenDCC", "Rea&d", "Write", CommandGenDCCRead, CommandGenDCCWrite), 5,
-                    0, 1, 3);
+    grid->addLayout(readWriteRow("CommandGenDCC", Lang::tr("Rea&d"), Lang::tr("Write"), CommandGenDCCRead,
+                                 CommandGenDCCWrite),
+                    5, 0, 1, 3);
     grid->setColumnStretch(2, 1);
     return frame;
 }
 
 QGroupBox* GeneralPage::buildAddressing()
 {
-    const auto [frame, grid] = frameWith("Serial Addressing", "FrameGenAddr");
-    CheckGenKestrelNative = named(new QCheckBox("Enable Native Kestrel Mode"), "CheckGenKestrelNative");
-    CheckGenLynxaddr = named(new QCheckBox("Enable Lynx Flex-Addresss"), "CheckGenLynxaddr");
-    LabelGenXA_4 = named(new QLabel("Flex-Address"), "LabelGenXA_4");
+    const auto [frame, grid] = frameWith(Lang::tr("Serial Addressing"), "FrameGenAddr");
+    CheckGenKestrelNative =
+        named(new QCheckBox(Lang::tr("Enable Native Kestrel Mode")), "CheckGenKestrelNative");
+    CheckGenLynxaddr = named(new QCheckBox(Lang::tr("Enable Lynx Flex-Addresss")), "CheckGenLynxaddr");
+    LabelGenXA_4 = named(new QLabel(Lang::tr("Flex-Address")), "LabelGenXA_4");
     auto* flexAddress = new NumberEntry("TextGenLynxaddr", "UpDownGenLynxaddr");
     TextGenLynxaddr = flexAddress->text;
-    TextGenLynxaddr->setToolTip("The first Lynx address of the module; addresses come in groups of 4");
+    TextGenLynxaddr->setToolTip(
+        Lang::tr("The first Lynx address of the module; addresses come in groups of 4"));
     UpDownGenLynxaddr = flexAddress->upDown;
     UpDownGenLynxaddr->setSingleStep(4);
     nameAfter(LabelGenXA_4, TextGenLynxaddr);
@@ -205,19 +213,20 @@ QGroupBox* GeneralPage::buildAddressing()
     flexRow->addWidget(flexAddress);
     grid->addLayout(flexRow, 1, 0, 1, 3);
     TextGenXaddr = numberBox("TextGenXaddr", 50);
-    grid->addWidget(captionFor("eXtended Address", TextGenXaddr), 2, 0);
+    grid->addWidget(captionFor(Lang::tr("eXtended Address"), TextGenXaddr), 2, 0);
     grid->addWidget(TextGenXaddr, 2, 1, Qt::AlignLeft);
 
-    auto* mask = named(new QGroupBox("eXtended Group Mask"), "FrameGenXGM");
+    auto* mask = named(new QGroupBox(Lang::tr("eXtended Group Mask")), "FrameGenXGM");
     auto* maskGrid = new QGridLayout(mask);
     for (int i = 0; i < 16; ++i) {
         CheckGenXGM[i] = named(new QCheckBox(QString::number(i)), indexed("CheckGenXGM", i));
-        CheckGenXGM[i]->setAccessibleName(QString("Group mask %1").arg(i));
+        CheckGenXGM[i]->setAccessibleName(Lang::tr("Group mask %1").arg(i));
         maskGrid->addWidget(CheckGenXGM[i], i / 4, i % 4);
     }
     grid->addWidget(mask, 3, 0, 1, 3);
 
-    grid->addLayout(readWriteRow("CommandGenAddr", "Read", "Write", CommandGenAddrRead, CommandGenAddrWrite),
+    grid->addLayout(readWriteRow("CommandGenAddr", Lang::tr("Read"), Lang::tr("Write"), CommandGenAddrRead,
+                                 CommandGenAddrWrite),
                     4, 0, 1, 3);
     grid->setColumnStretch(2, 1);
     return frame;
@@ -225,11 +234,11 @@ QGroupBox* GeneralPage::buildAddressing()
 
 QGroupBox* GeneralPage::buildHardware()
 {
-    const auto [frame, column] = frameWith<QVBoxLayout>("Hardware Configuration", "FrameGenHWC");
+    const auto [frame, column] = frameWith<QVBoxLayout>(Lang::tr("Hardware Configuration"), "FrameGenHWC");
     hardwareArea = new QWidget;
     LabelGenHWCPin = named(new QLabel(pinLegend(0), hardwareArea), "LabelGenHWCPin");
-    driverCaptions[0] = new QLabel("Sink Driver", hardwareArea);
-    driverCaptions[1] = new QLabel("Source Driver", hardwareArea);
+    driverCaptions[0] = new QLabel(Lang::tr("Sink Driver"), hardwareArea);
+    driverCaptions[1] = new QLabel(Lang::tr("Source Driver"), hardwareArea);
     for (int g = 0; g < 4; ++g) {
         ChkGenHWCSink[g] = named(new QCheckBox(hardwareArea), indexed("ChkGenHWCSink", g));
         ChkGenHWCSource[g] = named(new QCheckBox(hardwareArea), indexed("ChkGenHWCSource", g));
@@ -240,8 +249,8 @@ QGroupBox* GeneralPage::buildHardware()
     tabOrder({ChkGenHWCSink[0], ChkGenHWCSink[1], ChkGenHWCSink[2], ChkGenHWCSink[3], ChkGenHWCSource[0],
               ChkGenHWCSource[1], ChkGenHWCSource[2], ChkGenHWCSource[3]});
 
-    column->addLayout(
-        readWriteRow("CommandGenHWC", "Read Config", "Write Config", CommandGenHWCRead, CommandGenHWCWrite));
+    column->addLayout(readWriteRow("CommandGenHWC", Lang::tr("Read Config"), Lang::tr("Write Config"),
+                                   CommandGenHWCRead, CommandGenHWCWrite));
     return frame;
 }
 
@@ -273,8 +282,8 @@ void GeneralPage::placeHardwareBoxes()
         for (int g = 0; g < 4; ++g) {
             QCheckBox* b = r == 0 ? ChkGenHWCSink[g] : ChkGenHWCSource[g];
             // Named after its row and column: "Sink driver pins 8..15".
-            b->setAccessibleName(QString("%1 pins %2")
-                                     .arg(r == 0 ? "Sink driver" : "Source driver")
+            b->setAccessibleName(Lang::tr("%1 pins %2")
+                                     .arg(r == 0 ? Lang::tr("Sink driver") : Lang::tr("Source driver"))
                                      .arg(g + 1 < words.size() ? words[g + 1] : QString::number(g)));
             b->setGeometry(shift + middles[g] - box.width() / 2, y + (rowHeight - box.height()) / 2,
                            box.width(), box.height());
@@ -286,66 +295,75 @@ void GeneralPage::placeHardwareBoxes()
 
 QGroupBox* GeneralPage::buildLeds()
 {
-    const auto [frame, grid] = frameWith("LED Control", "FrameGenLC");
-    const char* green[8] = {"Basic DCC Packet", "eXtd DCC Packet", "Lynx Message", "Kestrel Message",
-                            "Green 4",          "Green 5",         "Green 6",      "Idle Flash"};
-    const char* orange[8] = {"DCC Checksum Error", "Orange 1", "Orange 2", "Orange 3",
-                             "Orange 4",           "Orange 5", "Orange 6", "All Received Datagrams"};
-    auto* greenHead = new QLabel("<b>Green LED</b>");
-    auto* orangeHead = new QLabel("<b>Orange LED</b>");
+    const auto [frame, grid] = frameWith(Lang::tr("LED Control"), "FrameGenLC");
+    const char* green[8] = {
+        QT_TRANSLATE_NOOP("Lang", "Basic DCC Packet"), QT_TRANSLATE_NOOP("Lang", "eXtd DCC Packet"),
+        QT_TRANSLATE_NOOP("Lang", "Lynx Message"),     QT_TRANSLATE_NOOP("Lang", "Kestrel Message"),
+        QT_TRANSLATE_NOOP("Lang", "Green 4"),          QT_TRANSLATE_NOOP("Lang", "Green 5"),
+        QT_TRANSLATE_NOOP("Lang", "Green 6"),          QT_TRANSLATE_NOOP("Lang", "Idle Flash")};
+    const char* orange[8] = {
+        QT_TRANSLATE_NOOP("Lang", "DCC Checksum Error"), QT_TRANSLATE_NOOP("Lang", "Orange 1"),
+        QT_TRANSLATE_NOOP("Lang", "Orange 2"),           QT_TRANSLATE_NOOP("Lang", "Orange 3"),
+        QT_TRANSLATE_NOOP("Lang", "Orange 4"),           QT_TRANSLATE_NOOP("Lang", "Orange 5"),
+        QT_TRANSLATE_NOOP("Lang", "Orange 6"),           QT_TRANSLATE_NOOP("Lang", "All Received Datagrams")};
+    auto* greenHead = new QLabel(Lang::tr("<b>Green LED</b>"));
+    auto* orangeHead = new QLabel(Lang::tr("<b>Orange LED</b>"));
     grid->addWidget(greenHead, 0, 0);
     grid->addWidget(orangeHead, 0, 1);
     for (int i = 0; i < 8; ++i) {
-        CheckLCGreen[i] = named(new QCheckBox(green[i]), indexed("CheckLCGreen", i));
-        CheckLCOrange[i] = named(new QCheckBox(orange[i]), indexed("CheckLCOrange", i));
+        CheckLCGreen[i] = named(new QCheckBox(Lang::tr(green[i])), indexed("CheckLCGreen", i));
+        CheckLCOrange[i] = named(new QCheckBox(Lang::tr(orange[i])), indexed("CheckLCOrange", i));
         grid->addWidget(CheckLCGreen[i], i + 1, 0);
         grid->addWidget(CheckLCOrange[i], i + 1, 1);
     }
-    grid->addLayout(
-        readWriteRow("CommandLC", "Read Settings", "Write Settings", CommandLCRead, CommandLCWrite), 9, 0, 1,
-        2);
+    grid->addLayout(readWriteRow("CommandLC", Lang::tr("Read Settings"), Lang::tr("Write Settings"),
+                                 CommandLCRead, CommandLCWrite),
+                    9, 0, 1, 2);
     return frame;
 }
 
 QGroupBox* GeneralPage::buildSerialPort()
 {
-    const auto [frame, grid] = frameWith("Serial Port", "FrameGenSerial");
-    CheckGenSerialEnable = named(new QCheckBox("Enable"), "CheckGenSerialEnable");
+    const auto [frame, grid] = frameWith(Lang::tr("Serial Port"), "FrameGenSerial");
+    CheckGenSerialEnable = named(new QCheckBox(Lang::tr("Enable")), "CheckGenSerialEnable");
     ComboGenBaud = named(new QComboBox, "ComboGenBaud");
     for (const char* rate : kGenBaudList)
         ComboGenBaud->addItem(rate);
     grid->addWidget(CheckGenSerialEnable, 0, 0);
-    grid->addWidget(captionFor("Baud", ComboGenBaud), 0, 1, Qt::AlignRight);
+    grid->addWidget(captionFor(Lang::tr("Baud"), ComboGenBaud), 0, 1, Qt::AlignRight);
     grid->addWidget(ComboGenBaud, 0, 2);
 
-    auto optionFrame = [](const char* title, const char* frameName) {
+    auto optionFrame = [](const QString& title, const char* frameName) {
         auto* f = named(new QGroupBox(title), frameName);
         new QVBoxLayout(f);
         return f;
     };
-    auto* data = optionFrame("Data Bits", "FrameGenSerialDatabits");
-    auto* stop = optionFrame("Stop Bits", "FrameGenSerialStop");
-    auto* parity = optionFrame("Parity", "FrameGenSerialParity");
+    auto* data = optionFrame(Lang::tr("Data Bits"), "FrameGenSerialDatabits");
+    auto* stop = optionFrame(Lang::tr("Stop Bits"), "FrameGenSerialStop");
+    auto* parity = optionFrame(Lang::tr("Parity"), "FrameGenSerialParity");
     databitsGroup = new QButtonGroup(this);
     stopGroup = new QButtonGroup(this);
     parityGroup = new QButtonGroup(this);
-    const char* dataCaptions[2] = {"7 bits", "8 bits"};
-    const char* stopCaptions[2] = {"1 bit", "2 bits"};
+    const char* dataCaptions[2] = {QT_TRANSLATE_NOOP("Lang", "7 bits"), QT_TRANSLATE_NOOP("Lang", "8 bits")};
+    const char* stopCaptions[2] = {QT_TRANSLATE_NOOP("Lang", "1 bit"), QT_TRANSLATE_NOOP("Lang", "2 bits")};
     for (int i = 0; i < 2; ++i) {
         OptionGenSerialDatabits[i] =
-            named(new QRadioButton(dataCaptions[i]), indexed("OptionGenSerialDatabits", i));
+            named(new QRadioButton(Lang::tr(dataCaptions[i])), indexed("OptionGenSerialDatabits", i));
         databitsGroup->addButton(OptionGenSerialDatabits[i], i);
         data->layout()->addWidget(OptionGenSerialDatabits[i]);
-        OptionGenSerialStop[i] = named(new QRadioButton(stopCaptions[i]), indexed("OptionGenSerialStop", i));
+        OptionGenSerialStop[i] =
+            named(new QRadioButton(Lang::tr(stopCaptions[i])), indexed("OptionGenSerialStop", i));
         stopGroup->addButton(OptionGenSerialStop[i], i);
         stop->layout()->addWidget(OptionGenSerialStop[i]);
     }
     // Field value 1 of the parity has no button.
     OptionGenSerialParity = {};
-    const std::pair<int, const char*> parities[3] = {{0, "None"}, {2, "Even"}, {3, "Odd"}};
+    const std::pair<int, const char*> parities[3] = {{0, QT_TRANSLATE_NOOP("Lang", "None")},
+                                                     {2, QT_TRANSLATE_NOOP("Lang", "Even")},
+                                                     {3, QT_TRANSLATE_NOOP("Lang", "Odd")}};
     for (const auto& [index, caption] : parities) {
         OptionGenSerialParity[index] =
-            named(new QRadioButton(caption), indexed("OptionGenSerialParity", index));
+            named(new QRadioButton(Lang::tr(caption)), indexed("OptionGenSerialParity", index));
         parityGroup->addButton(OptionGenSerialParity[index], index);
         parity->layout()->addWidget(OptionGenSerialParity[index]);
     }
@@ -355,8 +373,8 @@ QGroupBox* GeneralPage::buildSerialPort()
     options->addWidget(parity);
     grid->addLayout(options, 1, 0, 1, 4);
 
-    grid->addLayout(readWriteRow("CommandGenSerial", "Read Settings", "Write Settings", CommandGenSerialRead,
-                                 CommandGenSerialWrite),
+    grid->addLayout(readWriteRow("CommandGenSerial", Lang::tr("Read Settings"), Lang::tr("Write Settings"),
+                                 CommandGenSerialRead, CommandGenSerialWrite),
                     2, 0, 1, 4);
     grid->setColumnStretch(3, 1);
     return frame;
@@ -364,9 +382,10 @@ QGroupBox* GeneralPage::buildSerialPort()
 
 QGroupBox* GeneralPage::buildErase()
 {
-    const auto [frame, row] = frameWith<QHBoxLayout>("Configuration Memory", "FrameGenErase");
-    CommandGenEraseFlash = button("Erase Flash", "CommandGenEraseFlash");
-    CommandGenEraseFlash->setToolTip("Erases the whole configuration of the module (takes up to 45 seconds)");
+    const auto [frame, row] = frameWith<QHBoxLayout>(Lang::tr("Configuration Memory"), "FrameGenErase");
+    CommandGenEraseFlash = button(Lang::tr("Erase Flash"), "CommandGenEraseFlash");
+    CommandGenEraseFlash->setToolTip(
+        Lang::tr("Erases the whole configuration of the module (takes up to 45 seconds)"));
     row->addWidget(CommandGenEraseFlash);
     row->addStretch();
     return frame;
@@ -380,13 +399,16 @@ void GeneralPage::bind()
     Bindings& b = bindings;
     const auto base = [this] { return session.config.NumberingBase; };
 
-    b.display([this, &g] { LabelGenVersionString->setText(latin1(g.LabelGenVersionString)); });
+    b.display([this, &g] {
+        LabelGenVersionString->setText(translated("GeneralSettings", g.LabelGenVersionString));
+    });
     // The module stores single-byte characters of 0..127: only printable ones are taken.
     TextGenIDString->setValidator(
         new QRegularExpressionValidator(QRegularExpression("[\\x20-\\x7e]*"), TextGenIDString));
     b.text(TextGenIDString, g.TextGenIDString);
     connect(TextGenIDString, &QLineEdit::editingFinished, this, [this] {
-        guard(("typing in " + controlName(TextGenIDString)).toStdString(), [this] { cutIDString(); });
+        guard(Lang::tr("typing in %1").arg(controlName(TextGenIDString)).toStdString(),
+              [this] { cutIDString(); });
     });
 
     const auto dccEntry = [&b](QLineEdit* box, std::string& field) {
@@ -464,7 +486,8 @@ void GeneralPage::cutIDString()
         return;
     id.resize(kIdStringLength);
     refresh();
-    session.dialogs().message("ID string cut to 12 characters: " + id, Icon::Information);
+    session.dialogs().message(Lang::tr("ID string cut to 12 characters: ").toLatin1().toStdString() + id,
+                              Icon::Information);
 }
 
 void GeneralPage::refresh() { bindings.show(); }

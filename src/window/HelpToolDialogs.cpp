@@ -1,4 +1,5 @@
 #include "window/HelpToolDialogs.h"
+#include "window/Language.h"
 
 #include "window/Bindings.h"
 #include "window/FieldHelp.h"
@@ -63,8 +64,8 @@ void setTextIfChanged(QLineEdit* box, const std::string& text)
 void HelpToolDialog::addOkCancel(QVBoxLayout* layout)
 {
     auto* box = new QDialogButtonBox;
-    OKButton = named(new QPushButton("&OK"), "OKButton");
-    CancelButton = named(new QPushButton("&Cancel"), "CancelButton");
+    OKButton = named(new QPushButton(Lang::tr("&OK")), "OKButton");
+    CancelButton = named(new QPushButton(Lang::tr("&Cancel")), "CancelButton");
     box->addButton(OKButton, QDialogButtonBox::AcceptRole);
     box->addButton(CancelButton, QDialogButtonBox::RejectRole);
     OKButton->setDefault(true);
@@ -76,7 +77,8 @@ void HelpToolDialog::addOkCancel(QVBoxLayout* layout)
 
 // ---- time tool
 
-TimeToolDialog::TimeToolDialog(QWidget* parent) : HelpToolDialog("dlgCT", "KestrelConfig CalcTime", parent)
+TimeToolDialog::TimeToolDialog(QWidget* parent)
+    : HelpToolDialog("dlgCT", Lang::tr("KestrelConfig CalcTime"), parent)
 {
     auto* base = new NumberEntry("TextCTBase", "UpDownCTBase", 2);
     TextCTBase = base->text;
@@ -89,10 +91,10 @@ TimeToolDialog::TimeToolDialog(QWidget* parent) : HelpToolDialog("dlgCT", "Kestr
     SliderCTTime->setTickInterval(8);
     SliderCTTime->setTickPosition(QSlider::TicksBelow);
     SliderCTTime->setMinimumWidth(260);
-    LabelCTBase = labelFor("&Base", "LabelCTBase", TextCTBase);
-    UpDownCTBase->setAccessibleName("Base");
-    LabelCTTime = labelFor("&Time =", "LabelCTTime", SliderCTTime);
-    LabelCTMaxTime = named(new QLabel("Max Time ="), "LabelCTMaxTime");
+    LabelCTBase = labelFor(Lang::tr("&Base"), "LabelCTBase", TextCTBase);
+    UpDownCTBase->setAccessibleName(Lang::tr("Base"));
+    LabelCTTime = labelFor(Lang::tr("&Time ="), "LabelCTTime", SliderCTTime);
+    LabelCTMaxTime = named(new QLabel(Lang::tr("Max Time =")), "LabelCTMaxTime");
     LabelCTMaxTimeValue = named(new QLabel("00:00.00"), "LabelCTMaxTimeValue");
     LabelCTTimeValue = named(new QLabel("00:00.00"), "LabelCTTimeValue");
 
@@ -189,11 +191,11 @@ void TimeToolDialog::showTool() const
 // ---- pattern tool
 
 PatternToolDialog::PatternToolDialog(QWidget* parent)
-    : HelpToolDialog("dlgKestrelCalcPattern", "LynxConfig Calculate Pattern", parent)
+    : HelpToolDialog("dlgKestrelCalcPattern", Lang::tr("LynxConfig Calculate Pattern"), parent)
 {
     auto* boxes = new QGridLayout;
     for (int i = 0; i < 7; ++i) {
-        chkUitgang[i] = named(new QCheckBox(QString("Output +&%1").arg(i)), QString("chkUitgang_%1").arg(i));
+        chkUitgang[i] = named(new QCheckBox(Lang::tr("Output +&%1").arg(i)), QString("chkUitgang_%1").arg(i));
         boxes->addWidget(chkUitgang[i], i, 0);
         connect(chkUitgang[i], &QCheckBox::clicked, this, [this, i](bool checked) {
             command([&] {
@@ -202,8 +204,8 @@ PatternToolDialog::PatternToolDialog(QWidget* parent)
             });
         });
     }
-    chkAllDark = named(new QCheckBox("&All Dark"), "chkAllDark");
-    chkNoDark = named(new QCheckBox("&No Dark-phase"), "chkNoDark");
+    chkAllDark = named(new QCheckBox(Lang::tr("&All Dark")), "chkAllDark");
+    chkNoDark = named(new QCheckBox(Lang::tr("&No Dark-phase")), "chkNoDark");
     boxes->addWidget(chkAllDark, 0, 1);
     boxes->addWidget(chkNoDark, 1, 1);
     boxes->setColumnMinimumWidth(0, 110);
@@ -223,8 +225,8 @@ PatternToolDialog::PatternToolDialog(QWidget* parent)
 
     txtParameter = numberBox("txtParameter", 3);
     txtOriginal = readOnlyBox("txtOriginal");
-    lblParam = labelFor("&Parameter", "lblParam", txtParameter);
-    lblOriginal = labelFor("Original", "lblOriginal", txtOriginal);
+    lblParam = labelFor(Lang::tr("&Parameter"), "lblParam", txtParameter);
+    lblOriginal = labelFor(Lang::tr("Original"), "lblOriginal", txtOriginal);
     connect(txtParameter, &QLineEdit::textEdited, this,
             [this](const QString& typed) { command([&] { tool.setParameterText(fromLatin1(typed)); }); });
 
@@ -268,12 +270,12 @@ void PatternToolDialog::showTool()
 // ---- event-pattern tool
 
 EventPatternToolDialog::EventPatternToolDialog(QWidget* parent)
-    : HelpToolDialog("dlgKestrelCalcEventPattern", "KestrelConfig CalcETImap", parent)
+    : HelpToolDialog("dlgKestrelCalcEventPattern", Lang::tr("KestrelConfig CalcETImap"), parent)
 {
-    auto* inputs = new QGroupBox("Event inputs");
+    auto* inputs = new QGroupBox(Lang::tr("Event inputs"));
     auto* inputsLayout = new QVBoxLayout(inputs);
     for (int i = 0; i < 4; ++i) {
-        chkEvent[i] = named(new QCheckBox(QString("Event Input &%1").arg(i)), QString("chkEvent_%1").arg(i));
+        chkEvent[i] = named(new QCheckBox(Lang::tr("Event Input &%1").arg(i)), QString("chkEvent_%1").arg(i));
         inputsLayout->addWidget(chkEvent[i]);
         connect(chkEvent[i], &QCheckBox::clicked, this, [this, i](bool checked) {
             command([&] {
@@ -284,10 +286,10 @@ EventPatternToolDialog::EventPatternToolDialog(QWidget* parent)
     }
 
     // The options in two columns, Off-Event and On-Event; each caption's mnemonic letter.
-    auto* actions = new QGroupBox("Action");
+    auto* actions = new QGroupBox(Lang::tr("Action"));
     auto* actionsLayout = new QGridLayout(actions);
     options = new QButtonGroup(this);
-    optNoEvent = named(new QRadioButton("No &action"), "optNoEvent");
+    optNoEvent = named(new QRadioButton(Lang::tr("No &action")), "optNoEvent");
     options->addButton(optNoEvent);
     actionsLayout->addWidget(optNoEvent, 0, 0);
     connect(optNoEvent, &QRadioButton::clicked, this, [this] {
@@ -298,7 +300,11 @@ EventPatternToolDialog::EventPatternToolDialog(QWidget* parent)
     });
     const int mnemonic[6] = {0, 0, 1, 1, 2, 4};
     for (int k = 0; k < 6; ++k) {
-        const QString caption = latin1(EventPatternTool::optionCaptions()[k]).insert(mnemonic[k], '&');
+        // A translation carries its own letter.
+        const std::string& english = EventPatternTool::optionCaptions()[k];
+        QString caption = translated("EventPatternTool", english);
+        if (caption == latin1(english))
+            caption.insert(mnemonic[k], '&');
         optEvent[k] = named(new QRadioButton(caption), QString("optEvent_%1").arg(k));
         options->addButton(optEvent[k]);
         actionsLayout->addWidget(optEvent[k], 1 + k % 3, k / 3);
@@ -312,8 +318,8 @@ EventPatternToolDialog::EventPatternToolDialog(QWidget* parent)
 
     txtParameter = readOnlyBox("txtParameter");
     txtOriginal = readOnlyBox("txtOriginal");
-    lblParam = labelFor("Parameter", "lblParam", txtParameter);
-    lblOriginal = labelFor("Original", "lblOriginal", txtOriginal);
+    lblParam = labelFor(Lang::tr("Parameter"), "lblParam", txtParameter);
+    lblOriginal = labelFor(Lang::tr("Original"), "lblOriginal", txtOriginal);
     auto* values = new QFormLayout;
     values->addRow(lblParam, txtParameter);
     values->addRow(lblOriginal, txtOriginal);
@@ -348,18 +354,18 @@ void EventPatternToolDialog::showTool()
 // ---- level tool
 
 LevelToolDialog::LevelToolDialog(QWidget* parent)
-    : HelpToolDialog("dlgKestrelCalcLevel", "LynxConfig Calculate Level", parent)
+    : HelpToolDialog("dlgKestrelCalcLevel", Lang::tr("LynxConfig Calculate Level"), parent)
 {
     txtParameter = numberBox("txtParameter", 3);
     txtLevel = numberBox("txtLevel", 2);
     txtTimeIndex = numberBox("txtTimeIndex", 2);
     txtDelay = readOnlyBox("txtDelay");
     txtDelay->setFixedWidth(80);
-    lblParameter = labelFor("&Parameter", "lblParameter", txtParameter);
-    lblLevel = labelFor("&Level", "lblLevel", txtLevel);
-    lblTimeIndex = labelFor("&Time Index", "lblTimeIndex", txtTimeIndex);
-    lblDelay = labelFor("&Delay", "lblDelay", txtDelay);
-    txtParameter->setToolTip("0..127: 16 x level + time index");
+    lblParameter = labelFor(Lang::tr("&Parameter"), "lblParameter", txtParameter);
+    lblLevel = labelFor(Lang::tr("&Level"), "lblLevel", txtLevel);
+    lblTimeIndex = labelFor(Lang::tr("&Time Index"), "lblTimeIndex", txtTimeIndex);
+    lblDelay = labelFor(Lang::tr("&Delay"), "lblDelay", txtDelay);
+    txtParameter->setToolTip(Lang::tr("0..127: 16 x level + time index"));
 
     auto* values = new QFormLayout;
     values->addRow(lblParameter, txtParameter);

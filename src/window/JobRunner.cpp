@@ -1,6 +1,7 @@
 #include "window/JobRunner.h"
 #include "forms/MainWindowForm.h"
 #include "window/Bindings.h"
+#include "window/Language.h"
 #include "window/QtProgress.h"
 
 #include <QAbstractButton>
@@ -103,8 +104,10 @@ bool JobRunner::blocksInput(QObject* target, QEvent* event) const
 
 bool JobRunner::confirmKeyboardWrite(QAbstractButton* button)
 {
-    return session.dialogs().ask("\"" + spoken(button->text()).toStdString() +
-                                     "\" writes to the module. Write now?",
+    return session.dialogs().ask(Lang::tr("\"%1\" writes to the module. Write now?")
+                                     .arg(spoken(button->text()))
+                                     .toLatin1()
+                                     .toStdString(),
                                  Buttons::YesNo, Icon::Question) == Answer::Yes;
 }
 
@@ -114,7 +117,11 @@ void JobRunner::run(const QString& title, const std::function<bool()>& operation
     Session& s = session;
     window.commit();
     jobReport.clear();
-    JobProgress progress(window.main, title);
+    // The job's name in the user's language (the names are marked where the jobs start);
+    // the outcome is worded from the English one.
+    const QByteArray english = title.toLatin1();
+    const QString shown = QCoreApplication::translate("Lang", english.constData());
+    JobProgress progress(window.main, shown);
     // The estimate counts the direct route's frames; a tunnelled job goes without one.
     if (estimate && !s.link.settings.CheckCorvid)
         progress.setEstimate(
@@ -125,7 +132,7 @@ void JobRunner::run(const QString& title, const std::function<bool()>& operation
     clock.start();
     bool ok = false;
     s.beginJob(title.toStdString()); // the whole-module jobs within count as part of it
-    const bool noFault = guard(title.toStdString(), [&] { ok = operation(); });
+    const bool noFault = guard(shown.toStdString(), [&] { ok = operation(); });
     // A verification that ran to its end has done its job, whatever it found.
     s.endJob(noFault && (ok || verifies));
     s.link.setProgress(nullptr);

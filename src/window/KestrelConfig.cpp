@@ -1,4 +1,5 @@
 #include "window/KestrelConfig.h"
+#include "window/Language.h"
 
 #include "forms/DevicesForm.h"
 #include "platform/ProgramSession.h"
@@ -35,6 +36,7 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTimer>
 #include <QUndoStack>
@@ -112,20 +114,25 @@ KestrelConfig::KestrelConfig(QWidget* parent, UserDialogs* dialogs) : QMainWindo
     connect(CommandVerifyAll, &QPushButton::clicked, this, &KestrelConfig::CommandVerifyAll_Click);
 
     tabs = named(new QTabWidget, "SSTab1");
-    tabs->addTab(buildGeneralPage(), "General");
+    tabs->addTab(buildGeneralPage(), Lang::tr("General"));
     eventPage = new EventPage(
         *core, [this](JobName job) { startJob(job); }, guard.get());
-    tabs->addTab(eventPage, "Event Control");
+    tabs->addTab(eventPage, Lang::tr("Event Control"));
     pinConfigPage = new PinConfigPage(*core, guard.get());
-    tabs->addTab(pinConfigPage, "Pin Configuration");
+    tabs->addTab(pinConfigPage, Lang::tr("Pin Configuration"));
     aspectsPage = new AspectsPage(
         *core, devices, [this](JobName job) { startJob(job); }, guard.get());
-    tabs->addTab(aspectsPage, "Aspects");
+    tabs->addTab(aspectsPage, Lang::tr("Aspects"));
     pinOverviewPage = new PinOverviewPage(*core);
-    tabs->addTab(pinOverviewPage, "Pin Overview");
+    tabs->addTab(pinOverviewPage, Lang::tr("Pin Overview"));
     layoutPage = new LayoutPage(*core, kept);
-    tabs->addTab(layoutPage, "Layout");
+    tabs->addTab(layoutPage, Lang::tr("Layout"));
     layoutPage->onModuleChosen = [this](const FoundModule& m) { chooseModule(m); };
+    // Each tab keeps its English name, which the user guide's sections are headed by.
+    int tab = 0;
+    for (const char* english :
+         {"General", "Event Control", "Pin Configuration", "Aspects", "Pin Overview", "Layout"})
+        tabs->tabBar()->setTabData(tab++, QString(english));
     layout->addWidget(tabs, 1);
     explainFields(tabs);
     // One pin selection for the whole window: a pin chosen on one page is shown on all.
@@ -233,21 +240,21 @@ void KestrelConfig::updateWindowState()
     const QString name = currentFile().isEmpty() ? QString() : QFileInfo(currentFile()).fileName();
     const bool changed = unsavedChanges();
     LabelStatusModule->setText(
-        QString::fromStdString(work.moduleState(core->moduleImage(), core->config, core->general)));
+        translated("WorkState", work.moduleState(core->moduleImage(), core->config, core->general)));
     // "Kestrel Config" while nothing is changed; "mylayout.dat* - Kestrel Config" (or
     // "untitled*") while the configuration differs from its file or was never saved.
     if (name.isEmpty() && !changed)
         setWindowTitle("Kestrel Config");
     else
-        setWindowTitle((name.isEmpty() ? QString("untitled") : name) + (changed ? "*" : "") +
+        setWindowTitle((name.isEmpty() ? Lang::tr("untitled") : name) + (changed ? "*" : "") +
                        " - Kestrel Config");
     SerialPort& port = core->link.port();
     const int rate = core->linkControl.OptionBitRate;
     static const char* rates[3] = {"9600", "19200", "38400"};
-    LabelStatusPort->setText(port.isOpen() ? QString("Port %1 open at %2 bit/s")
+    LabelStatusPort->setText(port.isOpen() ? Lang::tr("Port %1 open at %2 bit/s")
                                                  .arg(QString::fromStdString(core->linkControl.ComboPortText))
                                                  .arg(rates[std::clamp(rate, 0, 2)])
-                                           : QString("Port closed"));
+                                           : Lang::tr("Port closed"));
     if (tabs->currentWidget() == layoutPage) // the port's list, numbered as the window numbers
         layoutPage->refresh();
 }
@@ -278,7 +285,7 @@ void KestrelConfig::closeEvent(QCloseEvent* event)
         return;
     }
     bool leave = false;
-    (*guard)([&] { leave = keepChangesSafe("Closing the window"); });
+    (*guard)([&] { leave = keepChangesSafe(QT_TRANSLATE_NOOP("Lang", "Closing the window")); });
     if (leave) {
         WindowSettings::save(*this);
         event->accept();
@@ -322,7 +329,7 @@ void KestrelConfig::restoreFromBackup() { files->restoreFromBackup(); }
 
 void KestrelConfig::CommandReadAll_Click()
 {
-    if (keepChangesSafe("Reading the module"))
+    if (keepChangesSafe(QT_TRANSLATE_NOOP("Lang", "Reading the module")))
         startJob(Jobs::ReadAll);
 }
 

@@ -1,4 +1,5 @@
 #include "window/LayoutPage.h"
+#include "window/Language.h"
 
 #include "files/Backups.h"
 #include "platform/BackupFolder.h"
@@ -38,25 +39,28 @@ LayoutPage::LayoutPage(Session& s, RememberedSettings& k, QWidget* parent)
 {
     setObjectName("PageLayout");
     QWidget* content = scrolledContent(this);
-    CommandFindModules = captioned(new QPushButton("Find Modules"), "CommandFindModules");
+    CommandFindModules = captioned(new QPushButton(Lang::tr("Find Modules")), "CommandFindModules");
     CommandFindModules->setToolTip(
-        "Asks every bus address of the route in use (0..15 directly, 0..31 through "
-        "the Corvid system) for its version and ID string; each address is given "
-        "500 ms to answer");
-    CheckXaddressRange = captioned(new QCheckBox("Also every eXtended address"), "CheckXaddressRange");
-    CheckXaddressRange->setToolTip("Find Modules also asks eXtended addresses 0..95 on each address that "
-                                   "answered (about 48 s an address)");
-    CommandBackUpAll = captioned(new QPushButton("Back Up All"), "CommandBackUpAll");
-    CommandBackUpAll->setToolTip("Read All of each module in the list, kept with its backups");
-    CommandCheckAll = captioned(new QPushButton("Check All"), "CommandCheckAll");
-    CommandCheckAll->setToolTip("Compares each module in the list with its newest backup");
+        Lang::tr("Asks every bus address of the route in use (0..15 directly, 0..31 through "
+                 "the Corvid system) for its version and ID string; each address is given "
+                 "500 ms to answer"));
+    CheckXaddressRange =
+        captioned(new QCheckBox(Lang::tr("Also every eXtended address")), "CheckXaddressRange");
+    CheckXaddressRange->setToolTip(
+        Lang::tr("Find Modules also asks eXtended addresses 0..95 on each address that "
+                 "answered (about 48 s an address)"));
+    CommandBackUpAll = captioned(new QPushButton(Lang::tr("Back Up All")), "CommandBackUpAll");
+    CommandBackUpAll->setToolTip(Lang::tr("Read All of each module in the list, kept with its backups"));
+    CommandCheckAll = captioned(new QPushButton(Lang::tr("Check All")), "CommandCheckAll");
+    CommandCheckAll->setToolTip(Lang::tr("Compares each module in the list with its newest backup"));
 
-    auto* caption = named(new QLabel("Modules of the layout:"), "LabelLayout");
+    auto* caption = named(new QLabel(Lang::tr("Modules of the layout:")), "LabelLayout");
     TableLayout = named(new QTableWidget(0, Columns), "TableLayout");
-    TableLayout->setAccessibleName("Modules of the layout");
+    TableLayout->setAccessibleName(Lang::tr("Modules of the layout"));
     caption->setBuddy(TableLayout);
-    TableLayout->setHorizontalHeaderLabels(
-        {"Route", "Address", "eXtended", "Version", "ID String", "Newest Backup", "State"});
+    TableLayout->setHorizontalHeaderLabels({Lang::tr("Route"), Lang::tr("Address"), Lang::tr("eXtended"),
+                                            Lang::tr("Version"), Lang::tr("ID String"),
+                                            Lang::tr("Newest Backup"), Lang::tr("State")});
     TableLayout->verticalHeader()->hide();
     TableLayout->setEditTriggers(QAbstractItemView::NoEditTriggers);
     TableLayout->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -64,7 +68,7 @@ LayoutPage::LayoutPage(Session& s, RememberedSettings& k, QWidget* parent)
     TableLayout->setAlternatingRowColors(true);
     TableLayout->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     TableLayout->horizontalHeader()->setStretchLastSection(true);
-    TableLayout->setToolTip("Double-click a module (or press Return) to make it the target");
+    TableLayout->setToolTip(Lang::tr("Double-click a module (or press Return) to make it the target"));
     TableLayout->installEventFilter(this);
     connect(TableLayout, &QTableWidget::cellDoubleClicked, this, [this](int row, int) {
         if (onModuleChosen && row >= 0 && row < int(list.size()))
@@ -158,25 +162,25 @@ void LayoutPage::refresh()
     TableLayout->setRowCount(int(list.size()));
     for (int row = 0; row < int(list.size()); ++row) {
         const LayoutEntry& e = list[std::size_t(row)];
-        std::string newest = "none";
+        std::string newest = Lang::tr("none").toLatin1().toStdString();
         for (const BackupEntry& b : backups) // the complete ones first, newest first
             if (b.id == e.module.id) {
-                newest = b.incomplete ? b.when + " (incomplete)" : b.when;
+                newest = b.incomplete ? b.when + Lang::tr(" (incomplete)").toLatin1().toStdString() : b.when;
                 break;
             }
-        const std::string cells[Columns] = {e.module.corvid ? "Corvid" : "direct",
-                                            std::to_string(e.module.address + base),
-                                            e.module.xaddress ? std::to_string(*e.module.xaddress + base)
-                                                              : "",
-                                            e.module.version,
-                                            e.module.id,
-                                            newest,
-                                            stateText(e)};
+        const std::string cells[Columns] = {
+            e.module.corvid ? std::string("Corvid") : Lang::tr("direct").toLatin1().toStdString(),
+            std::to_string(e.module.address + base),
+            e.module.xaddress ? std::to_string(*e.module.xaddress + base) : "",
+            e.module.version,
+            e.module.id,
+            newest,
+            stateText(e)};
         for (int c = 0; c < Columns; ++c) {
             QTableWidgetItem* item = TableLayout->item(row, c);
             if (!item)
                 TableLayout->setItem(row, c, item = new QTableWidgetItem);
-            item->setText(latin1(cells[c]));
+            item->setText(c == State ? translated("LayoutList", cells[c]) : latin1(cells[c]));
         }
     }
 }
@@ -186,14 +190,14 @@ void LayoutPage::showSummary(const QString& title, const QString& summary)
     if (!frmLayoutSummary) {
         frmLayoutSummary = named(new QDialog(window()), "frmLayoutSummary");
         auto* l = new QVBoxLayout(frmLayoutSummary);
-        auto* caption = named(new QLabel("Summary:"), "LabelLayoutSummary");
+        auto* caption = named(new QLabel(Lang::tr("Summary:")), "LabelLayoutSummary");
         txtLayoutSummary = named(new QPlainTextEdit, "txtLayoutSummary");
         txtLayoutSummary->setReadOnly(true);
-        txtLayoutSummary->setAccessibleName("Summary");
+        txtLayoutSummary->setAccessibleName(Lang::tr("Summary"));
         txtLayoutSummary->setFont(QFont("monospace"));
         txtLayoutSummary->setLineWrapMode(QPlainTextEdit::NoWrap);
         caption->setBuddy(txtLayoutSummary);
-        auto* close = captioned(new QPushButton("Close"), "CommandLayoutSummaryClose");
+        auto* close = captioned(new QPushButton(Lang::tr("Close")), "CommandLayoutSummaryClose");
         connect(close, &QPushButton::clicked, frmLayoutSummary, &QDialog::accept);
         l->addWidget(caption);
         l->addWidget(txtLayoutSummary);

@@ -1,5 +1,6 @@
 #include "window/LinkArea.h"
 #include "window/Bindings.h"
+#include "window/Language.h"
 #include "window/Widgets.h"
 
 #include <QCheckBox>
@@ -32,7 +33,7 @@ template <typename W> struct Named {
 // An address box with its up-down, named, and its caption, which also names the box.
 NumberEntry* addressEntry(Caption caption, Named<QLineEdit> box, Named<QSpinBox> upDown)
 {
-    caption.label = named(new QLabel(caption.text), caption.name);
+    caption.label = named(new QLabel(Lang::tr(caption.text)), caption.name);
     auto* entry = new NumberEntry(box.name, upDown.name);
     box.widget = entry->text;
     upDown.widget = entry->upDown;
@@ -43,25 +44,25 @@ NumberEntry* addressEntry(Caption caption, Named<QLineEdit> box, Named<QSpinBox>
 } // namespace
 
 LinkArea::LinkArea(Session& session, CorvidControl& corvid, Guard& guard, RememberedSettings& kept)
-    : QGroupBox("Communication"), session(session), corvid(corvid), guard(guard), kept(kept)
+    : QGroupBox(Lang::tr("Communication")), session(session), corvid(corvid), guard(guard), kept(kept)
 {
     setObjectName("FrameComm");
     auto* grid = new QGridLayout(this);
 
-    LabelPort = named(new QLabel("Port:"), "LabelPort");
+    LabelPort = named(new QLabel(Lang::tr("Port:")), "LabelPort");
     LabelPort->installEventFilter(this);
     ComboPort = named(new QComboBox, "ComboPort");
     ComboPort->setEditable(true); // a typed device path is accepted too
     ComboPort->setMinimumWidth(160);
     ComboPort->setInsertPolicy(QComboBox::NoInsert);
-    cmdRefreshComm = named(new QPushButton("&Refresh"), "cmdRefreshComm");
+    cmdRefreshComm = named(new QPushButton(Lang::tr("&Refresh")), "cmdRefreshComm");
     nameAfter(LabelPort, ComboPort);
-    ComboPort->lineEdit()->setAccessibleName("Port");
+    ComboPort->lineEdit()->setAccessibleName(Lang::tr("Port"));
     grid->addWidget(LabelPort, 0, 0);
     grid->addWidget(ComboPort, 0, 1);
     grid->addWidget(cmdRefreshComm, 0, 2);
 
-    FrameBitrate = named(new QGroupBox("Bitrate"), "FrameBitrate");
+    FrameBitrate = named(new QGroupBox(Lang::tr("Bitrate")), "FrameBitrate");
     auto* rates = new QHBoxLayout(FrameBitrate);
     const char* captions[3] = {"9k6", "19k2", "38k4"};
     for (int i = 0; i < 3; ++i) {
@@ -72,33 +73,34 @@ LinkArea::LinkArea(Session& session, CorvidControl& corvid, Guard& guard, Rememb
     OptionBitRate[session.linkControl.OptionBitRate]->setChecked(true);
     grid->addWidget(FrameBitrate, 1, 0, 1, 3);
 
-    auto* address = addressEntry({LabelAddress, "Module Address", "LabelAddress"},
+    auto* address = addressEntry({LabelAddress, QT_TRANSLATE_NOOP("Lang", "Module Address"), "LabelAddress"},
                                  {TextAddress, "TextAddress"}, {UpDownAddress, "UpDownAddress"});
     grid->addWidget(LabelAddress, 0, 3);
     grid->addWidget(address, 0, 4, Qt::AlignLeft);
 
-    CheckXaddress = named(new QCheckBox("Use eXtended Addr"), "CheckXaddress");
-    auto* xAddress = addressEntry({LabelXaddress, "eXtended address", "LabelXaddress"},
-                                  {txtXaddr, "txtXaddr"}, {UpDownXaddr, "UpDownXaddr"});
+    CheckXaddress = named(new QCheckBox(Lang::tr("Use eXtended Addr")), "CheckXaddress");
+    auto* xAddress =
+        addressEntry({LabelXaddress, QT_TRANSLATE_NOOP("Lang", "eXtended address"), "LabelXaddress"},
+                     {txtXaddr, "txtXaddr"}, {UpDownXaddr, "UpDownXaddr"});
     UpDownXaddr->setAccessibleName(txtXaddr->accessibleName());
     grid->addWidget(CheckXaddress, 1, 3);
     grid->addWidget(LabelXaddress, 2, 3);
     grid->addWidget(xAddress, 2, 4, Qt::AlignLeft);
     grid->setColumnStretch(4, 1); // room to spare goes beside the addresses
 
-    CheckKestrelBD = named(new QCheckBox("Bidirectional Comm."), "CheckKestrelBD");
-    CheckCorvid = named(new QCheckBox("Use Corvid Tunneling"), "CheckCorvid");
-    cmdSetTM = named(new QPushButton("A&ctivate Transparent Mode"), "cmdSetTM");
-    cmdSetTM->setToolTip("Switch Hub-A or Linkbox in Transparant Mode for Kestrel Configuration");
+    CheckKestrelBD = named(new QCheckBox(Lang::tr("Bidirectional Comm.")), "CheckKestrelBD");
+    CheckCorvid = named(new QCheckBox(Lang::tr("Use Corvid Tunneling")), "CheckCorvid");
+    cmdSetTM = named(new QPushButton(Lang::tr("A&ctivate Transparent Mode")), "cmdSetTM");
+    cmdSetTM->setToolTip(Lang::tr("Switch Hub-A or Linkbox in Transparant Mode for Kestrel Configuration"));
     grid->addWidget(cmdSetTM, 3, 5);
-    CheckKLnumber = named(new QCheckBox("Start numbering at 1"), "CheckKLnumber");
+    CheckKLnumber = named(new QCheckBox(Lang::tr("Start numbering at 1")), "CheckKLnumber");
     grid->addWidget(CheckKestrelBD, 0, 5);
     grid->addWidget(CheckCorvid, 1, 5);
     grid->addWidget(CheckKLnumber, 2, 5);
 
     TextResponse = named(new QLineEdit, "TextResponse");
     TextResponse->setReadOnly(true);
-    grid->addWidget(captionFor("Response:", TextResponse), 3, 0);
+    grid->addWidget(captionFor(Lang::tr("Response:"), TextResponse), 3, 0);
     grid->addWidget(TextResponse, 3, 1, 1, 4);
 
     // Tab reads the grid row by row.
@@ -152,7 +154,7 @@ void LinkArea::refresh()
     UpDownXaddr->setValue(s.TargetXAddress + base);
     txtXaddr->setText(QString::fromStdString(lc.xAddressText()));
     CheckXaddress->setChecked(s.CheckXaddress);
-    LabelAddress->setText(QString::fromStdString(lc.addressLabel()));
+    LabelAddress->setText(translated("LinkControl", lc.addressLabel()));
     nameAfter(LabelAddress, TextAddress); // the caption names the address of the route in use
     UpDownAddress->setAccessibleName(TextAddress->accessibleName());
     LabelXaddress->setVisible(s.CheckXaddress);

@@ -2,6 +2,7 @@
 #include "window/Bindings.h"
 #include "window/JobRunner.h"
 #include "window/KestrelConfig.h"
+#include "window/Language.h"
 #include "window/Widgets.h"
 
 #include <QDialog>
@@ -13,8 +14,8 @@ namespace kestrel {
 
 namespace {
 // A window that shows a read-only text (named `textName`), at the top of its column.
-QVBoxLayout* textWindow(QDialog*& window, QWidget* parent, const char* name, const char* title,
-                        QPlainTextEdit*& text, const char* textName, const char* accessibleName)
+QVBoxLayout* textWindow(QDialog*& window, QWidget* parent, const char* name, const QString& title,
+                        QPlainTextEdit*& text, const char* textName, const QString& accessibleName)
 {
     window = named(new QDialog(parent), name);
     window->setWindowTitle(title);
@@ -30,11 +31,12 @@ QVBoxLayout* textWindow(QDialog*& window, QWidget* parent, const char* name, con
 QDialog* makeVerificationWindow(QWidget* parent, QPlainTextEdit*& text, QPushButton*& showDifferences)
 {
     QDialog* window = nullptr;
-    QVBoxLayout* l = textWindow(window, parent, "frmKestrelVerification", "Kestrel Verification", text,
-                                "txtVerification", "Verification report");
-    showDifferences = named(new QPushButton("Show Differences"), "CommandShowDifferences");
-    showDifferences->setAccessibleName("Show Differences");
-    showDifferences->setToolTip("Reads the module beside the configuration and lists every difference");
+    QVBoxLayout* l = textWindow(window, parent, "frmKestrelVerification", Lang::tr("Kestrel Verification"),
+                                text, "txtVerification", Lang::tr("Verification report"));
+    showDifferences = named(new QPushButton(Lang::tr("Show Differences")), "CommandShowDifferences");
+    showDifferences->setAccessibleName(Lang::tr("Show Differences"));
+    showDifferences->setToolTip(
+        Lang::tr("Reads the module beside the configuration and lists every difference"));
     l->addWidget(showDifferences);
     window->resize(560, 420);
     return window;
@@ -43,10 +45,10 @@ QDialog* makeVerificationWindow(QWidget* parent, QPlainTextEdit*& text, QPushBut
 QDialog* makeCorvidWindow(QWidget* parent, QPlainTextEdit*& text, QPushButton*& clear)
 {
     QDialog* window = nullptr;
-    QVBoxLayout* l = textWindow(window, parent, "frmCorvidComm", "Corvid Communication", text,
-                                "txtCorvidCommunication", "Corvid communication");
+    QVBoxLayout* l = textWindow(window, parent, "frmCorvidComm", Lang::tr("Corvid Communication"), text,
+                                "txtCorvidCommunication", Lang::tr("Corvid communication"));
     text->setFont(QFont("monospace"));
-    clear = named(new QPushButton("&Clear"), "cmdClear");
+    clear = named(new QPushButton(Lang::tr("&Clear")), "cmdClear");
     l->addWidget(clear);
     window->resize(480, 360);
     return window;

@@ -1,4 +1,5 @@
 #include "window/ModuleJobs.h"
+#include "window/Language.h"
 
 #include "forms/ConfigDiff.h"
 #include "forms/LayoutList.h"
@@ -45,13 +46,15 @@ void ModuleJobs::add(KestrelConfig& w)
     jobs.add(Jobs::ReadAll, [&w, &runner, &s] {
         bool completed = false;
         runner.run(
-            "Read All", [&s, &completed] { return completed = ReadAll(s); }, true, false, LongJob::ReadAll);
+            QT_TRANSLATE_NOOP("Lang", "Read All"), [&s, &completed] { return completed = ReadAll(s); }, true,
+            false, LongJob::ReadAll);
         if (!completed)
             return;
         w.files->saveReadBackup();
         if (w.work.readFromModule(s.general)) {
-            w.LabelStatusJob->setText(w.LabelStatusJob->text() + "; the file held another module, so the "
-                                                                 "configuration is now untitled");
+            w.LabelStatusJob->setText(
+                w.LabelStatusJob->text() +
+                Lang::tr("; the file held another module, so the configuration is now untitled"));
             w.updateWindowState();
         }
     });
@@ -59,73 +62,84 @@ void ModuleJobs::add(KestrelConfig& w)
         const bool withConfig = pinConfigToo();
         runner.writes(withConfig);
         runner.run(
-            "Write All", [&s, withConfig] { return WriteAll(s, withConfig); }, false, false,
-            LongJob::WriteAll);
+            QT_TRANSLATE_NOOP("Lang", "Write All"), [&s, withConfig] { return WriteAll(s, withConfig); },
+            false, false, LongJob::WriteAll);
     });
     jobs.add(Jobs::VerifyAll, [&runner, &s] {
         runner.run(
-            "Verify All", [&s] { return VerifyAll(s); }, false, true, LongJob::VerifyAll);
+            QT_TRANSLATE_NOOP("Lang", "Verify All"), [&s] { return VerifyAll(s); }, false, true,
+            LongJob::VerifyAll);
     });
     jobs.add(Jobs::ReadPin, [&runner, &s] {
         runner.run(
-            "Read Pin", [&s] { return ReadPin(s, s.config.CurrentPin); }, true);
+            QT_TRANSLATE_NOOP("Lang", "Read Pin"), [&s] { return ReadPin(s, s.config.CurrentPin); }, true);
     });
     jobs.add(Jobs::WritePin, [&runner, &s, pinConfigToo] {
         const bool withConfig = pinConfigToo();
         runner.writes(withConfig);
-        runner.run("Write Pin", [&s, withConfig] { return WritePin(s, s.config.CurrentPin, withConfig); });
+        runner.run(QT_TRANSLATE_NOOP("Lang", "Write Pin"),
+                   [&s, withConfig] { return WritePin(s, s.config.CurrentPin, withConfig); });
     });
     jobs.add(Jobs::ReadDevice, [&runner, &s] {
         runner.run(
-            "Read Device", [&s] { return ReadDevice(s); }, true);
+            QT_TRANSLATE_NOOP("Lang", "Read Device"), [&s] { return ReadDevice(s); }, true);
     });
-    jobs.add(Jobs::WriteDevice,
-             [&runner, &s] { runner.run("Write Device", [&s] { return WriteDevice(s); }); });
+    jobs.add(Jobs::WriteDevice, [&runner, &s] {
+        runner.run(QT_TRANSLATE_NOOP("Lang", "Write Device"), [&s] { return WriteDevice(s); });
+    });
     jobs.add(Jobs::ReadAllPins, [&runner, &s] {
         runner.run(
-            "Read All Pins", [&s] { return ReadAllPins(s); }, true, false, LongJob::ReadAllPins);
+            QT_TRANSLATE_NOOP("Lang", "Read All Pins"), [&s] { return ReadAllPins(s); }, true, false,
+            LongJob::ReadAllPins);
     });
     jobs.add(Jobs::WriteAllPins, [&runner, &s, pinConfigToo] {
         const bool withConfig = pinConfigToo();
         runner.writes(withConfig);
         runner.run(
-            "Write All Pins", [&s, withConfig] { return WriteAllPins(s, withConfig); }, false, false,
-            LongJob::WriteAllPins);
+            QT_TRANSLATE_NOOP("Lang", "Write All Pins"),
+            [&s, withConfig] { return WriteAllPins(s, withConfig); }, false, false, LongJob::WriteAllPins);
     });
     jobs.add(Jobs::PAspReadPin, [&runner, &s] {
         runner.run(
-            "Read Pin", [&s] { return PAspReadPin(s, s.config.CurrentPin); }, true);
+            QT_TRANSLATE_NOOP("Lang", "Read Pin"), [&s] { return PAspReadPin(s, s.config.CurrentPin); },
+            true);
     });
-    jobs.add(Jobs::PAspWritePin,
-             [&runner, &s] { runner.run("Write Pin", [&s] { return WritePin(s, s.config.CurrentPin); }); });
+    jobs.add(Jobs::PAspWritePin, [&runner, &s] {
+        runner.run(QT_TRANSLATE_NOOP("Lang", "Write Pin"), [&s] { return WritePin(s, s.config.CurrentPin); });
+    });
     jobs.add(Jobs::VerifyAllPins, [&runner, verify] {
-        runner.run("Verify All Pins", verify(&VerifyAllPins), false, true, LongJob::VerifyAllPins);
+        runner.run(QT_TRANSLATE_NOOP("Lang", "Verify All Pins"), verify(&VerifyAllPins), false, true,
+                   LongJob::VerifyAllPins);
     });
-    jobs.add(Jobs::ECWriteAll,
-             [&runner, &s] { runner.run("Write All Events", [&s] { return WriteAllEvents(s); }); });
+    jobs.add(Jobs::ECWriteAll, [&runner, &s] {
+        runner.run(QT_TRANSLATE_NOOP("Lang", "Write All Events"), [&s] { return WriteAllEvents(s); });
+    });
     jobs.add(Jobs::ECReadAll, [&runner, &s] {
         runner.run(
-            "Read All Events", [&s] { return ReadAllEvents(s); }, true);
+            QT_TRANSLATE_NOOP("Lang", "Read All Events"), [&s] { return ReadAllEvents(s); }, true);
     });
     jobs.add(Jobs::ECVerify, [&runner, verify] {
-        runner.run("Verify Event Control", verify(&VerifyEventControl), false, true);
+        runner.run(QT_TRANSLATE_NOOP("Lang", "Verify Event Control"), verify(&VerifyEventControl), false,
+                   true);
     });
     jobs.add(Jobs::WriteChanges, [&runner, &s, pinConfigToo] {
         const bool withConfig = pinConfigToo();
         runner.writes(withConfig);
-        runner.run("Write Changes", [&s, withConfig] { return WriteChanges(s, withConfig); });
+        runner.run(QT_TRANSLATE_NOOP("Lang", "Write Changes"),
+                   [&s, withConfig] { return WriteChanges(s, withConfig); });
     });
     jobs.add(Jobs::CompareModule, [&w, &runner, &s] {
         Configuration module;
         GeneralSettings gmodule;
         bool read = false;
-        runner.run("Compare with Module", [&] { return read = ReadAllInto(s, module, gmodule); });
+        runner.run(QT_TRANSLATE_NOOP("Lang", "Compare with Module"),
+                   [&] { return read = ReadAllInto(s, module, gmodule); });
         if (!read)
             return;
         (*w.guard)([&] { showComparison(w, module, gmodule); });
     });
     jobs.add(Jobs::PAspWriteAspect, [&runner, &s] {
-        runner.run("Write Aspect",
+        runner.run(QT_TRANSLATE_NOOP("Lang", "Write Aspect"),
                    [&s] { return WriteAspect(s, s.config.CurrentPin, s.config.CurrentAspect); });
     });
     addLayoutJobs(w);
@@ -150,12 +164,12 @@ void ModuleJobs::addLayoutJobs(KestrelConfig& w)
         return page.modules();
     };
     w.jobs.add(Jobs::FindModules, [&runner, &w, scan] {
-        runner.run("Find Modules", scan);
+        runner.run(QT_TRANSLATE_NOOP("Lang", "Find Modules"), scan);
         w.tabs->setCurrentWidget(w.layoutPage);
     });
     w.jobs.add(Jobs::BackUpAll, [&runner, &s, &page, listed] {
         std::vector<ModuleBackup> results;
-        runner.run("Back Up All", [&] {
+        runner.run(QT_TRANSLATE_NOOP("Lang", "Back Up All"), [&] {
             results = backUpAll(s, listed(), backupRoot().toStdString());
             return std::all_of(results.begin(), results.end(), [](const ModuleBackup& b) { return b.ok; });
         });
@@ -164,11 +178,11 @@ void ModuleJobs::addLayoutJobs(KestrelConfig& w)
         rows.reserve(results.size());
         for (const ModuleBackup& b : results)
             rows.push_back(summaryRow(b, s.config.NumberingBase));
-        page.showSummary("Back Up All", latin1(summaryTable(rows)));
+        page.showSummary(Lang::tr("Back Up All"), latin1(summaryTable(rows)));
     });
     w.jobs.add(Jobs::CheckAll, [&runner, &s, &page, listed] {
         std::vector<ModuleCheck> results;
-        runner.run("Check All", [&] {
+        runner.run(QT_TRANSLATE_NOOP("Lang", "Check All"), [&] {
             results = checkAll(s, listed(), backupRoot().toStdString());
             return std::all_of(results.begin(), results.end(),
                                [](const ModuleCheck& c) { return c.verdict != CheckVerdict::Failed; });
@@ -186,7 +200,7 @@ void ModuleJobs::addLayoutJobs(KestrelConfig& w)
                 text += line + "\n";
             text += "\n";
         }
-        page.showSummary("Check All", latin1(text + summaryTable(rows)));
+        page.showSummary(Lang::tr("Check All"), latin1(text + summaryTable(rows)));
     });
 }
 
@@ -231,7 +245,7 @@ void ModuleJobs::showComparison(KestrelConfig& w, const Configuration& module, c
         w.frmCompare = new CompareDialog(&w);
         QObject::connect(w.frmCompare, &CompareDialog::applyChosen, &w, [&w, &s](bool thenWrite) {
             if (w.frmCompare->chosenCount() > 0)
-                (*w.guard)("Take from Module", [&w, &s] {
+                (*w.guard)(Lang::tr("Take from Module").toStdString(), [&w, &s] {
                     w.frmCompare->takeChosen(s.config, s.general);
                     RecalcAddressIndex(s.config);
                 });

@@ -1,4 +1,5 @@
 #include "window/PinConfigPage.h"
+#include "window/Language.h"
 
 #include "base/Text.h"
 #include "forms/AspectEditor.h"
@@ -27,10 +28,11 @@
 namespace kestrel {
 
 namespace {
-const char* const kDynamicTip = "If checked, use active dynamic parameters, else go directly to position";
+const char* const kDynamicTip =
+    QT_TRANSLATE_NOOP("Lang", "If checked, use active dynamic parameters, else go directly to position");
 
 // A caption and its box in the next row of a two-column grid.
-void addField(QGridLayout* grid, int row, int column, const char* caption, QLineEdit* box)
+void addField(QGridLayout* grid, int row, int column, const QString& caption, QLineEdit* box)
 {
     grid->addWidget(captionFor(caption, box), row, column * 3);
     grid->addWidget(box, row, column * 3 + 1);
@@ -45,7 +47,7 @@ QLabel* warningLabel(const QString& name)
 
 // The live controls of an output: its box, slider, set button, the option that makes
 // the move slow or dynamic, and the jump button.
-QGroupBox* liveFrame(const char* title, const QString& frameName, const char* caption, QLineEdit* box,
+QGroupBox* liveFrame(const QString& title, const QString& frameName, const QString& caption, QLineEdit* box,
                      QSlider* slider, QPushButton* set, QCheckBox* option, QPushButton* jump)
 {
     auto* frame = named(new QGroupBox(title), frameName);
@@ -85,8 +87,8 @@ PinConfigPage::PinConfigPage(Session& s, Guard* sharedGuard, QWidget* parent)
     UpDownPCFGPin = pinEntry->upDown;
     UpDownPCFGPin->setRange(0, kPinCount - 1);
     pinRow->setSpacing(0);
-    pinRow->addWidget(captionFor("Pin ", TextPCFGPin));
-    UpDownPCFGPin->setAccessibleName("Pin");
+    pinRow->addWidget(captionFor(Lang::tr("Pin "), TextPCFGPin));
+    UpDownPCFGPin->setAccessibleName(Lang::tr("Pin"));
     pinRow->addWidget(pinEntry);
     pinRow->addStretch();
     layout->addLayout(pinRow);
@@ -94,34 +96,39 @@ PinConfigPage::PinConfigPage(Session& s, Guard* sharedGuard, QWidget* parent)
     SSTabPCFG = named(new QTabWidget, "SSTabPCFG");
     auto* clearPage = new QWidget;
     auto* clearLayout = new QVBoxLayout(clearPage);
-    LabelPCFGClear = named(new QLabel("Pin is not configured"), "LabelPCFGClear");
+    LabelPCFGClear = named(new QLabel(Lang::tr("Pin is not configured")), "LabelPCFGClear");
     clearLayout->addWidget(LabelPCFGClear);
     clearLayout->addStretch();
     // The pages in the order of ModePage.
-    SSTabPCFG->addTab(clearPage, "Not configured");
-    SSTabPCFG->addTab(buildServoPage(), "Servo");
-    SSTabPCFG->addTab(buildPwmPage(), "PWM");
-    SSTabPCFG->addTab(buildInputPage(), "Input");
-    static const char* const modeTips[4] = {"the pin no longer drives anything", "the pin drives a servo",
-                                            "the pin drives a PWM output", "the pin reads an input"};
+    SSTabPCFG->addTab(clearPage, Lang::tr("Not configured"));
+    SSTabPCFG->addTab(buildServoPage(), Lang::tr("Servo"));
+    SSTabPCFG->addTab(buildPwmPage(), Lang::tr("PWM"));
+    SSTabPCFG->addTab(buildInputPage(), Lang::tr("Input"));
+    static const char* const modeTips[4] = {QT_TRANSLATE_NOOP("Lang", "the pin no longer drives anything"),
+                                            QT_TRANSLATE_NOOP("Lang", "the pin drives a servo"),
+                                            QT_TRANSLATE_NOOP("Lang", "the pin drives a PWM output"),
+                                            QT_TRANSLATE_NOOP("Lang", "the pin reads an input")};
     for (int i = 0; i < 4; ++i)
         SSTabPCFG->setTabToolTip(i,
-                                 QString("Picking this page changes the pin's mode: %1. It asks first when "
-                                         "the pin's parameters would be replaced.")
-                                     .arg(modeTips[i]));
+                                 Lang::tr("Picking this page changes the pin's mode: %1. It asks first when "
+                                          "the pin's parameters would be replaced.")
+                                     .arg(Lang::tr(modeTips[i])));
     layout->addWidget(SSTabPCFG, 1);
 
-    auto* transfer = named(new QGroupBox("Pin Configuration"), "FramePCFGTransfer");
+    auto* transfer = named(new QGroupBox(Lang::tr("Pin Configuration")), "FramePCFGTransfer");
     auto* row = new QHBoxLayout(transfer);
-    const char* getCaptions[2] = {"Get Pin Config", "Re&ad Pin Config"};
-    const char* setCaptions[2] = {"Set Pin Config", "Write Pin Config"};
-    const char* getTips[2] = {"Gets the active parameters", "Reads the parameters from Flash memory"};
-    const char* setTips[2] = {"Sets Active Servo parameters (not permanent)",
-                              "Writes Servo Parameters to Flash memory"};
+    const char* getCaptions[2] = {QT_TRANSLATE_NOOP("Lang", "Get Pin Config"),
+                                  QT_TRANSLATE_NOOP("Lang", "Re&ad Pin Config")};
+    const char* setCaptions[2] = {QT_TRANSLATE_NOOP("Lang", "Set Pin Config"),
+                                  QT_TRANSLATE_NOOP("Lang", "Write Pin Config")};
+    const char* getTips[2] = {QT_TRANSLATE_NOOP("Lang", "Gets the active parameters"),
+                              QT_TRANSLATE_NOOP("Lang", "Reads the parameters from Flash memory")};
+    const char* setTips[2] = {QT_TRANSLATE_NOOP("Lang", "Sets Active Servo parameters (not permanent)"),
+                              QT_TRANSLATE_NOOP("Lang", "Writes Servo Parameters to Flash memory")};
     for (int i = 0; i < 2; ++i) {
         CommandPCFGGetParam[i] =
-            named(new QPushButton(getCaptions[i]), QString("CommandPCFGGetParam_%1").arg(i));
-        CommandPCFGGetParam[i]->setToolTip(getTips[i]);
+            named(new QPushButton(Lang::tr(getCaptions[i])), QString("CommandPCFGGetParam_%1").arg(i));
+        CommandPCFGGetParam[i]->setToolTip(Lang::tr(getTips[i]));
         row->addWidget(CommandPCFGGetParam[i]);
         connect(CommandPCFGGetParam[i], &QPushButton::clicked, this,
                 [this, i] { CommandPCFGGetParam_Click(i); });
@@ -129,8 +136,8 @@ PinConfigPage::PinConfigPage(Session& s, Guard* sharedGuard, QWidget* parent)
     row->addSpacing(24);
     for (int i = 0; i < 2; ++i) {
         CommandPCFGSetParam[i] =
-            named(new QPushButton(setCaptions[i]), QString("CommandPCFGSetParam_%1").arg(i));
-        CommandPCFGSetParam[i]->setToolTip(setTips[i]);
+            named(new QPushButton(Lang::tr(setCaptions[i])), QString("CommandPCFGSetParam_%1").arg(i));
+        CommandPCFGSetParam[i]->setToolTip(Lang::tr(setTips[i]));
         row->addWidget(CommandPCFGSetParam[i]);
         connect(CommandPCFGSetParam[i], &QPushButton::clicked, this,
                 [this, i] { CommandPCFGSetParam_Click(i); });
@@ -161,9 +168,11 @@ void PinConfigPage::followEachOther(QLineEdit* box, PinField field, QSlider* sli
 
 QCheckBox* PinConfigPage::invertedBox(const QString& name, ModePage page)
 {
-    auto* box = named(new QCheckBox("Inverted"), name);
+    auto* box = named(new QCheckBox(Lang::tr("Inverted")), name);
     connect(box, &QCheckBox::clicked, this, [this, box, page](bool checked) {
-        guard((checked ? "checking " : "unchecking ") + controlName(box).toStdString(),
+        guard((checked ? Lang::tr("checking %1") : Lang::tr("unchecking %1"))
+                  .arg(controlName(box))
+                  .toStdString(),
               [&] { setInverted(pin(), page, checked); });
     });
     return box;
@@ -191,16 +200,16 @@ QWidget* PinConfigPage::buildServoPage()
     SliderServo = named(new QSlider(Qt::Horizontal), "SliderServo");
     sliderFor(SliderServo, PinField::TextPosition);
     SliderServo->setTracking(false); // sends when let go, not for every step of a drag
-    CommandSrvLevel = named(new QPushButton("Set Position"), "CommandSrvLevel");
-    CheckSrvDynamic = named(new QCheckBox("Dynamic"), "CheckSrvDynamic");
-    CheckSrvDynamic->setToolTip(kDynamicTip);
-    CommandStopSrv = named(new QPushButton("&Jump"), "CommandStopSrv");
-    CommandStopSrv->setToolTip("Jump to target position immediately, override dynamic parameters");
-    layout->addWidget(liveFrame("Servo Position", "FrameSrvLive", "Position", TextPosition, SliderServo,
-                                CommandSrvLevel, CheckSrvDynamic, CommandStopSrv),
+    CommandSrvLevel = named(new QPushButton(Lang::tr("Set Position")), "CommandSrvLevel");
+    CheckSrvDynamic = named(new QCheckBox(Lang::tr("Dynamic")), "CheckSrvDynamic");
+    CheckSrvDynamic->setToolTip(Lang::tr(kDynamicTip));
+    CommandStopSrv = named(new QPushButton(Lang::tr("&Jump")), "CommandStopSrv");
+    CommandStopSrv->setToolTip(Lang::tr("Jump to target position immediately, override dynamic parameters"));
+    layout->addWidget(liveFrame(Lang::tr("Servo Position"), "FrameSrvLive", "Position", TextPosition,
+                                SliderServo, CommandSrvLevel, CheckSrvDynamic, CommandStopSrv),
                       0, 0);
 
-    auto* params = named(new QGroupBox("Servo Parameters"), "FrameSrvParams");
+    auto* params = named(new QGroupBox(Lang::tr("Servo Parameters")), "FrameSrvParams");
     auto* grid = new QGridLayout(params);
     TextSrvInitPos = fieldBox(PinField::TextSrvInitPos, "TextSrvInitPos");
     TextMidpoint = fieldBox(PinField::TextMidpoint, "TextMidpoint");
@@ -212,45 +221,48 @@ QWidget* PinConfigPage::buildServoPage()
     TextBounceDownFactor = fieldBox(PinField::TextBounceDownFactor, "TextBounceDownFactor");
     TextBounceUp = fieldBox(PinField::TextBounceUp, "TextBounceUp");
     TextBounceUpFactor = fieldBox(PinField::TextBounceUpFactor, "TextBounceUpFactor");
-    addField(grid, 0, 0, "Initial Position", TextSrvInitPos);
-    addField(grid, 0, 1, "Midpoint", TextMidpoint);
-    addField(grid, 1, 0, "1/Mass", TextSrvAntiMass);
-    addField(grid, 1, 1, "Damping", TextSrvFriction);
-    addField(grid, 2, 0, "MaxSpd", TextSrvMaxSpd);
-    addField(grid, 2, 1, "MaxAcc", TextSrvMaxAccel);
-    addField(grid, 3, 0, "BounceDown", TextBounceDown);
-    addField(grid, 3, 1, "BounceDownFactor", TextBounceDownFactor);
-    addField(grid, 4, 0, "BounceUp", TextBounceUp);
-    addField(grid, 4, 1, "BounceUpFactor", TextBounceUpFactor);
+    addField(grid, 0, 0, Lang::tr("Initial Position"), TextSrvInitPos);
+    addField(grid, 0, 1, Lang::tr("Midpoint"), TextMidpoint);
+    addField(grid, 1, 0, Lang::tr("1/Mass"), TextSrvAntiMass);
+    addField(grid, 1, 1, Lang::tr("Damping"), TextSrvFriction);
+    addField(grid, 2, 0, Lang::tr("MaxSpd"), TextSrvMaxSpd);
+    addField(grid, 2, 1, Lang::tr("MaxAcc"), TextSrvMaxAccel);
+    addField(grid, 3, 0, Lang::tr("BounceDown"), TextBounceDown);
+    addField(grid, 3, 1, Lang::tr("BounceDownFactor"), TextBounceDownFactor);
+    addField(grid, 4, 0, Lang::tr("BounceUp"), TextBounceUp);
+    addField(grid, 4, 1, Lang::tr("BounceUpFactor"), TextBounceUpFactor);
     grid->setColumnMinimumWidth(2, 16);
     grid->setColumnStretch(5, 1);
     layout->addWidget(params, 0, 1, 2, 1);
 
     auto* side = new QVBoxLayout;
-    auto* rangeFrame = named(new QGroupBox("Range"), "FrameServoRange");
+    auto* rangeFrame = named(new QGroupBox(Lang::tr("Range")), "FrameServoRange");
     auto* ranges = new QHBoxLayout(rangeFrame);
     auto* rangeGroup = new QButtonGroup(this);
     for (int i = 0; i < 5; ++i) {
         OptionServoRange[i] =
             named(new QRadioButton(QString::number(i)), QString("OptionServoRange_%1").arg(i));
-        OptionServoRange[i]->setAccessibleName(QString("Range %1").arg(i));
+        OptionServoRange[i]->setAccessibleName(Lang::tr("Range %1").arg(i));
         rangeGroup->addButton(OptionServoRange[i], i);
         ranges->addWidget(OptionServoRange[i]);
     }
-    connect(rangeGroup, &QButtonGroup::idClicked, this,
-            [this](int id) { servoFlagsChanged("choosing " + controlName(OptionServoRange[id])); });
+    connect(rangeGroup, &QButtonGroup::idClicked, this, [this](int id) {
+        servoFlagsChanged(Lang::tr("choosing %1").arg(controlName(OptionServoRange[id])));
+    });
     side->addWidget(rangeFrame);
 
-    auto* flags = named(new QGroupBox("Servo State"), "FrameSrvFlags");
+    auto* flags = named(new QGroupBox(Lang::tr("Servo State")), "FrameSrvFlags");
     auto* flagRow = new QHBoxLayout(flags);
-    ChkSrvAutoSuspend = named(new QCheckBox("Auto Suspend"), "ChkSrvAutoSuspend");
-    ChkSrvSuspended = named(new QCheckBox("Suspended"), "ChkSrvSuspended");
-    ChkSrvSuspended->setToolTip("If checked, the servo is not activated until the first position is sent");
-    ChkSrvInitialized = named(new QCheckBox("Servo Initialised"), "ChkSrvInitialized");
+    ChkSrvAutoSuspend = named(new QCheckBox(Lang::tr("Auto Suspend")), "ChkSrvAutoSuspend");
+    ChkSrvSuspended = named(new QCheckBox(Lang::tr("Suspended")), "ChkSrvSuspended");
+    ChkSrvSuspended->setToolTip(
+        Lang::tr("If checked, the servo is not activated until the first position is sent"));
+    ChkSrvInitialized = named(new QCheckBox(Lang::tr("Servo Initialised")), "ChkSrvInitialized");
     for (QCheckBox* box : {ChkSrvAutoSuspend, ChkSrvSuspended, ChkSrvInitialized}) {
         flagRow->addWidget(box);
         connect(box, &QCheckBox::clicked, this, [this, box](bool checked) {
-            servoFlagsChanged((checked ? "checking " : "unchecking ") + controlName(box));
+            servoFlagsChanged(
+                (checked ? Lang::tr("checking %1") : Lang::tr("unchecking %1")).arg(controlName(box)));
         });
     }
     side->addWidget(flags);
@@ -282,40 +294,44 @@ QWidget* PinConfigPage::buildPwmPage()
     SliderPWM = named(new QSlider(Qt::Horizontal), "SliderPWM");
     sliderFor(SliderPWM, PinField::TextPWMLevel);
     SliderPWM->setTracking(false);
-    CommandPWMLevel = named(new QPushButton("Set Level"), "CommandPWMLevel");
-    CheckPWMSlow = named(new QCheckBox("Slow"), "CheckPWMSlow");
-    CheckPWMSlow->setToolTip(kDynamicTip);
-    CommandPWMJump = named(new QPushButton("J&ump"), "CommandPWMJump");
-    CommandPWMJump->setToolTip("Jump to the level immediately, without the slow change");
+    CommandPWMLevel = named(new QPushButton(Lang::tr("Set Level")), "CommandPWMLevel");
+    CheckPWMSlow = named(new QCheckBox(Lang::tr("Slow")), "CheckPWMSlow");
+    CheckPWMSlow->setToolTip(Lang::tr(kDynamicTip));
+    CommandPWMJump = named(new QPushButton(Lang::tr("J&ump")), "CommandPWMJump");
+    CommandPWMJump->setToolTip(Lang::tr("Jump to the level immediately, without the slow change"));
     auto* left = new QVBoxLayout;
     left->addWidget(CheckPWMInverted);
-    left->addWidget(liveFrame("PWM Level", "FramePWMLive", "Level", TextPWMLevel, SliderPWM, CommandPWMLevel,
-                              CheckPWMSlow, CommandPWMJump));
+    left->addWidget(liveFrame(Lang::tr("PWM Level"), "FramePWMLive", "Level", TextPWMLevel, SliderPWM,
+                              CommandPWMLevel, CheckPWMSlow, CommandPWMJump));
 
     auto* modes = new QHBoxLayout;
-    auto* driveFrame = named(new QGroupBox("Drive Mode"), "FramePWMDriveMode");
-    auto* accelFrame = named(new QGroupBox("Acceleration Mode"), "FramePWMAccelMode");
+    auto* driveFrame = named(new QGroupBox(Lang::tr("Drive Mode")), "FramePWMDriveMode");
+    auto* accelFrame = named(new QGroupBox(Lang::tr("Acceleration Mode")), "FramePWMAccelMode");
     auto* driveGroup = new QButtonGroup(this);
     auto* accelGroup = new QButtonGroup(this);
     auto* driveLayout = new QVBoxLayout(driveFrame);
     auto* accelLayout = new QVBoxLayout(accelFrame);
-    const char* modeCaptions[2] = {"Linear", "Logaritmic"};
+    const char* modeCaptions[2] = {QT_TRANSLATE_NOOP("Lang", "Linear"),
+                                   QT_TRANSLATE_NOOP("Lang", "Logaritmic")};
     for (int i = 0; i < 2; ++i) {
         OptionPWMDriveMode[i] =
-            named(new QRadioButton(modeCaptions[i]), QString("OptionPWMDriveMode_%1").arg(i));
+            named(new QRadioButton(Lang::tr(modeCaptions[i])), QString("OptionPWMDriveMode_%1").arg(i));
         OptionPWMAccelMode[i] =
-            named(new QRadioButton(modeCaptions[i]), QString("OptionPWMAccelMode_%1").arg(i));
-        OptionPWMDriveMode[i]->setAccessibleName(QString("%1 drive mode").arg(modeCaptions[i]));
-        OptionPWMAccelMode[i]->setAccessibleName(QString("%1 acceleration mode").arg(modeCaptions[i]));
+            named(new QRadioButton(Lang::tr(modeCaptions[i])), QString("OptionPWMAccelMode_%1").arg(i));
+        OptionPWMDriveMode[i]->setAccessibleName(Lang::tr("%1 drive mode").arg(Lang::tr(modeCaptions[i])));
+        OptionPWMAccelMode[i]->setAccessibleName(
+            Lang::tr("%1 acceleration mode").arg(Lang::tr(modeCaptions[i])));
         driveGroup->addButton(OptionPWMDriveMode[i], i);
         accelGroup->addButton(OptionPWMAccelMode[i], i);
         driveLayout->addWidget(OptionPWMDriveMode[i]);
         accelLayout->addWidget(OptionPWMAccelMode[i]);
     }
-    connect(driveGroup, &QButtonGroup::idClicked, this,
-            [this](int id) { pwmModesChanged("choosing " + controlName(OptionPWMDriveMode[id])); });
-    connect(accelGroup, &QButtonGroup::idClicked, this,
-            [this](int id) { pwmModesChanged("choosing " + controlName(OptionPWMAccelMode[id])); });
+    connect(driveGroup, &QButtonGroup::idClicked, this, [this](int id) {
+        pwmModesChanged(Lang::tr("choosing %1").arg(controlName(OptionPWMDriveMode[id])));
+    });
+    connect(accelGroup, &QButtonGroup::idClicked, this, [this](int id) {
+        pwmModesChanged(Lang::tr("choosing %1").arg(controlName(OptionPWMAccelMode[id])));
+    });
     modes->addWidget(driveFrame);
     modes->addWidget(accelFrame);
     modes->addStretch();
@@ -323,16 +339,16 @@ QWidget* PinConfigPage::buildPwmPage()
     left->addStretch();
     layout->addLayout(left, 0, 0);
 
-    auto* params = named(new QGroupBox("PWM Parameters"), "FramePWMParams");
+    auto* params = named(new QGroupBox(Lang::tr("PWM Parameters")), "FramePWMParams");
     auto* grid = new QGridLayout(params);
     TextPWMInitLevel = fieldBox(PinField::TextPWMInitLevel, "TextPWMInitLevel");
     TextPWMAccel = fieldBox(PinField::TextPWMAccel, "TextPWMAccel");
     TextPWMOffLevel = fieldBox(PinField::TextPWMOffLevel, "TextPWMOffLevel");
     TextPWMOnLevel = fieldBox(PinField::TextPWMOnLevel, "TextPWMOnLevel");
-    addField(grid, 0, 0, "Initial Level", TextPWMInitLevel);
-    addField(grid, 1, 0, "Acceleration", TextPWMAccel);
-    addField(grid, 2, 0, "Off - Level", TextPWMOffLevel);
-    addField(grid, 3, 0, "On-Level", TextPWMOnLevel);
+    addField(grid, 0, 0, Lang::tr("Initial Level"), TextPWMInitLevel);
+    addField(grid, 1, 0, Lang::tr("Acceleration"), TextPWMAccel);
+    addField(grid, 2, 0, Lang::tr("Off - Level"), TextPWMOffLevel);
+    addField(grid, 3, 0, Lang::tr("On-Level"), TextPWMOnLevel);
     grid->setRowStretch(4, 1);
     layout->addWidget(params, 0, 1);
     layout->setColumnStretch(0, 1);
@@ -352,12 +368,12 @@ QWidget* PinConfigPage::buildInputPage()
     CheckInputInvert = invertedBox("CheckInputInvert", ModePage::Input);
     layout->addWidget(CheckInputInvert);
 
-    auto* frame = named(new QGroupBox("Debounce"), "FrameInputDelay");
+    auto* frame = named(new QGroupBox(Lang::tr("Debounce")), "FrameInputDelay");
     auto* grid = new QGridLayout(frame);
     TextInputDelay[0] = fieldBox(PinField::TextInputDelay0, "TextInputDelay_0");
     TextInputDelay[1] = fieldBox(PinField::TextInputDelay1, "TextInputDelay_1");
-    addField(grid, 0, 0, "ON-delay (debounce)", TextInputDelay[0]);
-    addField(grid, 1, 0, "OFF-delay (debounce)", TextInputDelay[1]);
+    addField(grid, 0, 0, Lang::tr("ON-delay (debounce)"), TextInputDelay[0]);
+    addField(grid, 1, 0, Lang::tr("OFF-delay (debounce)"), TextInputDelay[1]);
     auto* row = new QHBoxLayout;
     row->addWidget(frame);
     row->addStretch();
@@ -468,7 +484,7 @@ void PinConfigPage::commitField(PinField field)
     const std::string typed = box->text().toLatin1().toStdString();
     box->setModified(false);
     const QSignalBlocker block(box);
-    guard(("typing in " + controlName(box)).toStdString(),
+    guard(Lang::tr("typing in %1").arg(controlName(box)).toStdString(),
           [&] { box->setText(latin1(takePinField(pin(), field, typed))); });
     shown[box] = box->text();
 }
@@ -520,17 +536,19 @@ void PinConfigPage::SSTabPCFG_Click(int page)
     // The page chosen by hand gives the pin its mode (choosePage); Cancel of the question
     // goes back to the pin's own page.
     if (choosingClearsParameters(pin())) {
-        const std::string question =
-            "Pin " + std::to_string(session.config.CurrentPin + session.config.NumberingBase) + " becomes " +
-            SSTabPCFG->tabText(page).toStdString() + ": its " + SSTabPCFG->tabText(shownPage).toStdString() +
-            " parameters are replaced by cleared ones.\r\nChange the pin's mode?";
+        const std::string question = Lang::tr("Pin %1 becomes %2: its %3 parameters are replaced by cleared "
+                                              "ones.\r\nChange the pin's mode?")
+                                         .arg(session.config.CurrentPin + session.config.NumberingBase)
+                                         .arg(SSTabPCFG->tabText(page), SSTabPCFG->tabText(shownPage))
+                                         .toLatin1()
+                                         .toStdString();
         if (session.dialogs().ask(question, Buttons::OkCancel, Icon::Question) != Answer::Ok) {
             const QSignalBlocker block(SSTabPCFG);
             SSTabPCFG->setCurrentIndex(shownPage);
             return;
         }
     }
-    guard("choosing " + SSTabPCFG->tabText(page).remove(QChar('&')).toStdString(),
+    guard(Lang::tr("choosing %1").arg(SSTabPCFG->tabText(page).remove(QChar('&'))).toStdString(),
           [&] { choosePage(pin(), static_cast<ModePage>(page)); });
     refresh();
 }

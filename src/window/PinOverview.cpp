@@ -1,4 +1,5 @@
 #include "window/PinOverview.h"
+#include "window/Language.h"
 
 #include "forms/PinOverview.h"
 #include "window/Bindings.h"
@@ -19,9 +20,10 @@ PinOverviewPage::PinOverviewPage(Session& s, QWidget* parent) : QWidget(parent),
     setObjectName("PagePinOverview");
     TablePinOverview = new QTableWidget(kPinCount, Columns, this);
     TablePinOverview->setObjectName("TablePinOverview");
-    TablePinOverview->setAccessibleName("Pin overview");
-    TablePinOverview->setHorizontalHeaderLabels(
-        {"Pin", "Description", "Mode", "Layout", "Device", "DCC", "eXtd DCC", "Serial"});
+    TablePinOverview->setAccessibleName(Lang::tr("Pin overview"));
+    TablePinOverview->setHorizontalHeaderLabels({Lang::tr("Pin"), Lang::tr("Description"), Lang::tr("Mode"),
+                                                 Lang::tr("Layout"), Lang::tr("Device"), Lang::tr("DCC"),
+                                                 Lang::tr("eXtd DCC"), Lang::tr("Serial")});
     TablePinOverview->verticalHeader()->hide();
     TablePinOverview->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     TablePinOverview->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -54,7 +56,9 @@ void PinOverviewPage::refresh() const
                     item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
                 TablePinOverview->setItem(p, c, item);
             }
-            item->setText(latin1(*texts[c]));
+            // The mode and "No addr in use" in the user's language; numbers and names as they are.
+            item->setText(c == Mode ? translated("PinMode", *texts[c])
+                                    : translated("PinOverview", *texts[c]));
         }
     }
     const int current = session.config.CurrentPin;

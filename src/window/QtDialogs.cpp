@@ -1,4 +1,5 @@
 #include "window/QtDialogs.h"
+#include "window/Language.h"
 
 #include <QApplication>
 #include <QFileDialog>
@@ -22,13 +23,18 @@ QMessageBox::Icon qtIcon(Icon icon)
     return icons[static_cast<int>(icon)];
 }
 
+// The kinds of file the filters name, in the user's language where the filter shows them.
+[[maybe_unused]] const char* const kFileKinds[] = {QT_TRANSLATE_NOOP("Lang", "Kestrel Config Data"),
+                                                   QT_TRANSLATE_NOOP("Lang", "Kestrel Device Definitions")};
+
 // "Kestrel Config Data|*.dat" -> "Kestrel Config Data (*.dat)"
 QString qtFilter(const std::string& filter)
 {
     const QStringList parts = QString::fromLatin1(filter.c_str()).split('|');
     QStringList out;
     for (int i = 0; i + 1 < parts.size(); i += 2)
-        out << parts[i] + " (" + parts[i + 1] + ")";
+        out << QCoreApplication::translate("Lang", parts[i].toLatin1().constData()) + " (" + parts[i + 1] +
+                   ")";
     return out.join(";;");
 }
 } // namespace
@@ -57,12 +63,14 @@ namespace {
 int showBox(QMessageBox& box)
 {
     // Every answer has its letter (Alt+S, Alt+D, ...).
-    for (auto [which, caption] :
-         {std::pair{QMessageBox::Save, "&Save"}, std::pair{QMessageBox::Discard, "&Discard"},
-          std::pair{QMessageBox::Cancel, "&Cancel"}, std::pair{QMessageBox::Yes, "&Yes"},
-          std::pair{QMessageBox::No, "&No"}, std::pair{QMessageBox::Ok, "&OK"}})
+    for (auto [which, caption] : {std::pair{QMessageBox::Save, QT_TRANSLATE_NOOP("Lang", "&Save")},
+                                  std::pair{QMessageBox::Discard, QT_TRANSLATE_NOOP("Lang", "&Discard")},
+                                  std::pair{QMessageBox::Cancel, QT_TRANSLATE_NOOP("Lang", "&Cancel")},
+                                  std::pair{QMessageBox::Yes, QT_TRANSLATE_NOOP("Lang", "&Yes")},
+                                  std::pair{QMessageBox::No, QT_TRANSLATE_NOOP("Lang", "&No")},
+                                  std::pair{QMessageBox::Ok, QT_TRANSLATE_NOOP("Lang", "&OK")}})
         if (QAbstractButton* button = box.button(which))
-            button->setText(caption);
+            button->setText(Lang::tr(caption));
     // The keyboard goes back where it was when the box closes, also after two in a row.
     // Right after another box the window may not be active yet: its own window then.
     QPointer<QWidget> active = QApplication::activeWindow();
@@ -86,7 +94,7 @@ int showBox(QMessageBox& box)
 
 void QtDialogs::message(const std::string& text, Icon icon)
 {
-    QMessageBox box(qtIcon(icon), QApplication::applicationDisplayName(), QString::fromLatin1(text.c_str()),
+    QMessageBox box(qtIcon(icon), QApplication::applicationDisplayName(), translated("Messages", text),
                     QMessageBox::Ok, owner());
     box.setObjectName("dlgMessage");
     showBox(box);
@@ -101,8 +109,8 @@ Answer QtDialogs::ask(const std::string& text, Buttons buttons, Icon icon)
         set = QMessageBox::Yes | QMessageBox::No;
     else if (buttons == Buttons::SaveDiscardCancel)
         set = QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel;
-    QMessageBox box(qtIcon(icon), QApplication::applicationDisplayName(), QString::fromLatin1(text.c_str()),
-                    set, owner());
+    QMessageBox box(qtIcon(icon), QApplication::applicationDisplayName(), translated("Messages", text), set,
+                    owner());
     box.setObjectName("dlgQuestion");
     const int clicked = showBox(box);
     static const std::pair<QMessageBox::StandardButton, Answer> answers[] = {
@@ -136,7 +144,7 @@ std::string QtDialogs::openFileName(const std::string& title, const std::string&
     if (!folder.isEmpty())
         start = start.isEmpty() ? folder : folder + "/" + start;
     const QString chosen =
-        QFileDialog::getOpenFileName(owner(), QString::fromLatin1(title.c_str()), start, qtFilter(filter));
+        QFileDialog::getOpenFileName(owner(), translated("Messages", title), start, qtFilter(filter));
     if (!chosen.isEmpty() && !definitions)
         lastFolder = QFileInfo(chosen).absolutePath();
     return chosen.toStdString();
@@ -145,7 +153,7 @@ std::string QtDialogs::openFileName(const std::string& title, const std::string&
 std::string QtDialogs::saveFileName(const std::string& title, const std::string& filter,
                                     const std::string& defaultName)
 {
-    QFileDialog dialog(owner(), QString::fromLatin1(title.c_str()), lastFolder, qtFilter(filter));
+    QFileDialog dialog(owner(), translated("Messages", title), lastFolder, qtFilter(filter));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     // The suffix is added before the dialog asks about replacing an existing file.

@@ -1,4 +1,5 @@
 #include "window/QtProgress.h"
+#include "window/Language.h"
 
 #include <QCoreApplication>
 #include <QProgressDialog>
@@ -7,7 +8,7 @@ namespace kestrel {
 
 QtProgress::QtProgress(QWidget* parent, const QString& title)
 {
-    dialog = new QProgressDialog(title, "Cancel", 0, 0, parent);
+    dialog = new QProgressDialog(title, Lang::tr("Cancel"), 0, 0, parent);
     dialog->setObjectName("dlgProgress");
     dialog->setWindowModality(Qt::WindowModal);
     dialog->setMinimumDuration(300);
@@ -39,7 +40,7 @@ void QtProgress::exchanged()
         ++exchanges;
         const auto left = secondsLeft(*estimate, bitRate, exchanges, clock.elapsed() / 1000.0);
         const QString text =
-            left ? QString("About %1 left").arg(QString::fromStdString(durationText(*left))) : QString();
+            left ? Lang::tr("About %1 left").arg(QString::fromStdString(durationText(*left))) : QString();
         if (text != timeText) {
             timeText = text;
             showLabel();
@@ -56,7 +57,7 @@ void QtProgress::setEstimate(const JobTraffic& traffic, int baud)
     bitRate = baud;
     exchanges = 0;
     clock.start();
-    timeText = QString("About %1 at %2 baud")
+    timeText = Lang::tr("About %1 at %2 baud")
                    .arg(QString::fromStdString(durationText(wireSeconds(traffic, baud))))
                    .arg(baud);
     showLabel();

@@ -1,4 +1,5 @@
 #include "window/TrafficMonitor.h"
+#include "window/Language.h"
 #include "window/Widgets.h"
 
 #include "files/TextFile.h"
@@ -21,20 +22,15 @@
 
 namespace kestrel {
 
-namespace {
-
-const QString kAllCommands = "All commands";
-
-} // namespace
-
 TrafficMonitor::TrafficMonitor(Link& link, QWidget* parent) : QDialog(parent), link(link)
 {
     setObjectName("frmTrafficMonitor");
-    setWindowTitle("Traffic Monitor");
+    setWindowTitle(Lang::tr("Traffic Monitor"));
 
     grdMonitor = named(new QTableWidget(0, 4), "grdMonitor");
-    grdMonitor->setHorizontalHeaderLabels({"Time", "Dir", "Bytes", "Decoded"});
-    grdMonitor->setAccessibleName("Frames");
+    grdMonitor->setHorizontalHeaderLabels(
+        {Lang::tr("Time"), Lang::tr("Dir"), Lang::tr("Bytes"), Lang::tr("Decoded")});
+    grdMonitor->setAccessibleName(Lang::tr("Frames"));
     grdMonitor->setEditTriggers(QAbstractItemView::NoEditTriggers);
     grdMonitor->setSelectionBehavior(QAbstractItemView::SelectRows);
     grdMonitor->setWordWrap(false);
@@ -48,18 +44,18 @@ TrafficMonitor::TrafficMonitor(Link& link, QWidget* parent) : QDialog(parent), l
     grdMonitor->setColumnWidth(2, 42 * digit);
 
     cboMonitorFilter = named(new QComboBox, "cboMonitorFilter");
-    cboMonitorFilter->addItem(kAllCommands);
+    cboMonitorFilter->addItem(Lang::tr("All commands")); // the first item, every frame
     cboMonitorFilter->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    cboMonitorFilter->setAccessibleName("Filter");
-    lblMonitorFilter = named(new QLabel("&Filter:"), "lblMonitorFilter");
+    cboMonitorFilter->setAccessibleName(Lang::tr("Filter"));
+    lblMonitorFilter = named(new QLabel(Lang::tr("&Filter:")), "lblMonitorFilter");
     lblMonitorFilter->setBuddy(cboMonitorFilter);
-    chkMonitorPause = named(new QCheckBox("&Pause"), "chkMonitorPause");
-    chkMonitorPause->setAccessibleName("Pause");
-    chkMonitorPause->setToolTip("Frames that arrive while paused are not kept, only counted");
+    chkMonitorPause = named(new QCheckBox(Lang::tr("&Pause")), "chkMonitorPause");
+    chkMonitorPause->setAccessibleName(Lang::tr("Pause"));
+    chkMonitorPause->setToolTip(Lang::tr("Frames that arrive while paused are not kept, only counted"));
     lblMonitorDropped = named(new QLabel, "lblMonitorDropped");
-    cmdMonitorClear = named(new QPushButton("&Clear"), "cmdMonitorClear");
-    cmdMonitorSave = named(new QPushButton("&Save As..."), "cmdMonitorSave");
-    cmdMonitorSave->setToolTip("Saves the frames shown as plain text, one line per frame");
+    cmdMonitorClear = named(new QPushButton(Lang::tr("&Clear")), "cmdMonitorClear");
+    cmdMonitorSave = named(new QPushButton(Lang::tr("&Save As...")), "cmdMonitorSave");
+    cmdMonitorSave->setToolTip(Lang::tr("Saves the frames shown as plain text, one line per frame"));
 
     auto* bar = new QHBoxLayout;
     bar->addWidget(lblMonitorFilter);
@@ -114,7 +110,7 @@ void TrafficMonitor::closeEvent(QCloseEvent* event)
 void TrafficMonitor::received(FrameDirection direction, FrameRoute route, const std::vector<int>& bytes)
 {
     if (chkMonitorPause->isChecked()) {
-        lblMonitorDropped->setText(QString("%1 not kept while paused").arg(++dropped));
+        lblMonitorDropped->setText(Lang::tr("%1 not kept while paused").arg(++dropped));
         return;
     }
     const DecodedFrame decoded = decodeFrame(direction, route, bytes);
@@ -146,7 +142,7 @@ void TrafficMonitor::received(FrameDirection direction, FrameRoute route, const 
 bool TrafficMonitor::passes(const Line& line) const
 {
     const QString filter = cboMonitorFilter->currentText();
-    return filter == kAllCommands || filter == line.command;
+    return cboMonitorFilter->currentIndex() == 0 || filter == line.command;
 }
 
 void TrafficMonitor::addRow(const Line& line) const
@@ -183,7 +179,9 @@ void TrafficMonitor::clear()
 
 void TrafficMonitor::save()
 {
-    const std::string path = link.dialogs().saveFileName("Save Traffic", "Text files|*.txt", "");
+    const std::string path =
+        link.dialogs().saveFileName(Lang::tr("Save Traffic").toLatin1().toStdString(),
+                                    Lang::tr("Text files").toLatin1().toStdString() + "|*.txt", "");
     if (path.empty())
         return;
     std::string text;

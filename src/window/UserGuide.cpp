@@ -1,4 +1,5 @@
 #include "window/UserGuide.h"
+#include "window/Language.h"
 #include "window/Widgets.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -12,10 +13,10 @@ namespace kestrel {
 UserGuide::UserGuide(QWidget* parent) : QDialog(parent)
 {
     setObjectName("frmUserGuide");
-    setWindowTitle("Kestrel Config User Guide");
+    setWindowTitle(Lang::tr("Kestrel Config User Guide"));
     auto* l = new QVBoxLayout(this);
     TextUserGuide = named(new QTextBrowser, "TextUserGuide");
-    TextUserGuide->setAccessibleName("User guide");
+    TextUserGuide->setAccessibleName(Lang::tr("User guide"));
     TextUserGuide->setOpenExternalLinks(true);
     TextUserGuide->setSource(QUrl("qrc:/user-guide.md"), QTextDocument::MarkdownResource);
     l->addWidget(TextUserGuide);

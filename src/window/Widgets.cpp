@@ -1,4 +1,5 @@
 #include "window/Widgets.h"
+#include "window/Language.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
@@ -96,7 +97,7 @@ bool NumberEntry::eventFilter(QObject* watched, QEvent* event)
 
 QLabel* workingNotice()
 {
-    auto* label = named(new QLabel("Working ... Please WAIT"), "LabelAction");
+    auto* label = named(new QLabel(Lang::tr("Working ... Please WAIT")), "LabelAction");
     label->setStyleSheet("color: #b00000; font-weight: bold;");
     QSizePolicy keepRoom = label->sizePolicy();
     keepRoom.setRetainSizeWhenHidden(true);

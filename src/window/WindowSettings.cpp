@@ -1,4 +1,5 @@
 #include "window/WindowSettings.h"
+#include "window/Language.h"
 
 #include "window/FileActions.h"
 #include "window/KestrelConfig.h"
@@ -43,9 +44,10 @@ void WindowSettings::load(KestrelConfig& w)
     w.refreshLinkDisplays();
     // The last port (or, on a first start, the simulated module), shown but not yet opened.
     w.ComboPort->setEditText(kept.port);
-    w.ComboPort->setToolTip("The serial port; \"sim\" is a simulated layout built into the program, "
-                            "\"sim (Corvid)\" the same behind a simulated Corvid system. Return or a "
-                            "choice from the list opens it.");
+    w.ComboPort->setToolTip(
+        Lang::tr("The serial port; \"sim\" is a simulated layout built into the program, "
+                 "\"sim (Corvid)\" the same behind a simulated Corvid system. Return or a "
+                 "choice from the list opens it."));
 }
 
 void WindowSettings::firstSize(KestrelConfig& w)

@@ -1,0 +1,108 @@
+// The window in German and Dutch: every page shown, no English text left on it.
+#include "window/Language.h"
+#include "gui/GuiRig.h"
+
+#include <QAbstractButton>
+#include <QGroupBox>
+#include <QMenuBar>
+#include <QRegularExpression>
+#include <QTabWidget>
+#include <QTableWidget>
+#include <QTreeWidget>
+
+#include <map>
+
+using namespace kestrel;
+using namespace kestrel::test;
+
+namespace {
+
+using Texts = std::map<QString, QString>; // where (tab, widget's place, kind) -> text
+
+void add(Texts& texts, const QString& where, const QString& text)
+{
+    if (!text.isEmpty())
+        texts[where] = text;
+}
+
+void addMenu(Texts& texts, const QString& where, const QList<QAction*>& actions)
+{
+    for (int i = 0; i < actions.size(); ++i)
+        if (actions[i]->isVisible() && !actions[i]->isSeparator()) {
+            add(texts, where + QString("/%1").arg(i), actions[i]->text());
+            if (actions[i]->menu())
+                addMenu(texts, where + QString("/%1").arg(i), actions[i]->menu()->actions());
+        }
+}
+
+// Every visible text of the window with each of its tabs shown, and of its menus. The
+// two windows compared are built alike, so a widget has the same place in both.
+Texts visibleTexts()
+{
+    Window m(false);
+    Texts texts;
+    addMenu(texts, "menu", m.w.menuBar()->actions());
+    for (int tab = 0; tab < m.w.tabs->count(); ++tab) {
+        m.w.tabs->setCurrentIndex(tab);
+        const QList<QWidget*> all = m.w.findChildren<QWidget*>();
+        for (int i = 0; i < all.size(); ++i) {
+            QWidget* w = all[i];
+            if (!w->isVisible())
+                continue;
+            const QString at = QString("%1/%2 %3 ").arg(tab).arg(i).arg(w->objectName());
+            add(texts, at + "tip", w->toolTip());
+            if (auto* label = qobject_cast<QLabel*>(w))
+                add(texts, at + "text", label->text());
+            if (auto* button = qobject_cast<QAbstractButton*>(w))
+                add(texts, at + "text", button->text());
+            if (auto* frame = qobject_cast<QGroupBox*>(w))
+                add(texts, at + "title", frame->title());
+            if (auto* tabs = qobject_cast<QTabWidget*>(w))
+                for (int t = 0; t < tabs->count(); ++t)
+                    add(texts, at + QString("tab %1").arg(t), tabs->tabText(t));
+            if (auto* table = qobject_cast<QTableWidget*>(w))
+                for (int c = 0; c < table->columnCount(); ++c)
+                    if (table->horizontalHeaderItem(c))
+                        add(texts, at + QString("head %1").arg(c), table->horizontalHeaderItem(c)->text());
+            if (auto* tree = qobject_cast<QTreeWidget*>(w))
+                for (int c = 0; c < tree->columnCount(); ++c)
+                    add(texts, at + QString("head %1").arg(c), tree->headerItem()->text(c));
+        }
+    }
+    return texts;
+}
+
+// Texts that stay as they are: names of the program, the ports and the instructions, the
+// step table's parameter captions, and words that are the same in the language.
+bool staysTheSame(const QString& text)
+{
+    static const QStringList same = QString("Kestrel Config|Corvid|sim|sim (Corvid)|ID|OK|&OK|DCC|eXtd DCC|"
+                                            "eXtended|PWM|Servo|Baud|Pin|Port:|Bitrate|Version|Route|Module|"
+                                            "&Module|&Help|Even|System|English|Deutsch|Nederlands|"
+                                            "<b>Orange LED</b>|P.O.|T(/60)|Patt.|ETImap|Asp#|Ins#")
+                                        .split('|');
+    static const QRegularExpression noWords(
+        "^[^A-Za-z]*$|^(Pin|Port) [0-9]+|^Kestrel Config |^[0-9.]+ ?[a-z]*$|"
+        "^[0-9]+k[0-9]$|^Pin\\s|^Orange [0-9]$|^Kestrel standard devices");
+    return same.contains(text) || noWords.match(text).hasMatch();
+}
+
+} // namespace
+
+TEST(Language, EveryVisibleTextOfTheWindowIsTranslated)
+{
+    const Texts english = visibleTexts();
+    ASSERT_GT(english.size(), 300u); // the walk reached the pages
+    for (const char* language : {"de", "nl"}) {
+        ASSERT_EQ(Lang::install(language), language);
+        const Texts translated = visibleTexts();
+        QStringList untranslated;
+        for (const auto& [where, text] : english)
+            if (translated.count(where) && translated.at(where) == text && !staysTheSame(text))
+                untranslated << where + ": " + text;
+        EXPECT_TRUE(untranslated.isEmpty()) << language << ":\n" << untranslated.join("\n").toStdString();
+        EXPECT_EQ(translated.size(), english.size()) << language;
+    }
+    EXPECT_EQ(Lang::install("en"), "en");
+    EXPECT_EQ(Lang::tr("&File"), "&File");
+}
