@@ -2376,6 +2376,238 @@ Das Löschen kann bis zu 45 Sekunden dauern, bitte Geduld<byte value="xd"/>
 <byte value="xd"/>
 Möchten Sie diesen Vorgang abbrechen?</translation>
     </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Reading ID string</source>
+        <translation>ID-Text wird gelesen</translation>
+    </message>
+    <message>
+        <source>Reading DCC settings</source>
+        <translation>DCC-Einstellungen werden gelesen</translation>
+    </message>
+    <message>
+        <source>Reading serial addressing</source>
+        <translation>Serielle Adressierung wird gelesen</translation>
+    </message>
+    <message>
+        <source>Reading LED control</source>
+        <translation>LED-Steuerung wird gelesen</translation>
+    </message>
+    <message>
+        <source>Reading hardware configuration</source>
+        <translation>Hardware-Konfiguration wird gelesen</translation>
+    </message>
+    <message>
+        <source>Reading serial port</source>
+        <translation>Serielle Schnittstelle wird gelesen</translation>
+    </message>
+    <message>
+        <source>Reading pins</source>
+        <translation>Pins werden gelesen</translation>
+    </message>
+    <message>
+        <source>Reading events</source>
+        <translation>Ereignisse werden gelesen</translation>
+    </message>
+    <message>
+        <source>Reading enable maps</source>
+        <translation>Freigabetabellen werden gelesen</translation>
+    </message>
+    <message>
+        <source>Writing ID string</source>
+        <translation>ID-Text wird geschrieben</translation>
+    </message>
+    <message>
+        <source>Writing DCC settings</source>
+        <translation>DCC-Einstellungen werden geschrieben</translation>
+    </message>
+    <message>
+        <source>Writing LED control</source>
+        <translation>LED-Steuerung wird geschrieben</translation>
+    </message>
+    <message>
+        <source>Writing hardware configuration</source>
+        <translation>Hardware-Konfiguration wird geschrieben</translation>
+    </message>
+    <message>
+        <source>Writing serial port</source>
+        <translation>Serielle Schnittstelle wird geschrieben</translation>
+    </message>
+    <message>
+        <source>Writing pins</source>
+        <translation>Pins werden geschrieben</translation>
+    </message>
+    <message>
+        <source>Writing events</source>
+        <translation>Ereignisse werden geschrieben</translation>
+    </message>
+    <message>
+        <source>Writing enable maps</source>
+        <translation>Freigabetabellen werden geschrieben</translation>
+    </message>
+    <message>
+        <source>Writing serial addressing</source>
+        <translation>Serielle Adressierung wird geschrieben</translation>
+    </message>
+    <message>
+        <source>Verifying general settings</source>
+        <translation>Allgemeine Einstellungen werden geprüft</translation>
+    </message>
+    <message>
+        <source>Verifying event control</source>
+        <translation>Ereignissteuerung wird geprüft</translation>
+    </message>
+    <message>
+        <source>Verifying pins</source>
+        <translation>Pins werden geprüft</translation>
+    </message>
+    <message>
+        <source>Verifying ID string</source>
+        <translation>ID-Text wird geprüft</translation>
+    </message>
+    <message>
+        <source>Verifying hardware configuration</source>
+        <translation>Hardware-Konfiguration wird geprüft</translation>
+    </message>
+    <message>
+        <source>Verifying DCC addresses</source>
+        <translation>DCC-Adressen werden geprüft</translation>
+    </message>
+    <message>
+        <source>Verifying DCC options</source>
+        <translation>DCC-Optionen werden geprüft</translation>
+    </message>
+    <message>
+        <source>Verifying serial addressing</source>
+        <translation>Serielle Adressierung wird geprüft</translation>
+    </message>
+    <message>
+        <source>Verifying eXtended address</source>
+        <translation>eXtended-Adresse wird geprüft</translation>
+    </message>
+    <message>
+        <source>Verifying eXtended group mask</source>
+        <translation>eXtended-Gruppenmaske wird geprüft</translation>
+    </message>
+    <message>
+        <source>Verifying LED control</source>
+        <translation>LED-Steuerung wird geprüft</translation>
+    </message>
+    <message>
+        <source>Verifying serial port</source>
+        <translation>Serielle Schnittstelle wird geprüft</translation>
+    </message>
+    <message>
+        <source>Pins read</source>
+        <translation>Pins gelesen</translation>
+    </message>
+    <message>
+        <source>Pins written</source>
+        <translation>Pins geschrieben</translation>
+    </message>
+    <message>
+        <source>Pins verified</source>
+        <translation>Pins geprüft</translation>
+    </message>
+    <message>
+        <source>%1 stopped by a program error; the configuration is as it was before</source>
+        <translation>%1 wegen eines Programmfehlers angehalten; die Konfiguration ist wie vorher</translation>
+    </message>
+    <message>
+        <source>%1; the module may hold only part of it</source>
+        <translation>%1; das Modul enthält vielleicht nur einen Teil davon</translation>
+    </message>
+    <message>
+        <source>%1: the pages show a partial read</source>
+        <translation>%1: die Seiten zeigen einen teilweisen Lesestand</translation>
+    </message>
+    <message>
+        <source>%1: the module holds the configuration</source>
+        <translation>%1: das Modul enthält die Konfiguration</translation>
+    </message>
+    <message>
+        <source>%1: the module differs, see the verification report</source>
+        <translation>%1: das Modul weicht ab, siehe Prüfbericht</translation>
+    </message>
+    <message>
+        <source>%1 done in %2 s</source>
+        <translation>%1 fertig in %2 s</translation>
+    </message>
+    <message>
+        <source>%1 cancelled %2</source>
+        <translation>%1 abgebrochen %2</translation>
+    </message>
+    <message>
+        <source>%1 stopped %2</source>
+        <translation>%1 angehalten %2</translation>
+    </message>
+    <message>
+        <source>at pin %1 of %2</source>
+        <translation>bei Pin %1 von %2</translation>
+    </message>
+    <message>
+        <source>The module differs in %1 items</source>
+        <translation>Das Modul weicht in %1 Punkten ab</translation>
+    </message>
+    <message>
+        <source>differs (%1 items)</source>
+        <translation>weicht ab (%1 Punkte)</translation>
+    </message>
+    <message>
+        <source>Reading pin %1</source>
+        <translation>Pin %1 wird gelesen</translation>
+    </message>
+    <message>
+        <source>Writing pin %1</source>
+        <translation>Pin %1 wird geschrieben</translation>
+    </message>
+    <message>
+        <source>Verifying pin %1</source>
+        <translation>Pin %1 wird geprüft</translation>
+    </message>
+    <message>
+        <source>Writing change %1 of %2</source>
+        <translation>Änderung %1 von %2 wird geschrieben</translation>
+    </message>
+    <message>
+        <source>Asking %1</source>
+        <translation>%1 wird gefragt</translation>
+    </message>
+    <message>
+        <source>Reading %1</source>
+        <translation>%1 wird gelesen</translation>
+    </message>
+    <message>
+        <source>Writing %1</source>
+        <translation>%1 wird geschrieben</translation>
+    </message>
+    <message>
+        <source>Verifying %1</source>
+        <translation>%1 wird geprüft</translation>
+    </message>
+    <message>
+        <source>Cannot open port %1: %2</source>
+        <translation>Port %1 lässt sich nicht öffnen: %2</translation>
+    </message>
+    <message>
+        <source>Unknown configuration: %1</source>
+        <translation>Unbekannte Konfiguration: %1</translation>
+    </message>
+    <message>
+        <source>The module differs in 1 item</source>
+        <translation>Das Modul weicht in 1 Punkt ab</translation>
+    </message>
+    <message>
+        <source>differs (1 item)</source>
+        <translation>weicht ab (1 Punkt)</translation>
+    </message>
+    <message>
+        <source>Cannot open port %1</source>
+        <translation>Port %1 lässt sich nicht öffnen</translation>
+    </message>
 </context>
 <context>
     <name>PinMode</name>

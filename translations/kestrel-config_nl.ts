@@ -2376,6 +2376,238 @@ Het wissen kan tot 45 seconden duren, even geduld a.u.b.<byte value="xd"/>
 <byte value="xd"/>
 Wilt u deze handeling annuleren?</translation>
     </message>
+    <message>
+        <source>Done</source>
+        <translation>Klaar</translation>
+    </message>
+    <message>
+        <source>Reading ID string</source>
+        <translation>ID-tekst wordt gelezen</translation>
+    </message>
+    <message>
+        <source>Reading DCC settings</source>
+        <translation>DCC-instellingen worden gelezen</translation>
+    </message>
+    <message>
+        <source>Reading serial addressing</source>
+        <translation>Seriële adressering wordt gelezen</translation>
+    </message>
+    <message>
+        <source>Reading LED control</source>
+        <translation>Led-besturing wordt gelezen</translation>
+    </message>
+    <message>
+        <source>Reading hardware configuration</source>
+        <translation>Hardwareconfiguratie wordt gelezen</translation>
+    </message>
+    <message>
+        <source>Reading serial port</source>
+        <translation>Seriële poort wordt gelezen</translation>
+    </message>
+    <message>
+        <source>Reading pins</source>
+        <translation>Pinnen worden gelezen</translation>
+    </message>
+    <message>
+        <source>Reading events</source>
+        <translation>Gebeurtenissen worden gelezen</translation>
+    </message>
+    <message>
+        <source>Reading enable maps</source>
+        <translation>Vrijgavetabellen worden gelezen</translation>
+    </message>
+    <message>
+        <source>Writing ID string</source>
+        <translation>ID-tekst wordt geschreven</translation>
+    </message>
+    <message>
+        <source>Writing DCC settings</source>
+        <translation>DCC-instellingen worden geschreven</translation>
+    </message>
+    <message>
+        <source>Writing LED control</source>
+        <translation>Led-besturing wordt geschreven</translation>
+    </message>
+    <message>
+        <source>Writing hardware configuration</source>
+        <translation>Hardwareconfiguratie wordt geschreven</translation>
+    </message>
+    <message>
+        <source>Writing serial port</source>
+        <translation>Seriële poort wordt geschreven</translation>
+    </message>
+    <message>
+        <source>Writing pins</source>
+        <translation>Pinnen worden geschreven</translation>
+    </message>
+    <message>
+        <source>Writing events</source>
+        <translation>Gebeurtenissen worden geschreven</translation>
+    </message>
+    <message>
+        <source>Writing enable maps</source>
+        <translation>Vrijgavetabellen worden geschreven</translation>
+    </message>
+    <message>
+        <source>Writing serial addressing</source>
+        <translation>Seriële adressering wordt geschreven</translation>
+    </message>
+    <message>
+        <source>Verifying general settings</source>
+        <translation>Algemene instellingen worden gecontroleerd</translation>
+    </message>
+    <message>
+        <source>Verifying event control</source>
+        <translation>Gebeurtenisbesturing wordt gecontroleerd</translation>
+    </message>
+    <message>
+        <source>Verifying pins</source>
+        <translation>Pinnen worden gecontroleerd</translation>
+    </message>
+    <message>
+        <source>Verifying ID string</source>
+        <translation>ID-tekst wordt gecontroleerd</translation>
+    </message>
+    <message>
+        <source>Verifying hardware configuration</source>
+        <translation>Hardwareconfiguratie wordt gecontroleerd</translation>
+    </message>
+    <message>
+        <source>Verifying DCC addresses</source>
+        <translation>DCC-adressen worden gecontroleerd</translation>
+    </message>
+    <message>
+        <source>Verifying DCC options</source>
+        <translation>DCC-opties worden gecontroleerd</translation>
+    </message>
+    <message>
+        <source>Verifying serial addressing</source>
+        <translation>Seriële adressering wordt gecontroleerd</translation>
+    </message>
+    <message>
+        <source>Verifying eXtended address</source>
+        <translation>eXtended-adres wordt gecontroleerd</translation>
+    </message>
+    <message>
+        <source>Verifying eXtended group mask</source>
+        <translation>eXtended-groepsmasker wordt gecontroleerd</translation>
+    </message>
+    <message>
+        <source>Verifying LED control</source>
+        <translation>Led-besturing wordt gecontroleerd</translation>
+    </message>
+    <message>
+        <source>Verifying serial port</source>
+        <translation>Seriële poort wordt gecontroleerd</translation>
+    </message>
+    <message>
+        <source>Pins read</source>
+        <translation>Pinnen gelezen</translation>
+    </message>
+    <message>
+        <source>Pins written</source>
+        <translation>Pinnen geschreven</translation>
+    </message>
+    <message>
+        <source>Pins verified</source>
+        <translation>Pinnen gecontroleerd</translation>
+    </message>
+    <message>
+        <source>%1 stopped by a program error; the configuration is as it was before</source>
+        <translation>%1 gestopt door een programmafout; de configuratie is zoals ze was</translation>
+    </message>
+    <message>
+        <source>%1; the module may hold only part of it</source>
+        <translation>%1; de module bevat misschien maar een deel ervan</translation>
+    </message>
+    <message>
+        <source>%1: the pages show a partial read</source>
+        <translation>%1: de pagina’s tonen een gedeeltelijk gelezen stand</translation>
+    </message>
+    <message>
+        <source>%1: the module holds the configuration</source>
+        <translation>%1: de module bevat de configuratie</translation>
+    </message>
+    <message>
+        <source>%1: the module differs, see the verification report</source>
+        <translation>%1: de module wijkt af, zie het verificatierapport</translation>
+    </message>
+    <message>
+        <source>%1 done in %2 s</source>
+        <translation>%1 klaar in %2 s</translation>
+    </message>
+    <message>
+        <source>%1 cancelled %2</source>
+        <translation>%1 afgebroken %2</translation>
+    </message>
+    <message>
+        <source>%1 stopped %2</source>
+        <translation>%1 gestopt %2</translation>
+    </message>
+    <message>
+        <source>at pin %1 of %2</source>
+        <translation>bij pin %1 van %2</translation>
+    </message>
+    <message>
+        <source>The module differs in %1 items</source>
+        <translation>De module wijkt af in %1 punten</translation>
+    </message>
+    <message>
+        <source>differs (%1 items)</source>
+        <translation>wijkt af (%1 punten)</translation>
+    </message>
+    <message>
+        <source>Reading pin %1</source>
+        <translation>Pin %1 wordt gelezen</translation>
+    </message>
+    <message>
+        <source>Writing pin %1</source>
+        <translation>Pin %1 wordt geschreven</translation>
+    </message>
+    <message>
+        <source>Verifying pin %1</source>
+        <translation>Pin %1 wordt gecontroleerd</translation>
+    </message>
+    <message>
+        <source>Writing change %1 of %2</source>
+        <translation>Wijziging %1 van %2 wordt geschreven</translation>
+    </message>
+    <message>
+        <source>Asking %1</source>
+        <translation>%1 wordt gevraagd</translation>
+    </message>
+    <message>
+        <source>Reading %1</source>
+        <translation>%1 wordt gelezen</translation>
+    </message>
+    <message>
+        <source>Writing %1</source>
+        <translation>%1 wordt geschreven</translation>
+    </message>
+    <message>
+        <source>Verifying %1</source>
+        <translation>%1 wordt gecontroleerd</translation>
+    </message>
+    <message>
+        <source>Cannot open port %1: %2</source>
+        <translation>Poort %1 kan niet worden geopend: %2</translation>
+    </message>
+    <message>
+        <source>Unknown configuration: %1</source>
+        <translation>Onbekende configuratie: %1</translation>
+    </message>
+    <message>
+        <source>The module differs in 1 item</source>
+        <translation>De module wijkt af in 1 punt</translation>
+    </message>
+    <message>
+        <source>differs (1 item)</source>
+        <translation>wijkt af (1 punt)</translation>
+    </message>
+    <message>
+        <source>Cannot open port %1</source>
+        <translation>Poort %1 kan niet worden geopend</translation>
+    </message>
 </context>
 <context>
     <name>PinMode</name>

@@ -1,5 +1,6 @@
 #include "forms/LayoutJobs.h"
 
+#include "base/Translatable.h"
 #include "files/Backups.h"
 #include "files/ConfigurationFile.h"
 #include "forms/ConfigDiff.h"
@@ -141,7 +142,7 @@ std::vector<Result> eachModule(Session& s, const char* job, const std::vector<Fo
             results.push_back(std::move(r));
         }
         if (!cancelled)
-            s.reportStep(count, count, "Done");
+            s.reportStep(count, count, KC_TRANSLATABLE("Messages", "Done"));
         return !cancelled;
     });
     return results;

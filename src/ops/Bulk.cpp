@@ -32,7 +32,7 @@ bool runSteps(Session& session, const std::vector<Step>& steps)
         if (!steps[i].second())
             return false;
     }
-    session.reportStep(total, total, "Done");
+    session.reportStep(total, total, KC_TRANSLATABLE("Messages", "Done"));
     return true;
 }
 
@@ -42,18 +42,22 @@ bool ReadAll(Session& session)
 {
     Session& s = session;
     const bool ok = s.asJob("Read All", [&] {
-        return runSteps(s, {
-                               {"Request version", [&] { return RequestVersion(s); }},
-                               {"Reading ID string", [&] { return ReadIDString(s); }},
-                               {"Reading DCC settings", [&] { return ReadDCCSettings(s); }},
-                               {"Reading serial addressing", [&] { return CommandGenAddrRead_Click(s); }},
-                               {"Reading LED control", [&] { return ReadLEDControl(s); }},
-                               {"Reading hardware configuration", [&] { return ReadHardwareConfig(s); }},
-                               {"Reading serial port", [&] { return ReadSerialPortSettings(s); }},
-                               {"Reading pins", [&] { return ReadAllPins(s); }},
-                               {"Reading events", [&] { return ReadAllEvents(s); }},
-                               {"Reading enable maps", [&] { return ReadEnableMaps(s); }},
-                           });
+        return runSteps(
+            s, {
+                   {"Request version", [&] { return RequestVersion(s); }},
+                   {KC_TRANSLATABLE("Messages", "Reading ID string"), [&] { return ReadIDString(s); }},
+                   {KC_TRANSLATABLE("Messages", "Reading DCC settings"), [&] { return ReadDCCSettings(s); }},
+                   {KC_TRANSLATABLE("Messages", "Reading serial addressing"),
+                    [&] { return CommandGenAddrRead_Click(s); }},
+                   {KC_TRANSLATABLE("Messages", "Reading LED control"), [&] { return ReadLEDControl(s); }},
+                   {KC_TRANSLATABLE("Messages", "Reading hardware configuration"),
+                    [&] { return ReadHardwareConfig(s); }},
+                   {KC_TRANSLATABLE("Messages", "Reading serial port"),
+                    [&] { return ReadSerialPortSettings(s); }},
+                   {KC_TRANSLATABLE("Messages", "Reading pins"), [&] { return ReadAllPins(s); }},
+                   {KC_TRANSLATABLE("Messages", "Reading events"), [&] { return ReadAllEvents(s); }},
+                   {KC_TRANSLATABLE("Messages", "Reading enable maps"), [&] { return ReadEnableMaps(s); }},
+               });
     });
     // A read that ran through without a word shows what the module holds.
     if (ok && s.lastJob().problems.empty())
@@ -86,15 +90,17 @@ bool ReadAllInto(Session& session, Configuration& module, GeneralSettings& gmodu
 std::vector<std::pair<const char*, std::function<bool()>>> writeAllSteps(Session& s, bool withPinConfig)
 {
     return {
-        {"Writing ID string", [&s] { return WriteIDString(s); }},
-        {"Writing DCC settings", [&s] { return WriteDCCSettings(s); }},
-        {"Writing LED control", [&s] { return WriteLEDControl(s); }},
-        {"Writing hardware configuration", [&s] { return WriteHardwareConfig(s); }},
-        {"Writing serial port", [&s] { return WriteSerialPortSettings(s); }},
-        {"Writing pins", [&s, withPinConfig] { return WriteAllPins(s, withPinConfig); }},
-        {"Writing events", [&s] { return WriteAllEvents(s); }},
-        {"Writing enable maps", [&s] { return WriteEnableMaps(s); }},
-        {"Writing serial addressing", [&s] { return WriteSerialAddressing(s); }},
+        {KC_TRANSLATABLE("Messages", "Writing ID string"), [&s] { return WriteIDString(s); }},
+        {KC_TRANSLATABLE("Messages", "Writing DCC settings"), [&s] { return WriteDCCSettings(s); }},
+        {KC_TRANSLATABLE("Messages", "Writing LED control"), [&s] { return WriteLEDControl(s); }},
+        {KC_TRANSLATABLE("Messages", "Writing hardware configuration"),
+         [&s] { return WriteHardwareConfig(s); }},
+        {KC_TRANSLATABLE("Messages", "Writing serial port"), [&s] { return WriteSerialPortSettings(s); }},
+        {KC_TRANSLATABLE("Messages", "Writing pins"),
+         [&s, withPinConfig] { return WriteAllPins(s, withPinConfig); }},
+        {KC_TRANSLATABLE("Messages", "Writing events"), [&s] { return WriteAllEvents(s); }},
+        {KC_TRANSLATABLE("Messages", "Writing enable maps"), [&s] { return WriteEnableMaps(s); }},
+        {KC_TRANSLATABLE("Messages", "Writing serial addressing"), [&s] { return WriteSerialAddressing(s); }},
     };
 }
 
@@ -245,7 +251,7 @@ bool WriteChanges(Session& session, bool withPinConfig)
                     if (frames[i][0] != kGeneralWrite && !s.link.settings.CheckKestrelBD)
                         s.link.clock().sleepMs(kPacingMs);
                 }
-                s.reportStep(total, total, "Done");
+                s.reportStep(total, total, KC_TRANSLATABLE("Messages", "Done"));
                 return true;
             },
             false, [&](ModuleImage& image) { image.take(s.config, s.general, true); });
@@ -260,11 +266,14 @@ bool VerifyAll(Session& session)
     // A verification that stops at a difference has done its job: the report says what
     // it found. The job's outcome only notes what kept it from comparing (messages, Cancel).
     s.asJob("Verify All", [&] {
-        ok = runSteps(s, {
-                             {"Verifying general settings", [&] { return VerifyGeneralSettings(s); }},
-                             {"Verifying event control", [&] { return VerifyEventControl(s); }},
-                             {"Verifying pins", [&] { return VerifyAllPins(s); }},
-                         });
+        ok =
+            runSteps(s, {
+                            {KC_TRANSLATABLE("Messages", "Verifying general settings"),
+                             [&] { return VerifyGeneralSettings(s); }},
+                            {KC_TRANSLATABLE("Messages", "Verifying event control"),
+                             [&] { return VerifyEventControl(s); }},
+                            {KC_TRANSLATABLE("Messages", "Verifying pins"), [&] { return VerifyAllPins(s); }},
+                        });
         return true;
     });
     s.report.line(ok ? "Verify OK" : "Verification Stopped");

@@ -1,5 +1,6 @@
 #include "ops/BusScan.h"
 
+#include "base/Translatable.h"
 #include "base/Wire.h"
 #include "ops/GeneralCommands.h"
 
@@ -110,7 +111,7 @@ std::vector<FoundModule> findModules(Session& s, const ScanOptions& options)
                 found.insert(found.end(), extended.begin(), extended.end());
         }
         if (!stopped)
-            s.reportStep(total, total, "Done");
+            s.reportStep(total, total, KC_TRANSLATABLE("Messages", "Done"));
         return !stopped;
     });
     return found;

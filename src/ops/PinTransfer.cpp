@@ -231,7 +231,7 @@ bool ReadAllPins(Session& session)
         if (!ReadPin(session, p))
             return false;
     }
-    reportStep(session, kPinCount, "Pins read");
+    reportStep(session, kPinCount, KC_TRANSLATABLE("Messages", "Pins read"));
     return true;
 }
 
@@ -244,7 +244,7 @@ bool WriteAllPins(Session& session, bool withPinConfig)
         if (!WritePin(session, p, withPinConfig))
             return false;
     }
-    reportStep(session, kPinCount, "Pins written");
+    reportStep(session, kPinCount, KC_TRANSLATABLE("Messages", "Pins written"));
     return true;
 }
 
@@ -414,7 +414,7 @@ bool VerifyAllPins(Session& session)
         if (stopped)
             return false;
     }
-    reportStep(session, kPinCount, "Pins verified");
+    reportStep(session, kPinCount, KC_TRANSLATABLE("Messages", "Pins verified"));
     return result;
 }
 

@@ -149,7 +149,7 @@ void JobRunner::run(const QString& title, const std::function<bool()>& operation
     end.summary = s.jobSummary();
     end.lastStep = progress.last;
     end.seconds = clock.elapsed() / 1000.0;
-    window.status->setText(latin1(jobOutcomeText(end)));
+    window.status->setText(translatedMessage(jobOutcomeText(end)));
     if (verifies && !ok && !pinConfigWritten && onlyPinConfigurationsDiffer(jobReport))
         s.report.line(kWritePinConfigurationsHint);
     // The one refresh of the pages after a job; after a fault the guard has done it.

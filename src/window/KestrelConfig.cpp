@@ -240,7 +240,7 @@ void KestrelConfig::updateWindowState()
     const QString name = currentFile().isEmpty() ? QString() : QFileInfo(currentFile()).fileName();
     const bool changed = unsavedChanges();
     LabelStatusModule->setText(
-        translated("WorkState", work.moduleState(core->moduleImage(), core->config, core->general)));
+        translatedMessage(work.moduleState(core->moduleImage(), core->config, core->general)));
     // "Kestrel Config" while nothing is changed; "mylayout.dat* - Kestrel Config" (or
     // "untitled*") while the configuration differs from its file or was never saved.
     if (name.isEmpty() && !changed)

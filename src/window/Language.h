@@ -28,4 +28,10 @@ public:
 // user's language: texts built with numbers and names are not found and stay English.
 QString translated(const char* context, const std::string& text);
 
+// A message of the Qt-free layers (a status, a progress step, a message box's text), also one
+// built with numbers and names: the whole text where it is marked, else the first of the
+// window's message patterns ("%1 done in %2 s") that it fits, with each part in its place
+// shown the same way. What fits no pattern stays English.
+QString translatedMessage(const std::string& text);
+
 } // namespace kestrel

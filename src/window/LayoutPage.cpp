@@ -180,7 +180,7 @@ void LayoutPage::refresh()
             QTableWidgetItem* item = TableLayout->item(row, c);
             if (!item)
                 TableLayout->setItem(row, c, item = new QTableWidgetItem);
-            item->setText(c == State ? translated("LayoutList", cells[c]) : latin1(cells[c]));
+            item->setText(c == State ? translatedMessage(cells[c]) : latin1(cells[c]));
         }
     }
 }

@@ -94,7 +94,7 @@ int showBox(QMessageBox& box)
 
 void QtDialogs::message(const std::string& text, Icon icon)
 {
-    QMessageBox box(qtIcon(icon), QApplication::applicationDisplayName(), translated("Messages", text),
+    QMessageBox box(qtIcon(icon), QApplication::applicationDisplayName(), translatedMessage(text),
                     QMessageBox::Ok, owner());
     box.setObjectName("dlgMessage");
     showBox(box);
@@ -109,7 +109,7 @@ Answer QtDialogs::ask(const std::string& text, Buttons buttons, Icon icon)
         set = QMessageBox::Yes | QMessageBox::No;
     else if (buttons == Buttons::SaveDiscardCancel)
         set = QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel;
-    QMessageBox box(qtIcon(icon), QApplication::applicationDisplayName(), translated("Messages", text), set,
+    QMessageBox box(qtIcon(icon), QApplication::applicationDisplayName(), translatedMessage(text), set,
                     owner());
     box.setObjectName("dlgQuestion");
     const int clicked = showBox(box);

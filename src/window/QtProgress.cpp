@@ -29,7 +29,7 @@ void QtProgress::step(int done, int total, const std::string& what)
         return;
     dialog->setMaximum(total);
     dialog->setValue(done);
-    stepText = QString::fromLatin1(what.c_str());
+    stepText = translatedMessage(what);
     showLabel();
     QCoreApplication::processEvents();
 }

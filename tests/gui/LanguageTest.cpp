@@ -106,3 +106,27 @@ TEST(Language, EveryVisibleTextOfTheWindowIsTranslated)
     EXPECT_EQ(Lang::install("en"), "en");
     EXPECT_EQ(Lang::tr("&File"), "&File");
 }
+
+TEST(Language, MessagesBuiltFromPartsAreShownInTheLanguage)
+{
+    ASSERT_EQ(Lang::install("de"), "de");
+    {
+        Window m; // on "sim"
+        m.job(m.w.CommandReadAll);
+        EXPECT_TRUE(m.w.LabelStatusJob->text().startsWith("Alles lesen fertig in "))
+            << m.w.LabelStatusJob->text().toStdString();
+    }
+    // Each part of a message is shown as a message of its own; what fits no pattern stays.
+    const std::pair<const char*, const char*> messages[] = {
+        {"Write All cancelled at pin 12 of 32; the module may hold only part of it",
+         "Alles schreiben abgebrochen bei Pin 12 von 32; das Modul enthält vielleicht nur einen Teil davon"},
+        {"Reading pin 7", "Pin 7 wird gelesen"},
+        {"Cannot open port COM3: Access denied", "Port COM3 lässt sich nicht öffnen: Access denied"},
+        {"The module differs in 1 item", "Das Modul weicht in 1 Punkt ab"},
+        {"Pin 8: Aspect 0 does not compare", "Pin 8: Aspect 0 does not compare"},
+    };
+    for (const auto& [english, german] : messages)
+        EXPECT_EQ(translatedMessage(english), german);
+    EXPECT_EQ(Lang::install("en"), "en");
+    EXPECT_EQ(translatedMessage("Reading pin 7"), "Reading pin 7");
+}
