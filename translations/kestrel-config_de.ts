@@ -2227,6 +2227,14 @@ Betriebsart des Pins ändern?</translation>
         <source>Double-click or F2 opens the help tool.</source>
         <translation>Doppelklick oder F2 öffnet das Hilfswerkzeug.</translation>
     </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Stufe</translation>
+    </message>
 </context>
 <context>
     <name>LayoutList</name>

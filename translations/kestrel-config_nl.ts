@@ -2227,6 +2227,14 @@ De modus van de pin wijzigen?</translation>
         <source>Double-click or F2 opens the help tool.</source>
         <translation>Dubbelklik of F2 opent het hulpmiddel.</translation>
     </message>
+    <message>
+        <source>Position</source>
+        <translation>Positie</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Niveau</translation>
+    </message>
 </context>
 <context>
     <name>LayoutList</name>

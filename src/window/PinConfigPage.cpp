@@ -205,8 +205,8 @@ QWidget* PinConfigPage::buildServoPage()
     CheckSrvDynamic->setToolTip(Lang::tr(kDynamicTip));
     CommandStopSrv = named(new QPushButton(Lang::tr("&Jump")), "CommandStopSrv");
     CommandStopSrv->setToolTip(Lang::tr("Jump to target position immediately, override dynamic parameters"));
-    layout->addWidget(liveFrame(Lang::tr("Servo Position"), "FrameSrvLive", "Position", TextPosition,
-                                SliderServo, CommandSrvLevel, CheckSrvDynamic, CommandStopSrv),
+    layout->addWidget(liveFrame(Lang::tr("Servo Position"), "FrameSrvLive", Lang::tr("Position"),
+                                TextPosition, SliderServo, CommandSrvLevel, CheckSrvDynamic, CommandStopSrv),
                       0, 0);
 
     auto* params = named(new QGroupBox(Lang::tr("Servo Parameters")), "FrameSrvParams");
@@ -301,8 +301,8 @@ QWidget* PinConfigPage::buildPwmPage()
     CommandPWMJump->setToolTip(Lang::tr("Jump to the level immediately, without the slow change"));
     auto* left = new QVBoxLayout;
     left->addWidget(CheckPWMInverted);
-    left->addWidget(liveFrame(Lang::tr("PWM Level"), "FramePWMLive", "Level", TextPWMLevel, SliderPWM,
-                              CommandPWMLevel, CheckPWMSlow, CommandPWMJump));
+    left->addWidget(liveFrame(Lang::tr("PWM Level"), "FramePWMLive", Lang::tr("Level"), TextPWMLevel,
+                              SliderPWM, CommandPWMLevel, CheckPWMSlow, CommandPWMJump));
 
     auto* modes = new QHBoxLayout;
     auto* driveFrame = named(new QGroupBox(Lang::tr("Drive Mode")), "FramePWMDriveMode");

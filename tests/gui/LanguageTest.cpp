@@ -42,14 +42,21 @@ Texts visibleTexts()
     Window m(false);
     Texts texts;
     addMenu(texts, "menu", m.w.menuBar()->actions());
-    for (int tab = 0; tab < m.w.tabs->count(); ++tab) {
+    // Each tab, and the pin configuration in each of its modes.
+    auto* modes = m.w.findChild<QTabWidget*>("SSTabPCFG");
+    std::vector<std::pair<int, int>> shown;
+    for (int tab = 0; tab < m.w.tabs->count(); ++tab)
+        for (int mode = 0; mode < (m.w.tabs->widget(tab)->isAncestorOf(modes) ? modes->count() : 1); ++mode)
+            shown.emplace_back(tab, mode);
+    for (const auto& [tab, mode] : shown) {
         m.w.tabs->setCurrentIndex(tab);
+        modes->setCurrentIndex(mode);
         const QList<QWidget*> all = m.w.findChildren<QWidget*>();
         for (int i = 0; i < all.size(); ++i) {
             QWidget* w = all[i];
             if (!w->isVisible())
                 continue;
-            const QString at = QString("%1/%2 %3 ").arg(tab).arg(i).arg(w->objectName());
+            const QString at = QString("%1.%2/%3 %4 ").arg(tab).arg(mode).arg(i).arg(w->objectName());
             add(texts, at + "tip", w->toolTip());
             if (auto* label = qobject_cast<QLabel*>(w))
                 add(texts, at + "text", label->text());
@@ -76,11 +83,12 @@ Texts visibleTexts()
 // step table's parameter captions, and words that are the same in the language.
 bool staysTheSame(const QString& text)
 {
-    static const QStringList same = QString("Kestrel Config|Corvid|sim|sim (Corvid)|ID|OK|&OK|DCC|eXtd DCC|"
-                                            "eXtended|PWM|Servo|Baud|Pin|Port:|Bitrate|Version|Route|Module|"
-                                            "&Module|&Help|Even|System|English|Deutsch|Nederlands|"
-                                            "<b>Orange LED</b>|P.O.|T(/60)|Patt.|ETImap|Asp#|Ins#")
-                                        .split('|');
+    static const QStringList same =
+        QString("Kestrel Config|Corvid|sim|sim (Corvid)|ID|OK|&OK|DCC|eXtd DCC|"
+                "eXtended|PWM|Servo|Baud|Pin|Port:|Bitrate|Version|Route|Module|Position|Linear|"
+                "&Module|&Help|Even|System|English|Deutsch|Nederlands|"
+                "<b>Orange LED</b>|P.O.|T(/60)|Patt.|ETImap|Asp#|Ins#")
+            .split('|');
     static const QRegularExpression noWords(
         "^[^A-Za-z]*$|^(Pin|Port) [0-9]+|^Kestrel Config |^[0-9.]+ ?[a-z]*$|"
         "^[0-9]+k[0-9]$|^Pin\\s|^Orange [0-9]$|^Kestrel standard devices");
